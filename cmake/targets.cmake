@@ -1,0 +1,39 @@
+# The targets that several folders add their sources to, and what all of them are compiled with.
+# Each folder lists its own sources once, for every preset: with `tavix_portable` what needs no
+# window and no device context, with `tavix_windows` the rest.
+
+add_library(tavix_warnings INTERFACE)
+target_compile_options(tavix_warnings INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(TAVIX_SANITIZE)
+  target_compile_options(tavix_warnings INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tavix_warnings INTERFACE -fsanitize=address,undefined)
+endif()
+if(WIN32)
+  target_compile_definitions(tavix_warnings INTERFACE
+    UNICODE _UNICODE WINVER=0x0A00 _WIN32_WINNT=0x0A00 NOMINMAX)
+endif()
+
+add_library(tavix_core STATIC)
+target_include_directories(tavix_core PUBLIC ${PROJECT_SOURCE_DIR})
+target_link_libraries(tavix_core PRIVATE tavix_warnings)
+set_target_properties(tavix_core PROPERTIES POSITION_INDEPENDENT_CODE ON)
+
+function(tavix_portable)
+  list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+  target_sources(tavix_core PRIVATE ${ARGN})
+endfunction()
+
+if(WIN32)
+  add_library(tavix_window_core STATIC)
+  target_include_directories(tavix_window_core PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(tavix_window_core PRIVATE tavix_warnings PUBLIC tavix_core framework)
+endif()
+
+function(tavix_windows)
+  if(WIN32)
+    list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+    target_sources(tavix_window_core PRIVATE ${ARGN})
+  endif()
+endfunction()

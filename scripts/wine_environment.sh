@@ -1,0 +1,59 @@
+# Sourced by the scripts that start Windows programs: where Wine is, its prefix, its display.
+# Needs $root, the project's folder.
+
+export WINEPREFIX="${TAVIX_WINEPREFIX:-$root/build/wine-prefix}"
+export WINEARCH=win64
+export WINEDEBUG="${WINEDEBUG:--all}"
+export WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree=;mshtml=;winemenubuilder.exe=}"
+
+# The loader itself, past the start script that asks for 32-bit Wine at each start.
+TAVIX_WINE=$(command -v /usr/lib/wine/wine64 || command -v wine64 || command -v wine || true)
+if [ -z "$TAVIX_WINE" ]; then
+  echo "Wine is not installed: run scripts/setup.sh first." >&2
+  exit 1
+fi
+
+# Makes the prefix once; programs started side by side wait for the first.
+tavix_wine_prefix() {
+  [ -e "$WINEPREFIX/.ready" ] && return 0
+  mkdir -p "$WINEPREFIX"
+  (
+    flock 9
+    [ -e "$WINEPREFIX/.ready" ] && exit 0
+    echo "Setting up a Wine prefix in $WINEPREFIX (some ten seconds) ..." >&2
+    tavix_display
+    "$TAVIX_WINE" wineboot -u >/dev/null 2>&1
+    "$TAVIX_WINE" regedit /S "$(tavix_windows_path "$root/scripts/fonts.reg")" >/dev/null 2>&1
+    wineserver_wait
+    touch "$WINEPREFIX/.ready"
+    [ -z "${TAVIX_XVFB:-}" ] || kill "$TAVIX_XVFB"
+  ) 9>"$WINEPREFIX.lock"
+}
+
+wineserver_wait() {
+  local server
+  server=$(command -v /usr/lib/wine/wineserver64 || command -v wineserver || true)
+  [ -n "$server" ] && "$server" -w || true
+}
+
+# A path as a Windows program sees it: the whole Linux tree stands under drive Z.
+tavix_windows_path() {
+  printf 'Z:%s' "$(realpath -m "$1" | tr / '\\')"
+}
+
+# An Xvfb display when there is none; whoever asks for it ends it by TAVIX_XVFB.
+tavix_display() {
+  [ -n "${DISPLAY:-}" ] && return 0
+  local number_file
+  number_file=$(mktemp)
+  Xvfb -displayfd 7 -screen 0 "${TAVIX_SCREEN:-1280x1024x24}" -nolisten tcp \
+    7>"$number_file" >/dev/null 2>&1 9>&- &
+  TAVIX_XVFB=$!
+  for _ in $(seq 200); do
+    [ -s "$number_file" ] && break
+    sleep 0.05
+  done
+  DISPLAY=":$(tr -d '\n' <"$number_file")"
+  export DISPLAY
+  rm -f "$number_file"
+}

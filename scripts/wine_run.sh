@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Runs one Windows program through Wine:  scripts/wine_run.sh PROGRAM.exe [ARGUMENTS]
+# Wine gets a prefix of its own inside the build folder (made on first use, with the font
+# replacement that lets Japanese text show) and an Xvfb display when there is none.
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+source "$root/scripts/wine_environment.sh"
+tavix_wine_prefix
+if [ -n "${DISPLAY:-}" ]; then
+  exec "$TAVIX_WINE" "$@"
+fi
+tavix_display
+trap 'kill "$TAVIX_XVFB"' EXIT
+"$TAVIX_WINE" "$@"
