@@ -1,0 +1,26 @@
+// The two spaces of a plot, as distinct types, so that they are never mixed up silently.
+#pragma once
+
+namespace tavix {
+
+// A position on the ground in metres: x is north, y is east.
+struct GroundPoint {
+  double x = 0.0;
+  double y = 0.0;
+};
+
+// A position on the plot window's client area in pixels: origin top left, y downwards.
+struct ScreenPoint {
+  int x = 0;
+  int y = 0;
+
+  friend bool operator==(const ScreenPoint&, const ScreenPoint&) = default;
+};
+
+// A segment on the screen, from `start` to `end`.
+struct ScreenSegment {
+  ScreenPoint start;
+  ScreenPoint end;
+};
+
+}  // namespace tavix
