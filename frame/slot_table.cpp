@@ -1,0 +1,72 @@
+#include "frame/slot_table.h"
+
+#include <new>
+#include <utility>
+
+namespace tavix {
+namespace {
+
+// An object there is no memory for stays null and is not reported.
+template <class T, class... Arguments>
+std::unique_ptr<T> TryMake(Arguments&&... arguments) {
+  try {
+    return std::make_unique<T>(std::forward<Arguments>(arguments)...);
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+
+}  // namespace
+
+void TavixSlot::Create(int index) {
+  in_use = true;
+  window.reset();
+  show_buttons = true;
+  view = TryMake<CViewState>();
+  points = TryMake<CPntList>(index);
+  if (points) points->Open();
+  selected_point_legend = kNoLegend;
+  selected_line_legend = kNoLegend;
+  legend = TryMake<CHanrei>();
+  auto_redraw = false;
+}
+
+void TavixSlot::Destroy() {
+  if (window) {
+    window->DestroyWindow();
+    window.reset();
+  }
+  view.reset();
+  if (points) points->Close();
+  points.reset();
+  legend.reset();
+  in_use = false;
+}
+
+int TavixSlot::Clear() {
+  if (!in_use) return -1;
+  if (points) points->Clear();
+  return 0;
+}
+
+void SlotTable::SetIndex(int index) {
+  if (index >= 0 && index < kSlots) index_ = index;
+}
+
+void SlotTable::SelectHighestInUse() {
+  for (int index = kSlots - 1; index >= 0; --index) {
+    if (slots_[static_cast<std::size_t>(index)].in_use) {
+      index_ = index;
+      return;
+    }
+  }
+}
+
+SlotTable& Slots() {
+  // Never destroyed: what an ending process leaves behind is not saved, and at that time neither the
+  // framework nor the windows may be called any more.
+  static SlotTable& slots = *new SlotTable;
+  return slots;
+}
+
+}  // namespace tavix

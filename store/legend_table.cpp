@@ -1,0 +1,89 @@
+#include "store/legend_table.h"
+
+#include <algorithm>
+
+namespace tavix {
+namespace {
+
+constexpr std::int32_t kBlack = 0;
+constexpr std::int32_t kRed = 255;
+
+// 103 stands before 102: the places of these two are the historical ones. A saved and reloaded list
+// is numbered by place, so the two swap their looks after the first save. Meant so.
+constexpr HanRec kBuiltIn[LegendTable::kStoredLegends] = {
+    {1, true, {1, 2, 10, 1, 1, kBlack}},    {2, true, {2, 10, 10, 1, 1, kBlack}},
+    {3, true, {3, 10, 10, 1, 1, kBlack}},   {4, true, {4, 10, 10, 1, 1, kBlack}},
+    {5, true, {5, 10, 10, 1, 1, kRed}},     {6, true, {6, 10, 10, 1, 1, kRed}},
+    {7, true, {7, 10, 10, 1, 1, kRed}},     {8, true, {8, 10, 10, 1, 1, kBlack}},
+    {9, true, {9, 10, 10, 1, 1, kRed}},     {10, true, {10, 10, 10, 1, 1, kRed}},
+    {11, true, {11, 10, 10, 1, 1, kRed}},   {101, false, {101, 0, 0, 0, 1, kBlack}},
+    {103, false, {103, 0, 0, 0, 1, kRed}},  {102, false, {102, 4, 2, 0, 1, kBlack}},
+    {104, false, {104, 4, 2, 2, 1, kRed}},  {105, false, {105, 4, 2, 2, 1, kRed}},
+};
+
+std::int16_t NumberAtPlace(int place) {
+  const bool is_point = place < LegendTable::kPointLegends;
+  return static_cast<std::int16_t>(is_point ? place + 1
+                                            : place - LegendTable::kPointLegends + 101);
+}
+
+}  // namespace
+
+LegendTable::LegendTable() : entries_(std::begin(kBuiltIn), std::end(kBuiltIn)) {}
+
+int LegendTable::Add(bool is_point, const LegendStyle& style, std::int16_t* number) {
+  entries_.push_back({next_number_, is_point, style});
+  *number = next_number_;
+  next_number_ = static_cast<std::int16_t>(next_number_ + 1);
+  return 0;
+}
+
+int LegendTable::Change(std::int16_t number, bool is_point, const LegendStyle& style) {
+  const auto entry = std::find_if(entries_.begin(), entries_.end(),
+                                  [=](const HanRec& rec) { return rec.number == number; });
+  if (entry == entries_.end()) return -1;
+  entry->is_point = is_point;
+  entry->style = style;
+  return 0;
+}
+
+int LegendTable::Get(std::int16_t number, HanRec* entry) const {
+  const HanRec* found = Find(number);
+  if (!found) return -1;
+  *entry = *found;
+  return 0;
+}
+
+std::size_t LegendTable::CopyOut(std::size_t count, HanRec* entries) const {
+  const std::size_t copied = std::min(std::max<std::size_t>(count, 1), entries_.size());
+  std::copy_n(entries_.begin(), copied, entries);
+  return copied;
+}
+
+int LegendTable::SetTitle(int n, std::u16string_view title) {
+  if (n < 1 || n > kPointLegends) return -1;
+  titles_[static_cast<std::size_t>(n - 1)] = title;
+  return 0;
+}
+
+int LegendTable::GetTitle(int n, std::u16string* title) const {
+  if (n < 1 || n > kPointLegends) return -1;
+  *title = titles_[static_cast<std::size_t>(n - 1)];
+  return 0;
+}
+
+void LegendTable::TakeStored(const std::array<LegendStyle, kStoredLegends>& styles) {
+  entries_.clear();
+  for (int place = 0; place < kStoredLegends; ++place) {
+    entries_.push_back({NumberAtPlace(place), place < kPointLegends,
+                        styles[static_cast<std::size_t>(place)]});
+  }
+}
+
+const HanRec* LegendTable::Find(std::int16_t number) const {
+  const auto entry = std::find_if(entries_.begin(), entries_.end(),
+                                  [=](const HanRec& rec) { return rec.number == number; });
+  return entry == entries_.end() ? nullptr : &*entry;
+}
+
+}  // namespace tavix

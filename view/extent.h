@@ -1,0 +1,43 @@
+// The ground box that holds a set of points.
+#pragma once
+
+#include "view/coordinates.h"
+
+namespace tavix {
+
+// Largest and smallest coordinates in metres; zeros for a set without points.
+struct GroundExtent {
+  GroundPoint max;
+  GroundPoint min;
+};
+
+// Collects an extent point by point.
+class ExtentBuilder {
+ public:
+  void Include(GroundPoint point) {
+    if (!any_) {
+      extent_ = {point, point};
+      any_ = true;
+      return;
+    }
+    Widen(point.x, extent_.max.x, extent_.min.x);
+    Widen(point.y, extent_.max.y, extent_.min.y);
+  }
+
+  [[nodiscard]] bool IsEmpty() const { return !any_; }
+  [[nodiscard]] const GroundExtent& Extent() const { return extent_; }
+
+ private:
+  static void Widen(double value, double& max, double& min) {
+    if (max < value) {
+      max = value;
+    } else if (value < min) {
+      min = value;
+    }
+  }
+
+  GroundExtent extent_;
+  bool any_ = false;
+};
+
+}  // namespace tavix

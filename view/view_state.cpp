@@ -1,0 +1,200 @@
+#include "view/view_state.h"
+
+#include <cmath>
+#include <cstdint>
+
+#include "view/truncate.h"
+
+namespace tavix {
+namespace {
+
+constexpr double kRadiansPerDegree = 0.017453292519943295;
+constexpr double kSameView = 0.00001;  // pixels per metre, and metres
+
+struct Cosines {
+  double cos;
+  double sin;
+};
+
+// Turns (x, y) about the pixel (cx, cy); on the screen, y down, a positive angle turns clockwise.
+struct Rotated {
+  double x;
+  double y;
+};
+Rotated RotateAbout(double x, double y, int cx, int cy, Cosines angle) {
+  const double dx = x - cx;
+  const double dy = y - cy;
+  return {dx * angle.cos - dy * angle.sin + cx, dy * angle.cos + dx * angle.sin + cy};
+}
+
+}  // namespace
+
+void CViewState::SetScreenSize(int width, int height) {
+  width_ = width;
+  height_ = height;
+  half_width_ = width / 2;
+  half_height_ = height / 2;
+  screen_quad_ = {{{0, 0}, {width, 0}, {width, height}, {0, height}}};
+}
+
+void CViewState::GetScreenSize(int* width, int* height) const {
+  *width = TruncateToInt(width_);
+  *height = TruncateToInt(height_);
+}
+
+void CViewState::SetRatio(double ratio) {
+  ratio_ = ratio;
+  v_scale_ = scale_ * ratio;
+}
+
+void CViewState::SetCentre(GroundPoint centre) {
+  prev_centre_ = centre_;
+  centre_ = centre;
+}
+
+int CViewState::SetAngle(int degrees) {
+  if (degrees < 0 || degrees > 359) return -1;
+  angle_ = degrees;
+  const auto set = [this](double cos_a, double sin_a, double cos_inv, double sin_inv) {
+    cos_a_ = cos_a;
+    sin_a_ = sin_a;
+    cos_inv_ = cos_inv;
+    sin_inv_ = sin_inv;
+  };
+  // The right angles are set and not computed: no rounding noise in the common views.
+  switch (degrees) {
+    case 0:
+      set(1.0, 0.0, 1.0, 0.0);
+      break;
+    case 90:
+      set(0.0, 1.0, 0.0, -1.0);
+      break;
+    case 180:
+      set(-1.0, 0.0, -1.0, 0.0);
+      break;
+    case 270:
+      set(0.0, -1.0, 0.0, 1.0);
+      break;
+    default: {
+      const double radians = degrees * kRadiansPerDegree;
+      set(std::cos(radians), std::sin(radians), std::cos(-radians), std::sin(-radians));
+    }
+  }
+  return 0;
+}
+
+int CViewState::RotateBy(int degrees) {
+  std::int64_t angle = std::int64_t{angle_} + degrees;
+  if (angle >= 360) {
+    angle -= 360;
+  } else if (angle < 0) {
+    angle += 360;
+  }
+  return angle < 0 || angle > 359 ? -1 : SetAngle(static_cast<int>(angle));
+}
+
+bool CViewState::SetScaleCapped(double scale) {
+  const bool cut = kScaleCap < scale;
+  scale_ = cut ? kScaleCap : scale;
+  v_scale_ = scale_ * ratio_;
+  return cut;
+}
+
+bool CViewState::ZoomIn(double factor) {
+  prev_scale_ = scale_;
+  return SetScaleCapped(scale_ * factor);
+}
+
+void CViewState::ZoomOut(double factor) {
+  prev_scale_ = scale_;
+  scale_ = scale_ / factor;
+  v_scale_ = scale_ * ratio_;
+}
+
+bool CViewState::SetFitScale(int pixels, double length, double factor) {
+  if (!no_view_yet_) prev_scale_ = scale_;
+  const bool cut = SetScaleCapped((pixels / length) * factor);
+  home_scale_ = scale_;
+  if (no_view_yet_) {
+    prev_scale_ = scale_;
+    no_view_yet_ = false;
+  }
+  return cut;
+}
+
+void CViewState::ToggleHome() {
+  const bool at_home = std::fabs(scale_ - home_scale_) < kSameView &&
+                       std::fabs(centre_.x - home_centre_.x) < kSameView &&
+                       std::fabs(centre_.y - home_centre_.y) < kSameView;
+  if (at_home) {
+    scale_ = prev_scale_;
+    centre_ = prev_centre_;
+  } else {
+    prev_centre_ = centre_;
+    prev_scale_ = scale_;
+    scale_ = home_scale_;
+    centre_ = home_centre_;
+  }
+  v_scale_ = scale_ * ratio_;
+}
+
+ScreenPoint CViewState::GroundToScreen(GroundPoint ground) const {
+  const double u = (ground.y - centre_.y) * scale_ + half_width_;
+  const double v = (centre_.x - ground.x) * v_scale_ + half_height_;
+  const Rotated screen = RotateAbout(u, v, half_width_, half_height_, {cos_a_, sin_a_});
+  return {TruncateToInt(screen.x), TruncateToInt(screen.y)};
+}
+
+GroundPoint CViewState::ScreenToGround(ScreenPoint screen) const {
+  const Rotated flat =
+      RotateAbout(screen.x, screen.y, half_width_, half_height_, {cos_inv_, sin_inv_});
+  return {(half_height_ - flat.y) / v_scale_ + centre_.x,
+          (flat.x - half_width_) / scale_ + centre_.y};
+}
+
+int CViewState::LengthToPixels(double length) const { return TruncateToInt(scale_ * length); }
+
+double CViewState::PixelsToLength(int pixels) const { return pixels / scale_; }
+
+int CViewState::LengthToPixelsAxis(bool vertical, double length) const {
+  return vertical ? TruncateToInt((ratio_ * scale_) * length) : LengthToPixels(length);
+}
+
+double CViewState::PixelsToLengthAxis(bool vertical, int pixels) const {
+  return vertical ? pixels / v_scale_ : PixelsToLength(pixels);
+}
+
+bool CViewState::CircleOnScreen(GroundPoint centre, double radius, ScreenPoint& screen) const {
+  const ScreenPoint at = GroundToScreen(centre);
+  const std::int64_t r = LengthToPixels(radius);
+  if (at.x + r < 0 || at.y + r < 0 || TruncateToInt(width_) < at.x - r ||
+      TruncateToInt(height_) < at.y - r) {
+    return false;
+  }
+  screen = at;
+  return true;
+}
+
+bool CViewState::ClipGroundSegment(GroundPoint start, GroundPoint end,
+                                   ScreenSegment& clipped) const {
+  ScreenSegment segment{GroundToScreen(start), GroundToScreen(end)};
+  const int width = TruncateToInt(width_);
+  const int height = TruncateToInt(height_);
+  if (segment.start.y < 0 && segment.end.y < 0) return false;
+  if (segment.start.y > height && segment.end.y > height) return false;
+  if (segment.start.x < 0 && segment.end.x < 0) return false;
+  if (segment.start.x > width && segment.end.x > width) return false;
+  if (!ClipToQuad(screen_quad_, segment)) return false;
+  clipped = segment;
+  return true;
+}
+
+bool CViewState::ClipGroundSegmentInPlace(GroundPoint& start, GroundPoint& end,
+                                          ScreenSegment& clipped) const {
+  if (!ClipGroundSegment(start, end, clipped)) return false;
+  start = ScreenToGround(clipped.start);
+  end = ScreenToGround(clipped.end);
+  return true;
+}
+
+}  // namespace tavix

@@ -1,0 +1,34 @@
+// The off-screen picture that a plot window shows.
+#pragma once
+
+#include <afxwin.h>
+
+namespace tavix {
+
+// A memory device context with a bitmap of the size of a window's client area, made once. Everything
+// is drawn here; painting copies it to the screen.
+class BackBuffer {
+ public:
+  BackBuffer() = default;
+  ~BackBuffer();
+  BackBuffer(const BackBuffer&) = delete;
+  BackBuffer& operator=(const BackBuffer&) = delete;
+
+  // Makes the buffer for `window` and fills it with the window background.
+  void Create(CWnd& window);
+
+  void Fill();
+
+  [[nodiscard]] CDC& Dc() { return dc_; }
+
+  // The client area at creation: left and top are 0.
+  [[nodiscard]] const CRect& Rect() const { return rect_; }
+
+ private:
+  CDC dc_;
+  CBitmap bitmap_;
+  CBitmap* old_bitmap_ = nullptr;
+  CRect rect_{0, 0, 0, 0};
+};
+
+}  // namespace tavix

@@ -1,0 +1,86 @@
+// The plot window: a child window of the host that shows one instance.
+#pragma once
+
+#include <afxwin.h>
+
+#include "draw/plan_view.h"
+#include "store/hanrei.h"
+#include "store/point_list.h"
+#include "view/view_state.h"
+#include "window/back_buffer.h"
+#include "window/button_column.h"
+
+namespace tavix {
+
+// The objects of the instance that the window works on. They outlive the window.
+struct PlotLinks {
+  CViewState* view = nullptr;
+  CPntList* points = nullptr;
+  CHanrei* legend = nullptr;
+};
+
+// The vertical : horizontal ratio that the host or the user has given.
+struct RatioSetting {
+  bool given = false;
+  int vertical = 1;
+  int horizontal = 1;
+};
+
+// Holds the parts that make up the plot window and passes messages to them. The size it has when it
+// is made is final: the back buffer and the button column never change theirs.
+class CPlotWnd : public CWnd {
+ public:
+  // `notify_id` is the command id under which the window reports to its parent.
+  explicit CPlotWnd(UINT notify_id);
+  ~CPlotWnd() override;
+
+  // Destroys the buttons first, then the window.
+  BOOL DestroyWindow() override;
+
+  // Make the window hidden, as a child of `parent`: in a rectangle of its client area, or in the
+  // place of one of its controls, which is hidden. False when the window or a button cannot be made.
+  virtual BOOL CreateInRect(CWnd* parent, const CRect& rect);
+  virtual BOOL CreateOverControl(CWnd* parent, UINT control_id);
+
+  void Link(const PlotLinks& links) { links_ = links; }
+
+  // Shows or hides the button column, gives the view the drawing area that is left, and resets its
+  // vertical ratio to 1. Works on a window that could not be made too.
+  void ApplyButtonFlag(bool show_buttons);
+
+  // Fits the view to the data shown. 0, or the code of the point store when there is nothing to fit.
+  int FitView();
+
+  // Draws everything into the back buffer and has the window repainted. Always 0.
+  int Redraw();
+
+  // To be called after every pan and zoom and for every redraw request. Always 0.
+  int ViewChanged();
+
+  // Draws one new point on the screen, where the window is visible, and into the back buffer.
+  void DrawNewPoint(const Point& point);
+
+  // Stores the ratio and hands it to the view.
+  void SetRatio(int vertical, int horizontal);
+  [[nodiscard]] const RatioSetting& Ratio() const { return ratio_; }
+
+  void SetDisplay3D(bool on) { display_3d_ = on; }
+
+ protected:
+  afx_msg BOOL OnEraseBkgnd(CDC* dc);
+  afx_msg void OnPaint();
+  DECLARE_MESSAGE_MAP()
+
+ private:
+  BOOL CreateChild(CWnd* parent, const CRect& rect, const CString& class_name);
+  [[nodiscard]] PlotData Data() const;
+
+  UINT notify_id_;
+  PlotLinks links_;
+  BackBuffer buffer_;
+  ButtonColumn buttons_;
+  RatioSetting ratio_;
+  bool display_3d_ = false;
+};
+
+}  // namespace tavix
