@@ -11,8 +11,8 @@ void Stroke(CDC& dc, POINT start, POINT past_end) {
   dc.LineTo(past_end);
 }
 
-// An apex-up triangle whose apex stands 0.8 of the size above the point and whose base 0.2 below it;
-// a negative size turns it upside down.
+// An apex-up triangle whose apex stands 0.8 of the size above the point and whose base 0.2 below
+// it; a negative size turns it upside down.
 void DrawTriangle(CDC& dc, int size, ScreenPoint at) {
   const int apex = static_cast<int>(size * 0.8);
   const int base = static_cast<int>(size * 0.2);

@@ -11,9 +11,9 @@
 
 namespace tavix {
 
-// The pen, brush and font of one legend entry at a time, made when a point with another legend number
-// comes and selected into the device context. Points of one legend entered in a row, as they mostly
-// are, share them. The destructor puts back what was selected before.
+// The pen, brush and font of one legend entry at a time, made when a point with another legend
+// number comes and selected into the device context. Points of one legend entered in a row, as they
+// mostly are, share them. The destructor puts back what was selected before.
 //
 // A legend number without an entry draws nothing.
 class PointLook {

@@ -11,8 +11,8 @@ using tavix::TavixSlot;
 
 namespace {
 
-// Makes a new window for the current instance and has `create` give it its place. The button flag is
-// applied whatever comes of it.
+// Makes a new window for the current instance and has `create` give it its place. The button flag
+// is applied whatever comes of it.
 template <class Create>
 int LinkWindow(UINT notify_id, Create create) {
   TavixSlot& slot = Slots().Current();

@@ -63,8 +63,8 @@ void SlotTable::SelectHighestInUse() {
 }
 
 SlotTable& Slots() {
-  // Never destroyed: what an ending process leaves behind is not saved, and at that time neither the
-  // framework nor the windows may be called any more.
+  // Never destroyed: what an ending process leaves behind is not saved, and at that time neither
+  // the framework nor the windows may be called any more.
   static SlotTable& slots = *new SlotTable;
   return slots;
 }

@@ -5,9 +5,9 @@
 
 namespace tavix {
 
-// Loads the legend from "\HANREI.DAT" in the host's current data folder when it is made, and saves it
-// there when it is destroyed. A missing or bad file gives the built-in legend; a bad one is deleted.
-// Nothing is reported.
+// Loads the legend from "\HANREI.DAT" in the host's current data folder when it is made, and saves
+// it there when it is destroyed. A missing or bad file gives the built-in legend; a bad one is
+// deleted. Nothing is reported.
 //
 // The file's path is one for the whole library and is made anew with each legend, so the legend of
 // an instance made earlier is saved into the folder of the one made last. Meant so.

@@ -41,8 +41,8 @@ class KeyIndex {
     // Entries behind the gap move up, so that no probe ends too early.
     for (std::size_t slot = After(gap); slots_[slot] != kNone; slot = After(slot)) {
       const std::size_t home = Home(key_at(slots_[slot]));
-      const bool reachable_past_gap = gap <= slot ? gap < home && home <= slot
-                                                  : gap < home || home <= slot;
+      const bool reachable_past_gap =
+          gap <= slot ? gap < home && home <= slot : gap < home || home <= slot;
       if (!reachable_past_gap) {
         slots_[gap] = slots_[slot];
         gap = slot;
@@ -64,7 +64,9 @@ class KeyIndex {
     const std::uint64_t spread = static_cast<std::uint32_t>(key) * 0x9E3779B97F4A7C15ULL;
     return static_cast<std::size_t>(spread >> shift_);
   }
-  [[nodiscard]] std::size_t After(std::size_t slot) const { return (slot + 1) & (slots_.size() - 1); }
+  [[nodiscard]] std::size_t After(std::size_t slot) const {
+    return (slot + 1) & (slots_.size() - 1);
+  }
 
   void Place(std::int32_t key, std::uint32_t position) {
     std::size_t slot = Home(key);

@@ -11,9 +11,9 @@ namespace tavix {
 // The file's text: a header record and sixteen entry records of 30 bytes each.
 [[nodiscard]] std::string EncodeLegend(const LegendTable& table);
 
-// Takes a file's bytes into `table`. False when the file is bad (short, unmarked, fewer than sixteen
-// entries); the table's entries are then untouched, but a header number that could be read has been
-// taken all the same.
+// Takes a file's bytes into `table`. False when the file is bad (short, unmarked, fewer than
+// sixteen entries); the table's entries are then untouched, but a header number that could be read
+// has been taken all the same.
 [[nodiscard]] bool DecodeLegend(std::string_view bytes, LegendTable& table);
 
 }  // namespace tavix

@@ -11,20 +11,19 @@ constexpr std::int32_t kRed = 255;
 // 103 stands before 102: the places of these two are the historical ones. A saved and reloaded list
 // is numbered by place, so the two swap their looks after the first save. Meant so.
 constexpr HanRec kBuiltIn[LegendTable::kStoredLegends] = {
-    {1, true, {1, 2, 10, 1, 1, kBlack}},    {2, true, {2, 10, 10, 1, 1, kBlack}},
-    {3, true, {3, 10, 10, 1, 1, kBlack}},   {4, true, {4, 10, 10, 1, 1, kBlack}},
-    {5, true, {5, 10, 10, 1, 1, kRed}},     {6, true, {6, 10, 10, 1, 1, kRed}},
-    {7, true, {7, 10, 10, 1, 1, kRed}},     {8, true, {8, 10, 10, 1, 1, kBlack}},
-    {9, true, {9, 10, 10, 1, 1, kRed}},     {10, true, {10, 10, 10, 1, 1, kRed}},
-    {11, true, {11, 10, 10, 1, 1, kRed}},   {101, false, {101, 0, 0, 0, 1, kBlack}},
-    {103, false, {103, 0, 0, 0, 1, kRed}},  {102, false, {102, 4, 2, 0, 1, kBlack}},
-    {104, false, {104, 4, 2, 2, 1, kRed}},  {105, false, {105, 4, 2, 2, 1, kRed}},
+    {1, true, {1, 2, 10, 1, 1, kBlack}},   {2, true, {2, 10, 10, 1, 1, kBlack}},
+    {3, true, {3, 10, 10, 1, 1, kBlack}},  {4, true, {4, 10, 10, 1, 1, kBlack}},
+    {5, true, {5, 10, 10, 1, 1, kRed}},    {6, true, {6, 10, 10, 1, 1, kRed}},
+    {7, true, {7, 10, 10, 1, 1, kRed}},    {8, true, {8, 10, 10, 1, 1, kBlack}},
+    {9, true, {9, 10, 10, 1, 1, kRed}},    {10, true, {10, 10, 10, 1, 1, kRed}},
+    {11, true, {11, 10, 10, 1, 1, kRed}},  {101, false, {101, 0, 0, 0, 1, kBlack}},
+    {103, false, {103, 0, 0, 0, 1, kRed}}, {102, false, {102, 4, 2, 0, 1, kBlack}},
+    {104, false, {104, 4, 2, 2, 1, kRed}}, {105, false, {105, 4, 2, 2, 1, kRed}},
 };
 
 std::int16_t NumberAtPlace(int place) {
   const bool is_point = place < LegendTable::kPointLegends;
-  return static_cast<std::int16_t>(is_point ? place + 1
-                                            : place - LegendTable::kPointLegends + 101);
+  return static_cast<std::int16_t>(is_point ? place + 1 : place - LegendTable::kPointLegends + 101);
 }
 
 }  // namespace
@@ -75,8 +74,8 @@ int LegendTable::GetTitle(int n, std::u16string* title) const {
 void LegendTable::TakeStored(const std::array<LegendStyle, kStoredLegends>& styles) {
   entries_.clear();
   for (int place = 0; place < kStoredLegends; ++place) {
-    entries_.push_back({NumberAtPlace(place), place < kPointLegends,
-                        styles[static_cast<std::size_t>(place)]});
+    entries_.push_back(
+        {NumberAtPlace(place), place < kPointLegends, styles[static_cast<std::size_t>(place)]});
   }
 }
 

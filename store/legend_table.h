@@ -11,8 +11,9 @@
 namespace tavix {
 
 // What a legend entry says of its look. For points `kind` is the mark's shape, `prm1` its size and
-// `prm2` the label's height in pixels, `prm3` whether the label is the number (non-zero) or the name.
-// For lines `kind` is the style (101 solid) and the parameters are the pattern's lengths in pixels.
+// `prm2` the label's height in pixels, `prm3` whether the label is the number (non-zero) or the
+// name. For lines `kind` is the style (101 solid) and the parameters are the pattern's lengths in
+// pixels.
 struct LegendStyle {
   std::int32_t kind = 0;
   std::int32_t prm1 = 0;
@@ -32,8 +33,8 @@ struct HanRec {
   friend bool operator==(const HanRec&, const HanRec&) = default;
 };
 
-// The table of legend entries, in list order; the first entry with a number counts. Operations return
-// 0, or -1 when there is no such entry.
+// The table of legend entries, in list order; the first entry with a number counts. Operations
+// return 0, or -1 when there is no such entry.
 class LegendTable {
  public:
   static constexpr int kPointLegends = 11;   // numbered 1..11
@@ -48,24 +49,24 @@ class LegendTable {
   int Change(std::int16_t number, bool is_point, const LegendStyle& style);
   int Get(std::int16_t number, HanRec* entry) const;
 
-  // Copies entries in list order, at most `count` of them (at least one, when there is one). Returns
-  // how many were copied.
+  // Copies entries in list order, at most `count` of them (at least one, when there is one).
+  // Returns how many were copied.
   std::size_t CopyOut(std::size_t count, HanRec* entries) const;
 
   // Titles of point legends 1..11, empty at first.
   int SetTitle(int n, std::u16string_view title);
   int GetTitle(int n, std::u16string* title) const;
 
-  // The number in the legend file's header: the step of the rotate buttons in whole degrees. Carried
-  // through the file as it is, whatever it is.
+  // The number in the legend file's header: the step of the rotate buttons in whole degrees.
+  // Carried through the file as it is, whatever it is.
   [[nodiscard]] std::int32_t RotationStep() const { return rotation_step_; }
   void SetRotationStep(std::int32_t degrees) { rotation_step_ = degrees; }
 
   // All entries in list order; the file keeps the first sixteen.
   [[nodiscard]] const std::vector<HanRec>& Entries() const { return entries_; }
 
-  // Takes the sixteen entries of a file in place of the built-in ones. Their numbers come from their
-  // places: 1..11, then 101..105.
+  // Takes the sixteen entries of a file in place of the built-in ones. Their numbers come from
+  // their places: 1..11, then 101..105.
   void TakeStored(const std::array<LegendStyle, kStoredLegends>& styles);
 
  private:

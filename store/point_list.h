@@ -3,10 +3,10 @@
 
 #include <cstdint>
 
-#include "view/extent.h"
 #include "store/name_pool.h"
 #include "store/record_list.h"
 #include "view/coordinates.h"
+#include "view/extent.h"
 
 namespace tavix {
 

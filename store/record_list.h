@@ -11,9 +11,9 @@
 
 namespace tavix {
 
-// Records in the order they were entered. `Record` has a member `key` and a flag `removed`; keys may
-// repeat. A removed record leaves a hole that is closed later, so that positions keep their order
-// and removal costs no shifting.
+// Records in the order they were entered. `Record` has a member `key` and a flag `removed`; keys
+// may repeat. A removed record leaves a hole that is closed later, so that positions keep their
+// order and removal costs no shifting.
 //
 // The cursor names the current record or none. Removing and clearing reset it.
 template <class Record>
@@ -48,9 +48,10 @@ class RecordList {
     return cursor_ ? 0 : -1;
   }
 
-  // Puts the cursor on the record with the key that lies nearest to it, searching outward: backwards
-  // from the cursor's record itself and forwards from the one after it, backwards first at each step.
-  // Without a cursor the search runs from the head. 0, or -1 with the cursor as it was.
+  // Puts the cursor on the record with the key that lies nearest to it, searching outward:
+  // backwards from the cursor's record itself and forwards from the one after it, backwards first
+  // at each step. Without a cursor the search runs from the head. 0, or -1 with the cursor as it
+  // was.
   int FindOutward(std::int32_t key) {
     if (!cursor_) return FindFirst(key);
     const std::optional<Position> found =

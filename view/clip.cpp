@@ -11,6 +11,8 @@ namespace {
 // product below 2^64, and close enough beyond, where only far-away ends are involved.
 using Product = long double;
 
+Product Difference(int a, int b) { return static_cast<Product>(a) - static_cast<Product>(b); }
+
 struct Crossings {
   std::array<ScreenPoint, 4> points;
   std::size_t count = 0;
@@ -73,17 +75,17 @@ bool ClipToQuad(const ScreenQuad& quad, ScreenSegment& segment) {
 
 bool IntersectSegments(const ScreenSegment& edge, const ScreenSegment& segment,
                        ScreenPoint& crossing) {
-  const Product dx_a = Product{edge.end.x} - edge.start.x;
-  const Product dy_a = Product{edge.end.y} - edge.start.y;
-  const Product dx_b = Product{segment.end.x} - segment.start.x;
-  const Product dy_b = Product{segment.end.y} - segment.start.y;
+  const Product dx_a = Difference(edge.end.x, edge.start.x);
+  const Product dy_a = Difference(edge.end.y, edge.start.y);
+  const Product dx_b = Difference(segment.end.x, segment.start.x);
+  const Product dy_b = Difference(segment.end.y, segment.start.y);
   const Product denominator = dx_b * dy_a - dy_b * dx_a;
   if (denominator == 0) return false;
 
   const Product sign = denominator < 1 ? -1 : 1;
   const Product d = sign * denominator;
-  const Product dx_0 = Product{edge.start.x} - segment.start.x;
-  const Product dy_0 = Product{edge.start.y} - segment.start.y;
+  const Product dx_0 = Difference(edge.start.x, segment.start.x);
+  const Product dy_0 = Difference(edge.start.y, segment.start.y);
   const Product t = sign * (dx_0 * dy_b - dy_0 * dx_b);
   const Product u = sign * (dx_0 * dy_a - dy_0 * dx_a);
   if (t < 0 || t > d || u < 0 || u > d) return false;

@@ -17,6 +17,12 @@ struct ScreenPoint {
   friend bool operator==(const ScreenPoint&, const ScreenPoint&) = default;
 };
 
+// A screen position before it is truncated to a pixel.
+struct RealScreenPoint {
+  double x = 0.0;
+  double y = 0.0;
+};
+
 // A segment on the screen, from `start` to `end`.
 struct ScreenSegment {
   ScreenPoint start;

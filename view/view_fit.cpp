@@ -7,9 +7,9 @@
 namespace tavix {
 namespace {
 
-constexpr double kNoSize = 0.00001;   // metres; the test is on signed sizes
-constexpr double kMargin = 20.0;      // pixels left free by a fit, both sides together
-constexpr double kPointScale = 1.0;   // pixels per metre for a box without size
+constexpr double kNoSize = 0.00001;  // metres; the test is on signed sizes
+constexpr double kFitMargin = 20.0;  // pixels left free by a fit, both sides together
+constexpr double kPointScale = 1.0;  // pixels per metre for a box without size
 
 // Two times the outermost distance on each axis is kept as |largest| + |smallest|.
 struct Range {
@@ -28,6 +28,16 @@ struct Range {
 
 bool HasNoSize(double size) { return size < kNoSize; }
 
+// The scale at which a turned box fills an area of `width` x `height` pixels less `margin`. Which
+// side limits is decided by the full proportions while the scale leaves the margin: the asymmetry
+// is meant.
+double ScaleToFill(GroundSize box, double width, double height, double margin) {
+  const bool width_limits = HasNoSize(box.north) ||
+                            (!HasNoSize(box.east) && width / height < box.east * (1.0 / box.north));
+  if (HasNoSize(box.east)) return (height - margin) / box.north;
+  return width_limits ? (width - margin) / box.east : (height - margin) * (1.0 / box.north);
+}
+
 }  // namespace
 
 GroundSize CViewState::RotatedExtent(GroundSize size) const {
@@ -43,20 +53,18 @@ GroundSize CViewState::RotatedExtent(GroundSize size) const {
   return {x.Size(), y.Size()};
 }
 
+double CViewState::ScaleToShow(GroundSize size, double width, double height, double margin) const {
+  // The vertical size counts in horizontal pixels per metre.
+  const GroundSize box{size.east, ratio_ * size.north};
+  if (HasNoSize(box.east) && HasNoSize(box.north)) return kPointScale;
+  return ScaleToFill(RotatedExtent(box), width, height, margin);
+}
+
 bool CViewState::ZoomToArea(GroundSize size, GroundPoint centre) {
   prev_scale_ = scale_;
   prev_centre_ = centre_;
   centre_ = centre;
-
-  // The vertical size counts in horizontal pixels per metre.
-  GroundSize box{size.east, ratio_ * size.north};
-  if (HasNoSize(box.east) && HasNoSize(box.north)) return SetScaleCapped(kPointScale);
-  box = RotatedExtent(box);
-  if (HasNoSize(box.east)) return SetScaleCapped(height_ / box.north);
-  if (HasNoSize(box.north)) return SetScaleCapped(width_ / box.east);
-  return SetScaleCapped(width_ / height_ < (1.0 / box.north) * box.east
-                            ? width_ / box.east
-                            : height_ * (1.0 / box.north));
+  return SetScaleCapped(ScaleToShow(size, width_, height_, 0.0));
 }
 
 bool CViewState::FitToArea(GroundSize size, GroundPoint centre) {
@@ -72,25 +80,7 @@ bool CViewState::FitToSize(double width, double height, GroundSize size, GroundP
     prev_scale_ = scale_;
     prev_centre_ = centre_;
   }
-
-  GroundSize box{size.east, ratio_ * size.north};
-  double scale = kPointScale;
-  if (!HasNoSize(box.east) || !HasNoSize(box.north)) {
-    box = RotatedExtent(box);
-    // The limiting side is chosen by the full proportions while the scale leaves the margin: the
-    // asymmetry is meant.
-    if (HasNoSize(box.east)) {
-      scale = (height - kMargin) / box.north;
-    } else if (HasNoSize(box.north)) {
-      scale = (width - kMargin) / box.east;
-    } else if (width / height < box.east * (1.0 / box.north)) {
-      scale = (width - kMargin) / box.east;
-    } else {
-      scale = (height - kMargin) * (1.0 / box.north);
-    }
-  }
-  const bool cut = SetScaleCapped(scale);
-
+  const bool cut = SetScaleCapped(ScaleToShow(size, width, height, kFitMargin));
   centre_ = centre;
   home_centre_ = centre;
   home_scale_ = scale_;

@@ -17,11 +17,7 @@ struct Cosines {
 };
 
 // Turns (x, y) about the pixel (cx, cy); on the screen, y down, a positive angle turns clockwise.
-struct Rotated {
-  double x;
-  double y;
-};
-Rotated RotateAbout(double x, double y, int cx, int cy, Cosines angle) {
+RealScreenPoint RotateAbout(double x, double y, int cx, int cy, Cosines angle) {
   const double dx = x - cx;
   const double dy = y - cy;
   return {dx * angle.cos - dy * angle.sin + cx, dy * angle.cos + dx * angle.sin + cy};
@@ -138,15 +134,19 @@ void CViewState::ToggleHome() {
   v_scale_ = scale_ * ratio_;
 }
 
-ScreenPoint CViewState::GroundToScreen(GroundPoint ground) const {
+RealScreenPoint CViewState::GroundToRealScreen(GroundPoint ground) const {
   const double u = (ground.y - centre_.y) * scale_ + half_width_;
   const double v = (centre_.x - ground.x) * v_scale_ + half_height_;
-  const Rotated screen = RotateAbout(u, v, half_width_, half_height_, {cos_a_, sin_a_});
+  return RotateAbout(u, v, half_width_, half_height_, {cos_a_, sin_a_});
+}
+
+ScreenPoint CViewState::GroundToScreen(GroundPoint ground) const {
+  const RealScreenPoint screen = GroundToRealScreen(ground);
   return {TruncateToInt(screen.x), TruncateToInt(screen.y)};
 }
 
 GroundPoint CViewState::ScreenToGround(ScreenPoint screen) const {
-  const Rotated flat =
+  const RealScreenPoint flat =
       RotateAbout(screen.x, screen.y, half_width_, half_height_, {cos_inv_, sin_inv_});
   return {(half_height_ - flat.y) / v_scale_ + centre_.x,
           (flat.x - half_width_) / scale_ + centre_.y};

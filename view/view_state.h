@@ -14,7 +14,8 @@ struct GroundSize {
 };
 
 // The view of one plot. Ground: metres, x north, y east. Screen: pixels, origin top left of the
-// client area, y down. The unturned view has north up; a positive angle turns the picture clockwise.
+// client area, y down. The unturned view has north up; a positive angle turns the picture
+// clockwise.
 //
 // Everything that converts between the two goes through this class. Two views are remembered: the
 // home view (the last fit) and the view before the last change.
@@ -68,6 +69,9 @@ class CViewState {
   // Ground to pixel, truncated toward zero.
   [[nodiscard]] ScreenPoint GroundToScreen(GroundPoint ground) const;
 
+  // The same before the truncation.
+  [[nodiscard]] RealScreenPoint GroundToRealScreen(GroundPoint ground) const;
+
   // Pixel to ground: the exact inverse but for the truncation.
   [[nodiscard]] GroundPoint ScreenToGround(ScreenPoint screen) const;
 
@@ -110,6 +114,8 @@ class CViewState {
 
  private:
   [[nodiscard]] bool SetScaleCapped(double scale);
+  [[nodiscard]] double ScaleToShow(GroundSize size, double width, double height,
+                                   double margin) const;
   [[nodiscard]] bool FitToSize(double width, double height, GroundSize size, GroundPoint centre);
 
   double scale_ = 1.0;    // pixels per metre along screen x

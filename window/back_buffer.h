@@ -5,8 +5,8 @@
 
 namespace tavix {
 
-// A memory device context with a bitmap of the size of a window's client area, made once. Everything
-// is drawn here; painting copies it to the screen.
+// A memory device context with a bitmap of the size of a window's client area, made once.
+// Everything is drawn here; painting copies it to the screen.
 class BackBuffer {
  public:
   BackBuffer() = default;

@@ -3,9 +3,9 @@
 
 namespace tavix {
 
-// A column of eleven buttons, 20 pixels wide, along the right edge of the client area. Buttons 1 to 9
-// are the main ones, 20 pixels high; buttons 0 and 10, half as high, scroll the column where the nine
-// do not all fit the height. Positions are pixels from the top of the client area.
+// A column of eleven buttons, 20 pixels wide, along the right edge of the client area. Buttons 1 to
+// 9 are the main ones, 20 pixels high; buttons 0 and 10, half as high, scroll the column where the
+// nine do not all fit the height. Positions are pixels from the top of the client area.
 class ButtonColumnLayout {
  public:
   static constexpr int kButtons = 11;

@@ -5,8 +5,8 @@
 
 namespace tavix {
 
-// A device context of a window's client area that spares its child windows, so that what is drawn at
-// once never covers the buttons.
+// A device context of a window's client area that spares its child windows, so that what is drawn
+// at once never covers the buttons.
 class ClientSurface {
  public:
   explicit ClientSurface(CWnd& window);

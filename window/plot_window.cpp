@@ -32,7 +32,8 @@ BOOL CPlotWnd::CreateInRect(CWnd* parent, const CRect& rect) {
 
 BOOL CPlotWnd::CreateOverControl(CWnd* parent, UINT control_id) {
   static const CString class_name = AfxRegisterWndClass(CS_DBLCLKS, nullptr, nullptr, nullptr);
-  CWnd* control = parent && parent->m_hWnd ? parent->GetDlgItem(static_cast<int>(control_id)) : nullptr;
+  CWnd* control =
+      parent && parent->m_hWnd ? parent->GetDlgItem(static_cast<int>(control_id)) : nullptr;
   if (!control) return FALSE;
   CRect rect;
   control->GetWindowRect(&rect);
@@ -43,8 +44,8 @@ BOOL CPlotWnd::CreateOverControl(CWnd* parent, UINT control_id) {
 
 BOOL CPlotWnd::CreateChild(CWnd* parent, const CRect& rect, const CString& class_name) {
   if (!parent || !parent->m_hWnd) return FALSE;
-  if (!CreateEx(WS_EX_CLIENTEDGE, class_name, kWindowName, kStyle, rect.left, rect.top, rect.Width(),
-                rect.Height(), parent->m_hWnd, nullptr)) {
+  if (!CreateEx(WS_EX_CLIENTEDGE, class_name, kWindowName, kStyle, rect.left, rect.top,
+                rect.Width(), rect.Height(), parent->m_hWnd, nullptr)) {
     return FALSE;
   }
   if (!buttons_.Create(*this)) return FALSE;
@@ -64,9 +65,10 @@ void CPlotWnd::ApplyButtonFlag(bool show_buttons) {
 int CPlotWnd::FitView() {
   GroundExtent extent;
   if (const int code = links_.points->GetExtent(&extent); code != 0) return code;
-  const GroundPoint centre{(extent.max.x + extent.min.x) * 0.5, (extent.max.y + extent.min.y) * 0.5};
-  BeepIfCut(links_.view->FitToArea(
-      {extent.max.y - extent.min.y, extent.max.x - extent.min.x}, centre));
+  const GroundPoint centre{(extent.max.x + extent.min.x) * 0.5,
+                           (extent.max.y + extent.min.y) * 0.5};
+  BeepIfCut(
+      links_.view->FitToArea({extent.max.y - extent.min.y, extent.max.x - extent.min.x}, centre));
   return 0;
 }
 
@@ -94,9 +96,7 @@ void CPlotWnd::SetRatio(int vertical, int horizontal) {
   links_.view->SetRatio(static_cast<double>(vertical) / horizontal);
 }
 
-PlotData CPlotWnd::Data() const {
-  return {*links_.view, links_.legend->Table(), *links_.points};
-}
+PlotData CPlotWnd::Data() const { return {*links_.view, links_.legend->Table(), *links_.points}; }
 
 BOOL CPlotWnd::OnEraseBkgnd(CDC* dc) {
   CRect client;

@@ -38,7 +38,8 @@ class CPlotWnd : public CWnd {
   BOOL DestroyWindow() override;
 
   // Make the window hidden, as a child of `parent`: in a rectangle of its client area, or in the
-  // place of one of its controls, which is hidden. False when the window or a button cannot be made.
+  // place of one of its controls, which is hidden. False when the window or a button cannot be
+  // made.
   virtual BOOL CreateInRect(CWnd* parent, const CRect& rect);
   virtual BOOL CreateOverControl(CWnd* parent, UINT control_id);
 
@@ -48,7 +49,8 @@ class CPlotWnd : public CWnd {
   // vertical ratio to 1. Works on a window that could not be made too.
   void ApplyButtonFlag(bool show_buttons);
 
-  // Fits the view to the data shown. 0, or the code of the point store when there is nothing to fit.
+  // Fits the view to the data shown. 0, or the code of the point store when there is nothing to
+  // fit.
   int FitView();
 
   // Draws everything into the back buffer and has the window repainted. Always 0.

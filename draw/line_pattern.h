@@ -1,0 +1,53 @@
+// The patterned line styles: which pieces of a segment are drawn.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <optional>
+
+#include "store/legend_table.h"
+#include "view/coordinates.h"
+#include "view/view_state.h"
+
+namespace tavix {
+
+constexpr int kSolidLine = 101;
+
+// Lengths in pixels that repeat along a segment: a dash, a gap, a dash, a gap, ...
+struct LinePattern {
+  std::array<int, 6> lengths{};
+  std::size_t count = 0;
+};
+
+// The pattern of style kinds 102 to 105; none for any other kind.
+[[nodiscard]] std::optional<LinePattern> PatternOf(const LegendStyle& style);
+
+// A rectangle of the screen in pixels, borders included.
+struct ScreenBox {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
+};
+
+// One piece of a segment, on the ground.
+struct LinePiece {
+  GroundPoint start;
+  GroundPoint end;
+};
+
+// Lays a pattern along the ground segment from `start` to `end` and calls `draw` for each piece, in
+// order. The pattern is laid from the segment's own start, so that the dashes keep their place on
+// the ground while the picture is panned, and its lengths are pixels of the present view.
+//
+// Pieces that lie wholly outside of `visible` may be passed over: a long segment costs what shows
+// of it. Those given are the very ones of the full walk, to the last bit.
+//
+// A last dash that would run past the end stops there; a gap that would, ends the line. A segment
+// without length, and a pattern that does not advance, give one piece without length.
+void WalkPattern(const CViewState& view, const LinePattern& pattern, GroundPoint start,
+                 GroundPoint end, const ScreenBox& visible,
+                 const std::function<void(const LinePiece&)>& draw);
+
+}  // namespace tavix

@@ -1,0 +1,241 @@
+#include "view/view_state.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace tavix {
+namespace {
+
+CViewState ViewOf(int width, int height) {
+  CViewState view;
+  view.SetScreenSize(width, height);
+  return view;
+}
+
+// A view of the given scale: one metre shown in that many pixels.
+CViewState ViewAtScale(int width, int height, double scale) {
+  CViewState view = ViewOf(width, height);
+  EXPECT_FALSE(view.SetFitScale(1, 1.0, scale));
+  return view;
+}
+
+TEST(ViewState, FreshViewShowsTheOriginAtPixelTen) {
+  const CViewState view;
+  EXPECT_EQ(view.GroundToScreen({0, 0}), (ScreenPoint{10, 10}));
+  EXPECT_DOUBLE_EQ(view.Scale(), 1.0);
+  EXPECT_DOUBLE_EQ(view.VScale(), 1.0);
+  EXPECT_DOUBLE_EQ(view.Ratio(), 1.0);
+  EXPECT_EQ(view.Angle(), 0);
+  EXPECT_TRUE(view.NoViewYet());
+}
+
+TEST(ViewState, EastIsRightAndNorthIsUp) {
+  CViewState view = ViewAtScale(240, 180, 2.0);
+  view.SetCentre({1000, 2000});
+  EXPECT_EQ(view.GroundToScreen({1005, 2010}), (ScreenPoint{140, 80}));
+}
+
+TEST(ViewState, TurnsThePictureClockwise) {
+  CViewState view = ViewOf(240, 180);
+  const GroundPoint north{10, 0};
+  EXPECT_EQ(view.GroundToScreen(north), (ScreenPoint{120, 80}));
+  ASSERT_EQ(view.SetAngle(90), 0);
+  EXPECT_EQ(view.GroundToScreen(north), (ScreenPoint{130, 90}));
+  ASSERT_EQ(view.SetAngle(180), 0);
+  EXPECT_EQ(view.GroundToScreen(north), (ScreenPoint{120, 100}));
+  ASSERT_EQ(view.SetAngle(270), 0);
+  EXPECT_EQ(view.GroundToScreen(north), (ScreenPoint{110, 90}));
+}
+
+TEST(ViewState, RightAnglesAreExact) {
+  CViewState view;
+  const struct {
+    int angle;
+    double cos_a;
+    double sin_a;
+  } rows[] = {{0, 1, 0}, {90, 0, 1}, {180, -1, 0}, {270, 0, -1}};
+  for (const auto& row : rows) {
+    ASSERT_EQ(view.SetAngle(row.angle), 0);
+    EXPECT_EQ(view.CosA(), row.cos_a) << row.angle;
+    EXPECT_EQ(view.SinA(), row.sin_a) << row.angle;
+  }
+}
+
+TEST(ViewState, RefusesAnglesOutsideAFullTurn) {
+  CViewState view;
+  ASSERT_EQ(view.SetAngle(33), 0);
+  EXPECT_EQ(view.SetAngle(360), -1);
+  EXPECT_EQ(view.SetAngle(-1), -1);
+  EXPECT_EQ(view.Angle(), 33);
+  EXPECT_EQ(view.SetAngle(359), 0);
+}
+
+TEST(ViewState, RotatingByAStepTakesOffOneTurnOnly) {
+  const struct {
+    int from;
+    int by;
+    int result;
+    int angle;
+  } rows[] = {
+      {10, -30, 0, 340}, {0, 400, 0, 40},  {0, 800, -1, 0},        {350, 10, 0, 0},
+      {0, -360, 0, 0},   {0, -361, -1, 0}, {5, 2147483647, -1, 5}, {5, -2147483647 - 1, -1, 5}};
+  for (const auto& row : rows) {
+    CViewState view;
+    ASSERT_EQ(view.SetAngle(row.from), 0);
+    EXPECT_EQ(view.RotateBy(row.by), row.result) << row.from << " by " << row.by;
+    EXPECT_EQ(view.Angle(), row.angle) << row.from << " by " << row.by;
+  }
+}
+
+TEST(ViewState, PixelsAreTruncatedTowardZero) {
+  const CViewState view = ViewOf(240, 180);
+  EXPECT_EQ(view.GroundToScreen({90, -120.9}), (ScreenPoint{0, 0}));  // 0.9 left of the origin
+  EXPECT_EQ(view.GroundToScreen({90, -121.1}), (ScreenPoint{-1, 0}));
+  EXPECT_EQ(view.GroundToScreen({90.9, -120}), (ScreenPoint{0, 0}));
+}
+
+TEST(ViewState, FarPointsAreClampedAndNearOnesAreNot) {
+  const CViewState view = ViewOf(0, 0);
+  constexpr int kMax = std::numeric_limits<int>::max();
+  constexpr int kMin = std::numeric_limits<int>::min();
+  EXPECT_EQ(view.GroundToScreen({0, 2147483647.0}), (ScreenPoint{kMax, 0}));
+  EXPECT_EQ(view.GroundToScreen({0, 2147483646.0}), (ScreenPoint{kMax - 1, 0}));
+  EXPECT_EQ(view.GroundToScreen({0, 1e300}), (ScreenPoint{kMax, 0}));
+  EXPECT_EQ(view.GroundToScreen({1e300, -1e300}), (ScreenPoint{kMin, kMin}));
+  EXPECT_EQ(view.GroundToScreen({0, -2147483648.0}), (ScreenPoint{kMin, 0}));
+  ScreenPoint at;
+  EXPECT_FALSE(view.CircleOnScreen({std::nan(""), 0}, 1.0, at));
+  EXPECT_FALSE(view.CircleOnScreen({0, 1e300}, 1.0, at));
+  EXPECT_TRUE(view.CircleOnScreen({0, 1e9}, 1e10, at));  // its rim reaches the screen
+}
+
+TEST(ViewState, ScreenToGroundUndoesGroundToScreen) {
+  for (const int angle : {0, 15, 90, 137, 180, 270, 359}) {
+    CViewState view = ViewAtScale(240, 320, 3.7);
+    view.SetRatio(2.5);
+    view.SetCentre({-42000.5, 25900.25});
+    ASSERT_EQ(view.SetAngle(angle), 0);
+    for (const ScreenPoint pixel : {ScreenPoint{0, 0}, {239, 319}, {17, 301}, {120, 160}}) {
+      const GroundPoint ground = view.ScreenToGround(pixel);
+      const RealScreenPoint back = view.GroundToRealScreen(ground);
+      EXPECT_NEAR(back.x, pixel.x, 1e-6) << angle;
+      EXPECT_NEAR(back.y, pixel.y, 1e-6) << angle;
+    }
+  }
+}
+
+TEST(ViewState, ZoomInStopsAtTheCapAndSaysSo) {
+  CViewState view = ViewAtScale(240, 180, 80000.0);
+  EXPECT_TRUE(view.ZoomIn(1.5));
+  EXPECT_EQ(view.Scale(), 100000.0);
+  EXPECT_EQ(view.VScale(), 100000.0);
+  CViewState exact = ViewAtScale(240, 180, 50000.0);
+  EXPECT_FALSE(exact.ZoomIn(2.0));  // the cap itself is allowed
+  EXPECT_EQ(exact.Scale(), 100000.0);
+}
+
+TEST(ViewState, ZoomOutHasNoLimit) {
+  CViewState view = ViewOf(240, 180);
+  for (int i = 0; i < 200; ++i) view.ZoomOut(1.5);
+  EXPECT_GT(view.Scale(), 0.0);
+  EXPECT_LT(view.Scale(), 1e-30);
+  EXPECT_EQ(view.VScale(), view.Scale());
+}
+
+TEST(ViewState, VerticalScaleFollowsTheRatio) {
+  CViewState view = ViewAtScale(240, 180, 2.0);
+  view.SetRatio(3.0);
+  EXPECT_DOUBLE_EQ(view.VScale(), 6.0);
+  EXPECT_FALSE(view.ZoomIn(1.5));
+  EXPECT_DOUBLE_EQ(view.VScale(), 9.0);
+  view.ZoomOut(3.0);
+  EXPECT_DOUBLE_EQ(view.VScale(), 3.0);
+  EXPECT_EQ(view.LengthToPixelsAxis(true, 10.0), 30);
+  EXPECT_EQ(view.LengthToPixelsAxis(false, 10.0), 10);
+  EXPECT_DOUBLE_EQ(view.PixelsToLengthAxis(true, 30), 10.0);
+  EXPECT_DOUBLE_EQ(view.PixelsToLengthAxis(false, 30), 30.0);
+  EXPECT_EQ(view.LengthToPixels(2.9), 2);
+  EXPECT_EQ(view.LengthToPixels(-2.9), -2);
+}
+
+TEST(ViewState, FirstFitScaleIsItsOwnPreviousScale) {
+  CViewState view = ViewOf(240, 180);
+  EXPECT_FALSE(view.SetFitScale(200, 100.0, 0.5));
+  EXPECT_DOUBLE_EQ(view.Scale(), 1.0);
+  EXPECT_DOUBLE_EQ(view.HomeScale(), 1.0);
+  EXPECT_FALSE(view.NoViewYet());
+  view.ToggleHome();  // at home: goes to the previous view, which is the same
+  EXPECT_DOUBLE_EQ(view.Scale(), 1.0);
+  EXPECT_FALSE(view.SetFitScale(200, 100.0, 2.0));
+  EXPECT_DOUBLE_EQ(view.HomeScale(), 4.0);
+  view.ToggleHome();
+  EXPECT_DOUBLE_EQ(view.Scale(), 1.0);
+  EXPECT_TRUE(view.SetFitScale(200, 0.001, 1.0));
+  EXPECT_EQ(view.HomeScale(), 100000.0);
+}
+
+TEST(ViewState, TogglingHomeTwiceReturnsToTheStart) {
+  CViewState view = ViewOf(240, 180);
+  EXPECT_FALSE(view.FitToArea({100, 50}, {500, 600}));
+  EXPECT_FALSE(view.ZoomIn(1.5));
+  view.SetCentre({510, 610});
+  view.ToggleHome();
+  EXPECT_DOUBLE_EQ(view.Scale(), 2.2);
+  EXPECT_DOUBLE_EQ(view.Centre().x, 500);
+  view.ToggleHome();
+  EXPECT_DOUBLE_EQ(view.Scale(), 2.2 * 1.5);
+  EXPECT_DOUBLE_EQ(view.Centre().x, 510);
+  EXPECT_DOUBLE_EQ(view.Centre().y, 610);
+}
+
+TEST(ViewState, NearlyHomeCountsAsHomeStrictlyBelowTheTolerance) {
+  CViewState view = ViewOf(240, 180);
+  EXPECT_FALSE(view.FitToArea({100, 50}, {0, 0}));
+  view.SetCentre({0.00001, 0});  // exactly the tolerance: not home
+  view.ToggleHome();
+  EXPECT_EQ(view.Centre().x, 0.0);
+  view.SetCentre({0.000009, 0});  // below it: home, so the toggle goes back
+  view.ToggleHome();
+  EXPECT_EQ(view.Centre().x, 0.0);
+}
+
+TEST(ViewState, CircleTouchesTheClientAreaBordersIncluded) {
+  const CViewState view = ViewOf(240, 180);
+  ScreenPoint at{-7, -7};
+  const struct {
+    GroundPoint centre;
+    double radius;
+    bool visible;
+  } rows[] = {{{0, 0}, 0, true},      {{90, -120}, 0, true},  {{-90, 120}, 0, true},
+              {{-91, 120}, 0, false}, {{-90, 121}, 0, false}, {{0, -125}, 5, true},
+              {{0, -126}, 5, false},  {{0, 125}, 5, true},    {{0, 126}, 5, false},
+              {{95, 0}, 5, true},     {{96, 0}, 5, false},    {{-95, 0}, 5, true},
+              {{-96, 0}, 5, false}};
+  for (const auto& row : rows) {
+    at = {-7, -7};
+    EXPECT_EQ(view.CircleOnScreen(row.centre, row.radius, at), row.visible)
+        << row.centre.x << ' ' << row.centre.y;
+    EXPECT_EQ(at == (ScreenPoint{-7, -7}), !row.visible);
+  }
+}
+
+TEST(ViewState, ClippingInPlaceMovesTheGroundEndsToTheClippedPixels) {
+  const CViewState view = ViewOf(240, 180);
+  GroundPoint start{0, 0};
+  GroundPoint end{0, 1000};
+  ScreenSegment clipped;
+  ASSERT_TRUE(view.ClipGroundSegmentInPlace(start, end, clipped));
+  EXPECT_EQ(clipped.start, (ScreenPoint{120, 90}));
+  EXPECT_EQ(clipped.end, (ScreenPoint{240, 90}));
+  EXPECT_DOUBLE_EQ(start.y, 0.0);
+  EXPECT_DOUBLE_EQ(end.y, 120.0);
+  GroundPoint left{0, -500};
+  GroundPoint further{0, -400};
+  EXPECT_FALSE(view.ClipGroundSegmentInPlace(left, further, clipped));
+  EXPECT_EQ(left.y, -500);
+}
+
+}  // namespace
+}  // namespace tavix
