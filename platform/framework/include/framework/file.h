@@ -1,17 +1,17 @@
 // CFile: a file of bytes.
 //
-// A path that begins with exactly one backslash lies, on the device, in its root folder; here it lies
-// in the folder that stands for it, see AfxMapDevicePath. All calls that take a path map it.
+// A path that begins with exactly one backslash lies, on the device, in its root folder; here it
+// lies in the folder that stands for it, see AfxMapDevicePath. All calls that take a path map it.
 #pragma once
 
 #include "framework/exception.h"
 #include "framework/object.h"
 #include "framework/string.h"
 
-// The path as the system knows it: of a path that begins with exactly one backslash, the file in the
-// folder that the environment variable CE_DEVICE_ROOT names at this moment, or, when it is unset or
-// empty, in the folder Tavix\DeviceRoot of the user's local application data, made when missing. Any
-// other path comes back unchanged.
+// The path as the system knows it: of a path that begins with exactly one backslash, the file in
+// the folder that the environment variable CE_DEVICE_ROOT names at this moment, or, when it is
+// unset or empty, in the folder Tavix\DeviceRoot of the user's local application data, made when
+// missing. Any other path comes back unchanged.
 AFX_FRAMEWORK CString AfxMapDevicePath(LPCWSTR path);
 
 // Calls that fail throw a CFileException*, but for Open, which returns FALSE.

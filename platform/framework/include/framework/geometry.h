@@ -52,8 +52,8 @@ class CPoint : public tagPOINT {
   }
 };
 
-// Right and bottom lie outside. Normalised means left <= right and top <= bottom; Width and Height may
-// be negative otherwise.
+// Right and bottom lie outside. Normalised means left <= right and top <= bottom; Width and Height
+// may be negative otherwise.
 class CRect : public tagRECT {
  public:
   CRect() : tagRECT{0, 0, 0, 0} {}

@@ -38,15 +38,15 @@ class AFX_FRAMEWORK CObject {
 #define RUNTIME_CLASS(class_name) (class_name::GetThisClass())
 
 // In the class declaration, and in one source file.
-#define DECLARE_DYNAMIC(class_name)                       \
- public:                                                  \
-  static const CRuntimeClass* GetThisClass();             \
+#define DECLARE_DYNAMIC(class_name)           \
+ public:                                      \
+  static const CRuntimeClass* GetThisClass(); \
   const CRuntimeClass* GetRuntimeClass() const override;
 
-#define IMPLEMENT_DYNAMIC(class_name, base_name)                                                \
-  const CRuntimeClass* class_name::GetThisClass() {                                             \
-    static const CRuntimeClass description{#class_name, static_cast<int>(sizeof(class_name)),   \
-                                           base_name::GetThisClass()};                          \
-    return &description;                                                                        \
-  }                                                                                             \
+#define IMPLEMENT_DYNAMIC(class_name, base_name)                                              \
+  const CRuntimeClass* class_name::GetThisClass() {                                           \
+    static const CRuntimeClass description{#class_name, static_cast<int>(sizeof(class_name)), \
+                                           base_name::GetThisClass()};                        \
+    return &description;                                                                      \
+  }                                                                                           \
   const CRuntimeClass* class_name::GetRuntimeClass() const { return GetThisClass(); }

@@ -54,6 +54,7 @@ class AFX_FRAMEWORK CObList : public CObject {
  private:
   struct Node;
   struct Block;
+  static Node* ToNode(POSITION position);
   Node* NewNode(Node* previous, Node* next, CObject* element);
 
   Node* head_ = nullptr;

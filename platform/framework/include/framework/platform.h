@@ -1,9 +1,10 @@
 // The one place that includes <windows.h>.
 //
 // The framework is the wide-character one whatever the host defines: every string parameter is
-// LPCWSTR. <windows.h> renames calls such as DrawText to DrawTextW or DrawTextA, and so would rename
-// members of the same name. Such a member is declared under its W name and again, inline, under its A
-// name with the same wide parameters; `dc.DrawText(...)` then compiles and links in either mode.
+// LPCWSTR. <windows.h> renames calls such as DrawText to DrawTextW or DrawTextA, and so would
+// rename members of the same name. Such a member is declared under its W name and again, inline,
+// under its A name with the same wide parameters; `dc.DrawText(...)` then compiles and links in
+// either mode.
 #pragma once
 
 #if !defined(NOMINMAX)

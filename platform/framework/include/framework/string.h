@@ -1,11 +1,11 @@
 // CString: a string of UTF-16 characters.
 //
-// One pointer wide. Copies share their characters until one of them changes, and count their users in
-// a way that is safe between threads; the object itself belongs to one thread at a time. The memory is
-// allocated and freed inside framework.dll, so an object may cross DLL borders by value.
+// One pointer wide. Copies share their characters until one of them changes, and count their users
+// in a way that is safe between threads; the object itself belongs to one thread at a time. The
+// memory is allocated and freed inside framework.dll, so an object may cross DLL borders by value.
 //
-// Differs from the published class: it is always wide; there is no memory manager to choose; an index
-// out of range is not asserted, Mid, Left and Right clamp as published.
+// Differs from the published class: it is always wide; there is no memory manager to choose; an
+// index out of range is not asserted, Mid, Left and Right clamp as published.
 #pragma once
 
 #include <cstdarg>
@@ -124,9 +124,9 @@ AFX_FRAMEWORK CString operator+(LPCWSTR a, const CString& b);
 AFX_FRAMEWORK CString operator+(const CString& a, WCHAR b);
 AFX_FRAMEWORK CString operator+(WCHAR a, const CString& b);
 
-#define AFX_STRING_COMPARISON(op)                                                                  \
-  inline bool operator op(const CString& a, const CString& b) { return a.Compare(b) op 0; }        \
-  inline bool operator op(const CString& a, LPCWSTR b) { return a.Compare(b) op 0; }               \
+#define AFX_STRING_COMPARISON(op)                                                           \
+  inline bool operator op(const CString& a, const CString& b) { return a.Compare(b) op 0; } \
+  inline bool operator op(const CString& a, LPCWSTR b) { return a.Compare(b) op 0; }        \
   inline bool operator op(LPCWSTR a, const CString& b) { return 0 op b.Compare(a); }
 AFX_STRING_COMPARISON(==)
 AFX_STRING_COMPARISON(!=)

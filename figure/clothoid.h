@@ -1,0 +1,24 @@
+// Clothoids (transition curves) as polylines.
+#pragma once
+
+#include "figure/arc.h"
+#include "view/coordinates.h"
+
+namespace tavix {
+
+// A clothoid's local coordinates in metres at tangent angle `tau` (radians, 0 or more) for
+// parameter `a`: the origin is its straight end, where it runs along the local x axis. Good to a
+// millimetre below about one radian.
+[[nodiscard]] GroundPoint ClothoidPoint(double tau, double a);
+
+// The clothoid of parameter `a` from `start` with radius `r1` to `end` with radius `r2`, with a
+// point every degree of its tangent; a radius of 0 is a straight end, a negative one turns the
+// other way. A clothoid that ends straight is built from `end` to `start`. The ends are trusted:
+// `end` is given as it is, even where the parameters do not quite reach it.
+//
+// Between two radii the second must be the smaller; otherwise only the two ends come out. Meant so.
+// Empty when the curve would wind more than a few hundred times.
+[[nodiscard]] Polyline BuildClothoid(GroundPoint start, GroundPoint end, double r1, double a,
+                                     double r2);
+
+}  // namespace tavix
