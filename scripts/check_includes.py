@@ -1,0 +1,146 @@
+#!/usr/bin/env python3
+"""Checks who may know whom: the includes of every C++ file against the table below.
+
+    scripts/check_includes.py           the project
+    scripts/check_includes.py FOLDER    another tree laid out the same way
+
+Reports an include that the table does not allow, an include in quotes that does not start from
+the project's root, and circles of includes. Exits with 1 when it found any.
+"""
+
+import re
+import sys
+from fnmatch import fnmatch
+from pathlib import Path
+
+# Layers from the bottom up; a file belongs to the first whose pattern it matches.
+# `numbers` are the files that know only numbers and bytes; everyone may know them.
+LAYERS = {
+    "numbers": (
+        "view/*",
+        "figure/arc.*",
+        "figure/clothoid.*",
+        "figure/direction.*",
+        "figure/figure_codec.*",
+        "draw/line_style_walker.*",
+        "store/legend_codec.*",
+        "store/legend_table.*",
+    ),
+    "public": ("include/*", "platform/*/include/*"),
+    "platform": ("platform/*",),
+    "store": ("store/*",),
+    "figure": ("figure/*",),
+    "draw": ("draw/*",),
+    "window": ("window/*",),
+    "frame": ("frame/*",),
+    "host": ("host/*",),
+    "tests": ("tests/*", "bench/*", "fuzz/*"),
+}
+
+_LIBRARY = {"numbers", "public", "platform"}
+MAY_KNOW = {
+    "numbers": {"numbers"},
+    "public": {"public"},
+    "platform": {"platform", "public"},
+    "store": {"store"} | _LIBRARY,
+    "figure": {"figure"} | _LIBRARY,
+    "draw": {"draw", "store", "figure"} | _LIBRARY,
+    "window": {"window", "draw", "store", "figure"} | _LIBRARY,
+    "frame": {"frame", "window", "draw", "store", "figure"} | _LIBRARY,
+    "host": {"host", "public"},
+    "tests": set(LAYERS),
+}
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
+SUFFIXES = {".h", ".hpp", ".c", ".cpp"}
+# Folders that hold no sources of the project.
+SKIPPED = {"build", "out", ".git"}
+
+
+def layer_of(path):
+    for layer, patterns in LAYERS.items():
+        if any(fnmatch(path, pattern) for pattern in patterns):
+            return layer
+    return None
+
+
+def sources(root):
+    """The C++ files below `root`, as paths from it."""
+    found = []
+    for path in root.rglob("*"):
+        inside = path.relative_to(root)
+        if path.suffix in SUFFIXES and inside.parts[0] not in SKIPPED:
+            found.append(inside.as_posix())
+    return sorted(found)
+
+
+def include_roots(root):
+    """The folders an include may start from: the project and those of the public headers."""
+    public = [root / "include", *sorted(root.glob("platform/*/include"))]
+    return ["", *(path.relative_to(root).as_posix() + "/" for path in public if path.is_dir())]
+
+
+def includes(root):
+    """(file, line number, quote, name, included project file or None) of every include."""
+    known = set(sources(root))
+    roots = include_roots(root)
+    for path in sorted(known):
+        text = (root / path).read_text(encoding="utf-8", errors="replace")
+        for number, line in enumerate(text.splitlines(), 1):
+            match = INCLUDE.match(line)
+            if match:
+                name = match[2]
+                target = next((start + name for start in roots if start + name in known), None)
+                yield path, number, match[1], name, target
+
+
+def circle(graph):
+    """The files of one circle of includes, the first repeated at the end; empty without one."""
+    finished = set()
+
+    def walk(path, trail):
+        if path in trail:
+            return [*trail[trail.index(path) :], path]
+        if path in finished:
+            return []
+        for target in graph.get(path, ()):
+            found = walk(target, [*trail, path])
+            if found:
+                return found
+        finished.add(path)
+        return []
+
+    return next(filter(None, (walk(path, []) for path in sorted(graph))), [])
+
+
+def problems(root):
+    """One line for each finding, in the order of the files."""
+    found = []
+    graph = {}
+    for path, number, quote, name, target in includes(root):
+        here = f"{path}:{number}"
+        if target is None:
+            if quote == '"':
+                found.append(f'{here}: "{name}" does not start from the project\'s root')
+            continue
+        graph.setdefault(path, []).append(target)
+        layer, other = layer_of(path), layer_of(target)
+        if layer is None or other is None:
+            found.append(f"{here}: no rule for {path if layer is None else target}")
+        elif other not in MAY_KNOW[layer]:
+            found.append(f"{here}: {layer} may not know {other}: {target}")
+    ring = circle(graph)
+    if ring:
+        found.append("circle of includes: " + " -> ".join(ring))
+    return found
+
+
+def main():
+    root = Path(sys.argv[1]) if len(sys.argv) > 1 else Path(__file__).resolve().parent.parent
+    found = problems(root)
+    print("\n".join(found) if found else f"{len(sources(root))} files keep to the include rules.")
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

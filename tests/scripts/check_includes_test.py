@@ -1,0 +1,101 @@
+"""The include rules, on small trees that keep or break them."""
+
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "scripts"))
+
+import check_includes
+
+
+class IncludeRules(unittest.TestCase):
+    def problems(self, files):
+        """The findings in a tree of {path: text}."""
+        with tempfile.TemporaryDirectory() as folder:
+            root = Path(folder)
+            for name, text in files.items():
+                path = root / name
+                path.parent.mkdir(parents=True, exist_ok=True)
+                path.write_text(text, encoding="utf-8")
+            return check_includes.problems(root)
+
+    def test_what_each_folder_may_know(self):
+        allowed = (
+            ("store/point_list.h", '#include "view/coordinates.h"'),
+            ("store/hanrei.cpp", "#include <afxwin.h>"),
+            ("draw/plan_view.h", '#include "store/point_list.h"'),
+            ("window/plot_window.h", '#include "draw/plan_view.h"'),
+            ("frame/slot_table.h", '#include "window/plot_window.h"'),
+            ("host/main.cpp", "#include <tavix/tavix.h>"),
+            ("platform/framework/base/wnd.cpp", '#include "platform/objectstore/store.h"'),
+            ("view/clip.cpp", "#include <vector>"),
+            ("tests/frame/slot_test.cpp", '#include "frame/slot_table.h"'),
+        )
+        refused = (
+            ("view/clip.h", '#include "store/point_list.h"', "numbers may not know store"),
+            ("view/clip.h", "#include <afxwin.h>", "numbers may not know public"),
+            ("store/hanrei.h", '#include "draw/plan_view.h"', "store may not know draw"),
+            ("store/legend_codec.cpp", '#include "store/point_list.h"', "numbers may not know"),
+            ("draw/plan_view.cpp", '#include "window/plot_window.h"', "draw may not know window"),
+            ("window/plot_window.cpp", '#include "frame/slot_table.h"', "may not know frame"),
+            ("host/main.cpp", '#include "view/coordinates.h"', "host may not know numbers"),
+            ("host/main.cpp", "#include <view/coordinates.h>", "host may not know numbers"),
+            ("platform/tdialog/a.cpp", '#include "view/coordinates.h"', "platform may not know"),
+            ("frame/a.cpp", '#include "tests/frame/support.h"', "frame may not know tests"),
+            ("window/a.cpp", '#include "plot_window.h"', "does not start from the project's root"),
+            ("sundry/a.cpp", '#include "view/coordinates.h"', "no rule for sundry/a.cpp"),
+        )
+        tree = dict.fromkeys(
+            (
+                "include/tavix/tavix.h",
+                "platform/framework/include/afxwin.h",
+                "platform/objectstore/store.h",
+                "view/coordinates.h",
+                "store/point_list.h",
+                "draw/plan_view.h",
+                "window/plot_window.h",
+                "frame/slot_table.h",
+                "tests/frame/support.h",
+            ),
+            "",
+        )
+        for path, line in allowed:
+            with self.subTest(path=path, line=line):
+                self.assertEqual([], self.problems({**tree, path: line + "\n"}))
+        for path, line, said in refused:
+            with self.subTest(path=path, line=line):
+                found = self.problems({**tree, path: f"\n{line}\n"})
+                self.assertEqual(1, len(found), found)
+                self.assertIn(f"{path}:2: ", found[0])
+                self.assertIn(said, found[0])
+
+    def test_a_circle_is_reported_with_its_files(self):
+        files = {
+            "store/a.h": '#include "store/b.h"\n',
+            "store/b.h": '#include "store/c.h"\n',
+            "store/c.h": '#include "store/a.h"\n',
+            "store/d.h": '#include "store/a.h"\n',
+        }
+        self.assertEqual(
+            ["circle of includes: store/a.h -> store/b.h -> store/c.h -> store/a.h"],
+            self.problems(files),
+        )
+
+    def test_two_ways_to_one_header_are_no_circle(self):
+        files = {
+            "store/a.h": '#include "store/b.h"\n#include "store/c.h"\n',
+            "store/b.h": '#include "store/d.h"\n',
+            "store/c.h": '#include "store/d.h"\n',
+            "store/d.h": "",
+        }
+        self.assertEqual([], self.problems(files))
+
+    def test_generated_files_in_the_build_folder_do_not_count(self):
+        files = {"build/win64/x.cpp": '#include "frame/slot_table.h"\n', "view/clip.h": ""}
+        self.assertEqual([], self.problems(files))
+
+
+if __name__ == "__main__":
+    unittest.main()
