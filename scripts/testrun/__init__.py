@@ -1,0 +1,1 @@
+"""The parts of ./test: numbered steps, their tally, test reports, a display, a package's host."""

@@ -1,0 +1,72 @@
+"""A host outside the project, built against the installed package the two usual ways."""
+
+import os
+import shutil
+
+from testrun.steps import call
+from testrun.tally import Tally
+
+COMPILERS = {"win64": "x86_64-w64-mingw32-g++-posix", "win32": "i686-w64-mingw32-g++-posix"}
+TOOLCHAINS = {"win64": "mingw-w64-x86_64.cmake", "win32": "mingw-w64-i686.cmake"}
+
+
+class Package:
+    """The package of one preset, installed below the build folder."""
+
+    def __init__(self, root, preset):
+        self._root = root
+        self._preset = preset
+        self._prefix = root / "build/package" / preset
+        self._work = root / "build/package-host" / preset
+
+    def install(self):
+        """A fresh layout each time: a file that is no longer installed must not help a host."""
+        shutil.rmtree(self._prefix, ignore_errors=True)
+        shutil.rmtree(self._work, ignore_errors=True)
+        self._work.mkdir(parents=True)
+        build = self._root / "build" / self._preset
+        return call(["cmake", "--install", build, "--prefix", self._prefix])
+
+    def build_with_cmake(self):
+        """find_package(Tavix CONFIG) and Tavix::tavix."""
+        toolchain = self._root / "cmake" / TOOLCHAINS[self._preset]
+        well, output = call(
+            ["cmake", "-G", "Ninja", "-S", self._root / "tests/package", "-B", self._work]
+            + [f"-DCMAKE_TOOLCHAIN_FILE={toolchain}", f"-DCMAKE_PREFIX_PATH={self._prefix}"]
+        )
+        return call(["cmake", "--build", self._work]) if well else (well, output)
+
+    def build_by_hand(self):
+        """The compiler alone, without the UNICODE macros the CMake target brings along."""
+        return call(
+            [COMPILERS[self._preset], "-Wall", "-Wextra", "-Werror", "-static"]
+            + [f"-I{self._prefix}/include", self._root / "tests/package/package_host.cpp"]
+            + [f"-L{self._prefix}/lib", "-ltavix", "-lframework", "-o", self._work / "by_hand.exe"]
+        )
+
+    def run(self, program):
+        windows_path = "Z:" + str(self._prefix / "bin").replace("/", "\\")
+        environment = {**os.environ, "WINEPATH": windows_path}
+        return call([self._root / "scripts/wine_run.sh", self._work / program], env=environment)
+
+
+def check_hosts(root, preset, runs):
+    """Installs the package of `preset` and counts each way to use it as one check."""
+    package = Package(root, preset)
+    well, output = package.install()
+    if not well:
+        return Tally(failures=[(f"{preset} package: installing", output)])
+    tally = Tally()
+    ways = (
+        ("find_package", package.build_with_cmake, "package_host.exe"),
+        ("compiler alone", package.build_by_hand, "by_hand.exe"),
+    )
+    for name, build, program in ways:
+        well, output = build()
+        if well and runs:
+            well, output = package.run(program)
+        if well:
+            tally.passed += 1
+        else:
+            tally.failures.append((f"{preset} package: {name}", output))
+    return tally
