@@ -22,12 +22,20 @@ tavix_wine_prefix() {
     [ -e "$WINEPREFIX/.ready" ] && exit 0
     echo "Setting up a Wine prefix in $WINEPREFIX (some ten seconds) ..." >&2
     tavix_display
-    "$TAVIX_WINE" wineboot -u >/dev/null 2>&1
-    "$TAVIX_WINE" regedit /S "$(tavix_windows_path "$root/scripts/fonts.reg")" >/dev/null 2>&1
+    trap '[ -z "${TAVIX_XVFB:-}" ] || kill "$TAVIX_XVFB"' EXIT
+    # Wine's server outlives the programs it serves: it must not inherit the lock.
+    tavix_prefix_step wineboot -u 9>&-
+    tavix_prefix_step regedit /S "$(tavix_windows_path "$root/scripts/fonts.reg")" 9>&-
     wineserver_wait
     touch "$WINEPREFIX/.ready"
-    [ -z "${TAVIX_XVFB:-}" ] || kill "$TAVIX_XVFB"
   ) 9>"$WINEPREFIX.lock"
+}
+
+tavix_prefix_step() {
+  "$TAVIX_WINE" "$@" >/dev/null 2>&1 || {
+    echo "Setting up the Wine prefix failed at: $*" >&2
+    return 1
+  }
 }
 
 wineserver_wait() {
@@ -53,6 +61,11 @@ tavix_display() {
     [ -s "$number_file" ] && break
     sleep 0.05
   done
+  if [ ! -s "$number_file" ]; then
+    rm -f "$number_file"
+    echo "Xvfb did not start." >&2
+    return 1
+  fi
   DISPLAY=":$(tr -d '\n' <"$number_file")"
   export DISPLAY
   rm -f "$number_file"
