@@ -28,8 +28,8 @@ TIMEOUT = "600"  # seconds a test program may take; a hung one must not hang the
 def plan_build(steps, preset):
     steps.build(
         f"building {preset}",
-        ["cmake", "--preset", preset],
-        ["cmake", "--build", "--preset", preset, "--parallel", JOBS],
+        ["cmake", "--preset", preset, "--log-level=WARNING"],
+        ["cmake", "--build", "--preset", preset, "--parallel", JOBS, "--", "--quiet"],
     )
 
 
