@@ -58,6 +58,7 @@ def plan():
     plan_build(steps, "native")
     steps.count("testing native", lambda: run_programs("native", JOBS))
     plan_build(steps, "win64")
+    steps.build("starting Wine", [ROOT / "scripts/wine_run.sh", "cmd", "/c", "exit"])
     # One at a time: they share a display, and with it the focus and the pointer.
     steps.count("testing win64", lambda: run_programs("win64", "1"))
     plan_build(steps, "win32")

@@ -2,6 +2,7 @@
 
 import os
 import shutil
+from pathlib import Path
 
 from testrun.steps import call
 from testrun.tally import Tally
@@ -39,15 +40,22 @@ class Package:
     def build_by_hand(self):
         """The compiler alone, without the UNICODE macros the CMake target brings along."""
         return call(
-            [COMPILERS[self._preset], "-Wall", "-Wextra", "-Werror", "-static"]
-            + [f"-I{self._prefix}/include", self._root / "tests/package/package_host.cpp"]
-            + [f"-L{self._prefix}/lib", "-ltavix", "-lframework", "-o", self._work / "by_hand.exe"]
+            [COMPILERS[self._preset], "-Wall", "-Wextra", "-Werror", f"-I{self._prefix}/include"]
+            + [self._root / "tests/package/package_host.cpp", f"-L{self._prefix}/lib"]
+            + ["-ltavix", "-lframework", "-o", self._work / "by_hand.exe"]
         )
 
     def run(self, program):
-        windows_path = "Z:" + str(self._prefix / "bin").replace("/", "\\")
+        """Runs a host with the package's DLLs and the compiler's own on its search path."""
+        folders = [self._prefix / "bin", *self._runtime_folders()]
+        windows_path = ";".join("Z:" + str(folder).replace("/", "\\") for folder in folders)
         environment = {**os.environ, "WINEPATH": windows_path}
         return call([self._root / "scripts/wine_run.sh", self._work / program], env=environment)
+
+    def _runtime_folders(self):
+        names = ("libstdc++-6.dll", "libwinpthread-1.dll")
+        ask = [[COMPILERS[self._preset], f"-print-file-name={name}"] for name in names]
+        return [Path(call(command)[1].strip()).parent for command in ask]
 
 
 def check_hosts(root, preset, runs):
