@@ -24,6 +24,11 @@ class ExtentBuilder {
     Widen(point.y, extent_.max.y, extent_.min.y);
   }
 
+  void Include(const GroundExtent& extent) {
+    Include(extent.max);
+    Include(extent.min);
+  }
+
   [[nodiscard]] bool IsEmpty() const { return !any_; }
   [[nodiscard]] const GroundExtent& Extent() const { return extent_; }
 

@@ -7,7 +7,14 @@ namespace {
 
 constexpr DWORD kButtonStyle = WS_CHILD | BS_OWNERDRAW;
 
-UINT FirstId(int k) { return IDB_BUTTON + 4 * static_cast<UINT>(k); }
+UINT FirstId(int k) { return IDC_SCROLL_UP + 4 * static_cast<UINT>(k); }
+
+int IndexOf(UINT id) { return static_cast<int>((id - IDC_SCROLL_UP) / 4); }
+
+// Whether the button would be on the screen if its parents were.
+bool HasVisibleStyle(const CWnd& button) {
+  return button.m_hWnd && (button.GetStyle() & WS_VISIBLE) != 0;
+}
 
 }  // namespace
 
@@ -37,10 +44,72 @@ void ButtonColumn::Destroy() {
 }
 
 void ButtonColumn::Show(bool show) {
+  shown_ = show;
+  Arrange();
+}
+
+bool ButtonColumn::ScrollUp() {
+  if (!layout_.ScrollUp()) return false;
+  Arrange();
+  return true;
+}
+
+bool ButtonColumn::ScrollDown() {
+  if (!layout_.ScrollDown()) return false;
+  Arrange();
+  return true;
+}
+
+void ButtonColumn::Arrange() {
   for (int k = 0; k < ButtonColumnLayout::kButtons; ++k) {
-    if (!Button(k).m_hWnd) continue;
-    Button(k).ShowWindow(show && layout_.IsVisible(k) ? SW_SHOW : SW_HIDE);
+    CBitmapButton& button = Button(k);
+    if (!button.m_hWnd) continue;
+    CRect place;
+    button.GetWindowRect(&place);
+    button.GetParent()->ScreenToClient(&place);
+    button.SetWindowPos(nullptr, place.left, layout_.Top(k), 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    button.ShowWindow(shown_ && layout_.IsVisible(k) ? SW_SHOW : SW_HIDE);
   }
+}
+
+void ButtonColumn::SetPressed(UINT id, bool pressed) {
+  CBitmapButton& button = Button(IndexOf(id));
+  if (!button.m_hWnd) return;
+  if (!pressed) {
+    button.LoadBitmaps(id, id + 1, id + 2, id + 3);
+  } else if (id == IDC_BAND_ZOOM) {
+    button.LoadBitmaps(id + 1, id, IDB_BAND_ZOOM_ON_FOCUSED, IDB_BAND_ZOOM_ON_DISABLED);
+  } else {
+    button.LoadBitmaps(id + 1, id, IDB_PAN_ON_FOCUSED, IDB_PAN_ON_DISABLED);
+  }
+  button.Invalidate();
+}
+
+void ButtonColumn::DisableAllBut(UINT id) {
+  for (int k = 0; k < ButtonColumnLayout::kButtons; ++k) {
+    if (k != IndexOf(id) && HasVisibleStyle(Button(k))) Button(k).EnableWindow(FALSE);
+  }
+}
+
+void ButtonColumn::EnableAll() {
+  for (CBitmapButton& button : buttons_) {
+    if (button.m_hWnd) button.EnableWindow(TRUE);
+  }
+}
+
+bool ButtonColumn::IsShown(int k) const {
+  return Button(k).m_hWnd && Button(k).IsWindowVisible();
+}
+
+bool ButtonColumn::Covers(CPoint at) const {
+  for (const CBitmapButton& button : buttons_) {
+    if (!HasVisibleStyle(button)) continue;
+    CRect place;
+    button.GetWindowRect(&place);
+    button.GetParent()->ScreenToClient(&place);
+    if (place.PtInRect(at)) return true;
+  }
+  return false;
 }
 
 }  // namespace tavix

@@ -5,6 +5,7 @@
 #include <afxwin.h>
 
 #include <array>
+#include <cstddef>
 
 #include "window/button_column_layout.h"
 
@@ -12,8 +13,8 @@ namespace tavix {
 
 class ButtonColumn {
  public:
-  // Makes the eleven buttons, hidden, at the right edge of `parent`'s client area. False when one
-  // of them or a bitmap of it could not be made.
+  // Makes the eleven buttons, hidden, at the right edge of `parent`'s client area. False when one of
+  // them or a bitmap of it could not be made.
   bool Create(CWnd& parent);
 
   // Destroys the buttons' windows.
@@ -22,11 +23,31 @@ class ButtonColumn {
   // Shows the buttons that the layout shows, or hides all.
   void Show(bool show);
 
+  // Scrolls by one button; false at the end of the column, where nothing changes.
+  bool ScrollUp();
+  bool ScrollDown();
+
+  // Gives a toggle button (IDC_BAND_ZOOM or IDC_PAN) its pressed or its normal faces.
+  void SetPressed(UINT id, bool pressed);
+
+  // Disables every button that shows but the one, or enables them all again.
+  void DisableAllBut(UINT id);
+  void EnableAll();
+
+  // Whether button k is on the screen, and whether a button that is covers this client position.
+  [[nodiscard]] bool IsShown(int k) const;
+  [[nodiscard]] bool Covers(CPoint at) const;
+
  private:
   [[nodiscard]] CBitmapButton& Button(int k) { return buttons_[static_cast<std::size_t>(k)]; }
+  [[nodiscard]] const CBitmapButton& Button(int k) const {
+    return buttons_[static_cast<std::size_t>(k)];
+  }
+  void Arrange();
 
   std::array<CBitmapButton, ButtonColumnLayout::kButtons> buttons_;
   ButtonColumnLayout layout_{0};
+  bool shown_ = false;
 };
 
 }  // namespace tavix

@@ -1,0 +1,53 @@
+// Taps and drags, told apart.
+#pragma once
+
+#include <cstdint>
+#include <cstdlib>
+#include <optional>
+
+#include "view/coordinates.h"
+
+namespace tavix {
+
+// One way of the stylus from where it touched the window to where it left, in client pixels.
+struct StylusGesture {
+  ScreenPoint down;
+  ScreenPoint up;
+
+  // A tap moves less than ten pixels in both directions; anything else is a drag.
+  [[nodiscard]] bool IsTap() const {
+    constexpr std::int64_t kTapBox = 10;
+    return std::abs(std::int64_t{up.x} - down.x) < kTapBox &&
+           std::abs(std::int64_t{up.y} - down.y) < kTapBox;
+  }
+};
+
+// Follows the stylus between its going down and up. An up without a down is not one of ours.
+class Stylus {
+ public:
+  void Down(ScreenPoint at) {
+    down_ = at;
+    is_down_ = true;
+  }
+
+  // The gesture that ends at `at`, if one began.
+  std::optional<StylusGesture> Up(ScreenPoint at) {
+    if (!is_down_) return std::nullopt;
+    is_down_ = false;
+    last_up_ = at;
+    return StylusGesture{down_, at};
+  }
+
+  // Forgets a gesture whose end will not be seen.
+  void Cancel() { is_down_ = false; }
+
+  [[nodiscard]] bool IsDown() const { return is_down_; }
+  [[nodiscard]] ScreenPoint LastUp() const { return last_up_; }
+
+ private:
+  ScreenPoint down_;
+  ScreenPoint last_up_;
+  bool is_down_ = false;
+};
+
+}  // namespace tavix
