@@ -9,7 +9,9 @@ namespace tavix {
 class XorDrawing {
  public:
   XorDrawing(CDC& dc, int style, int width, COLORREF color)
-      : dc_(dc), pen_(style, width, color), old_pen_(dc.SelectObject(&pen_)),
+      : dc_(dc),
+        pen_(style, width, color),
+        old_pen_(dc.SelectObject(&pen_)),
         old_operation_(dc.SetROP2(R2_XORPEN)) {}
   ~XorDrawing() {
     dc_.SetROP2(old_operation_);

@@ -97,9 +97,7 @@ void ButtonColumn::EnableAll() {
   }
 }
 
-bool ButtonColumn::IsShown(int k) const {
-  return Button(k).m_hWnd && Button(k).IsWindowVisible();
-}
+bool ButtonColumn::IsShown(int k) const { return Button(k).m_hWnd && Button(k).IsWindowVisible(); }
 
 bool ButtonColumn::Covers(CPoint at) const {
   for (const CBitmapButton& button : buttons_) {

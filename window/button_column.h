@@ -13,8 +13,8 @@ namespace tavix {
 
 class ButtonColumn {
  public:
-  // Makes the eleven buttons, hidden, at the right edge of `parent`'s client area. False when one of
-  // them or a bitmap of it could not be made.
+  // Makes the eleven buttons, hidden, at the right edge of `parent`'s client area. False when one
+  // of them or a bitmap of it could not be made.
   bool Create(CWnd& parent);
 
   // Destroys the buttons' windows.

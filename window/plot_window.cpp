@@ -12,8 +12,12 @@ constexpr DWORD kStyle = WS_CHILD | WS_BORDER | WS_TABSTOP;  // hidden until the
 }  // namespace
 
 BEGIN_MESSAGE_MAP(CPlotWnd, CWnd)
+ON_WM_LBUTTONUP()
 ON_WM_ERASEBKGND()
 ON_WM_PAINT()
+ON_WM_LBUTTONDOWN()
+ON_WM_MOUSEMOVE()
+ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
 
 CPlotWnd::CPlotWnd(UINT notify_id) : notify_id_(notify_id) {}
@@ -112,6 +116,7 @@ void CPlotWnd::OnPaint() {
   if (region == NULLREGION || region == ERROR) return;
   dc.BitBlt(clip.left, clip.top, clip.Width(), clip.Height(), &buffer_.Dc(), clip.left, clip.top,
             SRCCOPY);
+  band_.Restore(dc);
 }
 
 }  // namespace tavix

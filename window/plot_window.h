@@ -8,7 +8,11 @@
 #include "store/point_list.h"
 #include "view/view_state.h"
 #include "window/back_buffer.h"
+#include "window/band_zoom.h"
 #include "window/button_column.h"
+#include "window/coordinate_capture.h"
+#include "window/rubber_band.h"
+#include "window/stylus.h"
 
 namespace tavix {
 
@@ -68,12 +72,50 @@ class CPlotWnd : public CWnd {
 
   void SetDisplay3D(bool on) { display_3d_ = on; }
 
+  [[nodiscard]] CoordinateCapture& Capture() { return capture_; }
+
+  // The client pixel of the last stylus release.
+  [[nodiscard]] ScreenPoint LastTap() const { return stylus_.LastUp(); }
+
  protected:
+  // The commands of the buttons; any other goes to the default handling.
+  BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+
+  // Takes the arrow keys.
+  BOOL PreTranslateMessage(MSG* message) override;
+
+  afx_msg void OnLButtonUp(UINT flags, CPoint point);
   afx_msg BOOL OnEraseBkgnd(CDC* dc);
   afx_msg void OnPaint();
+  afx_msg void OnLButtonDown(UINT flags, CPoint point);
+  afx_msg void OnMouseMove(UINT flags, CPoint point);
+  afx_msg void OnCaptureChanged(CWnd* taker);
   DECLARE_MESSAGE_MAP()
 
  private:
+  // ---- Stylus (plot_stylus.cpp)
+
+  // The ground under a client pixel.
+  [[nodiscard]] GroundPoint GroundUnder(ScreenPoint at) const;
+  void FinishBand(const StylusGesture& gesture);
+  void FinishPan(const StylusGesture& gesture);
+  void Pick(ScreenPoint at);
+  void CaptureCoordinate(GroundPoint tapped, const std::int32_t* key);
+  void PostCommand(UINT command, LPARAM value);
+
+  // ---- Buttons (plot_commands.cpp) and keys (plot_keys.cpp)
+
+  void RunCommand(UINT command);
+  void ScrollButtons(bool up);
+  void ToggleBandZoom();
+  void TogglePan();
+  void EndBandZoom();
+  void EndPan();
+  void ZoomByButton(bool in);
+  void ShowWhole();
+  void RotateBy(int degrees);
+  void PanByKey(WPARAM key);
+
   BOOL CreateChild(CWnd* parent, const CRect& rect, const CString& class_name);
   [[nodiscard]] PlotData Data() const;
 
@@ -81,6 +123,11 @@ class CPlotWnd : public CWnd {
   PlotLinks links_;
   BackBuffer buffer_;
   ButtonColumn buttons_;
+  Stylus stylus_;
+  RubberBand band_;
+  BandZoom band_zoom_;
+  bool pan_mode_ = false;
+  CoordinateCapture capture_;
   RatioSetting ratio_;
   bool display_3d_ = false;
 };

@@ -15,8 +15,8 @@ class RubberBand {
   // Places the outline, as a point, where the stylus went down; nothing is drawn.
   void Begin(CWnd& window, ScreenPoint at);
 
-  // Moves the outline: `corners` are the first corner's neighbour, the opposite corner and the other
-  // neighbour. An outline without size is not drawn.
+  // Moves the outline: `corners` are the first corner's neighbour, the opposite corner and the
+  // other neighbour. An outline without size is not drawn.
   void MoveTo(CWnd& window, const std::array<ScreenPoint, 3>& corners);
 
   // Takes the outline off the screen, if it is there.

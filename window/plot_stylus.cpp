@@ -1,0 +1,112 @@
+// The plot window's stylus handling: picking, band zoom and panning.
+#include <cmath>
+
+#include "window/plot_window.h"
+#include "window/refusal_beep.h"
+
+namespace tavix {
+namespace {
+
+ScreenPoint ToScreen(CPoint point) {
+  return {static_cast<int>(point.x), static_cast<int>(point.y)};
+}
+
+}  // namespace
+
+void CPlotWnd::OnLButtonDown(UINT flags, CPoint point) {
+  // A disabled button lets its taps through to the window; they are no taps on the plot.
+  if (buttons_.Covers(point)) {
+    CWnd::OnLButtonDown(flags, point);
+    return;
+  }
+  stylus_.Down(ToScreen(point));
+  if (!pan_mode_ && band_zoom_.IsOn()) band_.Begin(*this, ToScreen(point));
+  SetCapture();  // so that a drag that leaves the window still ends
+  CWnd::OnLButtonDown(flags, point);
+}
+
+void CPlotWnd::OnMouseMove(UINT flags, CPoint point) {
+  if (!pan_mode_ && band_zoom_.IsOn() && stylus_.IsDown()) {
+    const ScreenPoint first = band_.FirstCorner();
+    const ScreenPoint here = ToScreen(point);
+    band_.MoveTo(*this, {{{here.x, first.y}, here, {first.x, here.y}}});
+  }
+  CWnd::OnMouseMove(flags, point);
+}
+
+void CPlotWnd::OnLButtonUp(UINT flags, CPoint point) {
+  if (const auto gesture = stylus_.Up(ToScreen(point))) {
+    if (GetCapture() == this) ReleaseCapture();
+    band_.Erase(*this);
+    if (pan_mode_) {
+      FinishPan(*gesture);
+    } else if (band_zoom_.IsOn()) {
+      FinishBand(*gesture);
+    } else if (gesture->IsTap() && !display_3d_) {
+      Pick(gesture->up);
+    }
+  }
+  CWnd::OnLButtonUp(flags, point);
+}
+
+// Somebody else took the stylus: its going up will not be seen here.
+void CPlotWnd::OnCaptureChanged(CWnd* taker) {
+  if (stylus_.IsDown() && taker != this) {
+    stylus_.Cancel();
+    band_.Erase(*this);
+  }
+  CWnd::OnCaptureChanged(taker);
+}
+
+GroundPoint CPlotWnd::GroundUnder(ScreenPoint at) const { return links_.view->ScreenToGround(at); }
+
+void CPlotWnd::FinishBand(const StylusGesture& gesture) {
+  const auto corners = band_zoom_.Take(gesture, GroundUnder(gesture.down), GroundUnder(gesture.up));
+  if (!corners) return;
+  const auto [a, b] = *corners;
+  BeepIfCut(links_.view->ZoomToArea({std::fabs(b.y - a.y), std::fabs(b.x - a.x)},
+                                    {(a.x + b.x) * 0.5, (a.y + b.y) * 0.5}));
+  ViewChanged();
+  EndBandZoom();
+}
+
+// A tap centres the view on it; in a drag the map follows the stylus.
+void CPlotWnd::FinishPan(const StylusGesture& gesture) {
+  GroundPoint centre = GroundUnder(gesture.up);
+  if (!gesture.IsTap()) {
+    CRect client;
+    GetClientRect(&client);
+    const GroundPoint middle = GroundUnder({client.right / 2, client.bottom / 2});
+    const GroundPoint from = GroundUnder(gesture.down);
+    centre = {middle.x + from.x - centre.x, middle.y + from.y - centre.y};
+  }
+  links_.view->SetCentre(centre);
+  ViewChanged();
+}
+
+void CPlotWnd::Pick(ScreenPoint at) {
+  constexpr int kTolerance = 10;  // pixels
+  const GroundPoint tapped = GroundUnder(at);
+  std::int32_t key = 0;
+  const bool found =
+      links_.points->FindNearest(links_.view->PixelsToLength(kTolerance), tapped, &key) == 0;
+  if (capture_.IsOn()) {
+    CaptureCoordinate(tapped, found ? &key : nullptr);
+  } else if (found) {
+    PostCommand(notify_id_, key);
+  }
+}
+
+// A point that was hit gives its own coordinates, empty ground the tapped ones.
+void CPlotWnd::CaptureCoordinate(GroundPoint tapped, const std::int32_t* key) {
+  GroundPoint coordinate = tapped;
+  if (key && links_.points->Find(*key) == 0) links_.points->GetCurCrd(&coordinate);
+  capture_.Capture(coordinate);
+  PostCommand(static_cast<UINT>(capture_.Command()), 0);
+}
+
+void CPlotWnd::PostCommand(UINT command, LPARAM value) {
+  ::PostMessageW(::GetParent(m_hWnd), WM_COMMAND, command, value);
+}
+
+}  // namespace tavix
