@@ -50,6 +50,7 @@ class AFX_FRAMEWORK CDialog : public CWnd {
   // IDCANCEL, Escape and the close box: ends with IDCANCEL.
   virtual void OnCancel();
   virtual void PreInitDialog() {}
+  void PostNcDestroy() override;
 
   DECLARE_MESSAGE_MAP()
 
@@ -57,8 +58,7 @@ class AFX_FRAMEWORK CDialog : public CWnd {
   struct ModalState;
 
   using CWnd::Create;
-  BOOL CreateFromTemplate(const DLGTEMPLATE* dialogTemplate, HWND owner, HINSTANCE instance);
-  const DLGTEMPLATE* FindTemplate() const;
+  BOOL CreateFromTemplate(const DLGTEMPLATE* dialogTemplate, HWND owner);
   void RunModal(ModalState& state);
   static INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 

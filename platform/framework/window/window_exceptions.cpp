@@ -1,0 +1,5 @@
+#include "framework/window_exceptions.h"
+
+void AfxThrowResourceException() { throw new CResourceException; }
+
+void AfxThrowUserException() { throw new CUserException; }
