@@ -1,6 +1,7 @@
-// AfxMessageBox.
+// AfxMessageBox, and what the user is told of an exception.
 
 #include "framework/win_app.h"
+#include "platform/framework/window/exception_report.h"
 
 namespace {
 
@@ -44,4 +45,12 @@ int AfxMessageBox(UINT textId, UINT type, UINT helpId) {
   CString text;
   text.LoadStringW(textId);
   return AfxMessageBox(text, type, helpId == UINT(-1) ? textId : helpId);
+}
+
+void afx::ReportAndDelete(CException* exception) {
+  wchar_t sentence[512] = {};
+  if (exception->GetErrorMessage(sentence, ARRAYSIZE(sentence))) {
+    AfxMessageBox(sentence, MB_ICONSTOP);
+  }
+  exception->Delete();
 }

@@ -63,6 +63,6 @@ void CBitmapButton::DrawItem(DRAWITEMSTRUCT* item) {
   if (!source.CreateCompatibleDC(target)) return;
   const CScopedSelect bitmap(source, *shown);
   const RECT& place = item->rcItem;
-  target->BitBlt(place.left, place.top, place.right - place.left, place.bottom - place.top,
-                 &source, 0, 0, SRCCOPY);
+  target->BitBlt(place.left, place.top, place.right - place.left, place.bottom - place.top, &source,
+                 0, 0, SRCCOPY);
 }

@@ -9,8 +9,8 @@ namespace {
 
 thread_local CreationHook* innermost = nullptr;
 
-// The system makes a hidden helper window for text input with a thread's first window; it is not the
-// one that was asked for.
+// The system makes a hidden helper window for text input with a thread's first window; it is not
+// the one that was asked for.
 bool IsInputMethodWindow(HWND window) {
   wchar_t name[8] = {};
   ::GetClassNameW(window, name, ARRAYSIZE(name));

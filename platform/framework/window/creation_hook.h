@@ -19,7 +19,7 @@ class CreationHook {
  private:
   static LRESULT CALLBACK OnHook(int code, WPARAM wParam, LPARAM lParam);
 
-  CWnd* object_;            // null once it has its window
+  CWnd* object_;  // null once it has its window
   CreationHook* enclosing_;
   HHOOK hook_;
 };

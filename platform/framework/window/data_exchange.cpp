@@ -4,8 +4,8 @@
 #include <cmath>
 #include <cwchar>
 
+#include "framework/exception.h"
 #include "framework/win_app.h"
-#include "framework/window_exceptions.h"
 
 BOOL CWnd::UpdateData(BOOL saveAndValidate) {
   CDataExchange exchange(this, saveAndValidate);
@@ -143,8 +143,7 @@ void DDX_Radio(CDataExchange* exchange, int id, int& value) {
   if (exchange->m_bSaveAndValidate) value = -1;
   int index = 0;
   for (HWND item = first; item; item = ::GetWindow(item, GW_HWNDNEXT)) {
-    const bool nextGroup =
-        item != first && (::GetWindowLongW(item, GWL_STYLE) & WS_GROUP) != 0;
+    const bool nextGroup = item != first && (::GetWindowLongW(item, GWL_STYLE) & WS_GROUP) != 0;
     if (nextGroup) return;
     if (!(::SendMessageW(item, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON)) continue;
     if (exchange->m_bSaveAndValidate) {
@@ -173,8 +172,8 @@ void DDX_CBString(CDataExchange* exchange, int id, CString& value) {
   }
   const LPCWSTR text = value;
   // A list that does not hold the text shows it where it can be edited.
-  const LRESULT selected =
-      ::SendMessageW(item, CB_SELECTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
+  const LRESULT selected = ::SendMessageW(item, CB_SELECTSTRING, static_cast<WPARAM>(-1),
+                                          reinterpret_cast<LPARAM>(text));
   if (selected == CB_ERR) ::SetWindowTextW(item, text);
 }
 

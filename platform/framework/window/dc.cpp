@@ -70,8 +70,7 @@ CGdiObject* CDC::SelectObject(CGdiObject* object) {
 }
 
 CPen* CDC::SelectObject(CPen* pen) {
-  return CPen::FromHandle(
-      static_cast<HPEN>(::SelectObject(m_hDC, pen ? pen->m_hObject : nullptr)));
+  return CPen::FromHandle(static_cast<HPEN>(::SelectObject(m_hDC, pen ? pen->m_hObject : nullptr)));
 }
 
 CBrush* CDC::SelectObject(CBrush* brush) {

@@ -7,6 +7,7 @@
 #include "framework/extension_module.h"
 #include "framework/win_app.h"
 #include "platform/framework/window/creation_hook.h"
+#include "platform/framework/window/exception_report.h"
 #include "platform/framework/window/modal_loop.h"
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
@@ -132,8 +133,7 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND window, UINT message, WPARAM, LPARAM) 
     dialog->PreInitDialog();
     return dialog->OnInitDialog();
   } catch (CException* exception) {
-    exception->ReportError();
-    exception->Delete();
+    afx::ReportAndDelete(exception);
     dialog->EndDialog(-1);
     return FALSE;
   }

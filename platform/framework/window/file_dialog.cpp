@@ -63,8 +63,8 @@ CString CFileDialog::GetFolderPath() const {
   return path.Left(path.GetLength() - GetFileName().GetLength() - 1);
 }
 
-// The buffer holds one full path, or a folder and then the names in it, each ended by a zero and all
-// by a second one. A position is a place in the buffer.
+// The buffer holds one full path, or a folder and then the names in it, each ended by a zero and
+// all by a second one. A position is a place in the buffer.
 
 POSITION CFileDialog::GetStartPosition() const {
   return *m_ofn.lpstrFile ? reinterpret_cast<POSITION>(m_ofn.lpstrFile) : nullptr;

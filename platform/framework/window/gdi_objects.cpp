@@ -1,9 +1,9 @@
 #include "framework/gdi_objects.h"
 
 #include "framework/dc.h"
+#include "framework/exception.h"
 #include "framework/extension_module.h"
 #include "framework/window_dc.h"
-#include "framework/window_exceptions.h"
 #include "platform/framework/window/gdi_map.h"
 
 // ---- CPen
@@ -50,8 +50,8 @@ BOOL CFont::CreatePointFontIndirect(const LOGFONTW* font, CDC* dc) {
   CDC& device = dc ? *dc : screen;
   LOGFONTW inPixels = *font;
   // Rounded to whole pixels; below zero it is the height of the characters.
-  POINT height = {0, ::MulDiv(device.GetDeviceCaps(LOGPIXELSY), font->lfHeight,
-                              kTenthsOfPointsInAnInch)};
+  POINT height = {
+      0, ::MulDiv(device.GetDeviceCaps(LOGPIXELSY), font->lfHeight, kTenthsOfPointsInAnInch)};
   POINT origin = {0, 0};
   device.DPtoLP(&height);
   device.DPtoLP(&origin);

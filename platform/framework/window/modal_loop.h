@@ -9,7 +9,8 @@ namespace afx {
 // WM_QUIT, which is then on its way again to the loop outside.
 BOOL PumpModalMessage();
 
-// Keeps a window from taking input for as long as it lives; a window that took none before stays so.
+// Keeps a window from taking input for as long as it lives; a window that took none before stays
+// so.
 class ScopedDisable {
  public:
   explicit ScopedDisable(HWND window);

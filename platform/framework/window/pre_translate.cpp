@@ -1,7 +1,7 @@
 // The way of an input message through the windows before it is dispatched.
 
-#include "framework/win_app.h"
 #include "platform/framework/window/pre_translate.h"
+#include "framework/win_app.h"
 
 namespace afx {
 
@@ -26,7 +26,6 @@ BOOL CWinThread::PreTranslateMessage(MSG* message) {
   const HWND mainHandle = mainWindow ? mainWindow->m_hWnd : nullptr;
   if (afx::WalkPreTranslateTree(mainHandle, message)) return TRUE;
   // A window beside the main one (a modeless dialog, say) lets the main one's keys work too.
-  return mainHandle && message->hwnd &&
-         ::GetAncestor(message->hwnd, GA_ROOTOWNER) != mainHandle &&
+  return mainHandle && message->hwnd && ::GetAncestor(message->hwnd, GA_ROOTOWNER) != mainHandle &&
          mainWindow->PreTranslateMessage(message);
 }

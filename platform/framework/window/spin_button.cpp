@@ -11,8 +11,8 @@ void CSpinButtonCtrl::GetRange(int& lower, int& upper) const {
 }
 
 CWnd* CSpinButtonCtrl::SetBuddy(CWnd* buddy) {
-  return FromHandle(reinterpret_cast<HWND>(
-      SendMessageW(UDM_SETBUDDY, reinterpret_cast<WPARAM>(buddy->m_hWnd))));
+  return FromHandle(
+      reinterpret_cast<HWND>(SendMessageW(UDM_SETBUDDY, reinterpret_cast<WPARAM>(buddy->m_hWnd))));
 }
 
 CWnd* CSpinButtonCtrl::GetBuddy() const {

@@ -126,8 +126,8 @@ CFont* CWnd::GetFont() const {
 }
 
 void CWnd::SetFont(CFont* font, BOOL redraw) {
-  SendMessageW(WM_SETFONT,
-               reinterpret_cast<WPARAM>(font ? static_cast<HFONT>(*font) : nullptr), redraw);
+  SendMessageW(WM_SETFONT, reinterpret_cast<WPARAM>(font ? static_cast<HFONT>(*font) : nullptr),
+               redraw);
 }
 
 int CWnd::MessageBoxW(LPCWSTR text, LPCWSTR caption, UINT type) {
@@ -140,9 +140,7 @@ CDC* CWnd::GetWindowDC() { return CDC::FromHandle(::GetWindowDC(m_hWnd)); }
 
 int CWnd::ReleaseDC(CDC* dc) { return ::ReleaseDC(m_hWnd, dc->m_hDC); }
 
-CDC* CWnd::BeginPaint(PAINTSTRUCT* paint) {
-  return CDC::FromHandle(::BeginPaint(m_hWnd, paint));
-}
+CDC* CWnd::BeginPaint(PAINTSTRUCT* paint) { return CDC::FromHandle(::BeginPaint(m_hWnd, paint)); }
 
 BOOL CWnd::RedrawWindow(const RECT* rect, CRgn* region, UINT flags) {
   return ::RedrawWindow(m_hWnd, rect, region ? static_cast<HRGN>(*region) : nullptr, flags);

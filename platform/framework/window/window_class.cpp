@@ -4,8 +4,8 @@
 #include <set>
 #include <string>
 
+#include "framework/exception.h"
 #include "framework/extension_module.h"
-#include "framework/window_exceptions.h"
 #include "framework/wnd.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "framework/window_dc.h"
 
-#include "framework/window_exceptions.h"
+#include "framework/exception.h"
 #include "framework/wnd.h"
 
 // The context goes back to the system as it came; ~CDC then finds nothing to delete.

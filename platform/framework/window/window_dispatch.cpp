@@ -34,8 +34,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
   if (message == WM_NOTIFY) {
     return reinterpret_cast<NMHDR*>(lParam) && OnNotify(wParam, lParam, result);
   }
-  const AFX_MSGMAP_ENTRY* entry =
-      AfxFindMessageEntry(GetMessageMap(), MessageInMap(message), 0, 0);
+  const AFX_MSGMAP_ENTRY* entry = AfxFindMessageEntry(GetMessageMap(), MessageInMap(message), 0, 0);
   if (!entry) return FALSE;
   *result = entry->invoke(*this, *entry, {message, wParam, lParam, nullptr});
   return TRUE;

@@ -3,6 +3,7 @@
 #include "framework/exception.h"
 #include "framework/wnd.h"
 #include "platform/framework/window/current_message.h"
+#include "platform/framework/window/exception_report.h"
 #include "platform/framework/window/window_binding.h"
 
 namespace afx {
@@ -35,8 +36,7 @@ LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     try {
       result = CWindowBinding::CallWindowProcedure(*object, message, wParam, lParam);
     } catch (CException* exception) {
-      exception->ReportError();
-      exception->Delete();
+      afx::ReportAndDelete(exception);
       result = afx::AnswerAfterException(window, message);
     }
   }

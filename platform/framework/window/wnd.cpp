@@ -54,25 +54,23 @@ BOOL CWnd::Create(LPCWSTR className, LPCWSTR windowName, DWORD style, const RECT
 BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR windowName, DWORD style,
                     const RECT& rect, CWnd* parent, UINT id, LPVOID param) {
   return CreateEx(exStyle, className, windowName, style, rect.left, rect.top,
-                  rect.right - rect.left, rect.bottom - rect.top,
-                  parent ? parent->m_hWnd : nullptr,
+                  rect.right - rect.left, rect.bottom - rect.top, parent ? parent->m_hWnd : nullptr,
                   reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), param);
 }
 
 BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR windowName, DWORD style, int x, int y,
                     int width, int height, HWND parent, HMENU idOrMenu, LPVOID param) {
-  CREATESTRUCTW create = {param,  AfxGetInstanceHandle(), idOrMenu, parent,
-                          height, width,                  y,        x,
-                          static_cast<LONG>(style),       windowName, className, exStyle};
+  CREATESTRUCTW create = {param, AfxGetInstanceHandle(),   idOrMenu,   parent,    height, width, y,
+                          x,     static_cast<LONG>(style), windowName, className, exStyle};
   if (!PreCreateWindow(create)) {
     PostNcDestroy();
     return FALSE;
   }
   const afx::CreationHook hook(*this);
-  const HWND window = ::CreateWindowExW(
-      create.dwExStyle, create.lpszClass, create.lpszName, static_cast<DWORD>(create.style),
-      create.x, create.y, create.cx, create.cy, create.hwndParent, create.hMenu, create.hInstance,
-      create.lpCreateParams);
+  const HWND window =
+      ::CreateWindowExW(create.dwExStyle, create.lpszClass, create.lpszName,
+                        static_cast<DWORD>(create.style), create.x, create.y, create.cx, create.cy,
+                        create.hwndParent, create.hMenu, create.hInstance, create.lpCreateParams);
   // A window that began and failed has told us its end itself.
   if (!window && !hook.IsBound()) PostNcDestroy();
   return window != nullptr;

@@ -1,10 +1,11 @@
 // CColorDialog and CFileDialog: the system's dialogs.
 #pragma once
 
-#include <commdlg.h>
-
+#include "framework/object_list.h"
 #include "framework/string.h"
 #include "framework/wnd.h"
+
+#include <commdlg.h>
 
 class AFX_FRAMEWORK CCommonDialog : public CObject {
  public:

@@ -4,18 +4,15 @@
 // compiled.
 #pragma once
 
-#include "framework/platform.h"
-
 #include <array>
 #include <bit>
 #include <cstddef>
 
 #include "framework/export.h"
+#include "framework/platform.h"
 
 class CCmdTarget;
 struct AFX_MSGMAP_ENTRY;
-
-#define afx_msg
 
 // Any handler's address, whatever its signature: member pointers all have one size.
 using AFX_HANDLER = std::array<std::byte, sizeof(void (CCmdTarget::*)())>;
