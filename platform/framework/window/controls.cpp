@@ -6,6 +6,7 @@
 #include "framework/scroll_bar.h"
 #include "framework/spin_button.h"
 #include "platform/framework/window/handle_map.h"
+#include "platform/framework/window/window_map.h"
 
 void CEdit::GetSel(int& start, int& end) const {
   SendMessageW(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
@@ -39,7 +40,7 @@ void CListBox::GetText(int index, CString& text) const {
 CScrollBar* CScrollBar::FromHandle(HWND window) {
   if (!window) return nullptr;
   if (CScrollBar* bar = dynamic_cast<CScrollBar*>(FromHandlePermanent(window))) return bar;
-  constexpr auto isAlive = [](HWND handle) { return ::IsWindow(handle) != FALSE; };
-  static auto& temporary = *new afx::TemporaryMap<CScrollBar, HWND, &CWnd::m_hWnd, +isAlive>;
+  static auto& temporary =
+      *new afx::TemporaryMap<CScrollBar, HWND, &CWnd::m_hWnd, &afx::IsLiveWindow>;
   return temporary.Get(window);
 }

@@ -5,8 +5,6 @@
 namespace afx {
 namespace {
 
-bool IsAlive(HWND window) { return ::IsWindow(window) != FALSE; }
-
 // The maps are never destroyed: windows of global objects still ask for them at the process's end.
 auto& PermanentWindows() {
   static auto& map = *new PermanentMap<CWnd, HWND>;
@@ -14,7 +12,7 @@ auto& PermanentWindows() {
 }
 
 auto& TemporaryWindows() {
-  static auto& map = *new TemporaryMap<CWnd, HWND, &CWnd::m_hWnd, &IsAlive>;
+  static auto& map = *new TemporaryMap<CWnd, HWND, &CWnd::m_hWnd, &IsLiveWindow>;
   return map;
 }
 

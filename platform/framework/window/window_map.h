@@ -12,4 +12,6 @@ void SetPermanentWindow(HWND window, CWnd* object);
 void RemovePermanentWindow(HWND window, const CWnd* object);
 CWnd* TemporaryWindow(HWND window);
 
+inline bool IsLiveWindow(HWND window) { return ::IsWindow(window) != FALSE; }
+
 }  // namespace afx

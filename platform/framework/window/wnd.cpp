@@ -1,5 +1,6 @@
 #include "framework/wnd.h"
 
+#include "framework/extension_module.h"
 #include "framework/window_handlers.h"
 #include "platform/framework/window/creation_hook.h"
 #include "platform/framework/window/window_binding.h"
