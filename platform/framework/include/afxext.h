@@ -1,0 +1,4 @@
+// Extensions of the framework's windows: the bitmap button and extension modules.
+#pragma once
+
+#include <afxwin.h>

@@ -1,0 +1,45 @@
+// Dialog data exchange: DoDataExchange of a dialog calls one DDX function for each item, which
+// moves a value to the item or back (CWnd::UpdateData). A DDV function after it checks the value.
+#pragma once
+
+#include "framework/export.h"
+#include "framework/string.h"
+#include "framework/wnd.h"
+
+class AFX_FRAMEWORK CDataExchange {
+ public:
+  BOOL m_bSaveAndValidate;  // TRUE: from the items to the members
+  CWnd* m_pDlgWnd;
+  HWND m_hWndLastControl = nullptr;
+  BOOL m_bEditLastControl = FALSE;
+
+  CDataExchange(CWnd* dialog, BOOL saveAndValidate)
+      : m_bSaveAndValidate(saveAndValidate), m_pDlgWnd(dialog) {}
+
+  // The item's handle, remembered for Fail. Throws (ends the exchange) when there is no such item.
+  HWND PrepareCtrl(int id);
+  HWND PrepareEditCtrl(int id);
+  // Puts the focus on the last item and ends the exchange; UpdateData returns FALSE.
+  [[noreturn]] void Fail();
+};
+
+// Connects `control` with the item by subclassing it, once.
+AFX_FRAMEWORK void DDX_Control(CDataExchange* exchange, int id, CWnd& control);
+
+// An edit's text. A text that is not such a number is told to the user, and the exchange fails.
+AFX_FRAMEWORK void DDX_Text(CDataExchange* exchange, int id, CString& value);
+AFX_FRAMEWORK void DDX_Text(CDataExchange* exchange, int id, int& value);
+AFX_FRAMEWORK void DDX_Text(CDataExchange* exchange, int id, UINT& value);
+AFX_FRAMEWORK void DDX_Text(CDataExchange* exchange, int id, long& value);
+AFX_FRAMEWORK void DDX_Text(CDataExchange* exchange, int id, double& value);
+
+AFX_FRAMEWORK void DDX_Check(CDataExchange* exchange, int id, int& value);  // 0, 1 or 2
+// The index, from 0, of the checked button in the group that starts with `id`; -1 for none.
+AFX_FRAMEWORK void DDX_Radio(CDataExchange* exchange, int id, int& value);
+AFX_FRAMEWORK void DDX_CBIndex(CDataExchange* exchange, int id, int& index);
+AFX_FRAMEWORK void DDX_CBString(CDataExchange* exchange, int id, CString& value);
+
+AFX_FRAMEWORK void DDV_MaxChars(CDataExchange* exchange, const CString& value, int count);
+AFX_FRAMEWORK void DDV_MinMaxInt(CDataExchange* exchange, int value, int smallest, int largest);
+AFX_FRAMEWORK void DDV_MinMaxDouble(CDataExchange* exchange, const double& value,
+                                    const double& smallest, const double& largest);

@@ -1,0 +1,130 @@
+// The drawing objects: CPen, CBrush, CFont, CBitmap, CRgn. Each Create call needs an empty object
+// and is FALSE when the system refuses; constructors that create throw a CResourceException then.
+#pragma once
+
+#include "framework/gdi_object.h"
+#include "framework/geometry.h"
+
+class CDC;
+
+class AFX_FRAMEWORK CPen : public CGdiObject {
+ public:
+  CPen() = default;
+  CPen(int style, int width, COLORREF colour);
+
+  static CPen* FromHandle(HPEN handle);
+  operator HPEN() const { return static_cast<HPEN>(m_hObject); }
+
+  // width in logical units; 0 is one pixel whatever the mapping.
+  BOOL CreatePen(int style, int width, COLORREF colour) {
+    return Attach(::CreatePen(style, width, colour));
+  }
+  BOOL CreatePenIndirect(LOGPEN* pen) { return Attach(::CreatePenIndirect(pen)); }
+  int GetLogPen(LOGPEN* pen) const { return GetObjectW(sizeof(*pen), pen); }
+};
+
+class AFX_FRAMEWORK CBrush : public CGdiObject {
+ public:
+  CBrush() = default;
+  explicit CBrush(COLORREF colour);
+  CBrush(int hatch, COLORREF colour);
+  explicit CBrush(class CBitmap* bitmap);
+
+  static CBrush* FromHandle(HBRUSH handle);
+  operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
+
+  BOOL CreateSolidBrush(COLORREF colour) { return Attach(::CreateSolidBrush(colour)); }
+  BOOL CreateHatchBrush(int hatch, COLORREF colour) {
+    return Attach(::CreateHatchBrush(hatch, colour));
+  }
+  BOOL CreateBrushIndirect(const LOGBRUSH* brush) { return Attach(::CreateBrushIndirect(brush)); }
+  // The bitmap must outlive the brush.
+  BOOL CreatePatternBrush(class CBitmap* bitmap);
+  BOOL CreateSysColorBrush(int index) { return Attach(::GetSysColorBrush(index)); }
+  int GetLogBrush(LOGBRUSH* brush) const { return GetObjectW(sizeof(*brush), brush); }
+};
+
+class AFX_FRAMEWORK CFont : public CGdiObject {
+ public:
+  CFont() = default;
+
+  static CFont* FromHandle(HFONT handle);
+  operator HFONT() const { return static_cast<HFONT>(m_hObject); }
+
+  BOOL CreateFontIndirectW(const LOGFONTW* font) { return Attach(::CreateFontIndirectW(font)); }
+  BOOL CreateFontIndirectA(const LOGFONTW* font) { return CreateFontIndirectW(font); }
+  // height > 0: of the cell, < 0: of the characters; logical units. The rest as LOGFONT.
+  BOOL CreateFontW(int height, int width, int escapement, int orientation, int weight, BYTE italic,
+                   BYTE underline, BYTE strikeOut, BYTE charSet, BYTE outPrecision,
+                   BYTE clipPrecision, BYTE quality, BYTE pitchAndFamily, LPCWSTR faceName) {
+    return Attach(::CreateFontW(height, width, escapement, orientation, weight, italic, underline,
+                                strikeOut, charSet, outPrecision, clipPrecision, quality,
+                                pitchAndFamily, faceName));
+  }
+  BOOL CreateFontA(int height, int width, int escapement, int orientation, int weight, BYTE italic,
+                   BYTE underline, BYTE strikeOut, BYTE charSet, BYTE outPrecision,
+                   BYTE clipPrecision, BYTE quality, BYTE pitchAndFamily, LPCWSTR faceName) {
+    return CreateFontW(height, width, escapement, orientation, weight, italic, underline, strikeOut,
+                       charSet, outPrecision, clipPrecision, quality, pitchAndFamily, faceName);
+  }
+  // tenthsOfPoints: 120 is twelve points on dc, or on the screen when dc is null.
+  BOOL CreatePointFont(int tenthsOfPoints, LPCWSTR faceName, CDC* dc = nullptr);
+  BOOL CreatePointFontIndirect(const LOGFONTW* font, CDC* dc = nullptr);
+  int GetLogFont(LOGFONTW* font) const { return GetObjectW(sizeof(*font), font); }
+};
+
+class AFX_FRAMEWORK CBitmap : public CGdiObject {
+ public:
+  CBitmap() = default;
+
+  static CBitmap* FromHandle(HBITMAP handle);
+  operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
+
+  // From the resources, see AfxFindResourceHandle.
+  BOOL LoadBitmapW(LPCWSTR name);
+  BOOL LoadBitmapW(UINT id) { return LoadBitmapW(MAKEINTRESOURCEW(id)); }
+  BOOL LoadBitmapA(LPCWSTR name) { return LoadBitmapW(name); }
+  BOOL LoadBitmapA(UINT id) { return LoadBitmapW(id); }
+  BOOL LoadOEMBitmap(UINT id);
+
+  BOOL CreateBitmap(int width, int height, UINT planes, UINT bitCount, const void* bits) {
+    return Attach(::CreateBitmap(width, height, planes, bitCount, bits));
+  }
+  BOOL CreateBitmapIndirect(const BITMAP* bitmap) { return Attach(::CreateBitmapIndirect(bitmap)); }
+  BOOL CreateCompatibleBitmap(CDC* dc, int width, int height);
+
+  int GetBitmap(BITMAP* bitmap) const { return GetObjectW(sizeof(*bitmap), bitmap); }
+  DWORD GetBitmapBits(DWORD count, void* bits) const {
+    return static_cast<DWORD>(::GetBitmapBits(*this, static_cast<LONG>(count), bits));
+  }
+  DWORD SetBitmapBits(DWORD count, const void* bits) {
+    return static_cast<DWORD>(::SetBitmapBits(*this, count, bits));
+  }
+};
+
+class AFX_FRAMEWORK CRgn : public CGdiObject {
+ public:
+  CRgn() = default;
+
+  static CRgn* FromHandle(HRGN handle);
+  operator HRGN() const { return static_cast<HRGN>(m_hObject); }
+
+  BOOL CreateRectRgn(int left, int top, int right, int bottom) {
+    return Attach(::CreateRectRgn(left, top, right, bottom));
+  }
+  BOOL CreateRectRgnIndirect(const RECT* rect) { return Attach(::CreateRectRgnIndirect(rect)); }
+  BOOL CreateEllipticRgn(int left, int top, int right, int bottom) {
+    return Attach(::CreateEllipticRgn(left, top, right, bottom));
+  }
+  BOOL CreatePolygonRgn(const POINT* points, int count, int fillMode) {
+    return Attach(::CreatePolygonRgn(points, count, fillMode));
+  }
+  int CombineRgn(const CRgn* first, const CRgn* second, int mode) {
+    return ::CombineRgn(*this, *first, second ? static_cast<HRGN>(*second) : nullptr, mode);
+  }
+  int GetRgnBox(RECT* box) const { return ::GetRgnBox(*this, box); }
+  int OffsetRgn(int x, int y) { return ::OffsetRgn(*this, x, y); }
+  BOOL PtInRegion(int x, int y) const { return ::PtInRegion(*this, x, y); }
+  BOOL PtInRegion(POINT point) const { return ::PtInRegion(*this, point.x, point.y); }
+  BOOL RectInRegion(const RECT* rect) const { return ::RectInRegion(*this, rect); }
+};

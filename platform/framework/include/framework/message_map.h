@@ -1,0 +1,93 @@
+// Message maps: which member function of a class answers which message. A map is a table of
+// entries, one for each handler, followed by the map of the base class. Each entry keeps its
+// handler with the class and the signature it was written with; both are checked where the map is
+// compiled.
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstddef>
+
+#include "framework/export.h"
+#include "framework/platform.h"
+
+class CCmdTarget;
+struct AFX_MSGMAP_ENTRY;
+
+// Any handler's address, whatever its signature: member pointers all have one size.
+using AFX_HANDLER = std::array<std::byte, sizeof(void (CCmdTarget::*)())>;
+
+// What a handler is called with. For a command, message is the command's code, wParam its id; for a
+// notification, lParam is the NMHDR and notifyResult where its answer goes.
+struct AFX_MESSAGE {
+  UINT message = 0;
+  WPARAM wParam = 0;
+  LPARAM lParam = 0;
+  LRESULT* notifyResult = nullptr;
+};
+
+using AFX_INVOKER = LRESULT (*)(CCmdTarget&, const AFX_MSGMAP_ENTRY&, const AFX_MESSAGE&);
+
+// One row of a map. nMessage is a window message, or WM_COMMAND with nCode and nID to nLastID, or
+// WM_NOTIFY likewise. A row without invoker ends the table. registered, when not null, points to
+// the number of a message that was registered by name at run time.
+struct AFX_MSGMAP_ENTRY {
+  UINT nMessage = 0;
+  UINT nCode = 0;
+  UINT nID = 0;
+  UINT nLastID = 0;
+  AFX_INVOKER invoke = nullptr;
+  AFX_HANDLER handler = {};
+  const UINT* registered = nullptr;
+};
+
+struct AFX_MSGMAP {
+  const AFX_MSGMAP* (*pfnGetBaseMap)();  // null for the last base
+  const AFX_MSGMAP_ENTRY* lpEntries;
+};
+
+// The row of `messages` or of its bases that answers, or null. The nearest class wins, in a class
+// the first row.
+AFX_FRAMEWORK const AFX_MSGMAP_ENTRY* AfxFindMessageEntry(const AFX_MSGMAP* messages, UINT message,
+                                                          UINT code, UINT id);
+
+// Unpacker<T> knows one kind of message for handlers of class T: the handler's type Member, and
+// Call, which takes the message apart and calls the handler.
+template <template <class> class Unpacker, class T>
+LRESULT AfxInvokeHandler(CCmdTarget& target, const AFX_MSGMAP_ENTRY& entry,
+                         const AFX_MESSAGE& message) {
+  using Member = typename Unpacker<T>::Member;
+  return Unpacker<T>::Call(static_cast<T&>(target), std::bit_cast<Member>(entry.handler), message);
+}
+
+template <template <class> class Unpacker, class T>
+AFX_MSGMAP_ENTRY AfxMessageEntry(UINT message, UINT code, UINT firstId, UINT lastId,
+                                 typename Unpacker<T>::Member handler,
+                                 const UINT* registered = nullptr) {
+  return {message,
+          code,
+          firstId,
+          lastId,
+          &AfxInvokeHandler<Unpacker, T>,
+          std::bit_cast<AFX_HANDLER>(handler),
+          registered};
+}
+
+#define DECLARE_MESSAGE_MAP()                   \
+ protected:                                     \
+  static const AFX_MSGMAP* GetThisMessageMap(); \
+  const AFX_MSGMAP* GetMessageMap() const override;
+
+#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                \
+  const AFX_MSGMAP* theClass::GetMessageMap() const { return theClass::GetThisMessageMap(); } \
+  const AFX_MSGMAP* theClass::GetThisMessageMap() {                                           \
+    using ThisClass [[maybe_unused]] = theClass;                                              \
+    using TheBaseClass = baseClass;                                                           \
+    static const AFX_MSGMAP_ENTRY entries[] = {
+#define END_MESSAGE_MAP()                                                           \
+  AFX_MSGMAP_ENTRY {}                                                               \
+  }                                                                                 \
+  ;                                                                                 \
+  static const AFX_MSGMAP messageMap = {&TheBaseClass::GetThisMessageMap, entries}; \
+  return &messageMap;                                                               \
+  }

@@ -1,0 +1,43 @@
+// CSpinButtonCtrl: an up-down control, usually beside the edit that is its buddy.
+#pragma once
+
+#include "framework/wnd.h"
+
+#include <commctrl.h>
+
+class AFX_FRAMEWORK CSpinButtonCtrl : public CWnd {
+ public:
+  virtual BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+
+  // Limits -32768..32767; `lower` may be above `upper`, the arrows then count the other way.
+  void SetRange(short lower, short upper) {
+    SendMessageW(UDM_SETRANGE, 0, MAKELPARAM(upper, lower));
+  }
+  void SetRange32(int lower, int upper) {
+    SendMessageW(UDM_SETRANGE32, static_cast<WPARAM>(lower), upper);
+  }
+  DWORD GetRange() const { return static_cast<DWORD>(SendMessageW(UDM_GETRANGE)); }
+  void GetRange(int& lower, int& upper) const;
+  // The position before.
+  int SetPos(int position) {
+    return static_cast<int>(SendMessageW(UDM_SETPOS, 0, MAKELPARAM(position, 0)));
+  }
+  // The position in the low word; a high word other than 0 says that the buddy's text is no number
+  // within the range.
+  int GetPos() const { return static_cast<int>(SendMessageW(UDM_GETPOS)); }
+  int SetPos32(int position) { return static_cast<int>(SendMessageW(UDM_SETPOS32, 0, position)); }
+  int GetPos32(BOOL* error = nullptr) const {
+    return static_cast<int>(SendMessageW(UDM_GETPOS32, 0, reinterpret_cast<LPARAM>(error)));
+  }
+  // 10 or 16; the base before.
+  int SetBase(int base) {
+    return static_cast<int>(SendMessageW(UDM_SETBASE, static_cast<WPARAM>(base)));
+  }
+  UINT GetBase() const { return static_cast<UINT>(SendMessageW(UDM_GETBASE)); }
+  // The buddy before.
+  CWnd* SetBuddy(CWnd* buddy);
+  CWnd* GetBuddy() const;
+
+ protected:
+  using CWnd::Create;
+};

@@ -1,0 +1,46 @@
+// The members of the controls that are more than one message.
+
+#include "framework/combo_box.h"
+#include "framework/edit.h"
+#include "framework/list_box.h"
+#include "framework/scroll_bar.h"
+#include "framework/spin_button.h"
+#include "platform/framework/window/handle_map.h"
+#include "platform/framework/window/window_map.h"
+
+void CEdit::GetSel(int& start, int& end) const {
+  SendMessageW(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+}
+
+void CEdit::SetSel(int start, int end, BOOL noScroll) {
+  SendMessageW(EM_SETSEL, static_cast<WPARAM>(start), end);
+  if (!noScroll) SendMessageW(EM_SCROLLCARET);
+}
+
+void CComboBox::GetLBText(int index, CString& text) const {
+  const int length = GetLBTextLen(index);
+  if (length == CB_ERR) {
+    text.Empty();
+    return;
+  }
+  GetLBText(index, text.GetBufferSetLength(length));
+  text.ReleaseBuffer();
+}
+
+void CListBox::GetText(int index, CString& text) const {
+  const int length = GetTextLen(index);
+  if (length == LB_ERR) {
+    text.Empty();
+    return;
+  }
+  GetText(index, text.GetBufferSetLength(length));
+  text.ReleaseBuffer();
+}
+
+CScrollBar* CScrollBar::FromHandle(HWND window) {
+  if (!window) return nullptr;
+  if (CScrollBar* bar = dynamic_cast<CScrollBar*>(FromHandlePermanent(window))) return bar;
+  static auto& temporary =
+      *new afx::TemporaryMap<CScrollBar, HWND, &CWnd::m_hWnd, &afx::IsLiveWindow>;
+  return temporary.Get(window);
+}

@@ -1,0 +1,44 @@
+#include "platform/framework/window/creation_hook.h"
+
+#include <utility>
+
+#include "platform/framework/window/window_binding.h"
+
+namespace afx {
+namespace {
+
+thread_local CreationHook* innermost = nullptr;
+
+// The system makes a hidden helper window for text input with a thread's first window; it is not
+// the one that was asked for.
+bool IsInputMethodWindow(HWND window) {
+  wchar_t name[8] = {};
+  ::GetClassNameW(window, name, ARRAYSIZE(name));
+  return ::lstrcmpiW(name, L"ime") == 0;
+}
+
+}  // namespace
+
+CreationHook::CreationHook(CWnd& object)
+    : object_(&object),
+      enclosing_(innermost),
+      hook_(::SetWindowsHookExW(WH_CBT, &CreationHook::OnHook, nullptr, ::GetCurrentThreadId())) {
+  innermost = this;
+}
+
+CreationHook::~CreationHook() {
+  if (hook_) ::UnhookWindowsHookEx(hook_);
+  innermost = enclosing_;
+}
+
+LRESULT CALLBACK CreationHook::OnHook(int code, WPARAM wParam, LPARAM lParam) {
+  if (code == HCBT_CREATEWND && innermost && innermost->object_) {
+    const HWND window = reinterpret_cast<HWND>(wParam);
+    if (!IsInputMethodWindow(window)) {
+      CWindowBinding::Subclass(*std::exchange(innermost->object_, nullptr), window);
+    }
+  }
+  return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+}  // namespace afx

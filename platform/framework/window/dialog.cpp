@@ -1,0 +1,171 @@
+#include "framework/dialog.h"
+
+#include <utility>
+
+#include "framework/command_handlers.h"
+#include "framework/exception.h"
+#include "framework/extension_module.h"
+#include "framework/win_app.h"
+#include "platform/framework/window/creation_hook.h"
+#include "platform/framework/window/exception_report.h"
+#include "platform/framework/window/modal_loop.h"
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+ON_COMMAND(IDOK, &CDialog::OnOK)
+ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+END_MESSAGE_MAP()
+
+struct CDialog::ModalState {
+  INT_PTR result = IDCANCEL;  // what a dialog answers whose window goes without EndDialog
+  bool ended = false;
+};
+
+namespace {
+
+// The top-level window that waits for the dialog.
+HWND OwnerOf(const CWnd* parent) {
+  CWnd* main = AfxGetMainWnd();
+  HWND window = parent ? parent->m_hWnd : main ? ::GetLastActivePopup(main->m_hWnd) : nullptr;
+  return window ? ::GetAncestor(window, GA_ROOT) : nullptr;
+}
+
+const DLGTEMPLATE* TemplateOf(LPCWSTR name) {
+  const HINSTANCE module = AfxFindResourceHandle(name, RT_DIALOG);
+  const HRSRC found = ::FindResourceW(module, name, RT_DIALOG);
+  if (!found) return nullptr;
+  return static_cast<const DLGTEMPLATE*>(::LockResource(::LoadResource(module, found)));
+}
+
+}  // namespace
+
+CDialog::CDialog(LPCWSTR templateName, CWnd* parent)
+    : m_templateName(templateName), m_parent(parent) {}
+
+CDialog::CDialog(UINT templateId, CWnd* parent) : CDialog(MAKEINTRESOURCEW(templateId), parent) {}
+
+CDialog::~CDialog() {
+  if (m_hWnd) CDialog::DestroyWindow();
+}
+
+BOOL CDialog::InitModalIndirect(const DLGTEMPLATE* dialogTemplate, CWnd* parent) {
+  m_template = dialogTemplate;
+  m_parent = parent;
+  return TRUE;
+}
+
+BOOL CDialog::Create(LPCWSTR templateName, CWnd* parent) {
+  m_templateName = templateName;
+  return CreateIndirect(TemplateOf(templateName), parent);
+}
+
+BOOL CDialog::Create(UINT templateId, CWnd* parent) {
+  return Create(MAKEINTRESOURCEW(templateId), parent);
+}
+
+BOOL CDialog::CreateIndirect(const DLGTEMPLATE* dialogTemplate, CWnd* parent) {
+  m_parent = parent;
+  CWnd* main = AfxGetMainWnd();
+  const HWND owner = parent ? parent->m_hWnd : main ? main->m_hWnd : nullptr;
+  return dialogTemplate && CreateFromTemplate(dialogTemplate, owner);
+}
+
+BOOL CDialog::CreateFromTemplate(const DLGTEMPLATE* dialogTemplate, HWND owner) {
+  const afx::CreationHook hook(*this);
+  return ::CreateDialogIndirectParamW(AfxGetResourceHandle(), dialogTemplate, owner, &DialogProc,
+                                      0) != nullptr;
+}
+
+INT_PTR CDialog::DoModal() {
+  const DLGTEMPLATE* dialogTemplate = m_template ? m_template : TemplateOf(m_templateName);
+  if (!dialogTemplate) return -1;
+  if (const HWND capture = ::GetCapture()) ::SendMessageW(capture, WM_CANCELMODE, 0, 0);
+
+  const HWND owner = OwnerOf(m_parent);
+  ModalState state;
+  m_modal = &state;
+  {
+    const afx::ScopedDisable waiting(owner);
+    if (CreateFromTemplate(dialogTemplate, owner)) {
+      RunModal(state);
+    } else {
+      state.result = IDABORT;
+    }
+    // Hidden before the owner takes input again, so that the owner becomes the active window.
+    if (m_hWnd) {
+      SetWindowPos(nullptr, 0, 0, 0, 0,
+                   SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    }
+  }
+  if (owner && m_hWnd && ::GetActiveWindow() == m_hWnd) ::SetActiveWindow(owner);
+  DestroyWindow();
+  m_modal = nullptr;
+  return state.result;
+}
+
+void CDialog::RunModal(ModalState& state) {
+  if (!state.ended && !IsWindowVisible()) ShowWindow(SW_SHOWNORMAL);
+  while (!state.ended && m_hWnd) {
+    if (!afx::PumpModalMessage()) return;
+  }
+}
+
+void CDialog::EndDialog(int result) {
+  if (!m_modal) {
+    ::EndDialog(m_hWnd, result);
+    return;
+  }
+  m_modal->result = result;
+  m_modal->ended = true;
+  // The loop may be waiting: a message sent to us does not wake it.
+  PostMessageW(WM_NULL);
+}
+
+void CDialog::PostNcDestroy() {
+  // Likewise when the window goes, with its owner, say.
+  if (m_modal) ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0);
+}
+
+INT_PTR CALLBACK CDialog::DialogProc(HWND window, UINT message, WPARAM, LPARAM) {
+  if (message != WM_INITDIALOG) return FALSE;
+  auto* dialog = dynamic_cast<CDialog*>(FromHandlePermanent(window));
+  if (!dialog) return TRUE;
+  try {
+    dialog->PreInitDialog();
+    return dialog->OnInitDialog();
+  } catch (CException* exception) {
+    afx::ReportAndDelete(exception);
+    dialog->EndDialog(-1);
+    return FALSE;
+  }
+}
+
+BOOL CDialog::OnInitDialog() {
+  UpdateData(FALSE);
+  return TRUE;
+}
+
+void CDialog::OnOK() {
+  if (UpdateData(TRUE)) EndDialog(IDOK);
+}
+
+void CDialog::OnCancel() { EndDialog(IDCANCEL); }
+
+BOOL CDialog::PreTranslateMessage(MSG* message) {
+  if (CWnd::PreTranslateMessage(message)) return TRUE;
+  const UINT number = message->message;
+  const bool input = (WM_KEYFIRST <= number && number <= WM_KEYLAST) ||
+                     (WM_MOUSEFIRST <= number && number <= WM_MOUSELAST);
+  return input && IsDialogMessageW(message);
+}
+
+BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+  if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
+  // Only commands travel on; what a control says is the dialog's own business. Commands of the
+  // system begin at 0xF000.
+  const bool isCommand = nCode == CN_COMMAND && (nID & 0x8000) && nID < 0xF000;
+  if (!isCommand) return FALSE;
+  CWnd* owner = GetOwner();
+  if (owner && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
+  CWinApp* app = AfxGetApp();
+  return app && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "framework/exception.h"
+
+namespace afx {
+
+// Tells the user what happened, unless he has been told, and ends the exception.
+void ReportAndDelete(CException* exception);
+
+}  // namespace afx

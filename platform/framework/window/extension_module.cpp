@@ -1,0 +1,53 @@
+// Extension modules, and the chain of resources they make.
+
+#include "framework/extension_module.h"
+
+#include <algorithm>
+#include <new>
+#include <vector>
+
+#include "platform/framework/window/resource_chain.h"
+
+namespace {
+
+// Head first. Never destroyed: modules leave it while the process ends.
+std::vector<CDynLinkLibrary*>& Chain() {
+  static auto& chain = *new std::vector<CDynLinkLibrary*>;
+  return chain;
+}
+
+}  // namespace
+
+BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& record, HMODULE module) {
+  if (!module) return FALSE;
+  if (record.bInitialized) return TRUE;
+  record = {TRUE, module, module};
+  return TRUE;
+}
+
+void AfxTermExtensionModule(AFX_EXTENSION_MODULE& record, BOOL all) {
+  // A copy: each entry takes itself out of the chain.
+  for (CDynLinkLibrary* entry : std::vector(Chain())) {
+    if (all || entry->m_hModule == record.hModule) delete entry;
+  }
+  record = {};
+}
+
+CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& record, BOOL)
+    : m_hModule(record.hModule), m_hResource(record.hResource) {
+  Chain().insert(Chain().begin(), this);
+}
+
+CDynLinkLibrary::~CDynLinkLibrary() { std::erase(Chain(), this); }
+
+void* CDynLinkLibrary::operator new(std::size_t size) { return ::operator new(size); }
+
+void CDynLinkLibrary::operator delete(void* memory) { ::operator delete(memory); }
+
+namespace afx {
+
+HINSTANCE ChainModule(std::size_t index) {
+  return index < Chain().size() ? Chain()[index]->m_hResource : nullptr;
+}
+
+}  // namespace afx

@@ -1,0 +1,60 @@
+// Which C++ objects stand for which handles.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+#include <unordered_map>
+
+namespace afx {
+
+// The objects that hold a handle for good: one for each handle, the last one set.
+template <class Object, class Handle>
+class PermanentMap {
+ public:
+  Object* Find(Handle handle) const {
+    const auto found = objects_.find(handle);
+    return found == objects_.end() ? nullptr : found->second;
+  }
+  void Set(Handle handle, Object* object) { objects_[handle] = object; }
+  // Does nothing when another object holds the handle by now.
+  void Remove(Handle handle, const Object* object) {
+    const auto found = objects_.find(handle);
+    if (found != objects_.end() && found->second == object) objects_.erase(found);
+  }
+  std::size_t Size() const { return objects_.size(); }
+
+ private:
+  std::unordered_map<Handle, Object*> objects_;
+};
+
+// Objects made for handles that have none, one for each handle, kept until the handle is dead. Dead
+// ones are looked for when the map has doubled, so that it stays within twice the live ones.
+//
+// `Member` is where the object keeps its handle; alive(handle) tells whether the handle is in use.
+template <class Object, class Handle, auto Member, bool (*alive)(Handle)>
+class TemporaryMap {
+ public:
+  Object* Get(Handle handle) {
+    const auto found = objects_.find(handle);
+    if (found != objects_.end()) return found->second.get();
+    if (objects_.size() >= limit_) DropDead();
+    auto object = std::make_unique<Object>();
+    (*object).*Member = handle;
+    return objects_.emplace(handle, std::move(object)).first->second.get();
+  }
+  std::size_t Size() const { return objects_.size(); }
+
+ private:
+  static constexpr std::size_t kSmallestLimit = 64;
+
+  void DropDead() {
+    std::erase_if(objects_, [](const auto& entry) { return !alive(entry.first); });
+    limit_ = std::max(kSmallestLimit, 2 * objects_.size());
+  }
+
+  std::unordered_map<Handle, std::unique_ptr<Object>> objects_;
+  std::size_t limit_ = kSmallestLimit;
+};
+
+}  // namespace afx

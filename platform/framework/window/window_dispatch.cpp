@@ -1,0 +1,121 @@
+// From CWnd::WindowProc to the handlers.
+
+#include "framework/command_handlers.h"
+#include "framework/window_handlers.h"
+#include "platform/framework/window/current_message.h"
+
+BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
+ON_WM_DRAWITEM()
+ON_WM_MEASUREITEM()
+ON_WM_CTLCOLOR()
+END_MESSAGE_MAP()
+
+namespace {
+
+// The number under which the map lists the message.
+UINT MessageInMap(UINT message) {
+  return WM_CTLCOLORMSGBOX <= message && message <= WM_CTLCOLORSTATIC ? WM_CTLCOLOR : message;
+}
+
+}  // namespace
+
+LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+  LRESULT result = 0;
+  if (OnWndMsg(message, wParam, lParam, &result)) return result;
+  return DefWindowProcW(message, wParam, lParam);
+}
+
+BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
+  if (message == WM_COMMAND) {
+    if (!OnCommand(wParam, lParam)) return FALSE;
+    *result = 1;
+    return TRUE;
+  }
+  if (message == WM_NOTIFY) {
+    return reinterpret_cast<NMHDR*>(lParam) && OnNotify(wParam, lParam, result);
+  }
+  const AFX_MSGMAP_ENTRY* entry = AfxFindMessageEntry(GetMessageMap(), MessageInMap(message), 0, 0);
+  if (!entry) return FALSE;
+  *result = entry->invoke(*this, *entry, {message, wParam, lParam, nullptr});
+  return TRUE;
+}
+
+LRESULT CWnd::DefWindowProcW(UINT message, WPARAM wParam, LPARAM lParam) {
+  return m_pfnSuper ? ::CallWindowProcW(m_pfnSuper, m_hWnd, message, wParam, lParam)
+                    : ::DefWindowProcW(m_hWnd, message, wParam, lParam);
+}
+
+LRESULT CWnd::Default() {
+  const MSG& current = afx::CurrentMessage();
+  return DefWindowProcW(current.message, current.wParam, current.lParam);
+}
+
+const MSG* CWnd::GetCurrentMessage() {
+  MSG& current = afx::CurrentMessage();
+  const auto place = static_cast<DWORD>(::GetMessagePos());
+  current.time = static_cast<DWORD>(::GetMessageTime());
+  current.pt = {static_cast<short>(LOWORD(place)), static_cast<short>(HIWORD(place))};
+  return &current;
+}
+
+BOOL CWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+  return CCmdTarget::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
+  const UINT id = LOWORD(static_cast<DWORD>(wParam));
+  const HWND control = reinterpret_cast<HWND>(lParam);
+  if (!control) return OnCmdMsg(id, CN_COMMAND, nullptr, nullptr);
+  if (ReflectLastMsg(control)) return TRUE;
+  return OnCmdMsg(id, HIWORD(static_cast<DWORD>(wParam)), nullptr, nullptr);
+}
+
+BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* result) {
+  NMHDR* header = reinterpret_cast<NMHDR*>(lParam);
+  if (ReflectLastMsg(header->hwndFrom, result)) return TRUE;
+  AFX_NOTIFY notify = {result, header};
+  return OnCmdMsg(static_cast<UINT>(header->idFrom),
+                  static_cast<int>(MAKELONG(header->code, WM_NOTIFY)), &notify, nullptr);
+}
+
+// ---- Reflection: what a control's parent is told is offered to the control first
+
+BOOL CWnd::ReflectLastMsg(HWND child, LRESULT* result) {
+  CWnd* object = FromHandlePermanent(child);
+  return object && object->SendChildNotifyLastMsg(result);
+}
+
+BOOL CWnd::SendChildNotifyLastMsg(LRESULT* result) {
+  const MSG current = afx::CurrentMessage();
+  return OnChildNotify(current.message, current.wParam, current.lParam, result);
+}
+
+BOOL CWnd::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
+  AFX_MESSAGE reflected = {0, wParam, lParam, result};
+  if (message == WM_COMMAND) {
+    reflected.message = HIWORD(static_cast<DWORD>(wParam));
+  } else if (message == WM_NOTIFY) {
+    reflected.message = reinterpret_cast<NMHDR*>(lParam)->code;
+  } else {
+    return FALSE;
+  }
+  const AFX_MSGMAP_ENTRY* entry =
+      AfxFindMessageEntry(GetMessageMap(), WM_REFLECT_BASE + message, reflected.message, 0);
+  return entry && entry->invoke(*this, *entry, reflected);
+}
+
+void CWnd::OnDrawItem(int, DRAWITEMSTRUCT* item) {
+  const bool fromMenu = item->CtlType == ODT_MENU;
+  if (fromMenu || !ReflectLastMsg(item->hwndItem)) Default();
+}
+
+void CWnd::OnMeasureItem(int id, MEASUREITEMSTRUCT* item) {
+  const bool fromMenu = item->CtlType == ODT_MENU;
+  if (fromMenu || !ReflectLastMsg(::GetDlgItem(m_hWnd, id))) Default();
+}
+
+HBRUSH CWnd::OnCtlColor(CDC*, CWnd* control, UINT) {
+  LRESULT brush = 0;
+  if (control && ReflectLastMsg(control->m_hWnd, &brush)) return reinterpret_cast<HBRUSH>(brush);
+  return reinterpret_cast<HBRUSH>(Default());
+}
