@@ -1,0 +1,61 @@
+// The object store in memory: what it holds is gone with the store.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/objectstore/handle_table.h"
+#include "platform/objectstore/object_directory.h"
+
+namespace tavix {
+
+// UTC from the system's clock.
+std::uint64_t SystemFileTime();
+
+class MemoryStore : public ObjectStore {
+ public:
+  // `fold` decides what sorting without regard to case means; `clock` tells when a database
+  // changed.
+  explicit MemoryStore(CaseFold fold = &FoldAscii, FileTimeClock clock = &SystemFileTime);
+
+  Outcome<ObjectId> CreateDatabase(std::u16string_view name, std::uint32_t type,
+                                   std::span<const SortOrder> orders) override;
+  StoreError DeleteDatabase(ObjectId database) override;
+  Outcome<ObjectId> FindDatabase(std::u16string_view name) override;
+  Outcome<ObjectInfo> Info(ObjectId object) override;
+  StoreError Rename(ObjectId database, std::u16string_view name, std::uint32_t type) override;
+  StoreError SetOrders(ObjectId database, std::span<const SortOrder> orders) override;
+
+  Outcome<StoreHandle> Open(ObjectId database, PropertyId sort, bool auto_increment) override;
+  Outcome<StoreHandle> OpenEnumeration(std::uint32_t type) override;
+  Outcome<ObjectId> NextDatabase(StoreHandle enumeration) override;
+  StoreError Close(StoreHandle handle) override;
+
+  Outcome<ObjectId> Seek(StoreHandle handle, const SeekTarget& target,
+                         std::uint32_t* index) override;
+  Outcome<RecordView> Read(StoreHandle handle) override;
+  Outcome<ObjectId> Write(StoreHandle handle, ObjectId record,
+                          std::span<const Property> properties) override;
+  StoreError DeleteRecord(StoreHandle handle, ObjectId record) override;
+
+ private:
+  [[nodiscard]] Database* DatabaseOf(ObjectId id) const;
+  [[nodiscard]] Database* DatabaseNamed(std::u16string_view name) const;
+  // The open database behind a handle, null for an enumeration or a closed one.
+  [[nodiscard]] OpenObject* OpenDatabaseOf(StoreHandle handle);
+  // The slot of a record of this database in `slot`; false when it is none.
+  [[nodiscard]] bool FindRecord(const Database& database, ObjectId record,
+                                Database::Slot& slot) const;
+  Outcome<ObjectId> WriteNew(OpenObject& open, std::span<const Property> properties);
+  Outcome<ObjectId> WriteExisting(OpenObject& open, ObjectId record,
+                                  std::span<const Property> properties);
+
+  CaseFold fold_;
+  FileTimeClock clock_;
+  ObjectDirectory directory_;
+  std::vector<std::unique_ptr<Database>> databases_;  // in the order of creation
+  std::uint64_t deletions_ = 0;                       // of databases, so far
+  HandleTable handles_;                               // last: its cursors go before the databases
+};
+
+}  // namespace tavix

@@ -1,0 +1,161 @@
+// The object store: databases of typed records, as the device keeps them.
+//
+// What an implementation must keep to:
+//  1. Every database and every record has an identifier that is unique in the store. An identifier
+//  is
+//     never used again, so an old one finds nothing rather than something else.
+//  2. A handle has one sort order and one seek pointer. The pointer is on a record, or at the end
+//  of
+//     the order, or at the place of a record that was deleted.
+//  3. The order: by the sort property's value, as the sort order's flags say; records with equal
+//     values in the order they were created; records without the property last, or first when the
+//     order says so.
+//  4. A record keeps its place at the seek pointers of all handles when its sort property changes.
+//  5. A call that fails changes nothing, except that a seek which finds nothing leaves the pointer
+//     at the end.
+//  6. One thread at a time.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "platform/objectstore/error.h"
+#include "platform/objectstore/property.h"
+
+namespace tavix {
+
+using ObjectId = std::uint32_t;  // 0: none
+
+// An open database or an enumeration. 0: none.
+using StoreHandle = std::uint32_t;
+
+// One way to sort the records of a database. Blobs do not sort.
+struct SortOrder {
+  PropertyId property;
+  bool descending = false;
+  bool ignore_case = false;    // strings only
+  bool unknown_first = false;  // records without the property come first
+};
+
+struct DatabaseInfo {
+  static constexpr std::size_t kMaxName = 32;  // characters, the terminating zero included
+  static constexpr std::size_t kMaxSortOrders = 4;
+
+  std::array<char16_t, kMaxName> name{};
+  std::uint32_t type = 0;  // the application's own number
+  std::array<SortOrder, kMaxSortOrders> orders{};
+  std::size_t order_count = 0;
+  std::uint32_t record_count = 0;
+  std::uint64_t bytes = 0;     // of all values
+  std::uint64_t modified = 0;  // 100 ns steps since the start of 1601, UTC
+
+  [[nodiscard]] std::u16string_view Name() const { return name.data(); }
+  [[nodiscard]] std::span<const SortOrder> Orders() const { return {orders.data(), order_count}; }
+};
+
+struct ObjectInfo {
+  bool is_database = false;
+  ObjectId parent = 0;    // of a record: its database
+  DatabaseInfo database;  // of a database
+};
+
+// What to seek, and from where. A seek by value needs the handle's sort property.
+struct SeekTarget {
+  enum class Kind {
+    kObject,      // the record with identifier `object`
+    kBeginning,   // `offset` records after the first
+    kEnd,         // `offset` records before the last
+    kCurrent,     // `offset` records on, or back when negative; 0 finds the current record
+    kSmaller,     // the nearest value before `value` in the order; of equals the first
+    kFirstEqual,  // the first record with `value`
+    kGreater,     // the first record with `value` or a value after it in the order
+    kNextEqual,   // the next record, if it has `value`
+  };
+
+  Kind kind = Kind::kBeginning;
+  std::int64_t offset = 0;
+  ObjectId object = 0;
+  Property value = Property();
+
+  static SeekTarget To(Kind kind, std::int64_t offset = 0) {
+    return {.kind = kind, .offset = offset};
+  }
+  static SeekTarget ToValue(Kind kind, const Property& value) {
+    return {.kind = kind, .value = value};
+  }
+  static SeekTarget ToObject(ObjectId object) { return {.kind = Kind::kObject, .object = object}; }
+};
+
+// The current record of a handle. The properties are good until the store next changes.
+struct RecordView {
+  ObjectId id = 0;
+  std::span<const Property> properties;
+};
+
+class ObjectStore {
+ public:
+  ObjectStore() = default;
+  ObjectStore(const ObjectStore&) = delete;
+  ObjectStore& operator=(const ObjectStore&) = delete;
+  virtual ~ObjectStore() = default;
+
+  // ---- Databases
+
+  // A longer name is cut to 31 characters. Fails with kDuplicateName, or with kInvalidParameter for
+  // an empty name, more than four orders, two orders on one tag, or an order on a blob.
+  virtual Outcome<ObjectId> CreateDatabase(std::u16string_view name, std::uint32_t type,
+                                           std::span<const SortOrder> orders) = 0;
+
+  // kInUse while a handle is open on it.
+  virtual StoreError DeleteDatabase(ObjectId database) = 0;
+
+  // By name, cut as above; kNotFound.
+  virtual Outcome<ObjectId> FindDatabase(std::u16string_view name) = 0;
+
+  // Of any object; kNotFound.
+  virtual Outcome<ObjectInfo> Info(ObjectId object) = 0;
+
+  // Changes name and type; kDuplicateName when another database has the name.
+  virtual StoreError Rename(ObjectId database, std::u16string_view name, std::uint32_t type) = 0;
+
+  // Changes the sort orders; kInUse while a handle is open on it.
+  virtual StoreError SetOrders(ObjectId database, std::span<const SortOrder> orders) = 0;
+
+  // ---- Handles
+
+  // The seek pointer starts at the first record. `sort` is one of the database's sort properties;
+  // none takes its first order. With `auto_increment` a read moves the pointer to the next record.
+  virtual Outcome<StoreHandle> Open(ObjectId database, PropertyId sort, bool auto_increment) = 0;
+
+  // Walks over the databases of one type, or of all types for 0, in the order of their creation.
+  virtual Outcome<StoreHandle> OpenEnumeration(std::uint32_t type) = 0;
+
+  // The next database of an enumeration; kNoMoreItems behind the last, kDeleted once any database
+  // was deleted since the enumeration began.
+  virtual Outcome<ObjectId> NextDatabase(StoreHandle enumeration) = 0;
+
+  // Ends either sort of handle.
+  virtual StoreError Close(StoreHandle handle) = 0;
+
+  // ---- Records
+
+  // Moves the seek pointer and returns the record it is on. `index`, when not null, receives the
+  // record's position from the start of the order.
+  virtual Outcome<ObjectId> Seek(StoreHandle handle, const SeekTarget& target,
+                                 std::uint32_t* index) = 0;
+
+  // kNoMoreItems at the end; kDeleted where the record is gone, unless the handle increments: then
+  // the record behind it is read.
+  virtual Outcome<RecordView> Read(StoreHandle handle) = 0;
+
+  // Sets, adds and removes properties of a record, or of a new one when `record` is 0, and leaves
+  // the seek pointer on it. Of two values for one property the later counts.
+  virtual Outcome<ObjectId> Write(StoreHandle handle, ObjectId record,
+                                  std::span<const Property> properties) = 0;
+
+  virtual StoreError DeleteRecord(StoreHandle handle, ObjectId record) = 0;
+};
+
+}  // namespace tavix

@@ -1,0 +1,89 @@
+#include "platform/objectstore/ordered_entries.h"
+
+#include <iterator>
+
+namespace tavix {
+
+OrderedEntries::Position OrderedEntries::AtIndex(std::size_t index) const {
+  if (index >= size_) return End();
+  const PrefixCounts::Found found = lengths_.Find(index);
+  return {found.place, found.rest};
+}
+
+void OrderedEntries::Insert(Position position, const OrderedEntry& entry) {
+  ++version_;
+  ++size_;
+  if (position == End()) {
+    // Entries that arrive in order fill stretch after stretch to the brim.
+    if (stretches_.empty() || stretches_.back().size() == kMaxStretch) {
+      stretches_.emplace_back();
+      stretches_.back().reserve(kMaxStretch);
+      lengths_.Append();
+    }
+    stretches_.back().push_back(entry);
+    lengths_.Change(stretches_.size() - 1, 1);
+    return;
+  }
+  if (stretches_[position.stretch].size() == kMaxStretch) {
+    Split(position.stretch);
+    const std::size_t half = stretches_[position.stretch].size();
+    if (position.offset > half) position = {position.stretch + 1, position.offset - half};
+  }
+  Stretch& stretch = stretches_[position.stretch];
+  stretch.insert(stretch.begin() + static_cast<std::ptrdiff_t>(position.offset), entry);
+  lengths_.Change(position.stretch, 1);
+}
+
+void OrderedEntries::Erase(Position position) {
+  ++version_;
+  --size_;
+  Stretch& stretch = stretches_[position.stretch];
+  stretch.erase(stretch.begin() + static_cast<std::ptrdiff_t>(position.offset));
+  if (!stretch.empty()) {
+    lengths_.Change(position.stretch, -1);
+    return;
+  }
+  stretches_.erase(stretches_.begin() + static_cast<std::ptrdiff_t>(position.stretch));
+  CountLengths();
+}
+
+void OrderedEntries::Assign(const std::vector<OrderedEntry>& sorted) {
+  ++version_;
+  size_ = sorted.size();
+  stretches_.clear();
+  // Three quarters full: room for what is put between later.
+  constexpr std::size_t kFill = kMaxStretch - kMaxStretch / 4;
+  for (std::size_t from = 0; from < sorted.size(); from += kFill) {
+    const std::size_t to = std::min(from + kFill, sorted.size());
+    Stretch& stretch = stretches_.emplace_back();
+    stretch.reserve(kMaxStretch);
+    stretch.assign(sorted.begin() + static_cast<std::ptrdiff_t>(from),
+                   sorted.begin() + static_cast<std::ptrdiff_t>(to));
+  }
+  CountLengths();
+}
+
+void OrderedEntries::AppendTo(std::vector<OrderedEntry>& out) const {
+  for (const Stretch& stretch : stretches_) out.insert(out.end(), stretch.begin(), stretch.end());
+}
+
+void OrderedEntries::Split(std::size_t stretch) {
+  Stretch upper;
+  upper.reserve(kMaxStretch);
+  Stretch& lower = stretches_[stretch];
+  const auto middle = lower.begin() + static_cast<std::ptrdiff_t>(lower.size() / 2);
+  upper.assign(middle, lower.end());
+  lower.erase(middle, lower.end());
+  stretches_.insert(stretches_.begin() + static_cast<std::ptrdiff_t>(stretch) + 1,
+                    std::move(upper));
+  CountLengths();
+}
+
+void OrderedEntries::CountLengths() {
+  std::vector<std::size_t> lengths;
+  lengths.reserve(stretches_.size());
+  for (const Stretch& stretch : stretches_) lengths.push_back(stretch.size());
+  lengths_.Assign(lengths);
+}
+
+}  // namespace tavix

@@ -1,0 +1,88 @@
+// A sorted row of records that takes insertions anywhere.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "platform/objectstore/object_store.h"
+#include "platform/objectstore/prefix_counts.h"
+
+namespace tavix {
+
+// A record in a sort order, with enough of its value to find its place without looking it up.
+struct OrderedEntry {
+  std::uint64_t number = 0;  // of the sort property's value
+  ObjectId id = 0;
+  std::uint32_t slot : 31 = 0;    // where the record is
+  std::uint32_t unknown : 1 = 0;  // the record has no such property
+};
+
+// The row is cut into short stretches: an insertion moves the entries of one stretch only, and a
+// table of the stretches' lengths turns a position into an index and back. The order is the
+// caller's: it says where an entry goes.
+class OrderedEntries {
+ public:
+  struct Position {
+    std::size_t stretch = 0;
+    std::size_t offset = 0;
+    friend bool operator==(Position, Position) = default;
+  };
+
+  [[nodiscard]] std::size_t Size() const { return size_; }
+  [[nodiscard]] Position Begin() const { return {}; }
+  [[nodiscard]] Position End() const { return {stretches_.size(), 0}; }
+  [[nodiscard]] const OrderedEntry& At(Position position) const {
+    return stretches_[position.stretch][position.offset];
+  }
+  [[nodiscard]] Position Next(Position position) const {
+    if (++position.offset < stretches_[position.stretch].size()) return position;
+    return {position.stretch + 1, 0};
+  }
+
+  [[nodiscard]] std::size_t Index(Position position) const {
+    return lengths_.SumBefore(position.stretch) + position.offset;
+  }
+  // End for an index of Size() or more.
+  [[nodiscard]] Position AtIndex(std::size_t index) const;
+
+  // The first entry for which `before` is false; it is true for all entries up to there and for
+  // none behind.
+  template <class Before>
+  [[nodiscard]] Position Partition(Before before) const {
+    const auto stretch =
+        std::partition_point(stretches_.begin(), stretches_.end(),
+                             [&](const Stretch& candidate) { return before(candidate.back()); });
+    if (stretch == stretches_.end()) return End();
+    const auto entry = std::partition_point(stretch->begin(), stretch->end(), before);
+    return {static_cast<std::size_t>(stretch - stretches_.begin()),
+            static_cast<std::size_t>(entry - stretch->begin())};
+  }
+
+  // Before the entry at the position, or last at End.
+  void Insert(Position position, const OrderedEntry& entry);
+  void Erase(Position position);
+
+  // Takes the place of all that was there; `sorted` is in order.
+  void Assign(const std::vector<OrderedEntry>& sorted);
+  // All entries in order, behind what `out` holds.
+  void AppendTo(std::vector<OrderedEntry>& out) const;
+
+  // Changes whenever positions do: a position is good while this stays the same.
+  [[nodiscard]] std::uint64_t Version() const { return version_; }
+
+ private:
+  using Stretch = std::vector<OrderedEntry>;  // never empty
+  static constexpr std::size_t kMaxStretch = 256;
+
+  void Split(std::size_t stretch);
+  void CountLengths();
+
+  std::vector<Stretch> stretches_;
+  PrefixCounts lengths_;
+  std::size_t size_ = 0;
+  std::uint64_t version_ = 0;
+};
+
+}  // namespace tavix

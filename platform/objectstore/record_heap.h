@@ -1,0 +1,69 @@
+// The records of one database, side by side in memory.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "platform/objectstore/object_store.h"
+
+namespace tavix {
+
+// Records live in numbered slots. The properties of all records share one array, each record a
+// stretch of it; strings and blobs are single allocations that the heap owns. A slot keeps its
+// number while its record lives and may be used again afterwards.
+class RecordHeap {
+ public:
+  using Slot = std::uint32_t;
+
+  RecordHeap() = default;
+  RecordHeap(const RecordHeap&) = delete;
+  RecordHeap& operator=(const RecordHeap&) = delete;
+  ~RecordHeap();
+
+  // The values are copied.
+  Slot Add(ObjectId id, std::span<const Property> properties);
+
+  // `properties` may point into the heap, as those of the same record do.
+  void Replace(Slot slot, std::span<const Property> properties);
+
+  void Remove(Slot slot);
+
+  [[nodiscard]] ObjectId Id(Slot slot) const { return records_[slot].id; }
+
+  // Good until the heap next changes.
+  [[nodiscard]] std::span<const Property> Properties(Slot slot) const {
+    const Record& record = records_[slot];
+    return {cells_.data() + record.first, record.count};
+  }
+
+  // All slots are below this one; those with the identifier 0 are free.
+  [[nodiscard]] Slot SlotEnd() const { return static_cast<Slot>(records_.size()); }
+
+  [[nodiscard]] std::size_t Count() const { return records_.size() - free_slots_.size(); }
+
+  // What all values take together.
+  [[nodiscard]] std::uint64_t Bytes() const { return bytes_; }
+
+ private:
+  struct Record {
+    ObjectId id = 0;
+    std::uint32_t first = 0;  // in cells_
+    std::uint32_t count = 0;  // of cells, all in use
+  };
+
+  // A stretch of cells for `count` properties: one given back earlier, or new ones at the end.
+  std::uint32_t TakeCells(std::uint32_t count);
+  void GiveCellsBack(std::uint32_t first, std::uint32_t count);
+  void Fill(Record& record, std::span<const Property> properties);
+  void Drop(const Record& record);
+
+  std::vector<Record> records_;
+  std::vector<Slot> free_slots_;
+  std::vector<Property> cells_;
+  std::vector<std::vector<std::uint32_t>> free_cells_;  // by length of the stretch
+  std::uint64_t bytes_ = 0;
+};
+
+}  // namespace tavix
