@@ -18,8 +18,7 @@ struct Picture {
   std::int32_t width = 0;
   std::int32_t height = 0;
   unsigned depth = 0;
-  std::size_t file_size = 0;
-  std::vector<unsigned char> pixels;  // as stored: padded rows, bottom up
+  std::string pixels;  // as stored: padded rows, bottom up
 };
 
 std::string PictureFolder() { return std::string(TAVIX_BUTTON_PICTURES) + "/"; }
@@ -43,28 +42,31 @@ std::map<int, std::string> ListedFiles() {
   return files;
 }
 
-std::uint32_t Number(const std::vector<unsigned char>& bytes, std::size_t at, std::size_t count) {
+std::uint32_t Number(const std::string& bytes, std::size_t at, std::size_t count) {
   std::uint32_t value = 0;
-  for (std::size_t i = count; i-- > 0;) value = value << 8 | bytes.at(at + i);
+  for (std::size_t i = count; i-- > 0;)
+    value = value << 8 | static_cast<unsigned char>(bytes.at(at + i));
   return value;
 }
 
 Picture Read(const std::string& name) {
   std::ifstream file(PictureFolder() + name, std::ios::binary);
-  const std::vector<unsigned char> bytes{std::istreambuf_iterator<char>(file), {}};
+  const std::string bytes{std::istreambuf_iterator<char>(file), {}};
   if (bytes.size() < 54 || bytes[0] != 'B' || bytes[1] != 'M') {
     ADD_FAILURE() << name << " is no bitmap file";
     return {};
   }
   EXPECT_EQ(bytes.size(), Number(bytes, 2, 4)) << name;
   Picture picture;
-  picture.file_size = bytes.size();
   picture.width = static_cast<std::int32_t>(Number(bytes, 18, 4));
   picture.height = static_cast<std::int32_t>(Number(bytes, 22, 4));
   picture.depth = Number(bytes, 28, 2);
-  const auto start = static_cast<std::ptrdiff_t>(Number(bytes, 10, 4));
-  EXPECT_EQ(54 + 16 * 4, start) << name;
-  picture.pixels.assign(bytes.begin() + start, bytes.end());
+  const std::size_t start = Number(bytes, 10, 4);
+  if (start != 54 + 16 * 4) {
+    ADD_FAILURE() << name << " has its pixels elsewhere than after sixteen colours";
+    return {};
+  }
+  picture.pixels = bytes.substr(start);
   return picture;
 }
 
@@ -101,7 +103,7 @@ TEST(ButtonPictures, AreSixteenColourBitmapsOfTheButtonsSize) {
 }
 
 TEST(ButtonPictures, NoTwoLookTheSame) {
-  std::map<std::vector<unsigned char>, std::string> seen;
+  std::map<std::string, std::string> seen;
   for (const auto& [id, name] : ListedFiles()) {
     const auto [other, fresh] = seen.emplace(Read(name).pixels, name);
     EXPECT_TRUE(fresh) << name << " looks like " << other->second;
@@ -135,7 +137,8 @@ TEST(ButtonPictures, StandUnderTheIdsOfTheirRoles) {
 // The colour index at (x, y) from the top left.
 int ColourAt(const Picture& picture, int x, int y) {
   const auto row = static_cast<std::size_t>(picture.height - 1 - y);
-  const unsigned char pair = picture.pixels.at(row * 12 + static_cast<std::size_t>(x) / 2);
+  const auto pair =
+      static_cast<unsigned char>(picture.pixels.at(row * 12 + static_cast<std::size_t>(x) / 2));
   return x % 2 == 0 ? pair >> 4 : pair & 15;
 }
 
