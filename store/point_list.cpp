@@ -96,7 +96,7 @@ int CPntList::FindNearest(double tolerance, GroundPoint at, std::int32_t* key) c
 
 int CPntList::GetExtent(GroundExtent* extent) const {
   ExtentBuilder builder;
-  records_.ForEach([&](const PntRec& record) { builder.Include({record.x, record.y}); });
+  records_.ForEach([&](const PntRec& record) { builder.Include(GroundPoint{record.x, record.y}); });
   *extent = builder.Extent();
   return builder.IsEmpty() ? -3 : 0;
 }
