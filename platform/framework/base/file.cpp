@@ -142,9 +142,12 @@ CString CFile::GetFileName() const {
 }
 
 void CFile::Rename(LPCWSTR oldPath, LPCWSTR newPath) {
-  if (!MoveFileW(AfxMapDevicePath(oldPath), AfxMapDevicePath(newPath))) ThrowLastError(oldPath);
+  const CString from = AfxMapDevicePath(oldPath);
+  const CString to = AfxMapDevicePath(newPath);
+  if (!MoveFileW(from, to)) ThrowLastError(oldPath);
 }
 
 void CFile::Remove(LPCWSTR path) {
-  if (!DeleteFileW(AfxMapDevicePath(path))) ThrowLastError(path);
+  const CString mapped = AfxMapDevicePath(path);
+  if (!DeleteFileW(mapped)) ThrowLastError(path);
 }

@@ -3,6 +3,8 @@
 #include <memory>
 #include <utility>
 
+IMPLEMENT_DYNAMIC(CObList, CObject)
+
 struct CObList::Node {
   Node* previous;
   Node* next;

@@ -1,6 +1,7 @@
 // CString: comparing, searching, cutting, changing, formatting.
 #include <algorithm>
 #include <cwchar>
+#include <cwctype>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -8,8 +9,6 @@
 #include "framework/string.h"
 
 namespace {
-
-constexpr LPCWSTR kWhiteSpace = L" \t\n\v\f\r";
 
 std::wstring_view View(const CString& text) {
   return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
@@ -23,16 +22,34 @@ int ToIndex(std::wstring_view::size_type place) {
   return place == std::wstring_view::npos ? -1 : static_cast<int>(place);
 }
 
+bool IsSpace(WCHAR ch) { return std::iswspace(ch) != 0; }
+
+// What TrimLeft and TrimRight take away: how many characters at each end `belongs` accepts.
+template <class Belongs>
+int CountAtStart(std::wstring_view text, Belongs belongs) {
+  return static_cast<int>(std::find_if_not(text.begin(), text.end(), belongs) - text.begin());
+}
+
+template <class Belongs>
+int CountAtEnd(std::wstring_view text, Belongs belongs) {
+  return static_cast<int>(std::find_if_not(text.rbegin(), text.rend(), belongs) - text.rbegin());
+}
+
+CString& CutTo(CString& text, int length) {
+  text.Delete(length, text.GetLength());
+  return text;
+}
+
+auto OneOf(LPCWSTR set) {
+  return [set](WCHAR ch) { return View(set).find(ch) != std::wstring_view::npos; };
+}
+
 }  // namespace
 
-int CString::Compare(LPCWSTR other) const { return View(*this).compare(View(other)); }
+int CString::Compare(LPCWSTR other) const { return View(GetString()).compare(View(other)); }
 
 int CString::CompareNoCase(LPCWSTR other) const {
-  const std::wstring_view a = View(*this);
-  const std::wstring_view b = View(other);
-  return CompareStringOrdinal(a.data(), static_cast<int>(a.size()), other ? b.data() : L"",
-                              static_cast<int>(b.size()), TRUE) -
-         CSTR_EQUAL;
+  return CString(*this).MakeLower().Compare(CString(other).MakeLower());
 }
 
 CString CString::Mid(int first, int count) const {
@@ -86,20 +103,39 @@ CString& CString::MakeReverse() {
 
 CString& CString::Trim() { return TrimRight().TrimLeft(); }
 
-CString& CString::TrimLeft() { return TrimLeft(kWhiteSpace); }
+CString& CString::TrimLeft() {
+  Delete(0, CountAtStart(View(*this), IsSpace));
+  return *this;
+}
 
-CString& CString::TrimRight() { return TrimRight(kWhiteSpace); }
+CString& CString::TrimRight() {
+  return CutTo(*this, GetLength() - CountAtEnd(View(*this), IsSpace));
+}
+
+CString& CString::Trim(WCHAR ch) { return TrimRight(ch).TrimLeft(ch); }
+
+CString& CString::TrimLeft(WCHAR ch) {
+  const WCHAR set[] = {ch, L'\0'};
+  return TrimLeft(set);
+}
+
+CString& CString::TrimRight(WCHAR ch) {
+  const WCHAR set[] = {ch, L'\0'};
+  return TrimRight(set);
+}
+
+CString& CString::Trim(LPCWSTR set) {
+  const CString kept(set);  // `set` may be part of this string
+  return TrimRight(kept).TrimLeft(kept);
+}
 
 CString& CString::TrimLeft(LPCWSTR set) {
-  const auto first = View(*this).find_first_not_of(View(set));
-  Delete(0, first == std::wstring_view::npos ? GetLength() : static_cast<int>(first));
+  Delete(0, CountAtStart(View(*this), OneOf(set)));
   return *this;
 }
 
 CString& CString::TrimRight(LPCWSTR set) {
-  const auto last = View(*this).find_last_not_of(View(set));
-  Delete(last == std::wstring_view::npos ? 0 : static_cast<int>(last) + 1, GetLength());
-  return *this;
+  return CutTo(*this, GetLength() - CountAtEnd(View(*this), OneOf(set)));
 }
 
 int CString::Replace(WCHAR from, WCHAR to) {

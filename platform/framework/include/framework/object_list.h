@@ -11,6 +11,7 @@ using POSITION = AFX_POSITION*;
 // place: a position is valid until its own element is removed. Positions and, for the calls that
 // return an element, a non-empty list are the caller's duty.
 class AFX_FRAMEWORK CObList : public CObject {
+  DECLARE_DYNAMIC(CObList)
  public:
   explicit CObList(INT_PTR blockSize = 10);
   ~CObList() override;

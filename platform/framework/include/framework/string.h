@@ -50,7 +50,8 @@ class AFX_FRAMEWORK CString {
   CString& operator+=(LPCWSTR text);
   CString& operator+=(WCHAR ch);
 
-  // ---- Comparing: below 0, 0 or above 0; by character value, or without case
+  // ---- Comparing: below 0, 0 or above 0; by character value up to the first NUL. Without case the
+  //      lower-case letters of every script are compared.
 
   int Compare(LPCWSTR other) const;
   int CompareNoCase(LPCWSTR other) const;
@@ -77,9 +78,14 @@ class AFX_FRAMEWORK CString {
   CString& MakeUpper();
   CString& MakeLower();
   CString& MakeReverse();
+  // Without an argument: white space, the ideographic space too.
   CString& Trim();
   CString& TrimLeft();
   CString& TrimRight();
+  CString& Trim(WCHAR ch);
+  CString& TrimLeft(WCHAR ch);
+  CString& TrimRight(WCHAR ch);
+  CString& Trim(LPCWSTR set);
   CString& TrimLeft(LPCWSTR set);
   CString& TrimRight(LPCWSTR set);
   int Replace(WCHAR from, WCHAR to);
@@ -135,3 +141,7 @@ AFX_STRING_COMPARISON(>)
 AFX_STRING_COMPARISON(<=)
 AFX_STRING_COMPARISON(>=)
 #undef AFX_STRING_COMPARISON
+
+// With one character.
+inline bool operator==(const CString& a, WCHAR b) { return a.GetLength() == 1 && a[0] == b; }
+inline bool operator!=(const CString& a, WCHAR b) { return !(a == b); }
