@@ -16,7 +16,10 @@ class Converter {
   Converter(const Converter&) = delete;
   Converter& operator=(const Converter&) = delete;
 
-  [[nodiscard]] bool IsOpen() const { return handle_ != iconv_t(-1); }
+  // The call says -1 as a pointer when it fails.
+  [[nodiscard]] bool IsOpen() const {
+    return handle_ != iconv_t(-1);  // NOLINT(performance-no-int-to-ptr)
+  }
   [[nodiscard]] iconv_t Handle() const { return handle_; }
 
  private:

@@ -21,7 +21,7 @@ struct TextLine {
 // also a closing Ctrl-Z; lines that are no text, or longer than any record, are skipped and said.
 class TextLines {
  public:
-  static constexpr std::size_t kLongestLine = 64 * 1024;  // bytes
+  static constexpr std::size_t kLongestLine = 65536;  // bytes
 
   // `bytes` must outlive the object.
   TextLines(std::string_view bytes, ReadLog& log);
