@@ -1,0 +1,14 @@
+// Coordinate lists: one point a line, as number, northing, easting, elevation, description or by a
+// header line; separated by commas, tabs, semicolons or blanks.
+#pragma once
+
+#include "host/readers/read_log.h"
+#include "host/readers/survey.h"
+#include "host/readers/text_lines.h"
+
+namespace fieldhost {
+
+// Reads all points; lines that are none are skipped and said, but for a header.
+[[nodiscard]] Survey ReadCoordinates(const TextLines& lines, ReadLog& log);
+
+}  // namespace fieldhost

@@ -1,0 +1,66 @@
+#include "host/readers/text_lines.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "host/readers/field_text.h"
+
+namespace fieldhost {
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+std::string_view WithoutMark(std::string_view bytes) {
+  if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
+  return bytes;
+}
+
+bool IsAscii(std::string_view bytes) {
+  return std::all_of(bytes.begin(), bytes.end(),
+                     [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
+}  // namespace
+
+TextLines::TextLines(std::string_view bytes, ReadLog& log)
+    : encoding_(bytes.starts_with(kByteOrderMark) ? TextEncoding::kUtf8 : EncodingOf(bytes)) {
+  bytes = WithoutMark(bytes);
+  for (int number = 1; !bytes.empty(); ++number) {
+    const std::size_t end = std::min(bytes.find_first_of("\r\n"), bytes.size());
+    Take(number, bytes.substr(0, end), log);
+    bytes.remove_prefix(end);
+    bytes.remove_prefix(bytes.starts_with("\r\n") ? 2 : bytes.empty() ? 0 : 1);
+  }
+}
+
+void TextLines::Take(int number, std::string_view bytes, ReadLog& log) {
+  if (bytes.size() > kLongestLine) {
+    log.Skip(number, "the line is too long");
+    return;
+  }
+  if (bytes.find('\0') != std::string_view::npos) {
+    log.Skip(number, "the line holds a null character");
+    return;
+  }
+  if (Trim(bytes).empty()) return;
+  if (IsAscii(bytes)) {
+    lines_.push_back({number, bytes});
+    return;
+  }
+  if (encoding_ == TextEncoding::kUtf8) {
+    if (IsUtf8(bytes)) {
+      lines_.push_back({number, bytes});
+    } else {
+      log.Skip(number, "the line is not UTF-8 text");
+    }
+    return;
+  }
+  if (std::optional<std::string> text = Utf8FromShiftJis(bytes)) {
+    lines_.push_back({number, converted_.emplace_back(std::move(*text))});
+  } else {
+    log.Skip(number, "the line is neither UTF-8 nor Shift-JIS text");
+  }
+}
+
+}  // namespace fieldhost

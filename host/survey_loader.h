@@ -1,0 +1,28 @@
+// Survey files from disk, joined to one survey.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "host/readers/read_log.h"
+#include "host/readers/survey.h"
+
+namespace fieldhost {
+
+struct LoadedSurvey {
+  Survey survey;                        // of all files that could be read, in their order
+  std::vector<std::string> refusals;    // one sentence for each file that could not
+  std::vector<Diagnostic> diagnostics;  // about lines of files that could
+  std::size_t skipped_lines = 0;
+};
+
+// Reads the files one after the other. A file without a single point is refused.
+[[nodiscard]] LoadedSurvey LoadSurveyFiles(std::span<const std::filesystem::path> files);
+
+// Adds points and lots behind those that are there.
+void Append(Survey addition, Survey& survey);
+
+}  // namespace fieldhost

@@ -1,0 +1,180 @@
+#include "host/readers/coordinate_reader.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/readers/survey_reader.h"
+
+namespace fieldhost {
+namespace {
+
+struct Read {
+  Survey survey;
+  ReadLog log{"list.csv"};
+};
+
+Read ReadList(std::string_view bytes) {
+  Read read;
+  read.survey = ReadSurvey("list.csv", bytes, read.log);
+  return read;
+}
+
+// Expects exactly one point and nothing skipped.
+SurveyPoint OnlyPoint(std::string_view bytes) {
+  const Read read = ReadList(bytes);
+  EXPECT_EQ(read.log.SkippedLines(), 0U) << bytes;
+  EXPECT_EQ(read.survey.points.size(), 1U) << bytes;
+  return read.survey.points.empty() ? SurveyPoint() : read.survey.points[0];
+}
+
+TEST(CoordinateReader, TakesEverySeparator) {
+  for (const std::string_view bytes : {
+           "12,-42247.011,25917.765,31.5,old tree",
+           "12\t-42247.011\t25917.765\t31.5\told tree\r\n",
+           "12;-42247.011;25917.765;31.5;old tree\n",
+           "12 -42247.011 25917.765 31.5 old tree",
+           "  12   -42247.011\t25917.765   31.5   old tree\n",
+           "\"12\",\"-42247.011\",\"25917.765\",\"31.5\",\"old tree\"\n",
+           "\xEF\xBB\xBF"
+           "12, -42247.011, 25917.765, 31.5, old tree",
+       }) {
+    const SurveyPoint point = OnlyPoint(bytes);
+    EXPECT_EQ(point.number, 12) << bytes;
+    EXPECT_EQ(point.north, -42247.011) << bytes;
+    EXPECT_EQ(point.east, 25917.765) << bytes;
+    EXPECT_EQ(point.height, 31.5) << bytes;
+    EXPECT_EQ(point.name, "old tree") << bytes;
+    EXPECT_EQ(point.kind, "old tree") << bytes;
+  }
+}
+
+TEST(CoordinateReader, DescriptionMayHoldSeparators) {
+  EXPECT_EQ(OnlyPoint("1,10,20,3,tree, big; very\ttall").name, "tree, big; very\ttall");
+  EXPECT_EQ(OnlyPoint("1 10 20 3 tree, big, tall").name, "tree, big, tall");
+  EXPECT_EQ(OnlyPoint("1\t10\t20\t3\ttree, big").name, "tree, big");
+  EXPECT_EQ(OnlyPoint("1,10,20,3,\"tree, \"\"big\"\"\"").name, "tree, \"big\"");
+}
+
+TEST(CoordinateReader, ElevationMayBeMissing) {
+  const struct {
+    std::string_view line;
+    std::string_view name;
+  } rows[] = {
+      {"1,10,20", "1"},
+      {"1,10,20,", "1"},
+      {"1,10,20,,tree", "tree"},
+      {"1,10,20,,", "1"},
+      {"1,10,20,tree", "tree"},
+      {"1 10 20", "1"},
+      {"1 10 20 old tree", "old tree"},
+      {"1\t10\t20\t\ttree", "tree"},
+  };
+  for (const auto& row : rows) {
+    const SurveyPoint point = OnlyPoint(row.line);
+    EXPECT_FALSE(point.height) << row.line;
+    EXPECT_EQ(point.name, row.name) << row.line;
+  }
+}
+
+TEST(CoordinateReader, NameComesFromTheBestText) {
+  const struct {
+    std::string_view line;
+    int number;
+    std::string_view name;
+    std::string_view kind;
+  } rows[] = {
+      {"7,1,2,3,IRON", 7, "IRON", "IRON"},         {"007,1,2,3,", 7, "007", ""},
+      {"T-5,1,2,3,基準点", 0, "T-5", "基準点"},    {"T-5,1,2,3", 0, "T-5", ""},
+      {"99999999999,1,2,3", 0, "99999999999", ""}, {"0,1,2,3", 0, "0", ""},
+  };
+  for (const auto& row : rows) {
+    const SurveyPoint point = OnlyPoint(row.line);
+    EXPECT_EQ(point.number, row.number) << row.line;
+    EXPECT_EQ(point.name, row.name) << row.line;
+    EXPECT_EQ(point.kind, row.kind) << row.line;
+  }
+}
+
+TEST(CoordinateReader, HeaderGivesTheOrder) {
+  for (const std::string_view bytes : {
+           "no,kind,name,x_north,y_east\n5,control,T-5,10,20",
+           "No., Code, Name, X, Y\n5,control,T-5,10,20",
+           "Easting;Northing;Name;ID;Kind\n20;10;T-5;5;control",
+           "点番,種別,点名,X座標,Y座標,備考\n5,control,T-5,10,20,by the gate",
+           "\xEF\xBB\xBF"
+           "\"no\",\"kind\",\"name\",\"N\",\"E\"\n5,control,T-5,10,20",
+           "no kind name n e\n5 control T-5 10 20",
+           "no,survey,kind,name,n,e\n5,2024,control,T-5,10,20,",
+       }) {
+    const SurveyPoint point = OnlyPoint(bytes);
+    EXPECT_EQ(point.number, 5) << bytes;
+    EXPECT_EQ(point.name, "T-5") << bytes;
+    EXPECT_EQ(point.kind, "control") << bytes;
+    EXPECT_EQ(point.north, 10) << bytes;
+    EXPECT_EQ(point.east, 20) << bytes;
+  }
+}
+
+TEST(CoordinateReader, HeaderOfUnknownNamesIsPassedOver) {
+  EXPECT_EQ(OnlyPoint("alpha,beta,gamma\n5,10,20").number, 5);
+  EXPECT_EQ(OnlyPoint("P,N,E,Z,D\n5,10,20,3,tree, big").name, "tree, big");
+}
+
+TEST(CoordinateReader, ReadsShiftJis) {
+  const SurveyPoint point = OnlyPoint("1,10,20,3,\x8A\xEE\x8F\x80\x93\x5F\r\n");
+  EXPECT_EQ(point.name, "基準点");
+}
+
+TEST(CoordinateReader, BadLinesAreSkippedAndSaid) {
+  const struct {
+    std::string_view line;
+    std::string_view sentence;
+  } rows[] = {
+      {"2,abc,20,3", "the northing 'abc' is not a number"},
+      {"2,10,abc,3", "the easting 'abc' is not a number"},
+      {"2,10,20,abc,tree", "the elevation 'abc' is not a number"},
+      {"2,10", "the line has no northing and easting"},
+      {"2,,20", "the line has no northing and easting"},
+      {"2,nan,20", "the northing 'nan' is not a number"},
+      {"2,10,inf", "the easting 'inf' is not a number"},
+      {"2,1e300,20", "the northing '1e300' lies beyond any ground"},
+      {"2,10,20,1e300", "the elevation '1e300' lies beyond any ground"},
+      {",10,20,3", "the point has neither a number nor a name"},
+      {"end of list", "the line has no northing and easting"},
+  };
+  for (const auto& row : rows) {
+    const Read read =
+        ReadList("1,1,2,3,a\n\n" + std::string(row.line) + "\n3,1,2,3,c\n4,1,2,3,d\n");
+    EXPECT_EQ(read.survey.points.size(), 3U) << row.line;
+    EXPECT_EQ(read.log.SkippedLines(), 1U) << row.line;
+    ASSERT_EQ(read.log.Diagnostics().size(), 1U) << row.line;
+    EXPECT_EQ(read.log.Diagnostics()[0].line, 3) << row.line;
+    EXPECT_EQ(read.log.Diagnostics()[0].sentence, row.sentence) << row.line;
+  }
+}
+
+TEST(CoordinateReader, OneBadLineDoesNotChangeTheSeparator) {
+  const Read read = ReadList("1,10,20,3,a b c\nfor 9 3 points\n2,10,20,3,d e f\n");
+  EXPECT_EQ(read.survey.points.size(), 2U);
+  EXPECT_EQ(read.log.SkippedLines(), 1U);
+}
+
+TEST(CoordinateReader, FindsNothingInOtherText) {
+  const std::string every_byte = [] {
+    std::string bytes;
+    for (int i = 0; i < 256; ++i) bytes += static_cast<char>(i);
+    return bytes;
+  }();
+  for (const std::string& bytes :
+       {std::string("Dear surveyor,\nplease find enclosed\n"), std::string("\n\n\n"),
+        std::string("<html><body>1 2</body></html>"), every_byte, std::string(100000, '\0'),
+        std::string(200000, ','), std::string(200000, '"')}) {
+    EXPECT_TRUE(ReadList(bytes).survey.points.empty());
+  }
+}
+
+}  // namespace
+}  // namespace fieldhost

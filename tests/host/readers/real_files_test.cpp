@@ -1,0 +1,123 @@
+// Survey files that others measured and wrote. They are no part of the project: where they are not
+// at hand, these tests say so and skip.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "host/survey_loader.h"
+
+namespace fieldhost {
+namespace {
+
+class RealFile : public testing::Test {
+ protected:
+  // The file's survey, read without a complaint; skips the test when there is no such file.
+  void Load(const char* name) {
+    const std::vector<std::filesystem::path> files = {std::filesystem::path(TAVIX_SHARED_DATA) /
+                                                      name};
+    if (!std::filesystem::exists(files[0])) {
+      GTEST_SKIP() << "The real survey file " << name << " is not at hand.";
+    }
+    const LoadedSurvey loaded = LoadSurveyFiles(files);
+    EXPECT_TRUE(loaded.refusals.empty());
+    EXPECT_TRUE(loaded.diagnostics.empty());
+    EXPECT_EQ(loaded.skipped_lines, 0U);
+    survey = loaded.survey;
+  }
+
+  void ExpectExtent(double north_min, double north_max, double east_min, double east_max) const {
+    const auto by_north = std::minmax_element(
+        survey.points.begin(), survey.points.end(),
+        [](const SurveyPoint& a, const SurveyPoint& b) { return a.north < b.north; });
+    const auto by_east = std::minmax_element(
+        survey.points.begin(), survey.points.end(),
+        [](const SurveyPoint& a, const SurveyPoint& b) { return a.east < b.east; });
+    EXPECT_EQ(by_north.first->north, north_min);
+    EXPECT_EQ(by_north.second->north, north_max);
+    EXPECT_EQ(by_east.first->east, east_min);
+    EXPECT_EQ(by_east.second->east, east_max);
+  }
+
+  Survey survey;
+};
+
+TEST_F(RealFile, RegistryMapOfManyControlPoints) {
+  ASSERT_NO_FATAL_FAILURE(Load("moj-registry-map/12103-0400-76.sim"));
+  if (IsSkipped()) return;
+  ASSERT_EQ(survey.points.size(), 610U);
+  ASSERT_EQ(survey.lots.size(), 1U);
+  EXPECT_EQ(survey.points[0].name, "020100");
+  EXPECT_EQ(survey.lots[0].name, "194-1");
+  EXPECT_EQ(survey.lots[0].corners, (std::vector<std::size_t>{606, 608, 609, 607}));
+  ExpectExtent(-42737.116, -42104.611, 25739.966, 26695.870);
+}
+
+TEST_F(RealFile, RegistryMapOfManyLots) {
+  ASSERT_NO_FATAL_FAILURE(Load("moj-registry-map/46505-3411-1.sim"));
+  if (IsSkipped()) return;
+  ASSERT_EQ(survey.points.size(), 164U);
+  ASSERT_EQ(survey.lots.size(), 8U);
+  EXPECT_EQ(survey.lots[0].name, "2740-1");
+  EXPECT_EQ(survey.lots[0].corners.size(), 109U);
+  EXPECT_EQ(survey.lots[2].name, "別図-5");
+  EXPECT_EQ(survey.lots[3].name, "地区外-43774");
+  std::size_t corners = 0;
+  for (const SurveyLot& lot : survey.lots) {
+    EXPECT_TRUE(lot.closed);
+    corners += lot.corners.size();
+  }
+  EXPECT_EQ(corners, 282U);
+  ExpectExtent(-297829.398, -297229.380, -34617.994, -33817.987);
+}
+
+TEST_F(RealFile, PaddedLotEqualsThePlainOne) {
+  ASSERT_NO_FATAL_FAILURE(Load("sima-minimal/lot-446-2.sim"));
+  if (IsSkipped()) return;
+  const Survey plain = survey;
+  ASSERT_NO_FATAL_FAILURE(Load("sima-minimal/lot-446-2-padded.sim"));
+  if (IsSkipped()) return;
+  ASSERT_EQ(plain.points.size(), 4U);
+  ASSERT_EQ(survey.points.size(), 4U);
+  for (std::size_t i = 0; i < 4; ++i) {
+    EXPECT_EQ(survey.points[i].name, plain.points[i].name);
+    EXPECT_EQ(survey.points[i].north, plain.points[i].north);
+    EXPECT_EQ(survey.points[i].east, plain.points[i].east);
+  }
+  ASSERT_EQ(survey.lots.size(), 1U);
+  EXPECT_EQ(survey.lots[0].corners, (std::vector<std::size_t>{3, 2, 1, 0}));
+}
+
+TEST_F(RealFile, ListWithAHeaderEqualsTheSimaFile) {
+  ASSERT_NO_FATAL_FAILURE(Load("moj-registry-map/46505-3411-1.sim"));
+  if (IsSkipped()) return;
+  const Survey sima = survey;
+  ASSERT_NO_FATAL_FAILURE(Load("moj-registry-map/46505-3411-1.points.csv"));
+  if (IsSkipped()) return;
+  ASSERT_EQ(survey.points.size(), sima.points.size());
+  for (std::size_t i = 0; i < survey.points.size(); ++i) {
+    EXPECT_EQ(survey.points[i].number, sima.points[i].number);
+    EXPECT_EQ(survey.points[i].name, sima.points[i].name);
+    EXPECT_EQ(survey.points[i].north, sima.points[i].north);
+    EXPECT_EQ(survey.points[i].east, sima.points[i].east);
+  }
+  EXPECT_EQ(survey.points[0].kind, "基準点");
+  EXPECT_EQ(survey.points[163].kind, "筆界点");
+}
+
+TEST_F(RealFile, ListOfManyStations) {
+  ASSERT_NO_FATAL_FAILURE(Load("os-trig/trig_points_pnezd.csv"));
+  if (IsSkipped()) return;
+  ASSERT_EQ(survey.points.size(), 21479U);
+  EXPECT_EQ(survey.points[0].number, 1);
+  EXPECT_EQ(survey.points[0].name, "NN96/1 PILLAR");
+  EXPECT_EQ(survey.points[0].height, 936.345);
+  EXPECT_EQ(survey.points[21478].number, 21479);
+  ExpectExtent(5575.208, 1219690.420, 8710.270, 654131.330);
+}
+
+}  // namespace
+}  // namespace fieldhost

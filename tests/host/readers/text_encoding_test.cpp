@@ -1,0 +1,71 @@
+#include "host/readers/text_encoding.h"
+
+#include <gtest/gtest.h>
+
+#include <string_view>
+
+namespace fieldhost {
+namespace {
+
+TEST(IsUtf8, TakesWellFormedText) {
+  for (const std::string_view text :
+       {std::string_view(), std::string_view("abc"), std::string_view("\xC2\x80"),
+        std::string_view("\xDF\xBF"), std::string_view("基準点"), std::string_view("\xEF\xBF\xBD"),
+        std::string_view("\xF0\x90\x80\x80"), std::string_view("\xF4\x8F\xBF\xBF"),
+        std::string_view("a\0b", 3)}) {
+    EXPECT_TRUE(IsUtf8(text)) << text;
+  }
+}
+
+TEST(IsUtf8, RefusesIllFormedText) {
+  const struct {
+    const char* what;
+    std::string_view text;
+  } rows[] = {
+      {"a continuation alone", "\x80"},
+      {"a cut sequence", "\xE5\x9F"},
+      {"a lead without continuation", "\xC3q"},
+      {"two bytes for one", "\xC1\xBF"},
+      {"three bytes for two", "\xE0\x9F\xBF"},
+      {"four bytes for three", "\xF0\x8F\xBF\xBF"},
+      {"a surrogate", "\xED\xA0\x80"},
+      {"past the last character", "\xF4\x90\x80\x80"},
+      {"no lead byte", "\xFF"},
+      {"Shift-JIS", "\x8A\xEE\x8F\x80\x93\x5F"},
+  };
+  for (const auto& row : rows) EXPECT_FALSE(IsUtf8(row.text)) << row.what;
+}
+
+TEST(EncodingOf, ShiftJisIsWhatIsNotUtf8) {
+  EXPECT_EQ(EncodingOf("plain"), TextEncoding::kUtf8);
+  EXPECT_EQ(EncodingOf("基準点"), TextEncoding::kUtf8);
+  EXPECT_EQ(EncodingOf("\x8A\xEE\x8F\x80\x93\x5F"), TextEncoding::kShiftJis);
+}
+
+TEST(Utf8FromShiftJis, ConvertsLikeCodePage932) {
+  const struct {
+    const char* what;
+    std::string_view bytes;
+    std::string_view text;
+  } rows[] = {
+      {"nothing", "", ""},
+      {"ASCII, the backslash too", "A\\~", "A\\~"},
+      {"characters of two bytes", "\x8A\xEE\x8F\x80\x93\x5F", "基準点"},
+      {"a second byte that looks like a backslash", "\x95\x5C", "表"},
+      {"half-width kana", "\xC3\xDE\xB0\xC0", "ﾃﾞｰﾀ"},
+      {"a wave dash", "\x81\x60", "～"},
+      {"a character only Windows has", "\x87\x40", "①"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(Utf8FromShiftJis(row.bytes), row.text) << row.what;
+}
+
+TEST(Utf8FromShiftJis, RefusesWhatIsNoText) {
+  for (const std::string_view bytes : {"\x8A", "ab\x93", "\x81\x20"}) {
+    EXPECT_FALSE(Utf8FromShiftJis(bytes)) << bytes.size();
+  }
+  // A refusal leaves nothing behind for the next call.
+  EXPECT_EQ(Utf8FromShiftJis("\x95\x5C"), "表");
+}
+
+}  // namespace
+}  // namespace fieldhost
