@@ -23,48 +23,39 @@ void DrawLabel(CDC& dc, const LegendStyle& style, ScreenPoint at, NameView text)
 }  // namespace
 
 PointLook::PointLook(CDC& dc, const CViewState& view, const LegendTable& legend)
-    : dc_(dc), view_(view), legend_(legend) {}
+    : dc_(dc), view_(view), pen_(dc, legend) {}
 
 PointLook::~PointLook() { DropObjects(); }
 
 void PointLook::Use(std::int16_t legend) {
-  if (legend == entry_.number) return;
-  if (legend_.Get(legend, &entry_) != 0) entry_ = {legend, true, {}};
-  LegendStyle& style = entry_.style;
-  style.prm1 = std::min(style.prm1, kMostPixels);
-  style.prm2 = std::min(style.prm2, kMostPixels);
+  if (!pen_.Use(legend)) return;
+  style_ = pen_.Style();
+  style_.prm1 = std::min(style_.prm1, kMostPixels);
+  style_.prm2 = std::min(style_.prm2, kMostPixels);
   DropObjects();
   MakeObjects();
-  margin_ = view_.PixelsToLength(style.prm1);
+  margin_ = view_.PixelsToLength(style_.prm1);
 }
 
 void PointLook::MakeObjects() {
-  const LegendStyle& style = entry_.style;
-  const auto color = static_cast<COLORREF>(style.color);
-  LOGPEN pen{PS_SOLID, {style.width, style.width}, color};
-  pen_.CreatePenIndirect(&pen);
-  old_pen_ = dc_.SelectObject(&pen_);
-  if (style.kind < kFirstFilledMark) {
+  if (style_.kind < kFirstFilledMark) {
     old_brush_ = static_cast<CBrush*>(dc_.SelectStockObject(NULL_BRUSH));
   } else {
-    brush_.CreateSolidBrush(color);
+    brush_.CreateSolidBrush(static_cast<COLORREF>(style_.color));
     old_brush_ = dc_.SelectObject(&brush_);
   }
-  if (style.prm2 > 0) {
-    const LOGFONTW font = LabelFont(style.prm2);
+  if (style_.prm2 > 0) {
+    const LOGFONTW font = LabelFont(style_.prm2);
     font_.CreateFontIndirect(&font);
     old_font_ = dc_.SelectObject(&font_);
   }
 }
 
 void PointLook::DropObjects() {
-  if (old_pen_) dc_.SelectObject(old_pen_);
   if (old_brush_) dc_.SelectObject(old_brush_);
   if (old_font_) dc_.SelectObject(old_font_);
-  old_pen_ = nullptr;
   old_brush_ = nullptr;
   old_font_ = nullptr;
-  pen_.DeleteObject();
   brush_.DeleteObject();
   font_.DeleteObject();
 }

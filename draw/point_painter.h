@@ -5,6 +5,7 @@
 
 #include <cstdint>
 
+#include "draw/legend_pen.h"
 #include "store/legend_table.h"
 #include "store/point_list.h"
 #include "view/view_state.h"
@@ -12,10 +13,8 @@
 namespace tavix {
 
 // The pen, brush and font of one legend entry at a time, made when a point with another legend
-// number comes and selected into the device context. Points of one legend entered in a row, as they
-// mostly are, share them. The destructor puts back what was selected before.
-//
-// A legend number without an entry draws nothing.
+// number comes and selected into the device context. The destructor puts back what was selected
+// before.
 class PointLook {
  public:
   PointLook(CDC& dc, const CViewState& view, const LegendTable& legend);
@@ -26,7 +25,7 @@ class PointLook {
   // Makes `legend` the current entry.
   void Use(std::int16_t legend);
 
-  [[nodiscard]] const LegendStyle& Style() const { return entry_.style; }
+  [[nodiscard]] const LegendStyle& Style() const { return style_; }
 
   // How far a mark of this entry reaches on the ground, in metres.
   [[nodiscard]] double Margin() const { return margin_; }
@@ -37,13 +36,11 @@ class PointLook {
 
   CDC& dc_;
   const CViewState& view_;
-  const LegendTable& legend_;
-  HanRec entry_{-1, true, {}};  // -1: the first point always looks its entry up
+  LegendPen pen_;
+  LegendStyle style_;
   double margin_ = 0.0;
-  CPen pen_;
   CBrush brush_;
   CFont font_;
-  CPen* old_pen_ = nullptr;
   CBrush* old_brush_ = nullptr;
   CFont* old_font_ = nullptr;
 };

@@ -66,10 +66,11 @@ int CPntList::SetCur(std::int32_t number, NameView name, GroundPoint at, std::in
   return SetCurNoNam(number, name);
 }
 
-void CPntList::Clear() {
+int CPntList::Clear() {
   records_.Clear();
   names_.Clear();
   changed_ = false;
+  return 0;
 }
 
 int CPntList::FindNearest(double tolerance, GroundPoint at, std::int32_t* key) const {

@@ -49,7 +49,7 @@ class CPntList {
   int SetCurHan(std::int16_t legend);
   int SetCur(std::int32_t number, NameView name, GroundPoint at, std::int16_t legend);
 
-  void Clear();
+  int Clear();
 
   // The key of the point nearest to `at` among the first ten in list order that lie within the
   // square of half side `tolerance` (metres, borders included); of equals the earlier one. -3 when

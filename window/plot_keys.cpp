@@ -33,8 +33,7 @@ void CPlotWnd::PanByKey(WPARAM key) {
       edge = {width / 2, height};
       break;
   }
-  links_.view->SetCentre(GroundUnder(edge));
-  ViewChanged();
+  PanTo(GroundUnder(edge));
 }
 
 }  // namespace tavix

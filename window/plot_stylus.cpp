@@ -2,7 +2,6 @@
 #include <cmath>
 
 #include "window/plot_window.h"
-#include "window/refusal_beep.h"
 
 namespace tavix {
 namespace {
@@ -64,9 +63,7 @@ void CPlotWnd::FinishBand(const StylusGesture& gesture) {
   const auto corners = band_zoom_.Take(gesture, GroundUnder(gesture.down), GroundUnder(gesture.up));
   if (!corners) return;
   const auto [a, b] = *corners;
-  BeepIfCut(links_.view->ZoomToArea({std::fabs(b.y - a.y), std::fabs(b.x - a.x)},
-                                    {(a.x + b.x) * 0.5, (a.y + b.y) * 0.5}));
-  ViewChanged();
+  ZoomTo({std::fabs(b.y - a.y), std::fabs(b.x - a.x)}, {(a.x + b.x) * 0.5, (a.y + b.y) * 0.5});
   EndBandZoom();
 }
 
@@ -80,8 +77,7 @@ void CPlotWnd::FinishPan(const StylusGesture& gesture) {
     const GroundPoint from = GroundUnder(gesture.down);
     centre = {middle.x + from.x - centre.x, middle.y + from.y - centre.y};
   }
-  links_.view->SetCentre(centre);
-  ViewChanged();
+  PanTo(centre);
 }
 
 void CPlotWnd::Pick(ScreenPoint at) {

@@ -76,6 +76,16 @@ int CPlotWnd::FitView() {
   return 0;
 }
 
+int CPlotWnd::ZoomTo(GroundSize size, GroundPoint centre) {
+  BeepIfCut(links_.view->ZoomToArea(size, centre));
+  return ViewChanged();
+}
+
+int CPlotWnd::PanTo(GroundPoint centre) {
+  links_.view->SetCentre(centre);
+  return ViewChanged();
+}
+
 int CPlotWnd::Redraw() {
   if (!m_hWnd) return 0;
   buffer_.Fill();

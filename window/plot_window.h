@@ -57,6 +57,10 @@ class CPlotWnd : public CWnd {
   // fit.
   int FitView();
 
+  // Zooms to a ground box, or moves the centre, and redraws. Always 0.
+  int ZoomTo(GroundSize size, GroundPoint centre);
+  int PanTo(GroundPoint centre);
+
   // Draws everything into the back buffer and has the window repainted. Always 0.
   int Redraw();
 

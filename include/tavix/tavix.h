@@ -110,6 +110,47 @@ TAVIX_CALL int Tavix_SetTatYok(int tate, int yoko);
 // (1 and 1 at first) are written all the same. Needs a linked window (-1 without, nothing written).
 TAVIX_CALL int Tavix_GetTatYok(int* tate, int* yoko);
 
+// Shows a ground box in the whole window, without a margin. (X1, Y1) is the south-west corner: sizes
+// are not made positive, and a box that is negative both ways is shown at 1 pixel per metre. The home
+// view stays. Redraws; returns 0. Needs a linked window (-1 without).
+TAVIX_CALL int Tavix_Zom(double X1, double Y1, double X2, double Y2);
+
+// The same for the square around a circle; radius in metres.
+TAVIX_CALL int Tavix_Zom1(double X, double Y, double radius);
+
+// Moves the view's centre to (X, Y) at the present scale and redraws. Returns 0; needs a linked window
+// (-1 without).
+TAVIX_CALL int Tavix_Pan(double X, double Y);
+
+// Does nothing and returns 0; kept for hosts that call it.
+TAVIX_CALL int Tavix_Mov(void);
+
+// ---- Picking -----------------------------------------------------------------------------------
+//
+// A tap on a point posts WM_COMMAND to the window's parent, with the notify id given at the link in
+// wParam and the point's key in lParam. In coordinate-capture mode every tap posts WM_COMMAND with the
+// mode's own command id and 0, and Tavix_CrdGet gives the coordinate.
+
+// Writes 1 when the pixel of (X, Y) lies in the drawing area, borders included, else 0. Returns 0.
+TAVIX_CALL int Tavix_ChkCrd(double X, double Y, int* visible);
+
+// Writes 1 when the four outermost points of a circle lie in the drawing area, else 0; a radius below
+// 0.00001 m asks for the centre alone. Returns 0.
+TAVIX_CALL int Tavix_ChkCir(double X, double Y, double radius, int* visible);
+
+// Writes the client pixel where the stylus last left the window, and returns its y.
+TAVIX_CALL int Tavix_GetLstPicCrd(int* x, int* y);
+
+// Starts coordinate capture under this command id, and forgets a coordinate captured before.
+TAVIX_CALL int Tavix_CrdStt(int command);
+
+// Writes the coordinate that the latest tap has captured: that of the point it hit, else that of the
+// ground. Returns -1 when there is none.
+TAVIX_CALL int Tavix_CrdGet(double* X, double* Y);
+
+// Ends coordinate capture and forgets the coordinate. Returns 0.
+TAVIX_CALL int Tavix_CrdEnd(void);
+
 // ---- Points ------------------------------------------------------------------------------------
 
 // Enters a point with the selected point legend, or replaces everything but the key of the point
