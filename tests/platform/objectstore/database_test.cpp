@@ -55,18 +55,44 @@ TEST_P(DatabaseTest, InfoTellsWhatADatabaseIs) {
   EXPECT_EQ(Store().Info(record + 1).error, StoreError::kNotFound);
 }
 
-TEST_P(DatabaseTest, RenamingChangesNameAndType) {
+TEST_P(DatabaseTest, NameTypeAndOrdersCanChangeTogetherOrAlone) {
+  const SortOrder order = {.property = PropertyId(1, PropertyType::kI2)};
   database_ = Store().CreateDatabase(u"old", 1, {}).value;
   Store().CreateDatabase(u"taken", 1, {});
-  EXPECT_EQ(Store().Rename(database_, u"taken", 2), StoreError::kDuplicateName);
-  EXPECT_EQ(Store().Rename(database_, u"", 2), StoreError::kInvalidParameter);
-  EXPECT_EQ(Store().Rename(0, u"new", 2), StoreError::kInvalidParameter);
-  EXPECT_EQ(Store().FindDatabase(u"old").value, database_);
-  EXPECT_EQ(Store().Rename(database_, u"old", 2), StoreError::kNone) << "its own name is free";
-  EXPECT_EQ(Store().Rename(database_, u"new", 3), StoreError::kNone);
+  const auto change = [this](const DatabaseChange& to) {
+    return Store().ChangeDatabase(database_, to);
+  };
+  EXPECT_EQ(change({.name = u"old"}), StoreError::kNone) << "its own name is free";
+  EXPECT_EQ(change({.type = 2}), StoreError::kNone);
+  EXPECT_EQ(Store().Info(database_).value.database.Name(), u"old");
+  EXPECT_EQ(change({.name = u"new", .type = 3, .orders = std::span(&order, 1)}), StoreError::kNone);
   EXPECT_EQ(Store().FindDatabase(u"new").value, database_);
   EXPECT_EQ(Store().FindDatabase(u"old").error, StoreError::kNotFound);
   EXPECT_EQ(Store().Info(database_).value.database.type, 3U);
+  EXPECT_EQ(Store().Info(database_).value.database.Orders().size(), 1U);
+}
+
+TEST_P(DatabaseTest, AChangeThatFailsChangesNothing) {
+  const SortOrder blob = {.property = PropertyId(1, PropertyType::kBlob)};
+  const SortOrder order = {.property = PropertyId(1, PropertyType::kI2)};
+  database_ = Store().CreateDatabase(u"old", 1, {}).value;
+  Store().CreateDatabase(u"taken", 1, {});
+  const StoreHandle handle = Open(kNoSort);
+  struct Row {
+    DatabaseChange change;
+    StoreError error;
+  };
+  for (const Row& row :
+       {Row{{.name = u"taken", .type = 2}, StoreError::kDuplicateName},
+        Row{{.name = u"", .type = 2}, StoreError::kInvalidParameter},
+        Row{{.name = u"new", .orders = std::span(&blob, 1)}, StoreError::kInvalidParameter},
+        Row{{.name = u"new", .orders = std::span(&order, 1)}, StoreError::kInUse}}) {
+    EXPECT_EQ(Store().ChangeDatabase(database_, row.change), row.error);
+    EXPECT_EQ(Store().Info(database_).value.database.Name(), u"old");
+    EXPECT_EQ(Store().Info(database_).value.database.type, 1U);
+    EXPECT_TRUE(Store().Info(database_).value.database.Orders().empty());
+  }
+  EXPECT_EQ(Store().ChangeDatabase(AddKey(handle, 1), {.type = 2}), StoreError::kInvalidParameter);
 }
 
 TEST(Database, ChangesAreTimed) {
@@ -118,7 +144,6 @@ TEST_P(DatabaseTest, OnlyDatabasesOpenAndGo) {
   const ObjectId record = AddKey(Open(kNoSort), 1);
   EXPECT_EQ(Store().Open(record, kNoSort, false).error, StoreError::kInvalidParameter);
   EXPECT_EQ(Store().DeleteDatabase(record), StoreError::kInvalidParameter);
-  EXPECT_EQ(Store().SetOrders(record, {}), StoreError::kInvalidParameter);
   EXPECT_EQ(Store().Open(database_, PropertyId(1, PropertyType::kI2), false).error,
             StoreError::kInvalidParameter);
 }
@@ -133,6 +158,7 @@ TEST_P(DatabaseTest, AClosedHandleFindsNothingAlsoWhenItsPlaceIsTakenAgain) {
   const Property value = Property::I2(kKey, 1);
   for (const StoreHandle bad : {old, StoreHandle{0}, ~StoreHandle{0}, young ^ 0x1000U}) {
     EXPECT_EQ(Store().Read(bad).error, StoreError::kInvalidParameter);
+    EXPECT_EQ(Store().Peek(bad).error, StoreError::kInvalidParameter);
     EXPECT_EQ(Store().Seek(bad, SeekTarget::To(kBeginning), nullptr).error,
               StoreError::kInvalidParameter);
     EXPECT_EQ(Store().Write(bad, 0, {&value, 1}).error, StoreError::kInvalidParameter);
@@ -151,9 +177,9 @@ TEST_P(DatabaseTest, HandlesRunOutAndComeBack) {
     handles.push_back(handle.value);
     handle = Store().Open(database_, kNoSort, false);
   }
-  EXPECT_EQ(handle.error, StoreError::kFull);
+  EXPECT_EQ(handle.error, StoreError::kTooManyOpen);
   EXPECT_EQ(handles.size(), 4096U);
-  EXPECT_EQ(Store().OpenEnumeration(0).error, StoreError::kFull);
+  EXPECT_EQ(Store().OpenEnumeration(0).error, StoreError::kTooManyOpen);
   EXPECT_EQ(Store().Close(handles.back()), StoreError::kNone);
   EXPECT_TRUE(Store().OpenEnumeration(0));
 }

@@ -1,7 +1,6 @@
 // The failing store fails what it is told to, when it is told to, and nothing else.
 #include <functional>
 
-#include "platform/objectstore/current_store.h"
 #include "tests/platform/objectstore/store_fixture.h"
 
 namespace tavix {
@@ -36,20 +35,21 @@ TEST_F(FailingStoreTest, EveryOperationFailsAloneAndDoesNotReachTheStore) {
       {Operation::kCreate, [&] { return failing.CreateDatabase(u"new", 0, {}).error; }},
       {Operation::kFind, [&] { return failing.FindDatabase(u"db").error; }},
       {Operation::kInfo, [&] { return failing.Info(database).error; }},
-      {Operation::kRename, [&] { return failing.Rename(database, u"db", 1); }},
       {Operation::kOpen, [&] { return failing.Open(database, kNoSort, false).error; }},
       {Operation::kOpenEnumeration, [&] { return failing.OpenEnumeration(0).error; }},
       {Operation::kNextDatabase, [&] { return failing.NextDatabase(walk).error; }},
       {Operation::kSeek,
        [&] { return failing.Seek(handle, SeekTarget::To(kBeginning), nullptr).error; }},
       {Operation::kRead, [&] { return failing.Read(handle).error; }},
+      {Operation::kPeek, [&] { return failing.Peek(handle).error; }},
       {Operation::kWrite,
        [&] {
          return failing.Write(handle, 0, {&value, 1}).error;
        }},
       {Operation::kDeleteRecord, [&] { return failing.DeleteRecord(handle, record); }},
       {Operation::kClose, [&] { return failing.Close(handle); }},
-      {Operation::kSetOrders, [&] { return failing.SetOrders(database, {}); }},
+      {Operation::kChange,
+       [&] { return failing.ChangeDatabase(database, {.orders = std::span<const SortOrder>()}); }},
       {Operation::kDelete, [&] { return failing.DeleteDatabase(database); }},
   };
   for (const Row& failed : rows) failing.Fail(failed.operation, StoreError::kFull);
@@ -65,7 +65,7 @@ TEST_F(FailingStoreTest, EveryOperationFailsAloneAndDoesNotReachTheStore) {
   for (const Row& row : rows) {
     failing.Pass(row.operation);
     const StoreError expected =
-        row.operation == Operation::kSetOrders || row.operation == Operation::kDelete
+        row.operation == Operation::kChange || row.operation == Operation::kDelete
             ? StoreError::kInUse
             : StoreError::kNone;
     EXPECT_EQ(row.call(), expected) << static_cast<int>(row.operation);
@@ -80,15 +80,6 @@ TEST_F(FailingStoreTest, AFailureComesAfterSomeCallsAndForSomeCalls) {
   EXPECT_EQ(passed, (std::vector{true, true, false, true, true}));
   EXPECT_EQ(failing.Calls(Operation::kRead), 5);
   EXPECT_EQ(failing.Calls(Operation::kWrite), 0);
-}
-
-TEST_F(FailingStoreTest, AnInstalledStoreIsTheCurrentOneUntilTheOldOneIsBack) {
-  ObjectStore& own = CurrentStore();
-  EXPECT_EQ(&CurrentStore(), &own);
-  ObjectStore* before = SetCurrentStore(&failing);
-  EXPECT_EQ(&CurrentStore(), &failing);
-  EXPECT_EQ(SetCurrentStore(before), &failing);
-  EXPECT_EQ(&CurrentStore(), &own);
 }
 
 }  // namespace

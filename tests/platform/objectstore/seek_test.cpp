@@ -205,9 +205,11 @@ TEST_P(SeekTest, ReadingStaysOrGoesOnAsOpened) {
   EXPECT_EQ(Store().Read(staying).value.id, ten_);
 
   const StoreHandle going = Open(kByKey.property, true);
+  EXPECT_EQ(Store().Peek(going).value.id, ten_);
   for (const ObjectId record : {ten_, twenty_[0], twenty_[1], twenty_[2], thirty_, none_}) {
     EXPECT_EQ(Store().Read(going).value.id, record);
   }
+  EXPECT_EQ(Store().Peek(going).error, StoreError::kNoMoreItems);
   EXPECT_EQ(Store().Read(going).error, StoreError::kNoMoreItems);
 }
 
