@@ -41,11 +41,15 @@ std::uint32_t Cursor::Index() {
   return static_cast<std::uint32_t>(index_->Entries().Index(Locate()));
 }
 
-Outcome<RecordView> Cursor::Read() {
+Outcome<RecordView> Cursor::Peek() const {
   if (deleted_) return StoreError::kDeleted;
   if (!record_) return StoreError::kNoMoreItems;
-  const RecordView view = {heap_->Id(*record_), heap_->Properties(*record_)};
-  if (auto_increment_) {
+  return RecordView{heap_->Id(*record_), heap_->Properties(*record_)};
+}
+
+Outcome<RecordView> Cursor::Read() {
+  const Outcome<RecordView> view = Peek();
+  if (view && auto_increment_) {
     index_->Settle();
     StandAt(NextRecord());
   }

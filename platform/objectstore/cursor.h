@@ -30,6 +30,7 @@ class Cursor {
   // Where the record under the cursor is in the order; there must be one.
   [[nodiscard]] std::uint32_t Index();
 
+  [[nodiscard]] Outcome<RecordView> Peek() const;
   Outcome<RecordView> Read();
 
   // A record is about to be deleted, or to take another place in this cursor's order.

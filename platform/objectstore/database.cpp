@@ -15,9 +15,13 @@ std::u16string_view Database::CutName(std::u16string_view name) {
   return name.substr(0, DatabaseInfo::kMaxName - 1);
 }
 
-void Database::Describe(std::u16string_view name, std::uint32_t type) {
+void Database::SetName(std::u16string_view name) {
   info_.name.fill(u'\0');
   std::ranges::copy(CutName(name), info_.name.begin());
+  info_.modified = clock_();
+}
+
+void Database::SetType(std::uint32_t type) {
   info_.type = type;
   info_.modified = clock_();
 }

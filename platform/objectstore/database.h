@@ -29,7 +29,8 @@ class Database {
 
   // The part of a name that counts: up to 31 characters.
   static std::u16string_view CutName(std::u16string_view name);
-  void Describe(std::u16string_view name, std::uint32_t type);
+  void SetName(std::u16string_view name);
+  void SetType(std::uint32_t type);
 
   // kInvalidParameter for orders that cannot be.
   static StoreError CheckOrders(std::span<const SortOrder> orders);

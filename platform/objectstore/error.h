@@ -11,7 +11,8 @@ enum class StoreError {
   kInUse,             // the database is open
   kNoMoreItems,       // the seek pointer is at the end, or nothing was left to find
   kDeleted,           // the record at the seek pointer, or a database of the enumeration, is gone
-  kFull,              // no identifiers or no handles are left
+  kFull,              // no identifiers are left
+  kTooManyOpen,       // no handles are left
 };
 
 // A result with the reason when there is none. True as a condition when the call worked.

@@ -50,16 +50,10 @@ Outcome<ObjectInfo> FailingStore::Info(ObjectId object) {
   return inner_.Info(object);
 }
 
-StoreError FailingStore::Rename(ObjectId database, std::u16string_view name, std::uint32_t type) {
-  const StoreError error = Turn(Operation::kRename);
+StoreError FailingStore::ChangeDatabase(ObjectId database, const DatabaseChange& change) {
+  const StoreError error = Turn(Operation::kChange);
   if (error != StoreError::kNone) return error;
-  return inner_.Rename(database, name, type);
-}
-
-StoreError FailingStore::SetOrders(ObjectId database, std::span<const SortOrder> orders) {
-  const StoreError error = Turn(Operation::kSetOrders);
-  if (error != StoreError::kNone) return error;
-  return inner_.SetOrders(database, orders);
+  return inner_.ChangeDatabase(database, change);
 }
 
 Outcome<StoreHandle> FailingStore::Open(ObjectId database, PropertyId sort, bool auto_increment) {
@@ -97,6 +91,12 @@ Outcome<RecordView> FailingStore::Read(StoreHandle handle) {
   const StoreError error = Turn(Operation::kRead);
   if (error != StoreError::kNone) return error;
   return inner_.Read(handle);
+}
+
+Outcome<RecordView> FailingStore::Peek(StoreHandle handle) {
+  const StoreError error = Turn(Operation::kPeek);
+  if (error != StoreError::kNone) return error;
+  return inner_.Peek(handle);
 }
 
 Outcome<ObjectId> FailingStore::Write(StoreHandle handle, ObjectId record,

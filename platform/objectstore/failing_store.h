@@ -16,14 +16,14 @@ class FailingStore : public ObjectStore {
     kDelete,  // of a database
     kFind,
     kInfo,
-    kRename,
-    kSetOrders,
+    kChange,  // of a database
     kOpen,
     kOpenEnumeration,
     kNextDatabase,
     kClose,
     kSeek,
     kRead,
+    kPeek,
     kWrite,
     kDeleteRecord,
   };
@@ -44,8 +44,7 @@ class FailingStore : public ObjectStore {
   StoreError DeleteDatabase(ObjectId database) override;
   Outcome<ObjectId> FindDatabase(std::u16string_view name) override;
   Outcome<ObjectInfo> Info(ObjectId object) override;
-  StoreError Rename(ObjectId database, std::u16string_view name, std::uint32_t type) override;
-  StoreError SetOrders(ObjectId database, std::span<const SortOrder> orders) override;
+  StoreError ChangeDatabase(ObjectId database, const DatabaseChange& change) override;
   Outcome<StoreHandle> Open(ObjectId database, PropertyId sort, bool auto_increment) override;
   Outcome<StoreHandle> OpenEnumeration(std::uint32_t type) override;
   Outcome<ObjectId> NextDatabase(StoreHandle enumeration) override;
@@ -53,6 +52,7 @@ class FailingStore : public ObjectStore {
   Outcome<ObjectId> Seek(StoreHandle handle, const SeekTarget& target,
                          std::uint32_t* index) override;
   Outcome<RecordView> Read(StoreHandle handle) override;
+  Outcome<RecordView> Peek(StoreHandle handle) override;
   Outcome<ObjectId> Write(StoreHandle handle, ObjectId record,
                           std::span<const Property> properties) override;
   StoreError DeleteRecord(StoreHandle handle, ObjectId record) override;

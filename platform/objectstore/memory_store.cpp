@@ -30,7 +30,8 @@ Outcome<ObjectId> MemoryStore::CreateDatabase(std::u16string_view name, std::uin
   const ObjectId id = directory_.Add();
   if (id == 0) return StoreError::kFull;
   auto database = std::make_unique<Database>(id, fold_, clock_);
-  database->Describe(name, type);
+  database->SetName(name);
+  database->SetType(type);
   database->SetOrders(orders);
   directory_.Set(id, {database.get(), ObjectDirectory::kIsDatabase});
   databases_.push_back(std::move(database));
@@ -70,22 +71,22 @@ Outcome<ObjectInfo> MemoryStore::Info(ObjectId object) {
   return info;
 }
 
-StoreError MemoryStore::Rename(ObjectId database, std::u16string_view name, std::uint32_t type) {
-  Database* found = DatabaseOf(database);
-  if (!found || name.empty()) return StoreError::kInvalidParameter;
-  const Database* holder = DatabaseNamed(name);
-  if (holder && holder != found) return StoreError::kDuplicateName;
-  found->Describe(name, type);
-  return StoreError::kNone;
-}
-
-StoreError MemoryStore::SetOrders(ObjectId database, std::span<const SortOrder> orders) {
+StoreError MemoryStore::ChangeDatabase(ObjectId database, const DatabaseChange& change) {
   Database* found = DatabaseOf(database);
   if (!found) return StoreError::kInvalidParameter;
-  const StoreError error = Database::CheckOrders(orders);
-  if (error != StoreError::kNone) return error;
-  if (found->IsOpen()) return StoreError::kInUse;
-  found->SetOrders(orders);
+  if (change.name) {
+    if (change.name->empty()) return StoreError::kInvalidParameter;
+    const Database* holder = DatabaseNamed(*change.name);
+    if (holder && holder != found) return StoreError::kDuplicateName;
+  }
+  if (change.orders) {
+    const StoreError error = Database::CheckOrders(*change.orders);
+    if (error != StoreError::kNone) return error;
+    if (found->IsOpen()) return StoreError::kInUse;
+    found->SetOrders(*change.orders);
+  }
+  if (change.name) found->SetName(*change.name);
+  if (change.type) found->SetType(*change.type);
   return StoreError::kNone;
 }
 
@@ -94,7 +95,7 @@ StoreError MemoryStore::SetOrders(ObjectId database, std::span<const SortOrder> 
 Outcome<StoreHandle> MemoryStore::Open(ObjectId database, PropertyId sort, bool auto_increment) {
   Database* found = DatabaseOf(database);
   if (!found) return StoreError::kInvalidParameter;
-  if (handles_.IsFull()) return StoreError::kFull;
+  if (handles_.IsFull()) return StoreError::kTooManyOpen;
   OpenObject open;
   open.database = found;
   open.cursor = found->OpenCursor(sort, auto_increment);
@@ -103,7 +104,7 @@ Outcome<StoreHandle> MemoryStore::Open(ObjectId database, PropertyId sort, bool 
 }
 
 Outcome<StoreHandle> MemoryStore::OpenEnumeration(std::uint32_t type) {
-  if (handles_.IsFull()) return StoreError::kFull;
+  if (handles_.IsFull()) return StoreError::kTooManyOpen;
   OpenObject walk;
   walk.type = type;
   walk.deletions = deletions_;
@@ -153,6 +154,12 @@ Outcome<RecordView> MemoryStore::Read(StoreHandle handle) {
   OpenObject* open = OpenDatabaseOf(handle);
   if (!open) return StoreError::kInvalidParameter;
   return open->cursor->Read();
+}
+
+Outcome<RecordView> MemoryStore::Peek(StoreHandle handle) {
+  const OpenObject* open = OpenDatabaseOf(handle);
+  if (!open) return StoreError::kInvalidParameter;
+  return open->cursor->Peek();
 }
 
 Outcome<ObjectId> MemoryStore::Write(StoreHandle handle, ObjectId record,

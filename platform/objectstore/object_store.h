@@ -18,6 +18,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -53,6 +54,13 @@ struct DatabaseInfo {
 
   [[nodiscard]] std::u16string_view Name() const { return name.data(); }
   [[nodiscard]] std::span<const SortOrder> Orders() const { return {orders.data(), order_count}; }
+};
+
+// What to make different about a database; what is not given stays.
+struct DatabaseChange {
+  std::optional<std::u16string_view> name = std::nullopt;
+  std::optional<std::uint32_t> type = std::nullopt;
+  std::optional<std::span<const SortOrder>> orders = std::nullopt;
 };
 
 struct ObjectInfo {
@@ -117,16 +125,15 @@ class ObjectStore {
   // Of any object; kNotFound.
   virtual Outcome<ObjectInfo> Info(ObjectId object) = 0;
 
-  // Changes name and type; kDuplicateName when another database has the name.
-  virtual StoreError Rename(ObjectId database, std::u16string_view name, std::uint32_t type) = 0;
-
-  // Changes the sort orders; kInUse while a handle is open on it.
-  virtual StoreError SetOrders(ObjectId database, std::span<const SortOrder> orders) = 0;
+  // All of it or nothing; fails as CreateDatabase does, and with kInUse for new orders while a
+  // handle is open on the database.
+  virtual StoreError ChangeDatabase(ObjectId database, const DatabaseChange& change) = 0;
 
   // ---- Handles
 
   // The seek pointer starts at the first record. `sort` is one of the database's sort properties;
-  // none takes its first order. With `auto_increment` a read moves the pointer to the next record.
+  // none takes its first order. Fails with
+  // kTooManyOpen. With `auto_increment` a read moves the pointer to the next record.
   virtual Outcome<StoreHandle> Open(ObjectId database, PropertyId sort, bool auto_increment) = 0;
 
   // Walks over the databases of one type, or of all types for 0, in the order of their creation.
@@ -149,6 +156,9 @@ class ObjectStore {
   // kNoMoreItems at the end; kDeleted where the record is gone, unless the handle increments: then
   // the record behind it is read.
   virtual Outcome<RecordView> Read(StoreHandle handle) = 0;
+
+  // The same without moving the pointer of a handle that increments.
+  virtual Outcome<RecordView> Peek(StoreHandle handle) = 0;
 
   // Sets, adds and removes properties of a record, or of a new one when `record` is 0, and leaves
   // the seek pointer on it. Of two values for one property the later counts.

@@ -18,9 +18,11 @@ void OrderedEntries::Insert(Position position, const OrderedEntry& entry) {
     if (stretches_.empty() || stretches_.back().size() == kMaxStretch) {
       stretches_.emplace_back();
       stretches_.back().reserve(kMaxStretch);
+      lasts_.emplace_back();
       lengths_.Append();
     }
     stretches_.back().push_back(entry);
+    lasts_.back() = entry;
     lengths_.Change(stretches_.size() - 1, 1);
     return;
   }
@@ -31,6 +33,7 @@ void OrderedEntries::Insert(Position position, const OrderedEntry& entry) {
   }
   Stretch& stretch = stretches_[position.stretch];
   stretch.insert(stretch.begin() + static_cast<std::ptrdiff_t>(position.offset), entry);
+  lasts_[position.stretch] = stretch.back();
   lengths_.Change(position.stretch, 1);
 }
 
@@ -40,11 +43,12 @@ void OrderedEntries::Erase(Position position) {
   Stretch& stretch = stretches_[position.stretch];
   stretch.erase(stretch.begin() + static_cast<std::ptrdiff_t>(position.offset));
   if (!stretch.empty()) {
+    lasts_[position.stretch] = stretch.back();
     lengths_.Change(position.stretch, -1);
     return;
   }
   stretches_.erase(stretches_.begin() + static_cast<std::ptrdiff_t>(position.stretch));
-  CountLengths();
+  TallyStretches();
 }
 
 void OrderedEntries::Assign(const std::vector<OrderedEntry>& sorted) {
@@ -60,7 +64,7 @@ void OrderedEntries::Assign(const std::vector<OrderedEntry>& sorted) {
     stretch.assign(sorted.begin() + static_cast<std::ptrdiff_t>(from),
                    sorted.begin() + static_cast<std::ptrdiff_t>(to));
   }
-  CountLengths();
+  TallyStretches();
 }
 
 void OrderedEntries::AppendTo(std::vector<OrderedEntry>& out) const {
@@ -76,13 +80,17 @@ void OrderedEntries::Split(std::size_t stretch) {
   lower.erase(middle, lower.end());
   stretches_.insert(stretches_.begin() + static_cast<std::ptrdiff_t>(stretch) + 1,
                     std::move(upper));
-  CountLengths();
+  TallyStretches();
 }
 
-void OrderedEntries::CountLengths() {
+void OrderedEntries::TallyStretches() {
   std::vector<std::size_t> lengths;
   lengths.reserve(stretches_.size());
-  for (const Stretch& stretch : stretches_) lengths.push_back(stretch.size());
+  lasts_.clear();
+  for (const Stretch& stretch : stretches_) {
+    lengths.push_back(stretch.size());
+    lasts_.push_back(stretch.back());
+  }
   lengths_.Assign(lengths);
 }
 

@@ -51,13 +51,12 @@ class OrderedEntries {
   // none behind.
   template <class Before>
   [[nodiscard]] Position Partition(Before before) const {
-    const auto stretch =
-        std::partition_point(stretches_.begin(), stretches_.end(),
-                             [&](const Stretch& candidate) { return before(candidate.back()); });
-    if (stretch == stretches_.end()) return End();
-    const auto entry = std::partition_point(stretch->begin(), stretch->end(), before);
-    return {static_cast<std::size_t>(stretch - stretches_.begin()),
-            static_cast<std::size_t>(entry - stretch->begin())};
+    const auto last = std::partition_point(lasts_.begin(), lasts_.end(), before);
+    if (last == lasts_.end()) return End();
+    const auto number = static_cast<std::size_t>(last - lasts_.begin());
+    const Stretch& stretch = stretches_[number];
+    const auto entry = std::partition_point(stretch.begin(), stretch.end(), before);
+    return {number, static_cast<std::size_t>(entry - stretch.begin())};
   }
 
   // Before the entry at the position, or last at End.
@@ -77,9 +76,10 @@ class OrderedEntries {
   static constexpr std::size_t kMaxStretch = 256;
 
   void Split(std::size_t stretch);
-  void CountLengths();
+  void TallyStretches();
 
   std::vector<Stretch> stretches_;
+  std::vector<OrderedEntry> lasts_;  // of each stretch, side by side for a quick search
   PrefixCounts lengths_;
   std::size_t size_ = 0;
   std::uint64_t version_ = 0;

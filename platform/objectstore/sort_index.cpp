@@ -58,7 +58,7 @@ SortIndex::Position SortIndex::Find(Slot slot) const {
 SortIndex::Position SortIndex::FirstNotBefore(const Property& value) const {
   const std::uint64_t number = SortNumber(value, order_, fold_);
   return entries_.Partition([&](const OrderedEntry& entry) {
-    return entry.unknown ? order_.unknown_first : Compare(entry, value, number) < 0;
+    return entry.unknown ? order_.unknown_first : std::is_lt(Compare(entry, value, number));
   });
 }
 
@@ -75,7 +75,7 @@ SortIndex::Position SortIndex::KnownEnd() const {
 bool SortIndex::HasValue(Position position, const Property& value) const {
   if (position == entries_.End()) return false;
   const OrderedEntry& entry = entries_.At(position);
-  return !entry.unknown && Compare(entry, value, SortNumber(value, order_, fold_)) == 0;
+  return !entry.unknown && std::is_eq(Compare(entry, value, SortNumber(value, order_, fold_)));
 }
 
 OrderedEntry SortIndex::Entry(Slot slot) const {
@@ -92,7 +92,7 @@ bool SortIndex::Before(const OrderedEntry& one, const OrderedEntry& other) const
   if (order_.property.Type() == PropertyType::kString && !one.unknown && one.id != other.id) {
     const Property* value = FindProperty(heap_->Properties(other.slot), order_.property);
     const std::strong_ordering compared = Compare(one, *value, other.number);
-    if (compared != 0) return compared < 0;
+    if (std::is_neq(compared)) return std::is_lt(compared);
   }
   return one.id < other.id;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <utility>
 
 namespace tavix {
 namespace {
@@ -67,9 +68,9 @@ std::strong_ordering CompareStrings(std::u16string_view one, std::u16string_view
   const auto compare_units = [&](char16_t left, char16_t right) {
     return order.ignore_case ? fold(left) <=> fold(right) : left <=> right;
   };
-  const std::strong_ordering ascending = std::lexicographical_compare_three_way(
-      one.begin(), one.end(), other.begin(), other.end(), compare_units);
-  return order.descending ? 0 <=> ascending : ascending;
+  if (order.descending) std::swap(one, other);
+  return std::lexicographical_compare_three_way(one.begin(), one.end(), other.begin(), other.end(),
+                                                compare_units);
 }
 
 }  // namespace tavix

@@ -199,10 +199,11 @@ TEST_P(SortOrderTest, NewOrdersSortWhatIsThere) {
   const ObjectId a = Add(handle, {Property::I2(kKey, 1), Property::I2(kOther, 2)});
   const ObjectId b = Add(handle, {Property::I2(kKey, 2), Property::I2(kOther, 1)});
   const SortOrder other = {.property = PropertyId(kOther, PropertyType::kI2)};
-  EXPECT_EQ(Store().SetOrders(database_, {&other, 1}), StoreError::kInUse);
+  const DatabaseChange change = {.orders = std::span(&other, 1)};
+  EXPECT_EQ(Store().ChangeDatabase(database_, change), StoreError::kInUse);
   EXPECT_EQ(Walk(handle), (std::vector{a, b}));
   Store().Close(handle);
-  EXPECT_EQ(Store().SetOrders(database_, {&other, 1}), StoreError::kNone);
+  EXPECT_EQ(Store().ChangeDatabase(database_, change), StoreError::kNone);
   EXPECT_EQ(Walk(Open(other.property)), (std::vector{b, a}));
   EXPECT_EQ(Store().Open(database_, PropertyId(kKey, PropertyType::kI2), false).error,
             StoreError::kInvalidParameter);

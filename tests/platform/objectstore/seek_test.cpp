@@ -1,0 +1,259 @@
+// The seek pointer: where every kind of seek puts it, and what reading makes of it.
+#include "tests/platform/objectstore/store_fixture.h"
+
+namespace tavix {
+namespace {
+
+constexpr SortOrder kByKey = {.property = PropertyId(111, PropertyType::kI2)};
+
+// Keys 10, 20, 20, 20, 30 and one record without a key.
+class SeekTest : public StoreTest {
+ protected:
+  void Fill(const SortOrder& order, bool auto_increment = false) {
+    handle_ = Make(order, auto_increment);
+    twenty_[0] = AddKey(handle_, 20);
+    thirty_ = AddKey(handle_, 30);
+    twenty_[1] = AddKey(handle_, 20);
+    none_ = Add(handle_, {Property::I2(kOther, 1)});
+    ten_ = AddKey(handle_, 10);
+    twenty_[2] = AddKey(handle_, 20);
+  }
+  Outcome<ObjectId> Seek(const SeekTarget& target) {
+    index_ = kUntouched;
+    return Store().Seek(handle_, target, &index_);
+  }
+  Outcome<ObjectId> SeekKey(SeekTarget::Kind kind, std::int16_t key) {
+    return Seek(SeekTarget::ToValue(kind, Property::I2(kKey, key)));
+  }
+  bool AtEnd() { return Store().Read(handle_).error == StoreError::kNoMoreItems; }
+
+  static constexpr std::uint32_t kUntouched = 77;
+  StoreHandle handle_ = 0;
+  std::uint32_t index_ = kUntouched;
+  ObjectId ten_ = 0;
+  std::array<ObjectId, 3> twenty_{};
+  ObjectId thirty_ = 0;
+  ObjectId none_ = 0;
+};
+
+TEST_P(SeekTest, AHandleStartsAtTheFirstRecord) {
+  Fill(kByKey);
+  EXPECT_EQ(Store().Read(Open(kByKey.property)).value.id, ten_);
+}
+
+TEST_P(SeekTest, AHandleOnNothingStartsAtTheEnd) {
+  handle_ = Make(kByKey);
+  EXPECT_TRUE(AtEnd());
+  for (const SeekTarget::Kind kind : {kBeginning, kEnd, kCurrent}) {
+    EXPECT_EQ(Seek(SeekTarget::To(kind)).error, StoreError::kNoMoreItems);
+  }
+  for (const SeekTarget::Kind kind : {kSmaller, kFirstEqual, kGreater, kNextEqual}) {
+    EXPECT_EQ(SeekKey(kind, 1).error, StoreError::kNoMoreItems);
+  }
+  EXPECT_EQ(index_, kUntouched);
+}
+
+TEST_P(SeekTest, ByPlaceFromEitherEnd) {
+  Fill(kByKey);
+  const std::vector<ObjectId> order = {ten_, twenty_[0], twenty_[1], twenty_[2], thirty_, none_};
+  for (std::uint32_t i = 0; i < order.size(); ++i) {
+    EXPECT_EQ(Seek(SeekTarget::To(kBeginning, i)).value, order[i]);
+    EXPECT_EQ(index_, i);
+    EXPECT_EQ(Seek(SeekTarget::To(kEnd, i)).value, order[order.size() - 1 - i]);
+    EXPECT_EQ(index_, order.size() - 1 - i);
+  }
+  for (const SeekTarget::Kind kind : {kBeginning, kEnd}) {
+    for (const std::int64_t offset :
+         {std::int64_t{6}, std::int64_t{0xFFFFFFFF}, std::int64_t{-1}}) {
+      Seek(SeekTarget::To(kBeginning));
+      EXPECT_EQ(Seek(SeekTarget::To(kind, offset)).error, StoreError::kNoMoreItems);
+      EXPECT_TRUE(AtEnd());
+    }
+  }
+}
+
+TEST_P(SeekTest, FromHereBothWays) {
+  Fill(kByKey);
+  struct Row {
+    std::int64_t from, step, to;  // 6: the end
+  };
+  for (const Row row : {Row{0, 0, 0}, Row{0, 1, 1}, Row{0, 5, 5}, Row{0, 6, 6}, Row{0, -1, 6},
+                        Row{5, -5, 0}, Row{5, 1, 6}, Row{3, -1, 2}, Row{6, -1, 5}, Row{6, -6, 0},
+                        Row{6, 0, 6}, Row{6, 1, 6}, Row{2, -3, 6}, Row{2, 1000000, 6}}) {
+    Seek(SeekTarget::To(kBeginning, row.from));
+    const Outcome<ObjectId> found = Seek(SeekTarget::To(kCurrent, row.step));
+    SCOPED_TRACE(testing::Message() << row.from << " " << row.step);
+    EXPECT_EQ(static_cast<bool>(found), row.to != 6);
+    if (found) {
+      EXPECT_EQ(index_, row.to);
+    } else {
+      EXPECT_TRUE(AtEnd());
+    }
+  }
+}
+
+TEST_P(SeekTest, ByObject) {
+  Fill(kByKey);
+  EXPECT_EQ(Seek(SeekTarget::ToObject(twenty_[2])).value, twenty_[2]);
+  EXPECT_EQ(index_, 3U);
+  EXPECT_EQ(Seek(SeekTarget::ToObject(none_)).value, none_);
+  EXPECT_EQ(index_, 5U);
+  for (const ObjectId no_record : {ObjectId{0}, database_, ObjectId{999}, ~ObjectId{0}}) {
+    EXPECT_EQ(Seek(SeekTarget::ToObject(no_record)).error, StoreError::kInvalidParameter);
+    EXPECT_EQ(Current(handle_), none_) << "the pointer stays";
+  }
+}
+
+TEST_P(SeekTest, RecordsOfOtherDatabasesAreNotFound) {
+  Fill(kByKey);
+  const ObjectId other = Store().CreateDatabase(u"other", 0, {}).value;
+  const StoreHandle other_handle = Store().Open(other, kNoSort, false).value;
+  const ObjectId record = AddKey(other_handle, 1);
+  EXPECT_EQ(Seek(SeekTarget::ToObject(record)).error, StoreError::kInvalidParameter);
+  EXPECT_EQ(Store().DeleteRecord(handle_, record), StoreError::kInvalidParameter);
+  EXPECT_EQ(Store().Write(handle_, record, Values({Property::I2(kKey, 1)})).error,
+            StoreError::kInvalidParameter);
+}
+
+TEST_P(SeekTest, ByValueRising) {
+  Fill(kByKey);
+  struct Row {
+    SeekTarget::Kind kind;
+    std::int16_t key;
+    ObjectId found;  // 0: the end
+  };
+  for (const Row row :
+       {Row{kFirstEqual, 10, ten_}, Row{kFirstEqual, 20, twenty_[0]}, Row{kFirstEqual, 30, thirty_},
+        Row{kFirstEqual, 15, 0}, Row{kFirstEqual, 5, 0}, Row{kFirstEqual, 35, 0},
+        Row{kSmaller, 10, 0}, Row{kSmaller, 5, 0}, Row{kSmaller, 15, ten_}, Row{kSmaller, 20, ten_},
+        Row{kSmaller, 25, twenty_[0]}, Row{kSmaller, 30, twenty_[0]}, Row{kSmaller, 99, thirty_},
+        Row{kGreater, 5, ten_}, Row{kGreater, 10, ten_}, Row{kGreater, 15, twenty_[0]},
+        Row{kGreater, 30, thirty_}, Row{kGreater, 31, 0}}) {
+    SCOPED_TRACE(testing::Message() << static_cast<int>(row.kind) << " " << row.key);
+    EXPECT_EQ(SeekKey(row.kind, row.key).value, row.found);
+    EXPECT_EQ(AtEnd(), row.found == 0);
+  }
+}
+
+TEST_P(SeekTest, ByValueFalling) {
+  SortOrder falling = kByKey;
+  falling.descending = true;
+  Fill(falling);
+  EXPECT_EQ(SeekKey(kSmaller, 20).value, thirty_) << "before 20 in the order stands 30";
+  EXPECT_EQ(SeekKey(kSmaller, 15).value, twenty_[0]);
+  EXPECT_EQ(SeekKey(kSmaller, 30).value, 0U);
+  EXPECT_EQ(SeekKey(kGreater, 25).value, twenty_[0]);
+  EXPECT_EQ(SeekKey(kGreater, 9).value, 0U);
+  EXPECT_EQ(SeekKey(kFirstEqual, 20).value, twenty_[0]);
+}
+
+TEST_P(SeekTest, UnknownRecordsAreNoValues) {
+  SortOrder unknown_first = kByKey;
+  unknown_first.unknown_first = true;
+  Fill(unknown_first);
+  EXPECT_EQ(Seek(SeekTarget::To(kBeginning)).value, none_);
+  EXPECT_EQ(SeekKey(kSmaller, 10).value, 0U);
+  EXPECT_EQ(SeekKey(kGreater, -32768).value, ten_);
+  EXPECT_EQ(SeekKey(kGreater, 31).value, 0U);
+}
+
+TEST_P(SeekTest, NextEqualWalksTheEqualOnes) {
+  Fill(kByKey);
+  EXPECT_EQ(SeekKey(kFirstEqual, 20).value, twenty_[0]);
+  EXPECT_EQ(SeekKey(kNextEqual, 20).value, twenty_[1]);
+  EXPECT_EQ(index_, 2U);
+  EXPECT_EQ(SeekKey(kNextEqual, 20).value, twenty_[2]);
+  EXPECT_EQ(SeekKey(kNextEqual, 20).error, StoreError::kNoMoreItems);
+  EXPECT_TRUE(AtEnd());
+  EXPECT_EQ(SeekKey(kNextEqual, 20).error, StoreError::kNoMoreItems);
+}
+
+TEST_P(SeekTest, NextEqualLooksOneRecordOnAndNoFurther) {
+  Fill(kByKey);
+  Seek(SeekTarget::ToObject(ten_));
+  EXPECT_EQ(SeekKey(kNextEqual, 30).value, 0U);
+  Seek(SeekTarget::ToObject(ten_));
+  EXPECT_EQ(SeekKey(kNextEqual, 20).value, twenty_[0]);
+  Seek(SeekTarget::ToObject(thirty_));
+  EXPECT_EQ(SeekKey(kNextEqual, 0).value, 0U) << "the next record has no key";
+}
+
+TEST_P(SeekTest, ValuesOfAnotherPropertyAreRefusedAndThePointerStays) {
+  Fill(kByKey);
+  Seek(SeekTarget::ToObject(thirty_));
+  for (const SeekTarget::Kind kind : {kSmaller, kFirstEqual, kGreater, kNextEqual}) {
+    for (const Property& value : {Property::I2(kOther, 1), Property::I4(kKey, 20), Property()}) {
+      EXPECT_EQ(Seek(SeekTarget::ToValue(kind, value)).error, StoreError::kInvalidParameter);
+      EXPECT_EQ(Current(handle_), thirty_);
+    }
+  }
+}
+
+TEST_P(SeekTest, ByValueNeedsAnOrder) {
+  database_ = Store().CreateDatabase(u"plain", 0, {}).value;
+  handle_ = Open(kNoSort);
+  AddKey(handle_, 1);
+  EXPECT_EQ(SeekKey(kFirstEqual, 1).error, StoreError::kInvalidParameter);
+  EXPECT_EQ(Seek(SeekTarget::ToValue(kFirstEqual, Property())).error,
+            StoreError::kInvalidParameter);
+}
+
+TEST_P(SeekTest, ReadingStaysOrGoesOnAsOpened) {
+  Fill(kByKey);
+  const StoreHandle staying = Open(kByKey.property);
+  EXPECT_EQ(Store().Read(staying).value.id, ten_);
+  EXPECT_EQ(Store().Read(staying).value.id, ten_);
+
+  const StoreHandle going = Open(kByKey.property, true);
+  EXPECT_EQ(Store().Peek(going).value.id, ten_);
+  for (const ObjectId record : {ten_, twenty_[0], twenty_[1], twenty_[2], thirty_, none_}) {
+    EXPECT_EQ(Store().Read(going).value.id, record);
+  }
+  EXPECT_EQ(Store().Peek(going).error, StoreError::kNoMoreItems);
+  EXPECT_EQ(Store().Read(going).error, StoreError::kNoMoreItems);
+}
+
+TEST_P(SeekTest, NextEqualAfterAnIncrementingReadSkipsOne) {
+  // The read has moved the pointer already; the seek moves it again. Meant so.
+  Fill(kByKey, true);
+  SeekKey(kFirstEqual, 20);
+  EXPECT_EQ(Store().Read(handle_).value.id, twenty_[0]);
+  EXPECT_EQ(SeekKey(kNextEqual, 20).value, twenty_[2]);
+}
+
+TEST_P(SeekTest, AWriteLeavesThePointerOnItsRecord) {
+  Fill(kByKey);
+  EXPECT_EQ(Current(handle_), twenty_[2]);
+  Store().Write(handle_, ten_, Values({Property::I2(kOther, 5)}));
+  EXPECT_EQ(Current(handle_), ten_);
+  Store().Write(handle_, ten_, Values({Property::I2(kKey, 25)}));
+  EXPECT_EQ(Current(handle_), ten_);
+  EXPECT_EQ(Seek(SeekTarget::To(kCurrent, 1)).value, thirty_) << "its place is a new one";
+}
+
+TEST_P(SeekTest, LongStringsAreFoundPastTheirFirstCharacters) {
+  const SortOrder by_name = {.property = PropertyId(9, PropertyType::kString)};
+  handle_ = Make(by_name);
+  const auto add = [&](std::u16string_view name) {
+    return Add(handle_, {Property::String(9, name)});
+  };
+  const ObjectId station_b = add(u"STATION-B");
+  const ObjectId station_a = add(u"STATION-A");
+  const ObjectId station = add(u"STATION");
+  const ObjectId station_a_again = add(u"STATION-A");
+  const auto seek = [&](SeekTarget::Kind kind, std::u16string_view name) {
+    return Seek(SeekTarget::ToValue(kind, Property::String(9, name))).value;
+  };
+  EXPECT_EQ(Walk(handle_), (std::vector{station, station_a, station_a_again, station_b}));
+  EXPECT_EQ(seek(kFirstEqual, u"STATION-A"), station_a);
+  EXPECT_EQ(seek(kNextEqual, u"STATION-A"), station_a_again);
+  EXPECT_EQ(seek(kFirstEqual, u"STATION-"), 0U);
+  EXPECT_EQ(seek(kSmaller, u"STATION-B"), station_a);
+  EXPECT_EQ(seek(kGreater, u"STATION-"), station_a);
+  EXPECT_EQ(seek(kSmaller, u"STAT"), 0U);
+}
+
+TAVIX_STORE_TESTS(SeekTest);
+
+}  // namespace
+}  // namespace tavix
