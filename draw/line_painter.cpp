@@ -87,6 +87,7 @@ void LinePainter::DrawCircle(std::int16_t legend, GroundPoint centre, double rad
   pen_.Use(legend);
   if (pen_.Style() == LegendStyle{}) return;
   const int r = view_.LengthToPixels(radius);
+  if (r < -kLargestRadius) return;
   if (r > kLargestRadius) {
     DrawHugeCircle(dc_, view_.GroundToRealScreen(centre), radius * view_.Scale(),
                    Grown(visible_, pen_.Style().width));

@@ -1,22 +1,78 @@
 #include "draw/plan_view.h"
 
 #include <afxwin.h>
+#include <framework/scoped_select.h>
 
+#include "draw/line_painter.h"
 #include "draw/point_painter.h"
 #include "draw/transparent_background.h"
 
 namespace tavix {
+namespace {
+
+void DrawFigure(LinePainter& painter, const Figure& figure) {
+  if (figure.points.size() < 2) return;
+  const auto legend = static_cast<std::int16_t>(figure.legend);
+  if (figure.is_circle) {
+    painter.DrawCircle(legend, figure.points[0], figure.points[1].x);
+    return;
+  }
+  for (std::size_t i = 1; i < figure.points.size(); ++i) {
+    painter.DrawSegment(legend, figure.points[i - 1], figure.points[i]);
+  }
+}
+
+void DrawFigures(CDC& dc, const PlotData& data) {
+  LinePainter painter(dc, data.view, data.legend);
+  data.figures.ForEach([&](const Figure& figure) { DrawFigure(painter, figure); });
+}
+
+// A line whose end point is missing is passed over.
+void DrawLine(LinePainter& painter, const PlotData& data, const Line& line) {
+  GroundPoint start;
+  GroundPoint end;
+  if (data.points.Locate(line.keys.a, &start) && data.points.Locate(line.keys.b, &end)) {
+    painter.DrawSegment(line.legend, start, end);
+  }
+}
+
+// In the order of entry, so that later lines cover earlier ones as later points do.
+void DrawLines(CDC& dc, const PlotData& data) {
+  LinePainter painter(dc, data.view, data.legend);
+  for (int code = data.lines.First(CLinDb::Order::kById); code == 0; code = data.lines.Next()) {
+    Line line;
+    if (data.lines.ReadCur(&line) == 0) DrawLine(painter, data, line);
+  }
+}
+
+void DrawPoints(CDC& dc, const PlotData& data) {
+  PointLook look(dc, data.view, data.legend);
+  data.points.ForEach([&](const Point& point) { DrawPlanPoint(dc, data.view, look, point); });
+}
+
+}  // namespace
 
 void DrawPlanView(CDC& dc, const PlotData& data) {
   const TransparentBackground transparent(dc);
-  PointLook look(dc, data.view, data.legend);
-  data.points.ForEach([&](const Point& point) { DrawPlanPoint(dc, data.view, look, point); });
+  if (data.draws_lines) {
+    const CScopedSelect hollow(dc, NULL_BRUSH);
+    DrawFigures(dc, data);
+    DrawLines(dc, data);
+  }
+  DrawPoints(dc, data);
 }
 
 void DrawSinglePoint(CDC& dc, const PlotData& data, const Point& point) {
   const TransparentBackground transparent(dc);
   PointLook look(dc, data.view, data.legend);
   DrawPlanPoint(dc, data.view, look, point);
+}
+
+void DrawSingleLine(CDC& dc, const PlotData& data, const Line& line) {
+  if (!data.draws_lines) return;
+  const TransparentBackground transparent(dc);
+  LinePainter painter(dc, data.view, data.legend);
+  DrawLine(painter, data, line);
 }
 
 }  // namespace tavix

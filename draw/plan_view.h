@@ -1,7 +1,9 @@
 // The plan view: everything of an instance, drawn as a map.
 #pragma once
 
+#include "figure/figure_list.h"
 #include "store/legend_table.h"
+#include "store/lin_db.h"
 #include "store/point_list.h"
 #include "view/view_state.h"
 
@@ -9,17 +11,23 @@ class CDC;
 
 namespace tavix {
 
-// What a drawing pass reads. All of it belongs to the instance and outlives the pass.
+// What a drawing pass reads. All of it belongs to the instance and outlives the pass. The line store
+// is walked, which moves its current record.
 struct PlotData {
   const CViewState& view;
   const LegendTable& legend;
   const CPntList& points;
+  CLinDb& lines;
+  const CFigList& figures;
+  bool draws_lines;  // lines and figures are drawn only while this is set
 };
 
-// Draws the plan view's layers into `dc`, bottom to top: points with their marks and labels.
+// Draws the plan view's layers into `dc`, bottom to top: figures, lines, points with their marks and
+// labels.
 void DrawPlanView(CDC& dc, const PlotData& data);
 
-// Draws a single point as the plan view would.
+// Draw a single entity as the plan view would.
 void DrawSinglePoint(CDC& dc, const PlotData& data, const Point& point);
+void DrawSingleLine(CDC& dc, const PlotData& data, const Line& line);
 
 }  // namespace tavix

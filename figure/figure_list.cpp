@@ -1,0 +1,198 @@
+#include "figure/figure_list.h"
+
+#include <array>
+#include <optional>
+
+#include "figure/file_window.h"
+
+namespace tavix {
+namespace {
+
+// Others may look at the files while they are open.
+constexpr UINT kOpenFlags = CFile::modeCreate | CFile::modeReadWrite | CFile::shareDenyNone;
+
+CString PathOf(LPCWSTR format, int instance) {
+  CString path;
+  path.Format(format, instance);
+  return path;
+}
+
+// Runs a step on the files; a failure is not reported.
+template <class Step>
+void Quietly(Step step) {
+  try {
+    step();
+  } catch (CFileException* error) {
+    error->Delete();
+  }
+}
+
+void CloseAndDelete(CFile& file) {
+  const CString path = file.GetFilePath();
+  file.Abort();
+  if (!path.IsEmpty()) Quietly([&] { CFile::Remove(path); });
+}
+
+std::uint64_t LengthOf(CFile& file) {
+  std::uint64_t length = 0;
+  if (file.m_hFile != CFile::hFileNull) Quietly([&] { length = file.GetLength(); });
+  return length;
+}
+
+void WriteAt(CFile& file, std::uint64_t offset, const unsigned char* bytes, std::size_t size) {
+  if (file.m_hFile == CFile::hFileNull) return;
+  Quietly([&] {
+    file.Seek(static_cast<LONGLONG>(offset), CFile::begin);
+    file.Write(bytes, static_cast<UINT>(size));
+  });
+}
+
+std::uint64_t PlaceOf(std::int32_t index) {
+  return static_cast<std::uint64_t>(index) * kFigureRecordSize;
+}
+
+std::optional<FigureRecord> ReadRecord(FileWindow& index_file, std::int32_t index) {
+  const unsigned char* bytes = index_file.Bytes(PlaceOf(index), kFigureRecordSize);
+  if (!bytes) return std::nullopt;
+  return DecodeFigureRecord(bytes);
+}
+
+int ReadFigure(FileWindow& index_file, FileWindow& coordinate_file, std::int32_t index,
+               Figure* figure) {
+  const std::optional<FigureRecord> record = ReadRecord(index_file, index);
+  if (!record) return -2;
+  if (record->deleted != 0) return -1;
+  figure->number = record->number;
+  figure->legend = record->legend;
+  figure->is_circle = record->is_circle != 0;
+  figure->points.clear();
+  if (record->point_count < 1) return 0;
+  const auto count = static_cast<std::size_t>(record->point_count);
+  const unsigned char* bytes =
+      coordinate_file.Bytes(record->first_point, count * kFigurePointSize);
+  if (!bytes) return -3;
+  figure->points.reserve(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    figure->points.push_back(DecodeFigurePoint(bytes + i * kFigurePointSize));
+  }
+  return 0;
+}
+
+}  // namespace
+
+CFigList::CFigList(int instance) : instance_(instance) {}
+
+int CFigList::Open() {
+  changed_ = false;
+  const bool opened = index_.Open(PathOf(L"\\FIG%d.DAT", instance_), kOpenFlags) &&
+                      coordinates_.Open(PathOf(L"\\FIG%d.XY", instance_), kOpenFlags);
+  return opened ? 0 : -1;
+}
+
+int CFigList::Close() {
+  CloseAndDelete(index_);
+  CloseAndDelete(coordinates_);
+  return 0;
+}
+
+int CFigList::Clear() {
+  Close();
+  pending_ = {};
+  return Open();
+}
+
+void CFigList::SetPending(std::int32_t number, std::int32_t legend) {
+  pending_.number = number;
+  pending_.legend = legend;
+}
+
+void CFigList::AddPolyline(std::span<const GroundPoint> points, std::int32_t point_count) {
+  Append(point_count, false, points);
+}
+
+void CFigList::AddCircle(GroundPoint centre, double radius) {
+  const std::array<GroundPoint, 2> points{centre, {radius, 0.0}};
+  Append(2, true, points);
+}
+
+int CFigList::AddCurve(std::span<const GroundPoint> points) {
+  if (points.empty()) return -1;
+  Append(static_cast<std::int32_t>(points.size()), false, points);
+  return 0;
+}
+
+// Points first and record last, so that a record never names points that are not there yet. The record
+// goes to the first whole place: a record cut short by a full disk is written over.
+void CFigList::Append(std::int32_t point_count, bool is_circle,
+                      std::span<const GroundPoint> points) {
+  const std::uint64_t first_point = LengthOf(coordinates_);
+  std::vector<unsigned char> bytes;
+  bytes.reserve(points.size() * kFigurePointSize);
+  for (const GroundPoint point : points) {
+    const FigurePointBytes encoded = EncodeFigurePoint(point);
+    bytes.insert(bytes.end(), encoded.begin(), encoded.end());
+  }
+  WriteAt(coordinates_, first_point, bytes.data(), bytes.size());
+
+  pending_.point_count = point_count;
+  pending_.is_circle = is_circle ? 1 : 0;
+  pending_.first_point = static_cast<std::uint32_t>(first_point);
+  pending_.deleted = 0;
+  const FigureRecordBytes record = EncodeFigureRecord(pending_);
+  WriteAt(index_, PlaceOf(Count()), record.data(), record.size());
+}
+
+int CFigList::Delete(std::int32_t number) {
+  const std::int32_t count = Count();
+  if (count == 0) return -1;
+  std::vector<std::int32_t> found;
+  FileWindow index_file(index_);
+  for (std::int32_t i = 0; i < count; ++i) {
+    const std::optional<FigureRecord> record = ReadRecord(index_file, i);
+    if (!record) break;
+    if (record->deleted == 0 && record->number == number) found.push_back(i);
+  }
+  const FigureRecordBytes deleted = EncodeFigureRecord({0, 0, 0, 0, 0, 1});
+  for (const std::int32_t i : found) WriteAt(index_, PlaceOf(i), deleted.data(), deleted.size());
+  changed_ = true;
+  return 0;
+}
+
+std::int32_t CFigList::Count() const {
+  return static_cast<std::int32_t>(LengthOf(index_) / kFigureRecordSize);
+}
+
+int CFigList::Get(std::int32_t index, Figure* figure) const {
+  if (index < 0) return -2;
+  FileWindow index_file(index_);
+  FileWindow coordinate_file(coordinates_);
+  return ReadFigure(index_file, coordinate_file, index, figure);
+}
+
+void CFigList::ForEach(const std::function<void(const Figure&)>& visit) const {
+  FileWindow index_file(index_);
+  FileWindow coordinate_file(coordinates_);
+  Figure figure;
+  const std::int32_t count = Count();
+  for (std::int32_t i = 0; i < count; ++i) {
+    if (ReadFigure(index_file, coordinate_file, i, &figure) == 0) visit(figure);
+  }
+}
+
+int CFigList::GetExtent(GroundExtent* extent) const {
+  ExtentBuilder builder;
+  ForEach([&](const Figure& figure) {
+    if (figure.is_circle && figure.points.size() >= 2) {
+      const GroundPoint centre = figure.points[0];
+      const double radius = figure.points[1].x;
+      builder.Include(GroundPoint{centre.x + radius, centre.y + radius});
+      builder.Include(GroundPoint{centre.x - radius, centre.y - radius});
+      return;
+    }
+    for (const GroundPoint point : figure.points) builder.Include(point);
+  });
+  *extent = builder.Extent();
+  return builder.IsEmpty() ? -3 : 0;
+}
+
+}  // namespace tavix

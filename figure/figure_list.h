@@ -1,0 +1,82 @@
+// The figures of one instance: lines, circles, polylines, arcs and clothoids.
+#pragma once
+
+#include <afx.h>
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <vector>
+
+#include "figure/figure_codec.h"
+#include "view/coordinates.h"
+#include "view/extent.h"
+
+namespace tavix {
+
+// A figure read back from the files. A circle has two points: its centre, and (radius, 0).
+struct Figure {
+  std::int32_t number = 0;
+  std::int32_t legend = 0;
+  bool is_circle = false;
+  std::vector<GroundPoint> points;
+};
+
+// Figures live in two files in the root folder of the device, "\FIG<instance>.DAT" (index) and
+// "\FIG<instance>.XY" (coordinates), and nowhere else: nothing is kept in memory that could differ
+// from them. Arcs and clothoids are stored as polylines. Errors of writing are not reported.
+class CFigList {
+ public:
+  explicit CFigList(int instance);
+
+  // Makes both files anew and empty. 0, or -1 when one of them cannot be made.
+  int Open();
+
+  // Closes both files and deletes them. Always 0.
+  int Close();
+
+  // Leaves both files empty and forgets the pending numbers. The result of Open.
+  int Clear();
+
+  // The figure and legend number of the figures added from now on: 0 and -1 at first.
+  void SetPending(std::int32_t number, std::int32_t legend);
+
+  void AddPolyline(std::span<const GroundPoint> points, std::int32_t point_count);
+  void AddCircle(GroundPoint centre, double radius);
+  // An arc or a clothoid; -1 and nothing written when the curve is empty.
+  int AddCurve(std::span<const GroundPoint> points);
+
+  // Marks every live figure of this number as deleted. -1 when there is no record at all.
+  int Delete(std::int32_t number);
+
+  // How many records there are, deleted ones included.
+  [[nodiscard]] std::int32_t Count() const;
+
+  // Reads record `index`. -1 it is deleted, -2 it cannot be read, -3 a point cannot be read whole.
+  int Get(std::int32_t index, Figure* figure) const;
+
+  // Calls `visit` for every live figure that can be read whole, in the order of the records.
+  void ForEach(const std::function<void(const Figure&)>& visit) const;
+
+  // Every stored point counts, of a circle its centre plus and minus its radius. 0, or -3 and zeros
+  // when nothing counts.
+  int GetExtent(GroundExtent* extent) const;
+
+  // The refit flag.
+  [[nodiscard]] bool Changed() const { return changed_; }
+  void SetChanged(bool changed) { changed_ = changed; }
+
+  [[nodiscard]] int Instance() const { return instance_; }
+
+ private:
+  void Append(std::int32_t point_count, bool is_circle, std::span<const GroundPoint> points);
+
+  // Read through a window even by const calls: the file's place is no state of ours.
+  mutable CFile index_;
+  mutable CFile coordinates_;
+  FigureRecord pending_;
+  bool changed_ = false;
+  int instance_;
+};
+
+}  // namespace tavix

@@ -1,0 +1,45 @@
+// What the line and the memo store share: one device database of an instance.
+#pragma once
+
+#include <afx.h>
+#include <wcedb.h>
+
+#include <span>
+
+namespace tavix {
+
+// A database that belongs to one instance: made anew and empty with the object, whatever one of that
+// name was left on the device, and deleted with it.
+class DeviceDatabase {
+ public:
+  // `sort_properties` are the orders it can be opened in.
+  DeviceDatabase(LPCWSTR base_name, int instance, DWORD ident, std::span<CCeDBProp> sort_properties);
+  ~DeviceDatabase();
+  DeviceDatabase(const DeviceDatabase&) = delete;
+  DeviceDatabase& operator=(const DeviceDatabase&) = delete;
+
+  // Opens it in the order of a property, or in its first order for null. Reading leaves the current
+  // record where it is.
+  bool Open(CCeDBProp* sort_property);
+
+  // False when it could not be closed.
+  bool Close();
+
+  // Deletes it with all records and makes it anew, closed.
+  bool Recreate();
+
+  // Deletes the current record.
+  bool DeleteCurrent();
+
+  [[nodiscard]] CCeDBDatabase& Records() { return database_; }
+
+ private:
+  void DeleteFromDevice();
+
+  CString name_;  // the base name and the instance
+  DWORD ident_;
+  std::span<CCeDBProp> sort_properties_;
+  CCeDBDatabase database_;
+};
+
+}  // namespace tavix

@@ -1,0 +1,82 @@
+// The lines of one instance.
+#pragma once
+
+#include <cstdint>
+
+#include "store/device_database.h"
+#include "store/line_key.h"
+
+namespace tavix {
+
+// A line as it was entered, from its first key to its second.
+struct Line {
+  std::int32_t id = 0;  // 1, 2, ... in the order of entry
+  LineKeys keys;
+  std::int16_t legend = 0;
+};
+
+// Lines in the device database "QZLinDB<instance>", open in one of two orders: by the smaller key of
+// a line, or by its id. Calls that need the other order close the database and open it anew.
+//
+// Operations return 0 for success and negative codes for the step that failed.
+class CLinDb {
+ public:
+  enum class Order { kById = 0, kBySmallerKey = 1 };
+
+  // Makes the database anew, closed; one left on the device is discarded.
+  explicit CLinDb(int instance);
+
+  // Opens it by smaller key. 1 opened, 2 not, -2 when it is open already.
+  int Open();
+
+  // 0, or -1 when it is closed already or cannot be closed.
+  int Close();
+
+  // Makes the line between two keys, in either order, current. -1 there is none, -2 the database
+  // cannot be opened, -3 it has no records, -4 no first record, -5 a record cannot be read, -6 and -7
+  // its smaller or larger key is missing.
+  int Find(LineKeys keys);
+
+  // -1 when the record cannot be added.
+  int Add(LineKeys keys, std::int16_t legend, std::int32_t* id);
+
+  // The code of Find when there is no such line, -7 when the deletion failed. Marks the store changed
+  // in any case.
+  int Remove(LineKeys keys);
+
+  // -2 closed, -1 unreadable.
+  int ReadCur(Line* line);
+
+  // -1 the write failed, -2 closed, -3 unreadable, -4 no legend in the record.
+  int SetCurHan(std::int16_t legend);
+
+  // The first line in an order. -1 empty, -2 the database cannot be opened, -3 no first record.
+  int First(Order order);
+
+  // -1 at the end, -2 closed.
+  int Next();
+
+  // Makes the database anew and opens it by smaller key. 0, or -1 with the database closed.
+  int Clear();
+
+  // The refit flag: set by Add, SetCurHan and Remove, a failed one too.
+  [[nodiscard]] bool Changed() const { return changed_; }
+  void SetChanged(bool changed) { changed_ = changed; }
+
+  [[nodiscard]] int Instance() const { return instance_; }
+
+ private:
+  // The numbers are those of the device's own state word.
+  enum class State : std::uint16_t { kOpenById = 0, kOpenBySmallerKey = 1, kClosed = 2 };
+
+  bool Reopen(State state);
+  int Match(LineKeys keys);
+
+  DeviceDatabase database_;
+  State state_ = State::kClosed;
+  std::int32_t next_id_ = 1;
+  bool changed_ = false;
+  int instance_;
+};
+
+}  // namespace tavix
