@@ -26,6 +26,12 @@ class Axis {
   void Advance(std::int64_t rounds) {
     while (rounds >= kFewRounds) {
       const Round first = DoubleRound(at_);
+      if (first.end == at_ ||
+          std::isnan(first.end)) {  // stays there for ever, zero and infinity too
+        at_ = first.end;
+        rounds %= 2;
+        break;
+      }
       const Round second = DoubleRound(first.end);
       const double move = first.end - at_;
       std::int64_t jump = 0;
@@ -69,8 +75,6 @@ class Axis {
   // How many double rounds keep well inside the present power of two; the steps within a round may
   // reach beyond its end, so the longest of them is kept free.
   [[nodiscard]] std::int64_t DoubleRoundsToEdge(double move) const {
-    constexpr std::int64_t kAny = std::int64_t{1} << 62;
-    if (move == 0.0) return kAny;
     double reach = std::fabs(move);
     for (const GroundStep& step : steps_) reach += 2 * std::fabs(step.*part_);
     const double low = std::ldexp(1.0, std::ilogb(at_));

@@ -12,53 +12,6 @@ namespace {
 
 constexpr int kDotPixels = 2;  // of the fine dotted line, whatever the entry's values
 
-// Where a segment lies on the screen before truncation, as distances along it in pixels.
-class ScreenPath {
- public:
-  ScreenPath(const CViewState& view, GroundPoint start, GroundPoint end)
-      : view_(view), from_(view.GroundToRealScreen(start)) {
-    const RealScreenPoint to = view.GroundToRealScreen(end);
-    length_ = std::hypot(to.x - from_.x, to.y - from_.y);
-    if (length_ > 0) direction_ = {(to.x - from_.x) / length_, (to.y - from_.y) / length_};
-  }
-
-  [[nodiscard]] double Length() const { return length_; }
-
-  [[nodiscard]] double DistanceTo(GroundPoint at) const {
-    const RealScreenPoint screen = view_.GroundToRealScreen(at);
-    return (screen.x - from_.x) * direction_.x + (screen.y - from_.y) * direction_.y;
-  }
-
-  // The distances at which the path enters and leaves a box; empty (enter > leave) outside of it.
-  struct Stretch {
-    double enter;
-    double leave;
-  };
-  [[nodiscard]] Stretch Within(const ScreenBox& box) const {
-    Stretch stretch{0.0, length_};
-    Cut(stretch, from_.x, direction_.x, box.left, box.right);
-    Cut(stretch, from_.y, direction_.y, box.top, box.bottom);
-    return stretch;
-  }
-
- private:
-  static void Cut(Stretch& stretch, double from, double direction, double low, double high) {
-    if (direction == 0.0) {
-      if (from < low || from > high) stretch.leave = stretch.enter - 1.0;
-      return;
-    }
-    const double a = (low - from) / direction;
-    const double b = (high - from) / direction;
-    stretch.enter = std::max(stretch.enter, std::min(a, b));
-    stretch.leave = std::min(stretch.leave, std::max(a, b));
-  }
-
-  const CViewState& view_;
-  RealScreenPoint from_;
-  RealScreenPoint direction_;
-  double length_ = 0.0;
-};
-
 // The ground rectangle that a segment spans; the walk ends where it would leave it.
 class GroundBox {
  public:
@@ -75,38 +28,109 @@ class GroundBox {
   GroundPoint high_;
 };
 
-// The pattern's lengths as steps on the ground: `pixels_per_metre` is the scale along the segment.
+// How many pixels a metre of the segment takes: along it, not along an axis, for the ratio's sake.
+double PixelsPerMetre(const CViewState& view, GroundPoint start, GroundPoint end, double metres) {
+  const RealScreenPoint from = view.GroundToRealScreen(start);
+  const RealScreenPoint to = view.GroundToRealScreen(end);
+  return std::hypot(to.x - from.x, to.y - from.y) / metres;
+}
+
+// The pattern's lengths as steps on the ground. A length is a distance: its sign does not count.
 std::array<GroundStep, 6> StepsOf(const LinePattern& pattern, GroundStep unit,
                                   double pixels_per_metre) {
   std::array<GroundStep, 6> steps{};
   for (std::size_t i = 0; i < pattern.count; ++i) {
-    const double length = pattern.lengths[i] / pixels_per_metre;
+    const double length = std::fabs(static_cast<double>(pattern.lengths[i])) / pixels_per_metre;
     steps[i] = {unit.dx * length, unit.dy * length};
   }
   return steps;
 }
 
-// Passes over whole rounds of the pattern that end before `distance`. Rounding may stretch or
-// shrink the pattern a little as it is laid, or carry it out of a very thin box, where the walk
-// ends; so each jump goes half the way by the present pace, and shorter where it would leave the
-// box.
-GroundPoint SkipRounds(const ScreenPath& path, const GroundBox& box, GroundPoint at,
-                       std::span<const GroundStep> steps, double distance) {
-  constexpr std::int64_t kFewRounds = 4;
-  for (;;) {
-    const double here = path.DistanceTo(at);
-    const double pace = path.DistanceTo(StepExactly(at, steps, 1)) - here;
-    const double rounds = pace > 0 ? (distance - here) / pace : 0.0;
-    if (!(rounds > 0)) return at;
-    auto jump = static_cast<std::int64_t>(std::min(rounds / 2, 4e18));
-    GroundPoint next = at;
-    for (; jump > kFewRounds; jump /= 2) {
-      next = StepExactly(at, steps, jump);
-      if (box.Holds(next)) break;
+// The walk goes from the segment's start in whole rounds of the pattern. Each round leads on from
+// the last one's rounded end, so over many rounds the pattern may drift off the segment's own line:
+// where it shows is found from the positions themselves. No step leads back, so whatever is drawn
+// between two positions lies in the ground box between them; where that cannot show, the rounds
+// are passed over.
+class PatternWalk {
+ public:
+  PatternWalk(const CViewState& view, const ScreenBox& visible,
+              const std::function<void(const LinePiece&)>& draw, std::span<const GroundStep> steps,
+              GroundPoint start, GroundPoint end)
+      : view_(view),
+        visible_(visible),
+        draw_(draw),
+        steps_(steps),
+        box_(start, end),
+        at_(start),
+        end_(end) {}
+
+  void Run() {
+    constexpr std::int64_t kFewRounds = 16;  // not worth passing over
+    constexpr std::int64_t kManyRounds = std::int64_t{1} << 60;
+    std::int64_t rounds = kFewRounds;
+    while (!CannotShow(at_, end_)) {
+      const GroundPoint next = StepExactly(at_, steps_, rounds);
+      if (box_.Holds(next) && CannotShow(at_, next)) {
+        if (IsHere(next)) return;
+        at_ = next;
+        rounds = std::min(2 * rounds, kManyRounds);
+      } else if (rounds > kFewRounds) {
+        rounds /= 2;
+      } else if (!DrawRounds(kFewRounds)) {
+        return;
+      }
     }
-    if (jump <= kFewRounds) return at;
-    at = next;
   }
+
+ private:
+  [[nodiscard]] bool IsHere(GroundPoint at) const { return at.x == at_.x && at.y == at_.y; }
+
+  // False when the walk has ended.
+  bool DrawRounds(std::int64_t rounds) {
+    for (; rounds > 0; --rounds) {
+      const GroundPoint round_start = at_;
+      for (std::size_t i = 0; i < steps_.size(); i += 2) {
+        const GroundPoint dash_end = at_ + steps_[i];
+        if (!box_.Holds(dash_end)) {
+          draw_({at_, end_});
+          return false;
+        }
+        draw_({at_, dash_end});
+        at_ = dash_end + steps_[i + 1];
+        if (!box_.Holds(at_)) return false;
+      }
+      if (IsHere(round_start)) return false;  // would repeat in place for ever
+    }
+    return true;
+  }
+
+  // Whether nothing between two corners of a ground box comes into view.
+  [[nodiscard]] bool CannotShow(GroundPoint a, GroundPoint b) const {
+    const std::array<RealScreenPoint, 4> corners{
+        view_.GroundToRealScreen(a), view_.GroundToRealScreen({a.x, b.y}),
+        view_.GroundToRealScreen(b), view_.GroundToRealScreen({b.x, a.y})};
+    const auto all = [&](auto outside) {
+      return std::all_of(corners.begin(), corners.end(), outside);
+    };
+    constexpr double kTruncated = 1.0;  // pixels lost on the way to whole ones
+    return all([&](const RealScreenPoint& at) { return at.x < visible_.left - kTruncated; }) ||
+           all([&](const RealScreenPoint& at) { return at.x > visible_.right + kTruncated; }) ||
+           all([&](const RealScreenPoint& at) { return at.y < visible_.top - kTruncated; }) ||
+           all([&](const RealScreenPoint& at) { return at.y > visible_.bottom + kTruncated; });
+  }
+
+  const CViewState& view_;
+  const ScreenBox& visible_;
+  const std::function<void(const LinePiece&)>& draw_;
+  std::span<const GroundStep> steps_;
+  GroundBox box_;
+  GroundPoint at_;
+  GroundPoint end_;
+};
+
+bool HasLength(const LinePattern& pattern) {
+  return std::any_of(pattern.lengths.begin(), pattern.lengths.end(),
+                     [](int length) { return length != 0; });
 }
 
 }  // namespace
@@ -132,36 +156,16 @@ std::optional<LinePattern> PatternOf(const LegendStyle& style) {
 void WalkPattern(const CViewState& view, const LinePattern& pattern, GroundPoint start,
                  GroundPoint end, const ScreenBox& visible,
                  const std::function<void(const LinePiece&)>& draw) {
-  const double ground_length = std::hypot(end.x - start.x, end.y - start.y);
-  const ScreenPath path(view, start, end);
-  if (!(ground_length > 0 && path.Length() > 0 && std::isfinite(path.Length()))) {
+  const double metres = std::hypot(end.x - start.x, end.y - start.y);
+  const double pixels_per_metre = PixelsPerMetre(view, start, end, metres);
+  if (!(metres > 0 && pixels_per_metre > 0 && std::isfinite(pixels_per_metre) &&
+        HasLength(pattern))) {
     draw({start, start});
     return;
   }
-  const GroundStep unit{(end.x - start.x) / ground_length, (end.y - start.y) / ground_length};
-  const auto all_steps = StepsOf(pattern, unit, path.Length() / ground_length);
-  const std::span<const GroundStep> steps(all_steps.data(), pattern.count);
-
-  const ScreenPath::Stretch seen = path.Within(visible);
-  if (seen.enter > seen.leave) return;
-  const GroundBox box(start, end);
-  GroundPoint at = SkipRounds(path, box, start, steps, seen.enter);
-  for (;;) {
-    const GroundPoint round_start = at;
-    const double distance = path.DistanceTo(round_start);
-    if (distance > seen.leave) return;
-    for (std::size_t i = 0; i < steps.size(); i += 2) {
-      const GroundPoint dash_end = at + steps[i];
-      if (!box.Holds(dash_end)) {
-        draw({at, end});
-        return;
-      }
-      draw({at, dash_end});
-      at = dash_end + steps[i + 1];
-      if (!box.Holds(at)) return;
-    }
-    if (!(path.DistanceTo(at) > distance)) return;  // would repeat in place for ever
-  }
+  const GroundStep unit{(end.x - start.x) / metres, (end.y - start.y) / metres};
+  const auto steps = StepsOf(pattern, unit, pixels_per_metre);
+  PatternWalk(view, visible, draw, std::span(steps.data(), pattern.count), start, end).Run();
 }
 
 }  // namespace tavix

@@ -45,7 +45,8 @@ struct LinePiece {
 // of it. Those given are the very ones of the full walk, to the last bit.
 //
 // A last dash that would run past the end stops there; a gap that would, ends the line. A segment
-// without length, and a pattern that does not advance, give one piece without length.
+// and a pattern without length give one piece without length. A pattern too fine for the numbers of
+// its coordinates to advance ends where it is stuck.
 void WalkPattern(const CViewState& view, const LinePattern& pattern, GroundPoint start,
                  GroundPoint end, const ScreenBox& visible,
                  const std::function<void(const LinePiece&)>& draw);

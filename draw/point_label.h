@@ -15,6 +15,8 @@ namespace tavix {
 class LabelText {
  public:
   LabelText(const LegendStyle& style, std::int32_t number, NameView name);
+  LabelText(const LabelText&) = delete;  // the text may lie in the object itself
+  LabelText& operator=(const LabelText&) = delete;
 
   [[nodiscard]] NameView Text() const { return text_; }
 

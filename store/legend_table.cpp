@@ -38,11 +38,11 @@ int LegendTable::Add(bool is_point, const LegendStyle& style, std::int16_t* numb
 }
 
 int LegendTable::Change(std::int16_t number, bool is_point, const LegendStyle& style) {
-  const auto entry = std::find_if(entries_.begin(), entries_.end(),
-                                  [=](const HanRec& rec) { return rec.number == number; });
-  if (entry == entries_.end()) return -1;
-  entry->is_point = is_point;
-  entry->style = style;
+  const HanRec* found = Find(number);
+  if (!found) return -1;
+  HanRec& entry = entries_[static_cast<std::size_t>(found - entries_.data())];
+  entry.is_point = is_point;
+  entry.style = style;
   return 0;
 }
 

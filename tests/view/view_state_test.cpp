@@ -237,5 +237,131 @@ TEST(ViewState, ClippingInPlaceMovesTheGroundEndsToTheClippedPixels) {
   EXPECT_EQ(left.y, -500);
 }
 
+TEST(ViewState, HalvesOfTheScreenSizeAreWhole) {
+  CViewState view = ViewOf(241, 181);
+  EXPECT_EQ(view.GroundToScreen({0, 0}), (ScreenPoint{120, 90}));
+  int width = 0;
+  int height = 0;
+  view.GetScreenSize(&width, &height);
+  EXPECT_EQ(width, 241);
+  EXPECT_EQ(height, 181);
+}
+
+TEST(ViewState, FreshViewIsTenPixelsWideAndHigh) {
+  int width = 0;
+  int height = 0;
+  CViewState().GetScreenSize(&width, &height);
+  EXPECT_EQ(width, 10);
+  EXPECT_EQ(height, 10);
+}
+
+TEST(ViewState, OtherAnglesAreThoseOfTheCosineAndSine) {
+  CViewState view;
+  for (int angle = 0; angle < 360; ++angle) {
+    if (angle % 90 == 0) continue;
+    ASSERT_EQ(view.SetAngle(angle), 0);
+    EXPECT_EQ(view.Angle(), angle);
+    EXPECT_EQ(view.CosA(), std::cos(angle * 0.017453292519943295)) << angle;
+    EXPECT_EQ(view.SinA(), std::sin(angle * 0.017453292519943295)) << angle;
+  }
+}
+
+TEST(ViewState, ZoomingRemembersTheScaleBefore) {
+  CViewState view = ViewAtScale(240, 180, 2.0);
+  EXPECT_FALSE(view.ZoomIn(1.5));
+  EXPECT_FALSE(view.SetFitScale(5, 1.0, 1.0));  // home is 5 now, and the scale before it 3
+  view.ToggleHome();
+  EXPECT_DOUBLE_EQ(view.Scale(), 3.0);
+  view.ZoomOut(3.0);
+  EXPECT_DOUBLE_EQ(view.Scale(), 1.0);
+  view.ToggleHome();  // away from home: goes there
+  EXPECT_DOUBLE_EQ(view.Scale(), 5.0);
+  view.ToggleHome();
+  EXPECT_DOUBLE_EQ(view.Scale(), 1.0);
+}
+
+TEST(ViewState, ZoomedBackToTheHomeScaleTheToggleGoesToTheScaleBefore) {
+  CViewState view = ViewAtScale(240, 180, 2.0);
+  EXPECT_FALSE(view.ZoomIn(2.0));
+  view.ZoomOut(2.0);  // home again; the scale before was 4
+  view.ToggleHome();
+  EXPECT_DOUBLE_EQ(view.Scale(), 4.0);
+}
+
+TEST(ViewState, TheToggleKeepsTheVerticalScaleInStep) {
+  CViewState view = ViewAtScale(240, 180, 2.0);
+  EXPECT_FALSE(view.ZoomIn(2.0));
+  view.SetRatio(3.0);
+  view.ToggleHome();
+  EXPECT_DOUBLE_EQ(view.VScale(), 6.0);
+  view.ToggleHome();
+  EXPECT_DOUBLE_EQ(view.VScale(), 12.0);
+}
+
+TEST(ViewState, AnyOneDifferenceIsNotHome) {
+  const struct {
+    GroundPoint centre;
+    double zoom;
+  } rows[] = {{{0.00002, 0}, 1.0}, {{0, 0.00002}, 1.0}, {{0, 0}, 1.0001}};
+  for (const auto& row : rows) {
+    CViewState view = ViewOf(240, 180);
+    EXPECT_FALSE(view.FitToArea({100, 50}, {0, 0}));
+    view.SetCentre({900, 900});
+    view.SetCentre(row.centre);  // the centre before is far away
+    EXPECT_FALSE(view.ZoomIn(row.zoom));
+    view.ToggleHome();
+    EXPECT_EQ(view.Centre().x, 0.0) << row.zoom;
+    EXPECT_EQ(view.Centre().y, 0.0) << row.zoom;
+    EXPECT_EQ(view.Scale(), 2.2) << row.zoom;
+  }
+}
+
+TEST(ViewState, ACutZoomStillRemembersTheScaleBefore) {
+  CViewState view = ViewAtScale(240, 180, 80000.0);
+  EXPECT_TRUE(view.ZoomIn(1.5));
+  EXPECT_TRUE(view.SetFitScale(240, 0.0001, 1.0));
+  view.ToggleHome();  // home is at the cap, and so was the view before
+  EXPECT_EQ(view.Scale(), 100000.0);
+}
+
+TEST(ViewState, ARatioThatIsNotFiniteIsCarriedAndHarmless) {
+  CViewState view = ViewOf(240, 180);
+  for (const double ratio : {std::numeric_limits<double>::infinity(), std::nan(""), 0.0}) {
+    view.SetRatio(ratio);
+    const ScreenPoint at = view.GroundToScreen({5, 7});
+    const GroundPoint back = view.ScreenToGround({1, 2});
+    EXPECT_EQ(at.x == 127, ratio == 0.0) << ratio;  // the turn mixes what is no number into both
+    EXPECT_DOUBLE_EQ(back.y, -119.0) << ratio;
+    ScreenSegment clipped;
+    const bool visible = view.ClipGroundSegment({0, 0}, {5, 7}, clipped);
+    EXPECT_EQ(visible, ratio == 0.0) << ratio;
+  }
+  view.SetRatio(1.0);
+  EXPECT_EQ(view.GroundToScreen({5, 7}), (ScreenPoint{127, 85}));
+}
+
+TEST(ViewState, ACopyIsTheWholeView) {
+  CViewState view = ViewOf(240, 180);
+  EXPECT_FALSE(view.FitToArea({100, 50}, {500, 600}));
+  view.SetRatio(2.0);
+  EXPECT_FALSE(view.ZoomIn(1.5));
+  view.SetCentre({510, 610});
+  ASSERT_EQ(view.SetAngle(30), 0);
+  CViewState copy = view;
+  EXPECT_FALSE(copy.NoViewYet());
+  EXPECT_EQ(copy.GroundToScreen({512, 617}), view.GroundToScreen({512, 617}));
+  EXPECT_EQ(copy.ScreenToGround({3, 4}).x, view.ScreenToGround({3, 4}).x);
+  ScreenSegment of_copy;
+  ScreenSegment of_view;
+  ASSERT_TRUE(copy.ClipGroundSegment({510, 610}, {910, 910}, of_copy));
+  ASSERT_TRUE(view.ClipGroundSegment({510, 610}, {910, 910}, of_view));
+  EXPECT_EQ(of_copy.end, of_view.end);
+  copy.ToggleHome();
+  EXPECT_EQ(copy.Scale(), 2.2);
+  copy.ToggleHome();
+  EXPECT_EQ(copy.Scale(), view.Scale());
+  EXPECT_EQ(copy.Centre().x, 510.0);
+}
+
 }  // namespace
 }  // namespace tavix

@@ -1,0 +1,100 @@
+#include "figure/direction.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace tavix {
+namespace {
+
+constexpr double kPi = 3.141592653589793;
+
+TEST(Direction, RunsFromTheXAxisTowardTheYAxis) {
+  const struct {
+    double dx;
+    double dy;
+    double direction;
+  } rows[] = {{1, 0, 0},
+              {1, 1, kPi / 4},
+              {0, 1, kPi / 2},
+              {-1, 1, 3 * kPi / 4},
+              {-1, 0, kPi},
+              {-1, -1, 5 * kPi / 4},
+              {0, -1, 3 * kPi / 2},
+              {1, -1, 7 * kPi / 4},
+              {std::sqrt(3.0), 1, kPi / 6},
+              {1e6, 1e6, kPi / 4}};
+  for (const auto& row : rows) {
+    EXPECT_DOUBLE_EQ(Direction(row.dx, row.dy), row.direction) << row.dx << ' ' << row.dy;
+  }
+}
+
+TEST(Direction, AVectorWithoutAnXPartIsUprightToTheLastBit) {
+  const struct {
+    double dx;
+    double dy;
+    double direction;
+  } rows[] = {{0, 5, 1.5707963267948966},      {0, -5, 4.71238898038469},
+              {9.9e-8, 5, 1.5707963267948966}, {-9.9e-8, 5, 1.5707963267948966},
+              {9.9e-8, -5, 4.71238898038469},  {0, 1e-300, 1.5707963267948966},
+              {0, 0, 4.71238898038469},        {9.9e-8, 0, 4.71238898038469},
+              {-9.9e-8, 0, 4.71238898038469}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(Direction(row.dx, row.dy), row.direction) << row.dx << ' ' << row.dy;
+  }
+}
+
+TEST(Direction, AtTheToleranceTheXPartCounts) {
+  EXPECT_DOUBLE_EQ(Direction(1e-7, 0), 0.0);
+  EXPECT_DOUBLE_EQ(Direction(-1e-7, 0), kPi);
+  EXPECT_DOUBLE_EQ(Direction(1e-7, 1e-7), kPi / 4);
+}
+
+TEST(Direction, TurnsOnceAroundWithoutAJump) {
+  double before = -1e-9;
+  for (int i = 0; i < 3600; ++i) {
+    const double angle = i * kPi / 1800;
+    const double direction = Direction(std::cos(angle), std::sin(angle));
+    EXPECT_GT(direction, before) << i;
+    EXPECT_LT(direction, 2 * kPi) << i;
+    EXPECT_NEAR(direction, angle, 1e-12) << i;
+    before = direction;
+  }
+}
+
+TEST(InverseOf, GivesDistanceAndDirection) {
+  const struct {
+    GroundPoint from;
+    GroundPoint to;
+    double distance;
+    double direction;
+  } rows[] = {{{0, 0}, {3, 4}, 5, std::atan(4.0 / 3)},
+              {{10, 20}, {7, 16}, 5, std::atan(4.0 / 3) + kPi},
+              {{10, 20}, {10, 25}, 5, kPi / 2},
+              {{10, 25}, {10, 20}, 5, 3 * kPi / 2},
+              {{-5, 0}, {5, 0}, 10, 0}};
+  for (const auto& row : rows) {
+    const Inverse inverse = InverseOf(row.from, row.to);
+    EXPECT_DOUBLE_EQ(inverse.distance, row.distance);
+    EXPECT_DOUBLE_EQ(inverse.direction, row.direction);
+  }
+}
+
+TEST(InverseOf, PointsThatCoincideHaveNoDirection) {
+  const struct {
+    GroundPoint to;
+    double direction;
+  } rows[] = {{{1, 1}, 0},
+              {{1 + 5e-8, 1 - 5e-8}, 0},
+              {{1, 1 + 2e-7}, kPi / 2},  // one part is enough to have a direction
+              {{1, 1 - 2e-7}, 3 * kPi / 2},
+              {{1 - 2e-7, 1}, kPi}};
+  for (const auto& row : rows) {
+    const Inverse inverse = InverseOf({1, 1}, row.to);
+    EXPECT_DOUBLE_EQ(inverse.direction, row.direction) << row.to.x - 1 << ' ' << row.to.y - 1;
+    EXPECT_DOUBLE_EQ(inverse.distance, std::hypot(row.to.x - 1, row.to.y - 1));
+  }
+}
+
+}  // namespace
+}  // namespace tavix

@@ -1,0 +1,326 @@
+// Short records end with a NUL, a three-digit kind fills its record, longer ones are cut: each of
+// the three is in here, as are files damaged at every single place.
+#include "store/legend_codec.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tavix {
+namespace {
+
+using std::string_view_literals::operator""sv;
+
+constexpr std::size_t kRecord = 30;
+constexpr std::size_t kFile = 17 * kRecord;
+
+std::string RecordOf(const std::string& bytes, std::size_t record) {
+  return bytes.substr(record * kRecord, kRecord);
+}
+
+std::string BuiltIn() { return EncodeLegend(LegendTable()); }
+
+// The built-in file with one record replaced.
+std::string FileWith(std::size_t record, std::string_view bytes) {
+  std::string text(bytes);
+  text.resize(kRecord, '\0');
+  return BuiltIn().replace(record * kRecord, kRecord, text);
+}
+
+TEST(LegendCodec, WritesTheBuiltInLegendByteForByte) {
+  const std::string_view records[] = {
+      " 10                       CHK\0"sv, " 1  2 10  1  1          0 chk\0"sv,
+      " 2 10 10  1  1          0 chk\0"sv, " 3 10 10  1  1          0 chk\0"sv,
+      " 4 10 10  1  1          0 chk\0"sv, " 5 10 10  1  1        255 chk\0"sv,
+      " 6 10 10  1  1        255 chk\0"sv, " 7 10 10  1  1        255 chk\0"sv,
+      " 8 10 10  1  1          0 chk\0"sv, " 9 10 10  1  1        255 chk\0"sv,
+      "10 10 10  1  1        255 chk\0"sv, "11 10 10  1  1        255 chk\0"sv,
+      "101  0  0  0  1          0 chk"sv,  "103  0  0  0  1        255 chk"sv,
+      "102  4  2  0  1          0 chk"sv,  "104  4  2  2  1        255 chk"sv,
+      "105  4  2  2  1        255 chk"sv};
+  const std::string bytes = BuiltIn();
+  ASSERT_EQ(bytes.size(), kFile);
+  for (std::size_t i = 0; i < std::size(records); ++i) {
+    ASSERT_EQ(records[i].size(), kRecord);
+    EXPECT_EQ(RecordOf(bytes, i), records[i]) << i;
+  }
+}
+
+TEST(LegendCodec, WritesEachEntryIntoExactlyThirtyBytes) {
+  const struct {
+    const char* what;
+    LegendStyle style;
+    std::string_view record;
+  } rows[] = {
+      {"zeros", {0, 0, 0, 0, 0, 0}, " 0  0  0  0  0          0 chk\0"sv},
+      {"full fields", {99, 98, 97, 96, 95, 1234567890}, "99 98 97 96 95 1234567890 chk\0"sv},
+      {"one too wide: no NUL", {8, 100, 7, 6, 5, 4}, " 8 100  7  6  5          4 chk"sv},
+      {"two too wide: cut", {8, 100, 100, 6, 5, 4}, " 8 100 100  6  5          4 ch"sv},
+      {"negative", {-1, -2, -3, -4, -5, -6}, "-1 -2 -3 -4 -5         -6 chk\0"sv},
+      {"the lowest colour", {1, 1, 1, 1, 1, INT32_MIN}, " 1  1  1  1  1 -2147483648 chk"sv},
+      {"the widest",
+       {INT32_MIN, INT32_MIN, INT32_MIN, INT32_MIN, INT32_MIN, INT32_MIN},
+       "-2147483648 -2147483648 -21474"sv}};
+  for (const auto& row : rows) {
+    LegendTable table;
+    ASSERT_EQ(table.Change(1, true, row.style), 0);
+    const std::string bytes = EncodeLegend(table);
+    ASSERT_EQ(bytes.size(), kFile) << row.what;
+    EXPECT_EQ(RecordOf(bytes, 1), row.record) << row.what;
+    EXPECT_EQ(RecordOf(bytes, 2), RecordOf(BuiltIn(), 2)) << row.what;
+  }
+}
+
+TEST(LegendCodec, WritesTheHeaderNumberWhateverItIs) {
+  const struct {
+    std::int32_t number;
+    std::string_view record;
+    bool readable;  // the mark survives
+  } rows[] = {{0, "  0                       CHK\0"sv, true},
+              {5, "  5                       CHK\0"sv, true},
+              {45, " 45                       CHK\0"sv, true},
+              {359, "359                       CHK\0"sv, true},
+              {-9, " -9                       CHK\0"sv, true},
+              {-10, "-10                       CHK\0"sv, true},
+              {1000, "1000                       CHK"sv, true},
+              {-100, "-100                       CHK"sv, true},
+              {12345, "12345                       CH"sv, false},
+              {INT32_MIN, "-2147483648                   "sv, false}};
+  for (const auto& row : rows) {
+    LegendTable table;
+    table.SetRotationStep(row.number);
+    const std::string bytes = EncodeLegend(table);
+    ASSERT_EQ(bytes.size(), kFile) << row.number;
+    EXPECT_EQ(RecordOf(bytes, 0), row.record) << row.number;
+    LegendTable read;
+    EXPECT_EQ(DecodeLegend(bytes, read), row.readable) << row.number;
+    EXPECT_EQ(read.RotationStep(), row.readable ? row.number : 10) << row.number;
+  }
+}
+
+TEST(LegendCodec, OnlyTheFirstSixteenEntriesAreWritten) {
+  LegendTable table;
+  std::int16_t number = 0;
+  ASSERT_EQ(table.Add(true, {1, 2, 3, 4, 5, 6}, &number), 0);
+  EXPECT_EQ(EncodeLegend(table), BuiltIn());
+}
+
+TEST(LegendCodec, ReadsBackWhatWasWritten) {
+  LegendTable table;
+  const LegendStyle style{11, 24, 16, 0, 3, 0x00FF8000};
+  ASSERT_EQ(table.Change(5, true, style), 0);
+  ASSERT_EQ(table.Change(105, false, {105, 9, 8, 7, 2, 255}), 0);
+  table.SetRotationStep(15);
+  LegendTable read;
+  ASSERT_TRUE(DecodeLegend(EncodeLegend(table), read));
+  HanRec entry;
+  ASSERT_EQ(read.Get(5, &entry), 0);
+  EXPECT_EQ(entry, (HanRec{5, true, style}));
+  ASSERT_EQ(read.Get(105, &entry), 0);
+  EXPECT_EQ(entry.style, (LegendStyle{105, 9, 8, 7, 2, 255}));
+  EXPECT_EQ(read.RotationStep(), 15);
+}
+
+TEST(LegendCodec, TheFirstRoundTripSwaps102And103AndTheSecondNothing) {
+  LegendTable once;
+  ASSERT_TRUE(DecodeLegend(BuiltIn(), once));
+  HanRec entry;
+  ASSERT_EQ(once.Get(102, &entry), 0);
+  EXPECT_EQ(entry.style, (LegendStyle{103, 0, 0, 0, 1, 255}));
+  ASSERT_EQ(once.Get(103, &entry), 0);
+  EXPECT_EQ(entry.style, (LegendStyle{102, 4, 2, 0, 1, 0}));
+  EXPECT_EQ(EncodeLegend(once), BuiltIn());
+  LegendTable twice;
+  ASSERT_TRUE(DecodeLegend(EncodeLegend(once), twice));
+  EXPECT_EQ(twice.Entries(), once.Entries());
+}
+
+TEST(LegendCodec, ALineLegendTurnedPointLegendComesBackAsItsPlaceSays) {
+  LegendTable table;
+  ASSERT_EQ(table.Change(1, false, {1, 2, 3, 4, 5, 6}), 0);
+  LegendTable read;
+  ASSERT_TRUE(DecodeLegend(EncodeLegend(table), read));
+  EXPECT_TRUE(read.Entries().front().is_point);
+}
+
+TEST(LegendCodec, ReadsNumbersAsFormattedInputDoes) {
+  constexpr LegendStyle kRead{1, 2, 3, 4, 5, 6};
+  const struct {
+    const char* what;
+    std::string_view record;
+    bool good;
+  } rows[] = {{"single blanks", "1 2 3 4 5 6 chk", true},
+              {"tabs and line breaks", "1\t2\n3\r4\v5\f6 chk", true},
+              {"plus signs", "+1 +2 +3 +4 +5 +6 chk", true},
+              {"leading zeros", "01 002 0003 4 5 6 chk", true},
+              {"word without a blank", "1 2 3 4 5 6chk", true},
+              {"a longer word", "1 2 3 4 5 6 chkdsk", true},
+              {"text after the word", "1 2 3 4 5 6 chk 7 8 9", true},
+              {"NUL and noise after the word", "1 2 3 4 5 6 chk\0noise"sv, true},
+              {"all 30 bytes", "     1 2 3 4 5 6           chk", true},
+              {"capital mark", "1 2 3 4 5 6 CHK", false},
+              {"half a mark", "1 2 3 4 5 6 ch", false},
+              {"no mark", "1 2 3 4 5 6", false},
+              {"a number missing", "1 2 3 4 5 chk", false},
+              {"a number too many", "1 2 3 4 5 6 7 chk", false},
+              {"a NUL inside", "1 2 3\0 4 5 6 chk"sv, false},
+              {"a fraction", "1.5 2 3 4 5 6 chk", false},
+              {"two signs", "+-1 2 3 4 5 6 chk", false},
+              {"a sign alone", "- 1 2 3 4 5 6 chk", false},
+              {"empty", "", false},
+              {"blanks", "                              ", false}};
+  for (const auto& row : rows) {
+    LegendTable table;
+    ASSERT_EQ(DecodeLegend(FileWith(1, row.record), table), row.good) << row.what;
+    if (row.good) {
+      EXPECT_EQ(table.Entries().front().style, kRead) << row.what;
+    } else {
+      EXPECT_EQ(table.Entries(), LegendTable().Entries()) << row.what;
+    }
+  }
+}
+
+TEST(LegendCodec, ABadHeaderIsNotTaken) {
+  const struct {
+    const char* what;
+    std::string_view record;
+    bool good;
+  } rows[] = {{"small", "77 CHK", true},
+              {"no blank", "77CHK", true},
+              {"a longer word", "77 CHKX", true},
+              {"a small mark", "77 chk", false},
+              {"half a mark", "77 CH", false},
+              {"no mark", "77", false},
+              {"no number", "CHK", false},
+              {"a word before", "x 77 CHK", false},
+              {"empty", "", false}};
+  for (const auto& row : rows) {
+    LegendTable table;
+    EXPECT_EQ(DecodeLegend(FileWith(0, row.record), table), row.good) << row.what;
+    EXPECT_EQ(table.RotationStep(), row.good ? 77 : 10) << row.what;
+  }
+}
+
+TEST(LegendCodec, ABadEntryLeavesTheHeaderNumberTaken) {
+  LegendTable source;
+  source.SetRotationStep(77);
+  const std::string bytes = EncodeLegend(source);
+  for (std::size_t record = 1; record <= 16; ++record) {
+    std::string damaged = bytes;
+    damaged[record * kRecord] = 'x';
+    LegendTable table;
+    EXPECT_FALSE(DecodeLegend(damaged, table)) << record;
+    EXPECT_EQ(table.RotationStep(), 77) << record;
+    EXPECT_EQ(table.Entries(), LegendTable().Entries()) << record;
+  }
+}
+
+TEST(LegendCodec, AFileCutAnywhereIsBad) {
+  LegendTable source;
+  source.SetRotationStep(77);
+  const std::string bytes = EncodeLegend(source);
+  for (std::size_t size = 0; size < kFile; ++size) {
+    LegendTable table;
+    ASSERT_FALSE(DecodeLegend(bytes.substr(0, size), table)) << size;
+    ASSERT_EQ(table.RotationStep(), size < kRecord ? 10 : 77) << size;
+    ASSERT_EQ(table.Entries(), LegendTable().Entries()) << size;
+  }
+}
+
+TEST(LegendCodec, BytesAfterTheLastRecordDoNotMatter) {
+  LegendTable table;
+  EXPECT_TRUE(DecodeLegend(BuiltIn() + "more", table));
+  EXPECT_TRUE(DecodeLegend(BuiltIn() + BuiltIn(), table));
+  EXPECT_EQ(table.Entries().size(), 16U);
+}
+
+// Sixteen entries are kept, or the built-in ones: never a mixture, never another count.
+void ExpectWholeTable(std::string_view bytes) {
+  static const LegendTable kBuiltInTable;
+  LegendTable table;
+  const bool good = DecodeLegend(bytes, table);
+  ASSERT_EQ(table.Entries().size(), 16U);
+  if (!good) {
+    ASSERT_TRUE(table.Entries() == kBuiltInTable.Entries());
+    return;
+  }
+  for (std::size_t i = 0; i < 16; ++i) {
+    ASSERT_EQ(table.Entries()[i].number,
+              i < 11 ? static_cast<int>(i) + 1 : static_cast<int>(i) + 90);
+  }
+}
+
+TEST(LegendCodec, AnyOneByteDamagedGivesAWholeTable) {
+  const std::string bytes = BuiltIn();
+  for (std::size_t at = 0; at < bytes.size(); ++at) {
+    for (int value = 0; value < 256; ++value) {
+      std::string damaged = bytes;
+      damaged[at] = static_cast<char>(value);
+      ExpectWholeTable(damaged);
+    }
+  }
+}
+
+TEST(LegendCodec, RandomDamageGivesAWholeTable) {
+  std::mt19937 random(61);
+  const auto below = [&](std::size_t end) {
+    return std::uniform_int_distribution<std::size_t>(0, end - 1)(random);
+  };
+  constexpr std::string_view kLikely = "0123456789+-. \t\0\nchkCHK"sv;
+  for (int i = 0; i < 20000; ++i) {
+    std::string damaged = BuiltIn();
+    for (std::size_t changes = below(6) + 1; changes > 0; --changes) {
+      const std::size_t at = below(damaged.size());
+      switch (below(5)) {
+        case 0:
+          damaged.erase(at, below(40));
+          break;
+        case 1:
+          damaged.insert(at, below(40), kLikely[below(kLikely.size())]);
+          break;
+        case 2:
+          damaged[at] = static_cast<char>(below(256));
+          break;
+        case 3:
+          damaged.replace(at, 1, damaged.substr(below(damaged.size()), below(60)));
+          break;
+        default:
+          damaged[at] = kLikely[below(kLikely.size())];
+      }
+      if (damaged.empty()) damaged = "\0"sv;
+    }
+    ExpectWholeTable(damaged);
+  }
+}
+
+TEST(LegendCodec, AnyValuesThatFitTheirFieldsComeBack) {
+  std::mt19937 random(62);
+  for (int i = 0; i < 2000; ++i) {
+    LegendTable table;
+    const LegendTable built_in;
+    for (const HanRec& entry : built_in.Entries()) {
+      LegendStyle style;
+      for (std::int32_t* value :
+           {&style.kind, &style.prm1, &style.prm2, &style.prm3, &style.width}) {
+        *value = std::uniform_int_distribution<std::int32_t>(-9, 99)(random);
+      }
+      style.color = std::uniform_int_distribution<std::int32_t>(0, 0xFFFFFF)(random);
+      ASSERT_EQ(table.Change(entry.number, entry.is_point, style), 0);
+    }
+    const std::string bytes = EncodeLegend(table);
+    LegendTable read;
+    ASSERT_TRUE(DecodeLegend(bytes, read));
+    ASSERT_EQ(EncodeLegend(read), bytes);
+    for (std::size_t place = 0; place < 16; ++place) {
+      ASSERT_EQ(read.Entries()[place].style, table.Entries()[place].style);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tavix

@@ -1,0 +1,153 @@
+#include "store/legend_table.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace tavix {
+namespace {
+
+constexpr LegendStyle kStyle{3, 11, 12, 13, 2, 0x00AABBCC};
+
+TEST(LegendTable, StartsWithTheBuiltInEntries) {
+  // number, point, kind, three parameters, width, colour; 103 before 102 is meant.
+  const HanRec rows[] = {
+      {1, true, {1, 2, 10, 1, 1, 0}},       {2, true, {2, 10, 10, 1, 1, 0}},
+      {3, true, {3, 10, 10, 1, 1, 0}},      {4, true, {4, 10, 10, 1, 1, 0}},
+      {5, true, {5, 10, 10, 1, 1, 255}},    {6, true, {6, 10, 10, 1, 1, 255}},
+      {7, true, {7, 10, 10, 1, 1, 255}},    {8, true, {8, 10, 10, 1, 1, 0}},
+      {9, true, {9, 10, 10, 1, 1, 255}},    {10, true, {10, 10, 10, 1, 1, 255}},
+      {11, true, {11, 10, 10, 1, 1, 255}},  {101, false, {101, 0, 0, 0, 1, 0}},
+      {103, false, {103, 0, 0, 0, 1, 255}}, {102, false, {102, 4, 2, 0, 1, 0}},
+      {104, false, {104, 4, 2, 2, 1, 255}}, {105, false, {105, 4, 2, 2, 1, 255}}};
+  const LegendTable table;
+  EXPECT_EQ(table.Entries(), std::vector<HanRec>(std::begin(rows), std::end(rows)));
+  EXPECT_EQ(table.RotationStep(), 10);
+  for (int n = 1; n <= 11; ++n) {
+    std::u16string title = u"?";
+    EXPECT_EQ(table.GetTitle(n, &title), 0);
+    EXPECT_EQ(title, u"") << n;
+  }
+}
+
+TEST(LegendTable, AddedEntriesAreNumberedFrom201) {
+  LegendTable table;
+  std::int16_t number = 0;
+  EXPECT_EQ(table.Add(true, kStyle, &number), 0);
+  EXPECT_EQ(number, 201);
+  EXPECT_EQ(table.Add(false, kStyle, &number), 0);
+  EXPECT_EQ(number, 202);
+  ASSERT_EQ(table.Entries().size(), 18U);
+  EXPECT_EQ(table.Entries()[16], (HanRec{201, true, kStyle}));
+  EXPECT_EQ(table.Entries()[17], (HanRec{202, false, kStyle}));
+}
+
+TEST(LegendTable, NumbersWrapAfterTheLargest) {
+  LegendTable table;
+  std::int16_t number = 0;
+  for (int i = 201; i <= 32767; ++i) ASSERT_EQ(table.Add(true, kStyle, &number), 0);
+  EXPECT_EQ(number, 32767);
+  ASSERT_EQ(table.Add(true, kStyle, &number), 0);
+  EXPECT_EQ(number, -32768);
+  HanRec entry;
+  EXPECT_EQ(table.Get(-32768, &entry), 0);
+}
+
+TEST(LegendTable, ChangingReplacesLookAndCategoryOfTheFirstMatch) {
+  LegendTable table;
+  EXPECT_EQ(table.Change(5, false, kStyle), 0);
+  HanRec entry;
+  ASSERT_EQ(table.Get(5, &entry), 0);
+  EXPECT_EQ(entry, (HanRec{5, false, kStyle}));
+  ASSERT_EQ(table.Get(6, &entry), 0);
+  EXPECT_EQ(entry.style.kind, 6);
+}
+
+TEST(LegendTable, WhereANumberRepeatsTheFirstEntryCounts) {
+  LegendTable table;
+  std::int16_t number = 0;
+  // The run-time numbers go once around until the built-in 5 has a namesake.
+  do {
+    ASSERT_EQ(table.Add(true, kStyle, &number), 0);
+  } while (number != 5);
+  HanRec entry;
+  ASSERT_EQ(table.Get(5, &entry), 0);
+  EXPECT_EQ(entry.style.kind, 5);
+  ASSERT_EQ(table.Change(5, true, {}), 0);
+  EXPECT_EQ(table.Entries().back().style, kStyle);
+}
+
+TEST(LegendTable, UnknownNumbersAreRefusedAndChangeNothing) {
+  for (const std::int16_t number : {std::int16_t{0}, std::int16_t{12}, std::int16_t{100},
+                                    std::int16_t{106}, std::int16_t{201}, std::int16_t{-1}}) {
+    LegendTable table;
+    HanRec entry{77, true, kStyle};
+    EXPECT_EQ(table.Get(number, &entry), -1) << number;
+    EXPECT_EQ(entry, (HanRec{77, true, kStyle})) << number;
+    EXPECT_EQ(table.Change(number, true, kStyle), -1) << number;
+    EXPECT_EQ(table.Entries(), LegendTable().Entries()) << number;
+  }
+}
+
+TEST(LegendTable, CopiesEntriesInListOrder) {
+  const LegendTable table;
+  const struct {
+    std::size_t count;
+    std::size_t copied;
+  } rows[] = {{0, 1}, {1, 1}, {11, 11}, {16, 16}, {20, 16}};
+  for (const auto& row : rows) {
+    std::array<HanRec, 20> copies;
+    copies.fill({-5, false, {}});
+    EXPECT_EQ(table.CopyOut(row.count, copies.data()), row.copied);
+    for (std::size_t i = 0; i < copies.size(); ++i) {
+      if (i < row.copied) {
+        EXPECT_EQ(copies[i], table.Entries()[i]);
+      } else {
+        EXPECT_EQ(copies[i].number, -5);
+      }
+    }
+  }
+}
+
+TEST(LegendTable, HasElevenTitles) {
+  LegendTable table;
+  for (const int n : {0, 12, -1, 101}) {
+    std::u16string title = u"kept";
+    EXPECT_EQ(table.SetTitle(n, u"x"), -1) << n;
+    EXPECT_EQ(table.GetTitle(n, &title), -1) << n;
+    EXPECT_EQ(title, u"kept") << n;
+  }
+  EXPECT_EQ(table.SetTitle(1, u"基準点"), 0);
+  EXPECT_EQ(table.SetTitle(11, u"last"), 0);
+  std::u16string title;
+  EXPECT_EQ(table.GetTitle(1, &title), 0);
+  EXPECT_EQ(title, u"基準点");
+  EXPECT_EQ(table.GetTitle(11, &title), 0);
+  EXPECT_EQ(title, u"last");
+  EXPECT_EQ(table.GetTitle(2, &title), 0);
+  EXPECT_EQ(title, u"");
+}
+
+TEST(LegendTable, StoredEntriesAreNumberedByPlace) {
+  LegendTable table;
+  ASSERT_EQ(table.SetTitle(1, u"title"), 0);
+  std::array<LegendStyle, LegendTable::kStoredLegends> styles;
+  for (std::size_t i = 0; i < styles.size(); ++i) styles[i].kind = static_cast<int>(i) + 50;
+  table.TakeStored(styles);
+  ASSERT_EQ(table.Entries().size(), 16U);
+  for (std::size_t i = 0; i < styles.size(); ++i) {
+    const HanRec& entry = table.Entries()[i];
+    EXPECT_EQ(entry.number, i < 11 ? static_cast<int>(i) + 1 : static_cast<int>(i) + 90);
+    EXPECT_EQ(entry.is_point, i < 11);
+    EXPECT_EQ(entry.style, styles[i]);
+  }
+  std::u16string title;
+  ASSERT_EQ(table.GetTitle(1, &title), 0);
+  EXPECT_EQ(title, u"title");
+}
+
+}  // namespace
+}  // namespace tavix
