@@ -31,8 +31,8 @@ TEST(WindowFromHandle, PermanentObjectComesBeforeTheTemporaryOne) {
   ::DestroyWindow(plain);
 }
 
-// A window that is made anew may get a handle that another object still holds, because it died while
-// merely attached.
+// A window that is made anew may get a handle that another object still holds, because it died
+// while merely attached.
 TEST(WindowFromHandle, StaleObjectGivesWay) {
   const HWND plain = MakePlainWindow();
   CWnd stale;
@@ -86,6 +86,5 @@ TEST(PermanentObjects, OnlyTheHolderLeaves) {
   map.Remove(5, &b);
   EXPECT_EQ(map.Find(5), nullptr);
 }
-
 
 }  // namespace

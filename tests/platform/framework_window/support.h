@@ -27,7 +27,8 @@ bool PumpUntil(Condition reached) {
 class FrameWindow : public CWnd {
  public:
   BOOL Make(int width = 200, int height = 150) {
-    return CreateEx(0, nullptr, L"frame", WS_OVERLAPPEDWINDOW, 0, 0, width, height, nullptr, nullptr);
+    return CreateEx(0, nullptr, L"frame", WS_OVERLAPPEDWINDOW, 0, 0, width, height, nullptr,
+                    nullptr);
   }
 };
 

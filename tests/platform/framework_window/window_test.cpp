@@ -253,9 +253,9 @@ TEST(WindowSubclass, OldProcedureComesBack) {
   EXPECT_EQ(::GetWindowLongPtrW(plain, GWLP_WNDPROC), procedure);
   ::SendMessageW(plain, WM_CHAR, L'b', 1);
   EXPECT_EQ(window.messages.size(), 1u);
-  wchar_t text[8] = {};
-  ::GetWindowTextW(plain, text, 8);
-  EXPECT_STREQ(text, L"ab");
+  wchar_t text[16] = {};
+  ::GetWindowTextW(plain, text, 16);
+  EXPECT_STREQ(text, L"abplain");
   ::DestroyWindow(plain);
 }
 
