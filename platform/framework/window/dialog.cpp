@@ -97,8 +97,8 @@ INT_PTR CDialog::DoModal() {
     }
   }
   if (owner && m_hWnd && ::GetActiveWindow() == m_hWnd) ::SetActiveWindow(owner);
-  DestroyWindow();
   m_modal = nullptr;
+  DestroyWindow();
   return state.result;
 }
 
