@@ -1,10 +1,12 @@
-// The members of the controls that are more than one message.
+// The members of the controls that are more than one message. Classes whose members are all inline
+// are exported by being included here.
 
 #include "framework/combo_box.h"
 #include "framework/edit.h"
 #include "framework/list_box.h"
 #include "framework/scroll_bar.h"
 #include "framework/spin_button.h"
+#include "framework/static_control.h"
 #include "platform/framework/window/handle_map.h"
 #include "platform/framework/window/window_map.h"
 

@@ -39,7 +39,7 @@ const DLGTEMPLATE* TemplateOf(LPCWSTR name) {
 }  // namespace
 
 CDialog::CDialog(LPCWSTR templateName, CWnd* parent)
-    : m_templateName(templateName), m_parent(parent) {}
+    : m_lpszTemplateName(templateName), m_pParentWnd(parent) {}
 
 CDialog::CDialog(UINT templateId, CWnd* parent) : CDialog(MAKEINTRESOURCEW(templateId), parent) {}
 
@@ -48,13 +48,13 @@ CDialog::~CDialog() {
 }
 
 BOOL CDialog::InitModalIndirect(const DLGTEMPLATE* dialogTemplate, CWnd* parent) {
-  m_template = dialogTemplate;
-  m_parent = parent;
+  m_lpDialogTemplate = dialogTemplate;
+  m_pParentWnd = parent;
   return TRUE;
 }
 
 BOOL CDialog::Create(LPCWSTR templateName, CWnd* parent) {
-  m_templateName = templateName;
+  m_lpszTemplateName = templateName;
   return CreateIndirect(TemplateOf(templateName), parent);
 }
 
@@ -63,7 +63,7 @@ BOOL CDialog::Create(UINT templateId, CWnd* parent) {
 }
 
 BOOL CDialog::CreateIndirect(const DLGTEMPLATE* dialogTemplate, CWnd* parent) {
-  m_parent = parent;
+  m_pParentWnd = parent;
   CWnd* main = AfxGetMainWnd();
   const HWND owner = parent ? parent->m_hWnd : main ? main->m_hWnd : nullptr;
   return dialogTemplate && CreateFromTemplate(dialogTemplate, owner);
@@ -76,11 +76,12 @@ BOOL CDialog::CreateFromTemplate(const DLGTEMPLATE* dialogTemplate, HWND owner) 
 }
 
 INT_PTR CDialog::DoModal() {
-  const DLGTEMPLATE* dialogTemplate = m_template ? m_template : TemplateOf(m_templateName);
+  const DLGTEMPLATE* dialogTemplate =
+      m_lpDialogTemplate ? m_lpDialogTemplate : TemplateOf(m_lpszTemplateName);
   if (!dialogTemplate) return -1;
   if (const HWND capture = ::GetCapture()) ::SendMessageW(capture, WM_CANCELMODE, 0, 0);
 
-  const HWND owner = OwnerOf(m_parent);
+  const HWND owner = OwnerOf(m_pParentWnd);
   ModalState state;
   m_modal = &state;
   {
@@ -97,8 +98,8 @@ INT_PTR CDialog::DoModal() {
     }
   }
   if (owner && m_hWnd && ::GetActiveWindow() == m_hWnd) ::SetActiveWindow(owner);
-  DestroyWindow();
   m_modal = nullptr;
+  DestroyWindow();
   return state.result;
 }
 

@@ -52,6 +52,10 @@ class AFX_FRAMEWORK CDialog : public CWnd {
   virtual void PreInitDialog() {}
   void PostNcDestroy() override;
 
+  LPCWSTR m_lpszTemplateName = nullptr;             // what DoModal loads, unless
+  const DLGTEMPLATE* m_lpDialogTemplate = nullptr;  // this is given; neither is the object's own
+  CWnd* m_pParentWnd = nullptr;
+
   DECLARE_MESSAGE_MAP()
 
  private:
@@ -62,8 +66,5 @@ class AFX_FRAMEWORK CDialog : public CWnd {
   void RunModal(ModalState& state);
   static INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-  LPCWSTR m_templateName = nullptr;
-  const DLGTEMPLATE* m_template = nullptr;
-  CWnd* m_parent = nullptr;
   ModalState* m_modal = nullptr;  // while DoModal runs
 };

@@ -1,0 +1,3 @@
+#include "tdialog.h"
+
+BOOL TEdit::Link(CWnd* dialog, UINT id) { return SubclassDlgItem(id, dialog); }

@@ -1,0 +1,347 @@
+// Dialogs, driven from inside their loops.
+
+#include <gtest/gtest.h>
+
+#include "tests/platform/framework_window/modal_driver.h"
+#include "tests/platform/framework_window/support.h"
+#include "tests/platform/framework_window/test_resources.h"
+
+namespace {
+
+using test::Command;
+using test::FrameWindow;
+using test::Key;
+using test::ModalDriver;
+
+class TestDialog : public CDialog {
+ public:
+  CString name = L"測点";
+  int count = 3;
+  BOOL flag = TRUE;
+  int radio = 1;
+  CEdit nameEdit;
+  CComboBox combo;
+  int inits = 0;
+  int oks = 0;
+  int cancels = 0;
+  int gone = 0;
+  int endInInit = 0;
+  BOOL ownerEnabledInside = TRUE;
+  HWND owner = nullptr;
+
+  explicit TestDialog(CWnd* parent = nullptr) : CDialog(IDD_MODAL, parent) {}
+
+ protected:
+  BOOL OnInitDialog() override {
+    CDialog::OnInitDialog();
+    ++inits;
+    owner = ::GetWindow(m_hWnd, GW_OWNER);
+    ownerEnabledInside = owner && ::IsWindowEnabled(owner);
+    if (endInInit) EndDialog(endInInit);
+    return TRUE;
+  }
+  void OnOK() override {
+    ++oks;
+    CDialog::OnOK();
+  }
+  void OnCancel() override {
+    ++cancels;
+    CDialog::OnCancel();
+  }
+  void PostNcDestroy() override {
+    ++gone;
+    CDialog::PostNcDestroy();
+  }
+  void DoDataExchange(CDataExchange* exchange) override {
+    DDX_Control(exchange, IDC_NAME, nameEdit);
+    DDX_Control(exchange, IDC_COMBO, combo);
+    DDX_Text(exchange, IDC_NAME, name);
+    DDX_Text(exchange, IDC_COUNT, count);
+    DDV_MinMaxInt(exchange, count, 0, 10);
+    DDX_Check(exchange, IDC_FLAG, flag);
+    DDX_Radio(exchange, IDC_FIRST_RADIO, radio);
+  }
+};
+
+TEST(ModalDialog, EndsWithTheCommand) {
+  const struct Row {
+    const char* name;
+    ModalDriver::Step step;
+    INT_PTR result;
+    int oks, cancels;
+  } rows[] = {
+      {"OK", Command(IDOK), IDOK, 1, 0},
+      {"Cancel", Command(IDCANCEL), IDCANCEL, 0, 1},
+      {"Enter", Key(VK_RETURN), IDOK, 1, 0},
+      {"Escape", Key(VK_ESCAPE), IDCANCEL, 0, 1},
+      {"close box", [](HWND d) { ::PostMessageW(d, WM_SYSCOMMAND, SC_CLOSE, 0); }, IDCANCEL, 0, 1},
+      {"the button", [](HWND d) { ::SendMessageW(::GetDlgItem(d, IDOK), BM_CLICK, 0, 0); }, IDOK, 1,
+       0},
+  };
+  FrameWindow owner;
+  ASSERT_TRUE(owner.Make());
+  for (const Row& row : rows) {
+    TestDialog dialog(&owner);
+    const ModalDriver driver({row.step});
+    EXPECT_EQ(dialog.DoModal(), row.result) << row.name;
+    EXPECT_EQ(dialog.oks, row.oks) << row.name;
+    EXPECT_EQ(dialog.cancels, row.cancels) << row.name;
+    EXPECT_EQ(dialog.inits, 1) << row.name;
+    EXPECT_EQ(dialog.m_hWnd, nullptr) << row.name;
+    EXPECT_EQ(dialog.gone, 1) << row.name;
+  }
+}
+
+TEST(ModalDialog, OwnerWaits) {
+  FrameWindow owner;
+  ASSERT_TRUE(owner.Make());
+  CWnd child;
+  ASSERT_TRUE(child.Create(nullptr, L"", 0, CRect(0, 0, 20, 20), &owner, 1));
+  {
+    TestDialog dialog(&child);
+    const ModalDriver driver({Command(IDOK)});
+    dialog.DoModal();
+    EXPECT_EQ(dialog.owner, owner.m_hWnd) << "the top-level window owns it";
+    EXPECT_FALSE(dialog.ownerEnabledInside);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+  }
+  owner.EnableWindow(FALSE);
+  TestDialog dialog(&owner);
+  const ModalDriver driver({Command(IDOK)});
+  dialog.DoModal();
+  EXPECT_FALSE(owner.IsWindowEnabled()) << "a window that took no input before stays so";
+}
+
+TEST(ModalDialog, MayEndBeforeItIsShown) {
+  TestDialog dialog;
+  dialog.endInInit = 55;
+  EXPECT_EQ(dialog.DoModal(), 55);
+  EXPECT_EQ(dialog.m_hWnd, nullptr);
+}
+
+TEST(ModalDialog, CanBeUsedAgain) {
+  TestDialog dialog;
+  for (int i = 1; i <= 3; ++i) {
+    const ModalDriver driver({Command(IDOK)});
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(dialog.inits, i);
+  }
+}
+
+TEST(ModalDialog, WithoutTemplateItIsNotMade) {
+  CDialog missing(9999u);
+  EXPECT_EQ(missing.DoModal(), -1);
+  CDialog modeless;
+  EXPECT_FALSE(modeless.Create(9999u));
+}
+
+TEST(ModalDialog, EndsWhenItsWindowGoes) {
+  TestDialog dialog;
+  const ModalDriver driver({[](HWND window) { ::DestroyWindow(window); }});
+  EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+  EXPECT_EQ(dialog.gone, 1);
+}
+
+TEST(ModalDialog, QuitMessageEndsItAndTravelsOn) {
+  TestDialog dialog;
+  const ModalDriver driver({[](HWND) { ::PostQuitMessage(5); }});
+  EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+  MSG message;
+  EXPECT_FALSE(::GetMessageW(&message, nullptr, 0, 0)) << "for the loop outside";
+  EXPECT_EQ(message.wParam, 5u);
+}
+
+TEST(ModalDialog, EndFromASentMessageWakesTheLoop) {
+  TestDialog dialog;
+  ModalDriver driver({[&dialog](HWND) { dialog.EndDialog(77); }});
+  EXPECT_EQ(dialog.DoModal(), 77);
+}
+
+TEST(ModalDialog, TabMovesTheFocus) {
+  TestDialog dialog;
+  int first = 0, second = 0;
+  const ModalDriver driver({[&](HWND) { first = ::GetDlgCtrlID(::GetFocus()); }, Key(VK_TAB),
+                            [&](HWND) { second = ::GetDlgCtrlID(::GetFocus()); }, Command(IDOK)});
+  dialog.DoModal();
+  EXPECT_EQ(first, IDC_NAME);
+  EXPECT_EQ(second, IDC_COUNT);
+}
+
+TEST(ModalDialog, PreTranslationRunsInItsLoop) {
+  class Nosy : public TestDialog {
+   public:
+    int keys = 0;
+    BOOL PreTranslateMessage(MSG* message) override {
+      if (message->message == WM_KEYDOWN) ++keys;
+      return TestDialog::PreTranslateMessage(message);
+    }
+  } dialog;
+  const ModalDriver driver({Key(VK_TAB), Command(IDOK)});
+  dialog.DoModal();
+  EXPECT_EQ(dialog.keys, 1);
+}
+
+TEST(ModalDialog, RunsUnderAnApplicationToo) {
+  class App : public CWinApp {
+   public:
+    int seen = 0;
+    BOOL PreTranslateMessage(MSG* message) override {
+      ++seen;
+      return CWinApp::PreTranslateMessage(message);
+    }
+  } app;
+  FrameWindow main;
+  ASSERT_TRUE(main.Make());
+  app.m_pMainWnd = &main;
+  TestDialog dialog;
+  const ModalDriver driver({Key(VK_RETURN)});
+  EXPECT_EQ(dialog.DoModal(), IDOK);
+  EXPECT_EQ(dialog.owner, main.m_hWnd) << "the main window owns it";
+  EXPECT_GT(app.seen, 0);
+  app.m_pMainWnd = nullptr;
+}
+
+TEST(DialogData, MovesBothWays) {
+  TestDialog dialog;
+  CString nameShown;
+  UINT countShown = 0, flagShown = 0, radioShown = 0;
+  const ModalDriver driver({[&](HWND window) {
+                              CWnd* shown = CWnd::FromHandle(window);
+                              shown->GetDlgItemText(IDC_NAME, nameShown);
+                              countShown = shown->GetDlgItemInt(IDC_COUNT);
+                              flagShown = shown->IsDlgButtonChecked(IDC_FLAG);
+                              radioShown = shown->IsDlgButtonChecked(IDC_SECOND_RADIO);
+                              shown->SetDlgItemText(IDC_NAME, L"境界");
+                              shown->SetDlgItemInt(IDC_COUNT, 7);
+                              shown->CheckDlgButton(IDC_FLAG, BST_UNCHECKED);
+                              shown->CheckRadioButton(IDC_FIRST_RADIO, IDC_SECOND_RADIO,
+                                                      IDC_FIRST_RADIO);
+                            },
+                            Command(IDOK)});
+  EXPECT_EQ(dialog.DoModal(), IDOK);
+  EXPECT_EQ(nameShown, L"測点");
+  EXPECT_EQ(countShown, 3u);
+  EXPECT_EQ(flagShown, UINT{BST_CHECKED});
+  EXPECT_EQ(radioShown, UINT{BST_CHECKED});
+  EXPECT_EQ(dialog.name, L"境界");
+  EXPECT_EQ(dialog.count, 7);
+  EXPECT_FALSE(dialog.flag);
+  EXPECT_EQ(dialog.radio, 0);
+  EXPECT_EQ(dialog.nameEdit.m_hWnd, nullptr) << "the member's window went with the dialog";
+}
+
+TEST(DialogData, CancelKeepsTheMembers) {
+  TestDialog dialog;
+  const ModalDriver driver(
+      {[](HWND window) { ::SetDlgItemTextW(window, IDC_NAME, L"x"); }, Command(IDCANCEL)});
+  EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+  EXPECT_EQ(dialog.name, L"測点");
+}
+
+// A refused value is told in a box, which is a dialog too; the dialog stays open.
+TEST(DialogData, RefusedValueKeepsTheDialogOpen) {
+  for (const wchar_t* refused : {L"", L"abc", L"12x", L"99999999999", L"11", L"-1"}) {
+    TestDialog dialog;
+    int focus = 0;
+    const ModalDriver driver({[&](HWND window) {
+                                ::SetDlgItemTextW(window, IDC_COUNT, refused);
+                                ::PostMessageW(window, WM_COMMAND, IDOK, 0);
+                              },
+                              [](HWND box) { ::PostMessageW(box, WM_COMMAND, IDOK, 0); },
+                              [&](HWND window) {
+                                focus = ::GetDlgCtrlID(::GetFocus());
+                                ::SetDlgItemTextW(window, IDC_COUNT, L" 10 ");
+                                ::PostMessageW(window, WM_COMMAND, IDOK, 0);
+                              }});
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(dialog.oks, 2) << "refused once";
+    EXPECT_EQ(focus, IDC_COUNT);
+    EXPECT_EQ(dialog.count, 10);
+  }
+}
+
+class Modeless : public CDialog {
+ public:
+  static inline int alive = 0;
+  Modeless() { ++alive; }
+  ~Modeless() override { --alive; }
+
+ protected:
+  void OnCancel() override { DestroyWindow(); }
+  void PostNcDestroy() override { delete this; }
+};
+
+TEST(ModelessDialog, LivesBesideTheLoop) {
+  FrameWindow owner;
+  ASSERT_TRUE(owner.Make());
+  auto* dialog = new Modeless;
+  ASSERT_TRUE(dialog->Create(IDD_MODAL, &owner));
+  EXPECT_TRUE(owner.IsWindowEnabled());
+  EXPECT_EQ(dialog->GetOwner(), &owner);
+  CWnd* edit = dialog->GetDlgItem(IDC_NAME);
+  edit->PostMessage(WM_KEYDOWN, VK_ESCAPE, 1);
+  EXPECT_TRUE(test::PumpUntil([] { return Modeless::alive == 0; })) << "Escape by pre-translation";
+}
+
+TEST(ModelessDialog, ObjectsEndDestroysTheWindow) {
+  HWND window = nullptr;
+  {
+    CDialog dialog;
+    ASSERT_TRUE(dialog.Create(IDD_MODAL));
+    window = dialog.m_hWnd;
+  }
+  EXPECT_FALSE(::IsWindow(window));
+}
+
+// Commands a dialog does not know travel to its owner; what its controls say does not.
+class CommandOwner : public FrameWindow {
+ public:
+  int opens = 0;
+  int clicks = 0;
+  void OnOpen() { ++opens; }
+  void OnClick() { ++clicks; }
+  DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(CommandOwner, FrameWindow)
+ON_COMMAND(ID_FILE_OPEN_TEST, &CommandOwner::OnOpen)
+ON_BN_CLICKED(IDC_FLAG, &CommandOwner::OnClick)
+END_MESSAGE_MAP()
+
+TEST(DialogCommands, TravelToTheOwner) {
+  CommandOwner owner;
+  ASSERT_TRUE(owner.Make());
+  CDialog dialog;
+  ASSERT_TRUE(dialog.Create(IDD_MODAL, &owner));
+  dialog.SendMessage(WM_COMMAND, ID_FILE_OPEN_TEST);
+  EXPECT_EQ(owner.opens, 1);
+  dialog.GetDlgItem(IDC_FLAG)->SendMessage(BM_CLICK);
+  EXPECT_EQ(owner.clicks, 0);
+}
+
+TEST(MessageBoxes, AnswerWithTheChosenButton) {
+  {
+    const ModalDriver driver({Command(IDYES)});
+    EXPECT_EQ(AfxMessageBox(L"Delete it?", MB_YESNO), IDYES);
+  }
+  {
+    CString shown;
+    const ModalDriver driver({[&](HWND box) {
+                                // The text's item; icon and text have ids of the system's choice.
+                                for (HWND item = ::GetWindow(box, GW_CHILD); item;
+                                     item = ::GetWindow(item, GW_HWNDNEXT)) {
+                                  CString text;
+                                  CWnd::FromHandle(item)->GetWindowText(text);
+                                  if (text == L"of the program") shown = text;
+                                }
+                              },
+                              Command(IDOK)});
+    EXPECT_EQ(AfxMessageBox(IDS_BOTH), IDOK);
+    EXPECT_EQ(shown, L"of the program");
+  }
+  FrameWindow window;
+  ASSERT_TRUE(window.Make());
+  const ModalDriver driver({Command(IDCANCEL)});
+  EXPECT_EQ(window.MessageBox(L"text", nullptr, MB_OKCANCEL), IDCANCEL);
+}
+
+}  // namespace

@@ -1,0 +1,204 @@
+// Drawing objects: who owns the handle, and which object stands for it.
+
+#include <gtest/gtest.h>
+
+#include "framework/scoped_select.h"
+#include "tests/platform/framework_window/support.h"
+
+namespace {
+
+bool IsAlive(HGDIOBJ handle) { return ::GetObjectType(handle) != 0; }
+
+template <class T>
+struct Maker;
+template <>
+struct Maker<CPen> {
+  static constexpr DWORD kType = OBJ_PEN;
+  static BOOL Make(CPen& pen) { return pen.CreatePen(PS_SOLID, 3, RGB(1, 2, 3)); }
+};
+template <>
+struct Maker<CBrush> {
+  static constexpr DWORD kType = OBJ_BRUSH;
+  static BOOL Make(CBrush& brush) { return brush.CreateSolidBrush(RGB(4, 5, 6)); }
+};
+template <>
+struct Maker<CFont> {
+  static constexpr DWORD kType = OBJ_FONT;
+  static BOOL Make(CFont& font) { return font.CreatePointFont(100, L"Tahoma"); }
+};
+template <>
+struct Maker<CBitmap> {
+  static constexpr DWORD kType = OBJ_BITMAP;
+  static BOOL Make(CBitmap& bitmap) { return bitmap.CreateBitmap(4, 3, 1, 32, nullptr); }
+};
+
+template <class T>
+class Selectable : public testing::Test {};
+using SelectableTypes = testing::Types<CPen, CBrush, CFont, CBitmap>;
+TYPED_TEST_SUITE(Selectable, SelectableTypes);
+
+TYPED_TEST(Selectable, HandleDiesWithItsOwner) {
+  HGDIOBJ handle = nullptr;
+  {
+    TypeParam object;
+    ASSERT_TRUE(Maker<TypeParam>::Make(object));
+    handle = object.m_hObject;
+    EXPECT_EQ(object.GetObjectType(), Maker<TypeParam>::kType);
+    EXPECT_EQ(CGdiObject::FromHandle(handle), &object);
+  }
+  EXPECT_FALSE(IsAlive(handle));
+}
+
+TYPED_TEST(Selectable, DetachedHandleOutlivesTheObject) {
+  HGDIOBJ handle = nullptr;
+  {
+    TypeParam object;
+    ASSERT_TRUE(Maker<TypeParam>::Make(object));
+    handle = object.Detach();
+    EXPECT_EQ(object.m_hObject, nullptr);
+    EXPECT_FALSE(object.DeleteObject());
+  }
+  EXPECT_TRUE(IsAlive(handle));
+  TypeParam again;
+  EXPECT_TRUE(again.Attach(handle));
+  EXPECT_TRUE(again.DeleteObject());
+  EXPECT_FALSE(IsAlive(handle));
+  EXPECT_FALSE(again.Attach(nullptr));
+}
+
+TYPED_TEST(Selectable, SelectReturnsTheObjectBefore) {
+  CDC dc;
+  ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+  TypeParam first, second;
+  ASSERT_TRUE(Maker<TypeParam>::Make(first));
+  ASSERT_TRUE(Maker<TypeParam>::Make(second));
+  TypeParam* original = dc.SelectObject(&first);
+  ASSERT_NE(original, nullptr);
+  EXPECT_EQ(dc.SelectObject(&second), &first);
+  EXPECT_EQ(dc.SelectObject(original), &second);
+  EXPECT_TRUE(first.DeleteObject());
+  EXPECT_TRUE(second.DeleteObject());
+}
+
+TYPED_TEST(Selectable, TemporaryObjectIsOneForEachHandleAndOwnsNothing) {
+  CDC dc;
+  ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+  TypeParam object;
+  ASSERT_TRUE(Maker<TypeParam>::Make(object));
+  const HGDIOBJ original = ::GetCurrentObject(dc, Maker<TypeParam>::kType);
+  TypeParam* temporary = dc.SelectObject(&object);
+  EXPECT_EQ(temporary->m_hObject, original);
+  dc.SelectObject(temporary);
+  EXPECT_EQ(dc.SelectObject(&object), temporary) << "the same object for the same handle";
+  dc.SelectObject(temporary);
+}
+
+TYPED_TEST(Selectable, DeletedWhileSelectedIsNoCrash) {
+  CDC dc;
+  ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+  {
+    TypeParam object;
+    ASSERT_TRUE(Maker<TypeParam>::Make(object));
+    dc.SelectObject(&object);
+  }
+  dc.Rectangle(0, 0, 5, 5);
+  TypeParam next;
+  ASSERT_TRUE(Maker<TypeParam>::Make(next));
+  TypeParam* before = dc.SelectObject(&next);
+  dc.SelectObject(before);
+}
+
+TYPED_TEST(Selectable, ScopedSelectPutsTheOldOneBack) {
+  CDC dc;
+  ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+  const HGDIOBJ original = ::GetCurrentObject(dc, Maker<TypeParam>::kType);
+  TypeParam outer, inner;
+  ASSERT_TRUE(Maker<TypeParam>::Make(outer));
+  ASSERT_TRUE(Maker<TypeParam>::Make(inner));
+  {
+    const CScopedSelect a(dc, outer);
+    {
+      const CScopedSelect b(dc, inner);
+      EXPECT_EQ(::GetCurrentObject(dc, Maker<TypeParam>::kType), inner.m_hObject);
+    }
+    EXPECT_EQ(::GetCurrentObject(dc, Maker<TypeParam>::kType), outer.m_hObject);
+  }
+  EXPECT_EQ(::GetCurrentObject(dc, Maker<TypeParam>::kType), original);
+}
+
+TEST(GdiObjects, DescribeThemselves) {
+  CPen pen(PS_DASH, 1, RGB(9, 8, 7));
+  LOGPEN logPen;
+  ASSERT_NE(pen.GetLogPen(&logPen), 0);
+  EXPECT_EQ(logPen.lopnColor, RGB(9, 8, 7));
+  EXPECT_EQ(logPen.lopnStyle, UINT{PS_DASH});
+
+  CBrush brush(RGB(1, 1, 2));
+  LOGBRUSH logBrush;
+  ASSERT_NE(brush.GetLogBrush(&logBrush), 0);
+  EXPECT_EQ(logBrush.lbColor, RGB(1, 1, 2));
+
+  LOGFONTW wanted = {};
+  wanted.lfHeight = -17;
+  wanted.lfWeight = FW_BOLD;
+  ::lstrcpyW(wanted.lfFaceName, L"ＭＳ ゴシック");
+  CFont font;
+  ASSERT_TRUE(font.CreateFontIndirect(&wanted));
+  LOGFONTW got;
+  ASSERT_NE(font.GetLogFont(&got), 0);
+  EXPECT_EQ(got.lfHeight, -17);
+  EXPECT_STREQ(got.lfFaceName, L"ＭＳ ゴシック");
+
+  CBitmap bitmap;
+  ASSERT_TRUE(bitmap.CreateBitmap(7, 5, 1, 1, nullptr));
+  BITMAP info;
+  ASSERT_NE(bitmap.GetBitmap(&info), 0);
+  EXPECT_EQ(info.bmWidth, 7);
+  EXPECT_EQ(info.bmHeight, 5);
+}
+
+TEST(GdiObjects, PointFontFollowsTheDevice) {
+  CFont font;
+  ASSERT_TRUE(font.CreatePointFont(720, L"Tahoma"));  // one inch
+  LOGFONTW got;
+  font.GetLogFont(&got);
+  CWindowDC screen(nullptr);
+  EXPECT_EQ(got.lfHeight, -screen.GetDeviceCaps(LOGPIXELSY));
+}
+
+TEST(GdiObjects, StockObjectsSurviveTheirWrappers) {
+  {
+    CPen pen;
+    ASSERT_TRUE(pen.CreateStockObject(BLACK_PEN));
+    CPen same;
+    ASSERT_TRUE(same.CreateStockObject(BLACK_PEN));
+  }
+  EXPECT_TRUE(IsAlive(::GetStockObject(BLACK_PEN)));
+}
+
+TEST(GdiObjects, ConstructorThatCannotCreateThrows) {
+  CBitmap empty;
+  bool thrown = false;
+  try {
+    const CBrush brush(&empty);
+  } catch (CResourceException* exception) {
+    thrown = true;
+    exception->Delete();
+  }
+  EXPECT_TRUE(thrown);
+}
+
+TEST(GdiObjects, RegionsCombine) {
+  CRgn left, right, both;
+  ASSERT_TRUE(left.CreateRectRgn(0, 0, 10, 10));
+  ASSERT_TRUE(right.CreateRectRgn(5, 0, 20, 10));
+  ASSERT_TRUE(both.CreateRectRgn(0, 0, 0, 0));
+  EXPECT_EQ(both.CombineRgn(&left, &right, RGN_AND), SIMPLEREGION);
+  CRect box;
+  both.GetRgnBox(box);
+  EXPECT_EQ(box, CRect(5, 0, 10, 10));
+  EXPECT_TRUE(both.PtInRegion(CPoint(5, 5)));
+  EXPECT_FALSE(both.PtInRegion(CPoint(4, 5)));
+}
+
+}  // namespace

@@ -1,0 +1,72 @@
+// Drives a dialog from inside the modal loop it runs.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+namespace test {
+
+// Once a visible dialog of this thread is open and enabled, does the steps one by one, each in a
+// turn of the message loop of its own. Only one driver at a time.
+class ModalDriver {
+ public:
+  using Step = std::function<void(HWND dialog)>;
+
+  explicit ModalDriver(std::vector<Step> steps) : steps_(std::move(steps)) {
+    current_ = this;
+    timer_ = ::SetTimer(nullptr, 0, 15, &ModalDriver::OnTimer);
+  }
+  ~ModalDriver() {
+    ::KillTimer(nullptr, timer_);
+    current_ = nullptr;
+  }
+  ModalDriver(const ModalDriver&) = delete;
+  ModalDriver& operator=(const ModalDriver&) = delete;
+
+  bool Done() const { return done_ == steps_.size(); }
+
+  // The thread's visible dialog that takes input, or null.
+  static HWND OpenDialog() {
+    HWND found = nullptr;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM result) -> BOOL {
+          wchar_t name[16] = {};
+          ::GetClassNameW(window, name, 16);
+          const bool open = ::lstrcmpW(name, L"#32770") == 0 && ::IsWindowVisible(window) &&
+                            ::IsWindowEnabled(window);
+          if (open) *reinterpret_cast<HWND*>(result) = window;
+          return !open;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
+  }
+
+ private:
+  static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+    if (!current_ || current_->Done()) return;
+    if (const HWND dialog = OpenDialog()) current_->steps_[current_->done_++](dialog);
+  }
+
+  static inline ModalDriver* current_ = nullptr;
+  std::vector<Step> steps_;
+  std::size_t done_ = 0;
+  UINT_PTR timer_ = 0;
+};
+
+inline ModalDriver::Step Command(WPARAM id) {
+  return [id](HWND dialog) { ::PostMessageW(dialog, WM_COMMAND, id, 0); };
+}
+
+// A key as the keyboard sends it, to the window that has the focus.
+inline ModalDriver::Step Key(WPARAM key) {
+  return [key](HWND) {
+    ::PostMessageW(::GetFocus(), WM_KEYDOWN, key, 1);
+    ::PostMessageW(::GetFocus(), WM_KEYUP, key, 0xC0000001);
+  };
+}
+
+}  // namespace test

@@ -1,0 +1,153 @@
+// The OK button of device dialogs, and how they end.
+
+#include <gtest/gtest.h>
+#include <tdialog.h>
+
+#include "platform/tdialog/ok_button_place.h"
+#include "tests/platform/framework_window/modal_driver.h"
+#include "tests/platform/tdialog/test_resources.h"
+
+namespace {
+
+using test::Command;
+using test::Key;
+using test::ModalDriver;
+
+CRect RectInDialog(CWnd& dialog, CWnd& item) {
+  CRect rect;
+  item.GetWindowRect(rect);
+  dialog.ScreenToClient(rect);
+  return rect;
+}
+
+TEST(DeviceDialog, HasAVisibleOkButtonThatHidesNothing) {
+  for (const UINT id : {IDD_ROOM, IDD_FULL, IDD_PLAIN_STYLE}) {
+    TDialog dialog;
+    ASSERT_TRUE(dialog.Create(id)) << id;
+    CWnd* ok = dialog.GetDlgItem(IDOK);
+    ASSERT_NE(ok, nullptr) << id;
+    EXPECT_TRUE(ok->GetStyle() & WS_VISIBLE);
+    EXPECT_EQ(ok->GetFont(), dialog.GetFont());
+    EXPECT_EQ(dialog.GetDefID(), UINT{IDOK});
+    const CRect button = RectInDialog(dialog, *ok);
+    CRect client;
+    dialog.GetClientRect(client);
+    EXPECT_TRUE(CRect().UnionRect(client, button));
+    CRect both;
+    both.UnionRect(client, button);
+    EXPECT_EQ(both, client) << "inside the dialog " << id;
+    for (HWND item = ::GetWindow(dialog.m_hWnd, GW_CHILD); item;
+         item = ::GetWindow(item, GW_HWNDNEXT)) {
+      if (item == ok->m_hWnd) continue;
+      CRect common;
+      EXPECT_FALSE(common.IntersectRect(button, RectInDialog(dialog, *CWnd::FromHandle(item))))
+          << id;
+    }
+  }
+}
+
+TEST(DeviceDialog, GrowsOnlyWhenThereIsNoRoom) {
+  CDialog plain;
+  ASSERT_TRUE(plain.Create(IDD_NO_STYLE));  // the same size in the template
+  CRect size, room, full;
+  plain.GetClientRect(size);
+  TDialog withRoom;
+  ASSERT_TRUE(withRoom.Create(IDD_ROOM));
+  withRoom.GetClientRect(room);
+  EXPECT_EQ(room.Height(), size.Height());
+  TDialog withoutRoom;
+  ASSERT_TRUE(withoutRoom.Create(IDD_FULL));
+  withoutRoom.GetClientRect(full);
+  EXPECT_GT(full.Height(), size.Height());
+  EXPECT_EQ(full.Width(), size.Width());
+}
+
+TEST(DeviceDialog, KeepsTheTemplatesOwnOk) {
+  TDialog dialog;
+  ASSERT_TRUE(dialog.Create(IDD_HAS_OK));
+  CString text;
+  dialog.GetDlgItemText(IDOK, text);
+  EXPECT_EQ(text, L"Fertig");
+  int buttons = 0;
+  for (HWND item = ::GetWindow(dialog.m_hWnd, GW_CHILD); item;
+       item = ::GetWindow(item, GW_HWNDNEXT)) {
+    if (::GetDlgCtrlID(item) == IDOK) ++buttons;
+  }
+  EXPECT_EQ(buttons, 1);
+}
+
+TEST(DeviceDialog, WithoutTheStyleThereIsNoButton) {
+  TDialog dialog;
+  ASSERT_TRUE(dialog.Create(IDD_NO_STYLE));
+  EXPECT_EQ(dialog.GetDlgItem(IDOK), nullptr);
+}
+
+TEST(DeviceDialog, MissingTemplateIsNoDialog) {
+  TDialog dialog(9999u);
+  EXPECT_EQ(dialog.DoModal(), -1);
+  EXPECT_FALSE(TDialog().Create(9999u));
+}
+
+TEST(DeviceDialog, EndsByButtonKeysAndCloseBox) {
+  const struct Row {
+    const char* name;
+    ModalDriver::Step step;
+    INT_PTR result;
+  } rows[] = {
+      {"the button",
+       [](HWND dialog) { ::SendMessageW(::GetDlgItem(dialog, IDOK), BM_CLICK, 0, 0); }, IDOK},
+      {"Enter", Key(VK_RETURN), IDOK},
+      {"Escape", Key(VK_ESCAPE), IDCANCEL},
+      {"close box",
+       [](HWND dialog) {
+         EXPECT_TRUE(::GetWindowLongW(dialog, GWL_STYLE) & WS_SYSMENU);
+         ::PostMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
+       },
+       IDCANCEL},
+  };
+  for (const UINT id : {IDD_ROOM, IDD_FULL}) {
+    for (const Row& row : rows) {
+      TDialog dialog(id);
+      const ModalDriver driver({row.step});
+      EXPECT_EQ(dialog.DoModal(), row.result) << row.name;
+    }
+  }
+}
+
+TEST(DeviceDialog, CanBeUsedAgain) {
+  TDialog dialog(IDD_FULL);
+  for (int i = 0; i < 2; ++i) {
+    bool hasButton = false;
+    const ModalDriver driver(
+        {[&](HWND window) { hasButton = ::GetDlgItem(window, IDOK) != nullptr; }, Command(IDOK)});
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_TRUE(hasButton);
+  }
+}
+
+TEST(OkButtonPlace, FirstClearCornerElseAStripBelow) {
+  const SIZE client = {100, 80};
+  const SIZE button = {30, 10};
+  const struct Row {
+    const char* name;
+    std::vector<RECT> items;
+    RECT place;
+    int extraHeight;
+  } rows[] = {
+      {"nothing there", {}, {65, 65, 95, 75}, 0},
+      {"items elsewhere", {{0, 0, 60, 80}}, {65, 65, 95, 75}, 0},
+      {"touching the margin", {{0, 0, 100, 60}}, {65, 65, 95, 75}, 0},
+      {"into the margin", {{0, 70, 61, 80}}, {65, 5, 95, 15}, 0},
+      {"both corners taken", {{0, 70, 61, 80}, {90, 0, 100, 3}}, {65, 85, 95, 95}, 20},
+      {"one that covers all", {{0, 0, 100, 80}}, {65, 85, 95, 95}, 20},
+  };
+  for (const Row& row : rows) {
+    const auto place = tdialog::PlaceOkButton(client, button, 5, row.items);
+    EXPECT_TRUE(::EqualRect(&place.button, &row.place)) << row.name;
+    EXPECT_EQ(place.extraHeight, row.extraHeight) << row.name;
+  }
+  const auto narrow = tdialog::PlaceOkButton({20, 8}, button, 5, {});
+  EXPECT_EQ(narrow.extraHeight, 20) << "a dialog smaller than the button";
+}
+
+}  // namespace
