@@ -157,6 +157,19 @@ TEST_F(FileOpen, ReadOnlyFileIsNotOpenedForWriting) {
   EXPECT_EQ(ContentsOf(path_), "x");
 }
 
+// Wine shows the Linux tree as drive Z; this file there is read-only even for root.
+TEST(ReadOnlyFile, RefusesWriters) {
+  constexpr LPCWSTR kReadOnly = L"Z:\\sys\\kernel\\uevent_seqnum";
+  CFile file;
+  if (!file.Open(kReadOnly, CFile::modeRead | CFile::shareDenyNone)) {
+    GTEST_SKIP() << "There is no " << Utf8(kReadOnly) << " here.";
+  }
+  file.Close();
+  CFileException error;
+  EXPECT_FALSE(file.Open(kReadOnly, CFile::modeWrite | CFile::shareDenyNone, &error));
+  EXPECT_EQ(error.m_cause, CFileException::accessDenied);
+}
+
 TEST_F(FileOpen, RefusesANullPath) {
   CFileException error;
   EXPECT_FALSE(CFile().Open(nullptr, CFile::modeRead, &error));
