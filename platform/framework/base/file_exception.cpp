@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "framework/exception.h"
+#include "platform/framework/base/message_text.h"
 
 IMPLEMENT_DYNAMIC(CFileException, CException)
 
@@ -52,10 +53,28 @@ void CFileException::ThrowOsError(LONG osError, LPCWSTR fileName) {
   AfxThrowFileException(OsErrorToException(osError), osError, fileName);
 }
 
+// By the cause alone: it is known even where the system gave no error code.
 BOOL CFileException::GetErrorMessage(LPWSTR text, UINT maxCount) const {
-  if (maxCount == 0) return FALSE;
-  return FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                        static_cast<DWORD>(m_lOsError), 0, text, maxCount, nullptr) != 0;
+  static constexpr LPCWSTR kMessages[] = {
+      L"No error occurred.",
+      L"An unknown error occurred while accessing a file.",
+      L"The file was not found.",
+      L"The path of the file is not valid.",
+      L"Too many files are open.",
+      L"Access to the file was denied.",
+      L"The file is not open.",
+      L"The current folder cannot be removed.",
+      L"The folder is full.",
+      L"A place before the beginning of the file was asked for.",
+      L"A hardware error occurred while accessing the file.",
+      L"The file is in use.",
+      L"A part of the file is locked.",
+      L"The disk is full.",
+      L"The end of the file was reached.",
+  };
+  static_assert(std::size(kMessages) == endOfFile + 1);
+  const bool known = m_cause >= none && m_cause <= endOfFile;
+  return CopyMessage(kMessages[known ? m_cause : genericException], text, maxCount);
 }
 
 void AfxThrowFileException(int cause, LONG osError, LPCWSTR fileName) {

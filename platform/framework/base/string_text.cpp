@@ -202,7 +202,7 @@ void CString::FormatV(LPCWSTR format, va_list arguments) {
   // asked to measure. The result may be made of this very string, so it is put together apart.
   va_list again;
   va_copy(again, arguments);
-  const int length = ::_vscwprintf(format, arguments);
+  const int length = format ? ::_vscwprintf(format, arguments) : 0;
   if (length > 0) {
     CString result;
     ::_vsnwprintf(result.GetBufferSetLength(length), static_cast<std::size_t>(length) + 1, format,

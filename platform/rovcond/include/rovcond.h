@@ -10,7 +10,8 @@
 #endif
 
 // Writes the path of the current data folder, without a closing backslash (of a drive's root, the
-// drive: "C:"), into `folder`, a buffer of at least MAX_PATH characters. The folder is the one that the environment variable
-// ROVCOND_DATA_FOLDER names at this moment, or, when it is unset or empty, Tavix\Data in the user's
-// local application data, made when missing. FALSE and an empty string when the path does not fit.
+// drive: "C:"), into `folder`, a buffer of at least MAX_PATH characters. The folder is the one that
+// the environment variable ROVCOND_DATA_FOLDER names at this moment, or, when it is unset or empty,
+// Tavix\Data in the user's local application data, made when missing. FALSE and an empty string
+// when the path does not fit.
 extern "C" ROVCOND_CALL BOOL GetDataFolder(LPWSTR folder);

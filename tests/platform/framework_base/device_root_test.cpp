@@ -1,0 +1,107 @@
+// Paths with one leading backslash lie in the folder that stands for the device's root.
+#include <afx.h>
+#include <gtest/gtest.h>
+#include <shlobj.h>
+
+#include <filesystem>
+#include <string>
+
+#include "tests/platform/framework_base/text_printer.h"
+#include "tests/platform/support/environment_variable.h"
+#include "tests/platform/support/scratch_folder.h"
+
+namespace {
+
+constexpr LPCWSTR kVariable = L"CE_DEVICE_ROOT";
+
+CString LocalRoot() {
+  WCHAR folder[MAX_PATH];
+  EXPECT_EQ(SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder), S_OK);
+  return CString(folder) + L"\\Tavix\\DeviceRoot";
+}
+
+TEST(DeviceRoot, TakesPathsWithExactlyOneLeadingBackslash) {
+  static constexpr struct {
+    LPCWSTR path;
+    LPCWSTR mapped;
+  } kRows[] = {
+      {L"\\points.dat", L"C:\\Root\\points.dat"},
+      {L"\\Storage Card\\現場\\a", L"C:\\Root\\Storage Card\\現場\\a"},
+      {L"\\", L"C:\\Root\\"},
+      {L"\\a\\\\b", L"C:\\Root\\a\\\\b"},
+      {L"\\\\server\\share\\a", L"\\\\server\\share\\a"},
+      {L"\\\\?\\C:\\a", L"\\\\?\\C:\\a"},
+      {L"\\\\", L"\\\\"},
+      {L"C:\\a", L"C:\\a"},
+      {L"C:a", L"C:a"},
+      {L"a\\b", L"a\\b"},
+      {L"..\\a", L"..\\a"},
+      {L"/a", L"/a"},
+      {L"", L""},
+      {nullptr, L""},
+  };
+  for (LPCWSTR root : {L"C:\\Root", L"C:\\Root\\", L"C:\\Root\\\\", L"C:\\Root/"}) {
+    const EnvironmentVariable variable(kVariable, root);
+    for (const auto& row : kRows) EXPECT_EQ(AfxMapDevicePath(row.path), row.mapped);
+  }
+}
+
+TEST(DeviceRoot, MayBeADrivesRoot) {
+  const EnvironmentVariable variable(kVariable, L"C:\\");
+  EXPECT_EQ(AfxMapDevicePath(L"\\a"), L"C:\\a");
+  EXPECT_EQ(AfxMapDevicePath(L"\\"), L"C:\\");
+}
+
+TEST(DeviceRoot, IsReadAnewAtEachMapping) {
+  EnvironmentVariable variable(kVariable, L"C:\\First");
+  EXPECT_EQ(AfxMapDevicePath(L"\\a"), L"C:\\First\\a");
+  variable.Set(L"C:\\Second");
+  EXPECT_EQ(AfxMapDevicePath(L"\\a"), L"C:\\Second\\a");
+  variable.Set(nullptr);
+  EXPECT_EQ(AfxMapDevicePath(L"\\a"), LocalRoot() + L"\\a");
+}
+
+TEST(DeviceRoot, MayHaveALongName) {
+  const std::wstring root = L"C:\\" + std::wstring(1000, L'x');
+  const EnvironmentVariable variable(kVariable, root.c_str());
+  EXPECT_EQ(AfxMapDevicePath(L"\\a"), CString(root.c_str()) + L"\\a");
+}
+
+TEST(DeviceRoot, LiesInTheLocalDataWhenTheVariableNamesNothing) {
+  for (LPCWSTR value : {static_cast<LPCWSTR>(nullptr), L"", L"\\"}) {
+    // One with something in it is somebody's own, and shows that nothing is done to it.
+    std::error_code in_use;
+    std::filesystem::remove(LocalRoot().GetString(), in_use);
+    const EnvironmentVariable variable(kVariable, value);
+    EXPECT_EQ(AfxMapDevicePath(L"\\a.dat"), LocalRoot() + L"\\a.dat");
+    EXPECT_TRUE(std::filesystem::is_directory(LocalRoot().GetString()));
+  }
+}
+
+TEST(DeviceRoot, IsWhereEveryCallOfCFileLooks) {
+  const ScratchFolder scratch;
+  const EnvironmentVariable variable(kVariable, scratch.Path().c_str());
+  {
+    CFile file(L"\\points.dat", CFile::modeCreate | CFile::modeWrite);
+    file.Write("abc", 3);
+    EXPECT_EQ(file.GetFilePath(), (scratch / L"points.dat").c_str());
+    EXPECT_EQ(file.GetFileName(), L"points.dat");
+  }
+  EXPECT_EQ(std::filesystem::file_size(scratch / L"points.dat"), 3U);
+  CFile::Rename(L"\\points.dat", L"\\old.dat");
+  EXPECT_FALSE(std::filesystem::exists(scratch / L"points.dat"));
+  EXPECT_TRUE(std::filesystem::exists(scratch / L"old.dat"));
+  CFile::Remove(L"\\old.dat");
+  EXPECT_TRUE(std::filesystem::is_empty(scratch.Path()));
+}
+
+TEST(DeviceRoot, ErrorsNameThePathThatWasAskedFor) {
+  const ScratchFolder scratch;
+  const EnvironmentVariable variable(kVariable, scratch.Path().c_str());
+  CFileException error;
+  EXPECT_FALSE(CFile().Open(L"\\missing", CFile::modeRead, &error));
+  EXPECT_EQ(error.m_strFileName, L"\\missing");
+  EXPECT_FALSE(CFile().Open(L"\\", CFile::modeRead, &error));
+}
+
+}  // namespace

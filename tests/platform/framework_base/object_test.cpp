@@ -1,0 +1,58 @@
+// CObject and what is known of a class while the program runs.
+#include <afx.h>
+#include <gtest/gtest.h>
+
+#include <type_traits>
+
+namespace {
+
+class Mark : public CObject {
+  DECLARE_DYNAMIC(Mark)
+};
+class RoundMark : public Mark {
+  DECLARE_DYNAMIC(RoundMark)
+ public:
+  int radius = 0;
+};
+class Plain : public CObject {};
+
+IMPLEMENT_DYNAMIC(Mark, CObject)
+IMPLEMENT_DYNAMIC(RoundMark, Mark)
+
+static_assert(!std::is_copy_constructible_v<Mark> && !std::is_copy_assignable_v<Mark>);
+static_assert(!std::is_copy_constructible_v<CObList> && !std::is_copy_assignable_v<CFile>);
+static_assert(std::has_virtual_destructor_v<CObject>);
+
+TEST(RuntimeClass, KnowsItsNameSizeAndBase) {
+  EXPECT_STREQ(RUNTIME_CLASS(RoundMark)->m_lpszClassName, "RoundMark");
+  EXPECT_EQ(RUNTIME_CLASS(RoundMark)->m_nObjectSize, static_cast<int>(sizeof(RoundMark)));
+  EXPECT_EQ(RUNTIME_CLASS(RoundMark)->m_pBaseClass, RUNTIME_CLASS(Mark));
+  EXPECT_STREQ(RUNTIME_CLASS(CObject)->m_lpszClassName, "CObject");
+  EXPECT_EQ(RUNTIME_CLASS(CObject)->m_pBaseClass, nullptr);
+}
+
+TEST(RuntimeClass, AnObjectIsOfItsClassAndOfEveryBase) {
+  const RoundMark round;
+  const CObject& object = round;
+  EXPECT_EQ(object.GetRuntimeClass(), RUNTIME_CLASS(RoundMark));
+  EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS(RoundMark)));
+  EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS(Mark)));
+  EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS(CObject)));
+  EXPECT_FALSE(object.IsKindOf(RUNTIME_CLASS(CFile)));
+  EXPECT_FALSE(Mark().IsKindOf(RUNTIME_CLASS(RoundMark)));
+}
+
+TEST(RuntimeClass, AClassThatDeclaresNothingCountsAsItsBase) {
+  EXPECT_EQ(Plain().GetRuntimeClass(), RUNTIME_CLASS(CObject));
+}
+
+TEST(RuntimeClass, OfTheFrameworksOwnClasses) {
+  EXPECT_TRUE(CFile().IsKindOf(RUNTIME_CLASS(CFile)));
+  EXPECT_TRUE(CObList().IsKindOf(RUNTIME_CLASS(CObList)));
+  const CFileException error;
+  EXPECT_TRUE(error.IsKindOf(RUNTIME_CLASS(CFileException)));
+  EXPECT_TRUE(error.IsKindOf(RUNTIME_CLASS(CException)));
+  EXPECT_FALSE(error.IsKindOf(RUNTIME_CLASS(CMemoryException)));
+}
+
+}  // namespace
