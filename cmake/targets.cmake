@@ -28,7 +28,7 @@ endfunction()
 if(WIN32)
   add_library(tavix_window_core STATIC)
   target_include_directories(tavix_window_core PUBLIC ${PROJECT_SOURCE_DIR})
-  target_link_libraries(tavix_window_core PRIVATE tavix_warnings PUBLIC tavix_core framework rovcond)
+  target_link_libraries(tavix_window_core PRIVATE tavix_warnings PUBLIC tavix_core framework rovcond tdialog)
 endif()
 
 function(tavix_windows)

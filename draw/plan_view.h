@@ -11,8 +11,8 @@ class CDC;
 
 namespace tavix {
 
-// What a drawing pass reads. All of it belongs to the instance and outlives the pass. The line store
-// is walked, which moves its current record.
+// What a drawing pass reads. All of it belongs to the instance and outlives the pass. The line
+// store is walked, which moves its current record.
 struct PlotData {
   const CViewState& view;
   const LegendTable& legend;
@@ -22,8 +22,8 @@ struct PlotData {
   bool draws_lines;  // lines and figures are drawn only while this is set
 };
 
-// Draws the plan view's layers into `dc`, bottom to top: figures, lines, points with their marks and
-// labels.
+// Draws the plan view's layers into `dc`, bottom to top: figures, lines, points with their marks
+// and labels.
 void DrawPlanView(CDC& dc, const PlotData& data);
 
 // Draw a single entity as the plan view would.

@@ -68,8 +68,7 @@ int ReadFigure(FileWindow& index_file, FileWindow& coordinate_file, std::int32_t
   figure->points.clear();
   if (record->point_count < 1) return 0;
   const auto count = static_cast<std::size_t>(record->point_count);
-  const unsigned char* bytes =
-      coordinate_file.Bytes(record->first_point, count * kFigurePointSize);
+  const unsigned char* bytes = coordinate_file.Bytes(record->first_point, count * kFigurePointSize);
   if (!bytes) return -3;
   figure->points.reserve(count);
   for (std::size_t i = 0; i < count; ++i) {
@@ -121,8 +120,8 @@ int CFigList::AddCurve(std::span<const GroundPoint> points) {
   return 0;
 }
 
-// Points first and record last, so that a record never names points that are not there yet. The record
-// goes to the first whole place: a record cut short by a full disk is written over.
+// Points first and record last, so that a record never names points that are not there yet. The
+// record goes to the first whole place: a record cut short by a full disk is written over.
 void CFigList::Append(std::int32_t point_count, bool is_circle,
                       std::span<const GroundPoint> points) {
   const std::uint64_t first_point = LengthOf(coordinates_);

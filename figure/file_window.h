@@ -9,8 +9,8 @@
 
 namespace tavix {
 
-// A window of 64 KiB or more that moves over a file. It lives for one pass over the file, so what it
-// holds is never older than that.
+// A window of 64 KiB or more that moves over a file. It lives for one pass over the file, so what
+// it holds is never older than that.
 class FileWindow {
  public:
   explicit FileWindow(CFile& file) : file_(file) {}

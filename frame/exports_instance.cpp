@@ -19,7 +19,8 @@ int LinkWindow(UINT notify_id, Create create) {
   if (!slot.in_use) return -1;
   if (slot.window) slot.window->DestroyWindow();
   slot.window = std::make_unique<CPlotWnd>(notify_id);
-  slot.window->Link({slot.view.get(), slot.points.get(), slot.legend.get()});
+  slot.window->Link({slot.view.get(), slot.points.get(), slot.points3.get(), slot.lines.get(),
+                     slot.figures.get(), slot.legend.get()});
   const bool created = create(*slot.window) != FALSE;
   slot.window->ApplyButtonFlag(slot.show_buttons);
   return created ? 0 : -1;

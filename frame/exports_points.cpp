@@ -51,5 +51,6 @@ int Tavix_GetPntCrd(int key, double* x, double* y) {
 
 int Tavix_DelEntPnt(int key) {
   TavixSlot& slot = Slots().Current();
+  if (slot.memos) slot.memos->Remove(key);  // whatever comes of it
   return slot.points ? slot.points->Remove(key) : -1;
 }

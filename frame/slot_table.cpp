@@ -16,6 +16,24 @@ std::unique_ptr<T> TryMake(Arguments&&... arguments) {
   }
 }
 
+template <class Store>
+std::unique_ptr<Store> TryOpen(int index) {
+  auto store = TryMake<Store>(index);
+  if (store) store->Open();
+  return store;
+}
+
+template <class Store>
+void CloseAndDestroy(std::unique_ptr<Store>& store) {
+  if (store) store->Close();
+  store.reset();
+}
+
+template <class Store>
+int ClearStore(std::unique_ptr<Store>& store) {
+  return store ? store->Clear() : 0;
+}
+
 }  // namespace
 
 void TavixSlot::Create(int index) {
@@ -23,8 +41,11 @@ void TavixSlot::Create(int index) {
   window.reset();
   show_buttons = true;
   view = TryMake<CViewState>();
-  points = TryMake<CPntList>(index);
-  if (points) points->Open();
+  points = TryOpen<CPntList>(index);
+  points3 = TryOpen<CPnt3List>(index);
+  memos = TryOpen<CMemDb>(index);
+  lines = TryOpen<CLinDb>(index);
+  figures = TryOpen<CFigList>(index);
   selected_point_legend = kNoLegend;
   selected_line_legend = kNoLegend;
   legend = TryMake<CHanrei>();
@@ -37,16 +58,22 @@ void TavixSlot::Destroy() {
     window.reset();
   }
   view.reset();
-  if (points) points->Close();
-  points.reset();
+  CloseAndDestroy(points);
+  CloseAndDestroy(points3);
+  CloseAndDestroy(memos);
+  CloseAndDestroy(lines);
+  CloseAndDestroy(figures);
   legend.reset();
   in_use = false;
 }
 
 int TavixSlot::Clear() {
   if (!in_use) return -1;
-  if (points) points->Clear();
-  return 0;
+  if (const int code = ClearStore(points); code != 0) return code;
+  if (const int code = ClearStore(points3); code != 0) return code;
+  if (const int code = ClearStore(memos); code != 0) return code;
+  if (const int code = ClearStore(lines); code != 0) return code;
+  return ClearStore(figures);
 }
 
 void SlotTable::SetIndex(int index) {

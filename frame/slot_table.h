@@ -5,7 +5,11 @@
 #include <cstdint>
 #include <memory>
 
+#include "figure/figure_list.h"
 #include "store/hanrei.h"
+#include "store/lin_db.h"
+#include "store/mem_db.h"
+#include "store/point3_list.h"
 #include "store/point_list.h"
 #include "view/view_state.h"
 #include "window/plot_window.h"
@@ -23,6 +27,10 @@ struct TavixSlot {
   std::int16_t selected_line_legend = kNoLegend;
   std::unique_ptr<CViewState> view;
   std::unique_ptr<CPntList> points;
+  std::unique_ptr<CPnt3List> points3;
+  std::unique_ptr<CMemDb> memos;
+  std::unique_ptr<CLinDb> lines;
+  std::unique_ptr<CFigList> figures;
   std::unique_ptr<CHanrei> legend;
   bool show_buttons = true;
   bool auto_redraw = false;

@@ -8,12 +8,13 @@
 
 namespace tavix {
 
-// A database that belongs to one instance: made anew and empty with the object, whatever one of that
-// name was left on the device, and deleted with it.
+// A database that belongs to one instance: made anew and empty with the object, whatever one of
+// that name was left on the device, and deleted with it.
 class DeviceDatabase {
  public:
   // `sort_properties` are the orders it can be opened in.
-  DeviceDatabase(LPCWSTR base_name, int instance, DWORD ident, std::span<CCeDBProp> sort_properties);
+  DeviceDatabase(LPCWSTR base_name, int instance, DWORD ident,
+                 std::span<CCeDBProp> sort_properties);
   ~DeviceDatabase();
   DeviceDatabase(const DeviceDatabase&) = delete;
   DeviceDatabase& operator=(const DeviceDatabase&) = delete;

@@ -65,6 +65,12 @@ class LegendTable {
   // All entries in list order; the file keeps the first sixteen.
   [[nodiscard]] const std::vector<HanRec>& Entries() const { return entries_; }
 
+  // Calls `change(LegendStyle&)` for every entry.
+  template <class Change>
+  void ForEachStyle(Change change) {
+    for (HanRec& entry : entries_) change(entry.style);
+  }
+
   // Takes the sixteen entries of a file in place of the built-in ones. Their numbers come from
   // their places: 1..11, then 101..105.
   void TakeStored(const std::array<LegendStyle, kStoredLegends>& styles);

@@ -112,8 +112,7 @@ int CLinDb::ReadCur(Line* line) {
       !Get(record, kLargerFirst, &larger_first) || !Get(record, kLegend, &legend)) {
     return -1;
   }
-  const LineKeys keys =
-      larger_first != 0 ? LineKeys{larger, smaller} : LineKeys{smaller, larger};
+  const LineKeys keys = larger_first != 0 ? LineKeys{larger, smaller} : LineKeys{smaller, larger};
   *line = {id, keys, legend};
   return 0;
 }

@@ -15,8 +15,8 @@ struct Line {
   std::int16_t legend = 0;
 };
 
-// Lines in the device database "QZLinDB<instance>", open in one of two orders: by the smaller key of
-// a line, or by its id. Calls that need the other order close the database and open it anew.
+// Lines in the device database "QZLinDB<instance>", open in one of two orders: by the smaller key
+// of a line, or by its id. Calls that need the other order close the database and open it anew.
 //
 // Operations return 0 for success and negative codes for the step that failed.
 class CLinDb {
@@ -33,15 +33,15 @@ class CLinDb {
   int Close();
 
   // Makes the line between two keys, in either order, current. -1 there is none, -2 the database
-  // cannot be opened, -3 it has no records, -4 no first record, -5 a record cannot be read, -6 and -7
-  // its smaller or larger key is missing.
+  // cannot be opened, -3 it has no records, -4 no first record, -5 a record cannot be read, -6 and
+  // -7 its smaller or larger key is missing.
   int Find(LineKeys keys);
 
   // -1 when the record cannot be added.
   int Add(LineKeys keys, std::int16_t legend, std::int32_t* id);
 
-  // The code of Find when there is no such line, -7 when the deletion failed. Marks the store changed
-  // in any case.
+  // The code of Find when there is no such line, -7 when the deletion failed. Marks the store
+  // changed in any case.
   int Remove(LineKeys keys);
 
   // -2 closed, -1 unreadable.

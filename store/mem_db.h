@@ -7,8 +7,8 @@
 
 namespace tavix {
 
-// Memos in the device database "QZMemDB<instance>". A key needs no point. The record has room for 16
-// bits of a key, so a key beyond that range stands for the one with the same low 16 bits.
+// Memos in the device database "QZMemDB<instance>". A key needs no point. The record has room for
+// 16 bits of a key, so a key beyond that range stands for the one with the same low 16 bits.
 //
 // Operations return 0 for success and negative codes for the step that failed.
 class CMemDb {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "view/coordinates.h"
+#include "view/view_state.h"
 
 namespace tavix {
 
@@ -9,6 +10,11 @@ namespace tavix {
 struct GroundExtent {
   GroundPoint max;
   GroundPoint min;
+
+  [[nodiscard]] GroundSize Size() const { return {max.y - min.y, max.x - min.x}; }
+  [[nodiscard]] GroundPoint Centre() const {
+    return {(max.x + min.x) * 0.5, (max.y + min.y) * 0.5};
+  }
 };
 
 // Collects an extent point by point.

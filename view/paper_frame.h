@@ -13,8 +13,8 @@ namespace tavix {
 // Nothing is checked: a sheet of no size has sizes that are not finite.
 class PaperFrame {
  public:
-  // Off, or on with a sheet of `height_units` units of which `height_per_inch` make an inch, and the
-  // same for its width. Laid out in the view's drawing area with a margin of 5 pixels.
+  // Off, or on with a sheet of `height_units` units of which `height_per_inch` make an inch, and
+  // the same for its width. Laid out in the view's drawing area with a margin of 5 pixels.
   void TurnOff() { on_ = false; }
   void TurnOn(const CViewState& view, int height_per_inch, int height_units, int width_per_inch,
               int width_units);
@@ -24,8 +24,8 @@ class PaperFrame {
   void SetShown(bool shown) { shown_ = shown; }
   [[nodiscard]] bool IsShown() const { return on_ && shown_; }
 
-  // Gives the view the scale 1:n and keeps the frame's origin. True when the scale was cut to its cap.
-  // n is 1 or more.
+  // Gives the view the scale 1:n and keeps the frame's origin. True when the scale was cut to its
+  // cap. n is 1 or more.
   [[nodiscard]] bool SetScale(CViewState& view, int n);
 
   // N of 1:N, truncated.
@@ -35,7 +35,8 @@ class PaperFrame {
   void SetOrigin(CViewState& view, GroundPoint origin);
   [[nodiscard]] GroundPoint Origin() const { return origin_; }
 
-  // To be called when the view has changed: the origin follows, and a stale scale is worked out again.
+  // To be called when the view has changed: the origin follows, and a stale scale is worked out
+  // again.
   void Follow(const CViewState& view);
 
   // The scale no longer fits the view. The host's own zooms deliberately do not say so.

@@ -38,7 +38,9 @@ std::array<ScreenPoint, 3> NorthArrowOf(const CViewState& view) {
   view.GetScreenSize(&width, &height);
   const double s = view.SinA();
   const double c = view.CosA();
-  const auto at = [](double x, double y) { return ScreenPoint{TruncateToInt(x), TruncateToInt(y)}; };
+  const auto at = [](double x, double y) {
+    return ScreenPoint{TruncateToInt(x), TruncateToInt(y)};
+  };
   return {at(15 - 12 * s, height + 12 * c - 15), at(15 + 12 * s, height - 12 * c - 15),
           at(15 - (3 * c - 5 * s), height - 3 * s - 5 * c - 15)};
 }

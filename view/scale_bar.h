@@ -14,8 +14,8 @@ struct ScaleBar {
   int length = 0;      // on the screen, pixels
 };
 
-// The bar for the present view, measured along the vertical axis when a ratio was given. None when 30
-// pixels show a centimetre or less.
+// The bar for the present view, measured along the vertical axis when a ratio was given. None when
+// 30 pixels show a centimetre or less.
 [[nodiscard]] std::optional<ScaleBar> ScaleBarOf(const CViewState& view, bool vertical);
 
 // True when the view is turned by more than about 2.5 degrees; smaller turns deliberately count as

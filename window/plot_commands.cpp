@@ -22,7 +22,6 @@ BOOL CPlotWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
 }
 
 void CPlotWnd::RunCommand(UINT command) {
-  const int step = links_.legend->Table().RotationStep();
   switch (command) {
     case IDC_SCROLL_UP:
       return ScrollButtons(true);
@@ -39,15 +38,22 @@ void CPlotWnd::RunCommand(UINT command) {
     case IDC_REFRESH:
       ViewChanged();
       return;
+    case IDC_SETTINGS:
+      return EditSettings();
     case IDC_ROTATE:
-      return RotateBy(step);
+      return RotateBy(RotationStep());
     case IDC_ROTATE_BACK:
-      return RotateBy(-std::max(step, -std::numeric_limits<int>::max()));
+      return RotateBy(-RotationStep());
     case IDC_SCROLL_DOWN:
       return ScrollButtons(false);
     default:
       return;
   }
+}
+
+// In whole degrees. Whatever the file has carried, its negative is a number too.
+int CPlotWnd::RotationStep() const {
+  return std::max(links_.legend->Table().RotationStep(), -std::numeric_limits<int>::max());
 }
 
 void CPlotWnd::ScrollButtons(bool up) {
@@ -88,26 +94,51 @@ void CPlotWnd::ZoomByButton(bool in) {
   } else {
     links_.view->ZoomOut(kZoomFactor);
   }
+  frame_.MarkScaleStale();
   ViewChanged();
 }
 
 // Fits to data that have changed since the last fit; with none that have, the whole view and the
 // view before it take turns.
 void CPlotWnd::ShowWhole() {
-  if (links_.points->Changed()) {
-    links_.points->SetChanged(false);
+  if (TakeStale()) {
     FitView();
   } else {
     links_.view->ToggleHome();
   }
+  frame_.MarkScaleStale();
   ViewChanged();
 }
 
 // A turned view has another extent: the whole view is to be fitted anew.
 void CPlotWnd::RotateBy(int degrees) {
   links_.view->RotateBy(degrees);
-  links_.points->SetChanged(true);
+  MarkStale();
   ViewChanged();
+}
+
+void CPlotWnd::MarkStale() {
+  if (display_3d_) {
+    links_.points3->SetChanged(true);
+    return;
+  }
+  links_.points->SetChanged(true);
+  links_.lines->SetChanged(true);
+  links_.figures->SetChanged(true);
+}
+
+bool CPlotWnd::TakeStale() {
+  if (display_3d_) {
+    const bool stale = links_.points3->Changed();
+    links_.points3->SetChanged(false);
+    return stale;
+  }
+  const bool stale =
+      links_.points->Changed() || links_.lines->Changed() || links_.figures->Changed();
+  links_.points->SetChanged(false);
+  links_.lines->SetChanged(false);
+  links_.figures->SetChanged(false);
+  return stale;
 }
 
 }  // namespace tavix

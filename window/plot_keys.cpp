@@ -1,4 +1,6 @@
-// The arrow keys of the plot window: each press pans by half the drawing area.
+// The arrow keys of the plot window: in the plan each press pans by half the drawing area, in the
+// side view it turns the view or shifts its height base.
+#include "view/height_step.h"
 #include "window/plot_window.h"
 
 namespace tavix {
@@ -9,8 +11,31 @@ BOOL CPlotWnd::PreTranslateMessage(MSG* message) {
   const bool column_shown = buttons_.IsShown(ButtonColumnLayout::kScrollUp) ||
                             buttons_.IsShown(ButtonColumnLayout::kFirstMain);
   if (!is_arrow || band_zoom_.IsOn() || !column_shown) return CWnd::PreTranslateMessage(message);
-  PanByKey(message->wParam);
+  if (display_3d_) {
+    TurnByKey(message->wParam);
+  } else {
+    PanByKey(message->wParam);
+  }
   return TRUE;
+}
+
+void CPlotWnd::TurnByKey(WPARAM key) {
+  constexpr int kMeasure = 30;  // pixels
+  const double step = HeightStep(links_.view->PixelsToLength(kMeasure));
+  switch (key) {
+    case VK_LEFT:
+      return RotateBy(RotationStep());
+    case VK_RIGHT:
+      return RotateBy(-RotationStep());
+    case VK_UP:
+      height_base_ += step;
+      break;
+    default:
+      height_base_ -= step;
+      break;
+  }
+  MarkStale();
+  ViewChanged();
 }
 
 void CPlotWnd::PanByKey(WPARAM key) {

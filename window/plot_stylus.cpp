@@ -26,9 +26,7 @@ void CPlotWnd::OnLButtonDown(UINT flags, CPoint point) {
 
 void CPlotWnd::OnMouseMove(UINT flags, CPoint point) {
   if (!pan_mode_ && band_zoom_.IsOn() && stylus_.IsDown()) {
-    const ScreenPoint first = band_.FirstCorner();
-    const ScreenPoint here = ToScreen(point);
-    band_.MoveTo(*this, {{{here.x, first.y}, here, {first.x, here.y}}});
+    band_.MoveTo(*this, BandCorners(band_.FirstCorner(), ToScreen(point)));
   }
   CWnd::OnMouseMove(flags, point);
 }
@@ -57,7 +55,18 @@ void CPlotWnd::OnCaptureChanged(CWnd* taker) {
   CWnd::OnCaptureChanged(taker);
 }
 
-GroundPoint CPlotWnd::GroundUnder(ScreenPoint at) const { return links_.view->ScreenToGround(at); }
+GroundPoint CPlotWnd::GroundUnder(ScreenPoint at) const {
+  return links_.view->ScreenToGround(display_3d_ ? Projection().Unproject(at) : at);
+}
+
+// The outline of a plan rectangle: in the side view its sides run along the projected axes.
+std::array<ScreenPoint, 3> CPlotWnd::BandCorners(ScreenPoint first, ScreenPoint opposite) const {
+  if (!display_3d_) return {{{opposite.x, first.y}, opposite, {first.x, opposite.y}}};
+  const SideProjection projection = Projection();
+  const ScreenPoint a = projection.Unproject(first);
+  const ScreenPoint b = projection.Unproject(opposite);
+  return {{projection.Project({b.x, a.y}), opposite, projection.Project({a.x, b.y})}};
+}
 
 void CPlotWnd::FinishBand(const StylusGesture& gesture) {
   const auto corners = band_zoom_.Take(gesture, GroundUnder(gesture.down), GroundUnder(gesture.up));

@@ -1,6 +1,12 @@
 #include "window/plot_window.h"
 
+#include <cmath>
+
+#include "draw/label_font.h"
+#include "draw/side_view.h"
+#include "view/scale_bar.h"
 #include "window/client_surface.h"
+#include "window/overlays.h"
 #include "window/refusal_beep.h"
 
 namespace tavix {
@@ -20,7 +26,14 @@ ON_WM_MOUSEMOVE()
 ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
 
-CPlotWnd::CPlotWnd(UINT notify_id) : notify_id_(notify_id) {}
+CPlotWnd::CPlotWnd(UINT notify_id) : notify_id_(notify_id) {
+  constexpr int kLabelHeight = 10;  // pixels
+  constexpr COLORREF kGrey = RGB(128, 128, 128);
+  const LOGFONTW font = LabelFont(kLabelHeight);
+  label_font_.CreateFontIndirect(&font);
+  grey_brush_.CreateSolidBrush(kGrey);
+  grey_pen_.CreatePen(PS_SOLID, 1, kGrey);
+}
 
 CPlotWnd::~CPlotWnd() { CPlotWnd::DestroyWindow(); }
 
@@ -67,12 +80,33 @@ void CPlotWnd::ApplyButtonFlag(bool show_buttons) {
 }
 
 int CPlotWnd::FitView() {
-  GroundExtent extent;
-  if (const int code = links_.points->GetExtent(&extent); code != 0) return code;
-  const GroundPoint centre{(extent.max.x + extent.min.x) * 0.5,
-                           (extent.max.y + extent.min.y) * 0.5};
-  BeepIfCut(
-      links_.view->FitToArea({extent.max.y - extent.min.y, extent.max.x - extent.min.x}, centre));
+  if (display_3d_) return FitSideView();
+  GroundExtent points;
+  GroundExtent figures;
+  const int points_code = links_.points->GetExtent(&points);
+  const int figures_code = links_.figures->GetExtent(&figures);
+  if (points_code != 0 && figures_code != 0) return points_code;
+
+  ExtentBuilder builder;
+  if (points_code == 0) builder.Include(points);
+  if (figures_code == 0) builder.Include(figures);
+  if (move_point_.IsDrawn()) builder.Include(move_point_.Position());
+  const GroundExtent& extent = builder.Extent();
+  if (frame_.IsOn()) {
+    BeepIfCut(
+        links_.view->FitToRect(frame_.Width(), frame_.Height(), extent.Size(), extent.Centre()));
+    frame_.MarkScaleStale();
+  } else {
+    BeepIfCut(links_.view->FitToArea(extent.Size(), extent.Centre()));
+  }
+  return 0;
+}
+
+int CPlotWnd::FitSideView() {
+  GroundExtent3 extent;
+  if (const int code = links_.points3->GetExtent(&extent); code != 0) return code;
+  BeepIfCut(links_.view->FitToArea(extent.plan.Size(), extent.plan.Centre()));
+  height_base_ = std::floor(extent.min_z);
   return 0;
 }
 
@@ -89,12 +123,27 @@ int CPlotWnd::PanTo(GroundPoint centre) {
 int CPlotWnd::Redraw() {
   if (!m_hWnd) return 0;
   buffer_.Fill();
-  if (!display_3d_) DrawPlanView(buffer_.Dc(), Data());
+  if (display_3d_) {
+    DrawSide();
+    traced_.ForgetSegments();
+  } else {
+    DrawPlanView(buffer_.Dc(), Data());
+    traced_.Redraw(buffer_.Dc(), *links_.view);
+  }
   InvalidateRect(&buffer_.Rect(), TRUE);
   return 0;
 }
 
-int CPlotWnd::ViewChanged() { return Redraw(); }
+void CPlotWnd::DrawSide() {
+  DrawSideView(buffer_.Dc(),
+               {*links_.view, links_.legend->Table(), *links_.points3, buffer_.Rect().Size(),
+                height_base_, label_font_, grey_brush_, grey_pen_});
+}
+
+int CPlotWnd::ViewChanged() {
+  frame_.Follow(*links_.view);
+  return Redraw();
+}
 
 void CPlotWnd::DrawNewPoint(const Point& point) {
   if (!m_hWnd) return;
@@ -103,6 +152,19 @@ void CPlotWnd::DrawNewPoint(const Point& point) {
     DrawSinglePoint(screen.Dc(), Data(), point);
   }
   DrawSinglePoint(buffer_.Dc(), Data(), point);
+}
+
+void CPlotWnd::DrawNewLine(const Line& line) {
+  if (!m_hWnd) return;
+  if (IsWindowVisible()) {
+    ClientSurface screen(*this);
+    DrawSingleLine(screen.Dc(), Data(), line);
+  }
+  DrawSingleLine(buffer_.Dc(), Data(), line);
+}
+
+void CPlotWnd::BuildGroup(int height, int width) {
+  BeepIfCut(group_.Build(Data(), frame_, height, width));
 }
 
 void CPlotWnd::SetRatio(int vertical, int horizontal) {
@@ -126,7 +188,22 @@ void CPlotWnd::OnPaint() {
   if (region == NULLREGION || region == ERROR) return;
   dc.BitBlt(clip.left, clip.top, clip.Width(), clip.Height(), &buffer_.Dc(), clip.left, clip.top,
             SRCCOPY);
+  if (!display_3d_) DrawOverlays(dc);
   band_.Restore(dc);
+}
+
+// Over the copied picture, bottom to top.
+void CPlotWnd::DrawOverlays(CDC& paint) {
+  const CViewState& view = *links_.view;
+  if (frame_.IsShown()) DrawPaperFrame(paint, frame_);
+  frame_.Follow(view);
+  const bool turned = ShowsNorthArrow(view);
+  if (turned) DrawNorthArrow(paint, view);
+  // An exaggerated view that is turned has no one scale.
+  if (scale_bar_shown_ && !(ratio_.given && turned)) {
+    DrawScaleBar(paint, view, ratio_.given, label_font_);
+  }
+  move_point_.Restore(paint, view);
 }
 
 }  // namespace tavix

@@ -3,16 +3,25 @@
 
 #include <afxwin.h>
 
+#include "draw/group_picture.h"
 #include "draw/plan_view.h"
+#include "draw/side_projection.h"
+#include "figure/figure_list.h"
 #include "store/hanrei.h"
+#include "store/lin_db.h"
+#include "store/point3_list.h"
 #include "store/point_list.h"
+#include "view/paper_frame.h"
 #include "view/view_state.h"
 #include "window/back_buffer.h"
 #include "window/band_zoom.h"
 #include "window/button_column.h"
 #include "window/coordinate_capture.h"
+#include "window/move_point.h"
 #include "window/rubber_band.h"
+#include "window/settings_dialog.h"
 #include "window/stylus.h"
+#include "window/traced_line.h"
 
 namespace tavix {
 
@@ -20,14 +29,10 @@ namespace tavix {
 struct PlotLinks {
   CViewState* view = nullptr;
   CPntList* points = nullptr;
+  CPnt3List* points3 = nullptr;
+  CLinDb* lines = nullptr;
+  CFigList* figures = nullptr;
   CHanrei* legend = nullptr;
-};
-
-// The vertical : horizontal ratio that the host or the user has given.
-struct RatioSetting {
-  bool given = false;
-  int vertical = 1;
-  int horizontal = 1;
 };
 
 // Holds the parts that make up the plot window and passes messages to them. The size it has when it
@@ -70,6 +75,9 @@ class CPlotWnd : public CWnd {
   // Draws one new point on the screen, where the window is visible, and into the back buffer.
   void DrawNewPoint(const Point& point);
 
+  // The same for a line, while lines are drawn at all.
+  void DrawNewLine(const Line& line);
+
   // Stores the ratio and hands it to the view.
   void SetRatio(int vertical, int horizontal);
   [[nodiscard]] const RatioSetting& Ratio() const { return ratio_; }
@@ -77,6 +85,28 @@ class CPlotWnd : public CWnd {
   void SetDisplay3D(bool on) { display_3d_ = on; }
 
   [[nodiscard]] CoordinateCapture& Capture() { return capture_; }
+
+  [[nodiscard]] PaperFrame& Frame() { return frame_; }
+  void ShowScaleBar(bool shown) { scale_bar_shown_ = shown; }
+
+  // The move-point band. Start takes the look of a point legend.
+  void StartMovePoint(const LegendStyle& style) { move_point_.Start(*this, *links_.view, style); }
+  void SetMoveAnchor(GroundPoint anchor) { move_point_.SetAnchor(anchor); }
+  void MovePointTo(GroundPoint at) { move_point_.MoveTo(*this, *links_.view, at); }
+  void EndMovePoint() { move_point_.End(*this, *links_.view); }
+
+  // The traced polyline.
+  void AddTraced(GroundPoint vertex) { traced_.Add(Surfaces(), *links_.view, vertex); }
+  bool RemoveTraced() { return traced_.RemoveLast(Surfaces(), *links_.view); }
+  void EndTraced() { traced_.End(Surfaces()); }
+  [[nodiscard]] std::span<const GroundPoint> Traced() const { return traced_.Vertices(); }
+
+  // The one-bit picture.
+  void BuildGroup(int height, int width);
+  [[nodiscard]] bool IsGroupInk(int row, int column) const {
+    return group_.IsInk(frame_, row, column);
+  }
+  void ReleaseGroup() { group_.Release(); }
 
   // The client pixel of the last stylus release.
   [[nodiscard]] ScreenPoint LastTap() const { return stylus_.LastUp(); }
@@ -101,6 +131,9 @@ class CPlotWnd : public CWnd {
 
   // The ground under a client pixel.
   [[nodiscard]] GroundPoint GroundUnder(ScreenPoint at) const;
+  [[nodiscard]] SideProjection Projection() const { return SideProjection(buffer_.Rect().bottom); }
+  [[nodiscard]] std::array<ScreenPoint, 3> BandCorners(ScreenPoint first,
+                                                       ScreenPoint opposite) const;
   void FinishBand(const StylusGesture& gesture);
   void FinishPan(const StylusGesture& gesture);
   void Pick(ScreenPoint at);
@@ -118,10 +151,21 @@ class CPlotWnd : public CWnd {
   void ZoomByButton(bool in);
   void ShowWhole();
   void RotateBy(int degrees);
+  [[nodiscard]] int RotationStep() const;
   void PanByKey(WPARAM key);
+  void TurnByKey(WPARAM key);
+  void EditSettings();
+
+  // The refit flags of the stores that are shown: set, or read and cleared.
+  void MarkStale();
+  bool TakeStale();
 
   BOOL CreateChild(CWnd* parent, const CRect& rect, const CString& class_name);
   [[nodiscard]] PlotData Data() const;
+  [[nodiscard]] TracedLine::Surfaces Surfaces() { return {*this, buffer_.Dc()}; }
+  int FitSideView();
+  void DrawSide();
+  void DrawOverlays(CDC& paint);
 
   UINT notify_id_;
   PlotLinks links_;
@@ -134,6 +178,16 @@ class CPlotWnd : public CWnd {
   CoordinateCapture capture_;
   RatioSetting ratio_;
   bool display_3d_ = false;
+  bool draws_lines_ = true;
+  double height_base_ = 0.0;  // metres, of the side view
+  PaperFrame frame_;
+  bool scale_bar_shown_ = false;
+  MovePoint move_point_;
+  TracedLine traced_;
+  GroupPicture group_;
+  CFont label_font_;
+  CBrush grey_brush_;
+  CPen grey_pen_;
 };
 
 }  // namespace tavix

@@ -110,15 +110,16 @@ TAVIX_CALL int Tavix_SetTatYok(int tate, int yoko);
 // (1 and 1 at first) are written all the same. Needs a linked window (-1 without, nothing written).
 TAVIX_CALL int Tavix_GetTatYok(int* tate, int* yoko);
 
-// Shows a ground box in the whole window, without a margin. (X1, Y1) is the south-west corner: sizes
-// are not made positive, and a box that is negative both ways is shown at 1 pixel per metre. The home
-// view stays. Redraws; returns 0. Needs a linked window (-1 without).
+// Shows a ground box in the whole window, without a margin. (X1, Y1) is the south-west corner:
+// sizes are not made positive, and a box that is negative both ways is shown at 1 pixel per metre.
+// The home view stays. Redraws; returns 0. Needs a linked window (-1 without).
 TAVIX_CALL int Tavix_Zom(double X1, double Y1, double X2, double Y2);
 
 // The same for the square around a circle; radius in metres.
 TAVIX_CALL int Tavix_Zom1(double X, double Y, double radius);
 
-// Moves the view's centre to (X, Y) at the present scale and redraws. Returns 0; needs a linked window
+// Moves the view's centre to (X, Y) at the present scale and redraws. Returns 0; needs a linked
+// window
 // (-1 without).
 TAVIX_CALL int Tavix_Pan(double X, double Y);
 
@@ -128,14 +129,14 @@ TAVIX_CALL int Tavix_Mov(void);
 // ---- Picking -----------------------------------------------------------------------------------
 //
 // A tap on a point posts WM_COMMAND to the window's parent, with the notify id given at the link in
-// wParam and the point's key in lParam. In coordinate-capture mode every tap posts WM_COMMAND with the
-// mode's own command id and 0, and Tavix_CrdGet gives the coordinate.
+// wParam and the point's key in lParam. In coordinate-capture mode every tap posts WM_COMMAND with
+// the mode's own command id and 0, and Tavix_CrdGet gives the coordinate.
 
 // Writes 1 when the pixel of (X, Y) lies in the drawing area, borders included, else 0. Returns 0.
 TAVIX_CALL int Tavix_ChkCrd(double X, double Y, int* visible);
 
-// Writes 1 when the four outermost points of a circle lie in the drawing area, else 0; a radius below
-// 0.00001 m asks for the centre alone. Returns 0.
+// Writes 1 when the four outermost points of a circle lie in the drawing area, else 0; a radius
+// below 0.00001 m asks for the centre alone. Returns 0.
 TAVIX_CALL int Tavix_ChkCir(double X, double Y, double radius, int* visible);
 
 // Writes the client pixel where the stylus last left the window, and returns its y.
@@ -144,8 +145,8 @@ TAVIX_CALL int Tavix_GetLstPicCrd(int* x, int* y);
 // Starts coordinate capture under this command id, and forgets a coordinate captured before.
 TAVIX_CALL int Tavix_CrdStt(int command);
 
-// Writes the coordinate that the latest tap has captured: that of the point it hit, else that of the
-// ground. Returns -1 when there is none.
+// Writes the coordinate that the latest tap has captured: that of the point it hit, else that of
+// the ground. Returns -1 when there is none.
 TAVIX_CALL int Tavix_CrdGet(double* X, double* Y);
 
 // Ends coordinate capture and forgets the coordinate. Returns 0.
@@ -221,5 +222,180 @@ TAVIX_CALL int Tavix_GetLinHan(short number, int* kind, short* prm1, short* prm2
 
 // Selects the legend that lines entered from now on receive; it need not exist. -1 at first.
 TAVIX_CALL int Tavix_SelLinHan(short number);
+
+// ---- Lines -------------------------------------------------------------------------------------
+//
+// A line joins two points, named by their keys; the points need not exist yet, and a line is drawn
+// while both do. A line keeps 16 bits of a key and of its own number: a key outside -32768..32767
+// stands for the key with the same low 16 bits.
+//
+// Codes: -1 there is no such line, -2 the line database cannot be opened, -3 there are no lines, -4
+// to -7 a record cannot be read, or (Tavix_DelEntLin, -7) deleted.
+
+// Enters a line with the selected line legend. One that is there, in either direction, stays as it
+// is: 0. Returns -1 when it could not be added. With auto-redraw on the line is drawn at once.
+TAVIX_CALL int Tavix_EntLin(int keyA, int keyB);
+
+// Changes a line's legend number. Returns 0, a code as above (when writing: -1 failed, -3
+// unreadable, -4 no legend), or with auto-redraw on the redraw's result.
+TAVIX_CALL int Tavix_ChgLinHid(int keyA, int keyB, short legend);
+
+// Removes a line. Never redraws.
+TAVIX_CALL int Tavix_DelEntLin(int keyA, int keyB);
+
+// Removes all lines. Never redraws. Returns -1 when the database could not be made anew.
+TAVIX_CALL int Tavix_ClrEntLin(void);
+
+// ---- Memos -------------------------------------------------------------------------------------
+
+// Keeps a text for a point key (16 bits of it, as lines do); the point need not exist. An empty
+// text removes the memo of a key that has one, and is kept as an empty memo for a key that has
+// none. Returns 0, -1 it could not be added or written, -2 the memo database cannot be opened, -3
+// it could not be read or deleted.
+TAVIX_CALL int Tavix_EntPntMem(int key, CString memo);
+
+// Writes the memo of a key; empty when there is none, whatever the reason. Always returns 0.
+TAVIX_CALL int Tavix_GetPntMem(int key, CString* memo);
+
+// ---- 3-D points --------------------------------------------------------------------------------
+//
+// Points with a height for the side view (Tavix_Dsp3D). They are independent of the other points,
+// equal keys included. None of these calls draws.
+
+// Enters a point with the selected point legend, or replaces everything but the key of the one that
+// has it. Returns 0.
+TAVIX_CALL int Tavix_EntPnt3(int key, int number, CString name, double x, double y, double z);
+
+// Changes a point's legend number. Returns -1 for an unknown key; so do the calls below.
+TAVIX_CALL int Tavix_ChgPnt3Hid(int key, short legend);
+TAVIX_CALL int Tavix_ChgPnt3NoNam(int key, int number, CString name);
+TAVIX_CALL int Tavix_GetPnt3NoNam(int key, int* number, CString* name);
+TAVIX_CALL int Tavix_GetPnt3Crd(int key, double* x, double* y, double* z);
+
+// Removes a point; a memo of its key stays.
+TAVIX_CALL int Tavix_DelEntPnt3(int key);
+
+// ---- Figures -----------------------------------------------------------------------------------
+//
+// Lines, circles, polylines, arcs and clothoids with a figure number and a line legend. A figure is
+// started, made of one or more pieces, which are there at once, and ended. One number may cover
+// several pieces and several figures.
+
+// Starts a figure: its number and line legend. Returns 0.
+TAVIX_CALL int Tavix_FigStt(int figure, int legend);
+
+// A straight line. Returns 0.
+TAVIX_CALL int Tavix_FigMdlLin(double x1, double y1, double x2, double y2);
+
+// A circle; radius in metres. Returns 0.
+TAVIX_CALL int Tavix_FigMdlCir(double x, double y, double radius);
+
+// A polyline of `count` vertices; one of none is kept and draws nothing. Returns 0, or -1 when
+// vertices are promised and an array is null.
+TAVIX_CALL int Tavix_FigMdlPly(int count, const double* x, const double* y);
+
+// The shorter arc of a radius in metres. A positive radius turns from x (north) toward y (east),
+// that is clockwise on the map, a negative one the other way. Returns -1 when there is no such arc.
+TAVIX_CALL int Tavix_FigMdlArc(double startX, double startY, double endX, double endY,
+                               double radius);
+
+// A clothoid of parameter A between two radii, signed as for arcs, 0 for a straight end. Between
+// two radii the second must be the smaller, otherwise a straight line is drawn. Returns -1 when
+// there is no such curve.
+TAVIX_CALL int Tavix_FigMdlClo(double startX, double startY, double endX, double endY,
+                               double startRadius, double A, double endRadius);
+
+// Ends a figure; with auto-redraw on the window is redrawn. Returns 0.
+TAVIX_CALL int Tavix_FigEnd(void);
+
+// Deletes every piece of a figure number, and redraws as Tavix_FigEnd. Returns 0 also when none has
+// the number, -1 when there are no figures at all.
+TAVIX_CALL int Tavix_DelFig(int figure);
+
+// ---- Paper frame and scale bar -----------------------------------------------------------------
+//
+// The outline of a sheet of paper over the plan. It keeps its place on the screen; the view decides
+// which ground it covers. These calls do not redraw. Those on a frame return -1 while it is off;
+// all need a linked window (-1 without).
+
+// Turns the frame off (0), or on with a sheet of `heightUnits` units of which `heightPerInch` make
+// an inch, and the same for its width. Nothing is checked. Returns 0.
+TAVIX_CALL int Tavix_SetWak(BYTE on, int heightPerInch, int heightUnits, int widthPerInch,
+                            int widthUnits);
+
+// Shows or hides the outline, from the next paint on. Returns 0.
+TAVIX_CALL int Tavix_WakDsp(BYTE show);
+
+// Gives the view the scale 1:N on the sheet, keeping the frame's origin. Returns -1 for N below 1.
+TAVIX_CALL int Tavix_SetWakScl(int N);
+
+// Writes N, truncated. Tavix_Zom and Tavix_Zom1 do not change what this tells: meant so.
+TAVIX_CALL int Tavix_GetWakScl(int* N);
+
+// Moves the view so that the frame's bottom left corner lies on (X, Y).
+TAVIX_CALL int Tavix_SetWakGen(double X, double Y);
+
+// Writes the ground under the frame's bottom left corner; zeros while the frame is off.
+TAVIX_CALL int Tavix_GetWakGen(double* X, double* Y);
+
+// Shows or hides the scale bar, from the next paint on. Returns 0.
+TAVIX_CALL int Tavix_SclBarDsp(BYTE show);
+
+// ---- Moving a point ----------------------------------------------------------------------------
+//
+// A mark, and a line to it, that follow a position over the plot. All need a linked window (-1).
+
+// Takes the look of a point legend; nothing is drawn. Returns -1 for an unknown legend, -2 for one
+// that is no point legend; the state is then as it was.
+TAVIX_CALL int Tavix_MvPntStt(int legend);
+
+// From the next move on a line runs from (X, Y) to the mark; to be called before the first. Returns
+// 0.
+TAVIX_CALL int Tavix_MvPntRub(double X, double Y);
+
+// Moves the mark. Returns 0.
+TAVIX_CALL int Tavix_MvPntMov(double X, double Y);
+
+// Takes the mark and the line off. Returns 0.
+TAVIX_CALL int Tavix_MvPntEnd(void);
+
+// ---- Traced polyline ---------------------------------------------------------------------------
+//
+// A polyline over the plot that the host traces vertex by vertex. All need a linked window (-1).
+
+// Starts a trace; one that was under way is taken off. Returns 0.
+TAVIX_CALL int Tavix_VoStt(void);
+
+// Appends a vertex and draws the segment to it. Returns 0.
+TAVIX_CALL int Tavix_VoAdd(double X, double Y);
+
+// Takes the last vertex back. Returns -1 when there is none.
+TAVIX_CALL int Tavix_VoDel(void);
+
+// Writes the number of vertices. Returns 0.
+TAVIX_CALL int Tavix_VoGet(int* count);
+
+// Writes every vertex in order into two arrays of at least that many places. Returns 0.
+TAVIX_CALL int Tavix_VoLst(double* X, double* Y);
+
+// Writes one vertex, counted from 0. Returns -1 when there is none of that index.
+TAVIX_CALL int Tavix_VoIdx(int index, double* X, double* Y);
+
+// Takes the polyline off and forgets it. Returns 0.
+TAVIX_CALL int Tavix_VoEnd(void);
+
+// ---- One-bit picture ---------------------------------------------------------------------------
+
+// Draws the plan into a picture of this size, with a north arrow in a free corner; one held before
+// is freed. The picture shows the window's ground width, or one sheet while the paper frame is on.
+// Needs a linked window (-1 without); returns 0.
+TAVIX_CALL int Tavix_GrpStt(int height, int width);
+
+// Writes 1 when the pixel is ink, else 0; rows count from the top. Outside of the picture, and
+// without one, there is no ink. Returns 0; needs a linked window (-1 without).
+TAVIX_CALL int Tavix_GrpGet(int row, int column, int* ink);
+
+// Frees the picture. Returns 0; needs a linked window (-1 without).
+TAVIX_CALL int Tavix_GrpEnd(void);
 
 }  // extern "C"

@@ -1,0 +1,39 @@
+// The plan view as a one-bit picture that the host reads pixel by pixel.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "draw/plan_view.h"
+#include "view/paper_frame.h"
+#include "view/view_state.h"
+
+namespace tavix {
+
+// A picture of chosen size: 1 bit a pixel, ink for every colour but white, with a north arrow in
+// the first free corner. It shows the window's ground width across its own width, or one sheet when
+// the paper frame is on.
+class GroupPicture {
+ public:
+  // Draws the picture of `data`, seen through its view brought to this size; one drawn before goes.
+  // Nothing is held when the picture cannot be made. True when the scale was cut to its cap.
+  bool Build(const PlotData& data, const PaperFrame& frame, int height, int width);
+
+  // Whether the pixel is ink; rows count from the top. Pixels outside of the picture are not. While
+  // the frame's outline shows, the two outermost rows and columns are always ink.
+  [[nodiscard]] bool IsInk(const PaperFrame& frame, int row, int column) const;
+
+  void Release();
+
+ private:
+  [[nodiscard]] bool HasInk(const PaperFrame& frame, int first_row, int first_column) const;
+  [[nodiscard]] ScreenPoint FindFreeCorner(const PaperFrame& frame) const;
+
+  int height_ = 0;
+  int width_ = 0;
+  std::size_t stride_ = 0;          // bytes a row
+  std::vector<std::uint8_t> bits_;  // rows from the bottom up, most significant bit first
+};
+
+}  // namespace tavix

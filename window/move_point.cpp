@@ -1,0 +1,61 @@
+#include "window/move_point.h"
+
+#include <framework/scoped_select.h>
+
+#include "draw/line_painter.h"
+#include "draw/point_mark.h"
+#include "draw/xor_drawing.h"
+#include "window/client_surface.h"
+
+namespace tavix {
+
+void MovePoint::Start(CWnd& window, const CViewState& view, const LegendStyle& style) {
+  End(window, view);
+  constexpr COLORREF kWhite = 0x00FFFFFF;
+  color_ = static_cast<COLORREF>(style.color) ^ kWhite;
+  pen_width_ = style.width;
+  mark_ = style.kind;
+  mark_size_ = style.prm1;
+  position_ = {};
+}
+
+void MovePoint::SetAnchor(GroundPoint anchor) {
+  anchor_ = anchor;
+  has_line_ = true;
+}
+
+void MovePoint::MoveTo(CWnd& window, const CViewState& view, GroundPoint at) {
+  if (drawn_) Flip(window, view);
+  drawn_ = true;
+  position_ = at;
+  Flip(window, view);
+}
+
+void MovePoint::End(CWnd& window, const CViewState& view) {
+  if (drawn_) Flip(window, view);
+  drawn_ = false;
+  has_line_ = false;
+}
+
+void MovePoint::Restore(CDC& paint, const CViewState& view) const {
+  if (drawn_) FlipOn(paint, view);
+}
+
+void MovePoint::Flip(CWnd& window, const CViewState& view) const {
+  if (!window.m_hWnd) return;
+  ClientSurface screen(window);
+  FlipOn(screen.Dc(), view);
+}
+
+void MovePoint::FlipOn(CDC& dc, const CViewState& view) const {
+  const XorDrawing drawing(dc, PS_SOLID, pen_width_, color_);
+  const CScopedSelect hollow(dc, NULL_BRUSH);
+  ScreenPoint at;
+  if (mark_size_ > 0 && view.CircleOnScreen(position_, view.PixelsToLength(mark_size_), at)) {
+    DrawMark(dc, mark_, mark_size_, at);
+  }
+  ScreenSegment line;
+  if (has_line_ && view.ClipGroundSegment(anchor_, position_, line)) DrawScreenLine(dc, line);
+}
+
+}  // namespace tavix

@@ -1,0 +1,46 @@
+// The mark, and the line to it, that follow a point the user is moving.
+#pragma once
+
+#include <afxwin.h>
+
+#include "store/legend_table.h"
+#include "view/view_state.h"
+
+namespace tavix {
+
+// Drawn on the screen by exclusive-or, never into the back buffer; drawing the same state again
+// takes it off. A position off the screen is remembered and not drawn.
+class MovePoint {
+ public:
+  // Takes the look of a point mark; what was on the screen is taken off.
+  void Start(CWnd& window, const CViewState& view, const LegendStyle& style);
+
+  // From the next move on a line runs from `anchor` to the mark. A mark that is on the screen is
+  // then taken off together with a line that was not there: the host sets the anchor before the
+  // first move.
+  void SetAnchor(GroundPoint anchor);
+
+  void MoveTo(CWnd& window, const CViewState& view, GroundPoint at);
+  void End(CWnd& window, const CViewState& view);
+
+  // Draws the present state over what a paint has copied.
+  void Restore(CDC& paint, const CViewState& view) const;
+
+  [[nodiscard]] bool IsDrawn() const { return drawn_; }
+  [[nodiscard]] GroundPoint Position() const { return position_; }
+
+ private:
+  void Flip(CWnd& window, const CViewState& view) const;
+  void FlipOn(CDC& dc, const CViewState& view) const;
+
+  bool drawn_ = false;
+  COLORREF color_ = 0;  // the legend's, inverted: by exclusive-or it shows true on white
+  int pen_width_ = 0;
+  int mark_ = 0;
+  int mark_size_ = 0;  // pixels
+  GroundPoint position_;
+  bool has_line_ = false;
+  GroundPoint anchor_;
+};
+
+}  // namespace tavix

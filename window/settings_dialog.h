@@ -1,0 +1,58 @@
+// The settings dialog of a plot window.
+#pragma once
+
+#include <tdialog.h>
+
+#include "window/legend_editor.h"
+
+namespace tavix {
+
+// The vertical : horizontal ratio that the host or the user has given.
+struct RatioSetting {
+  bool given = false;
+  int vertical = 1;
+  int horizontal = 1;
+};
+
+// What the dialog edits besides the legend. Written on OK only.
+struct PlotSettings {
+  bool draws_lines = true;
+  int rotation_step = 10;  // whole degrees, 1..180 when it comes from the dialog
+  RatioSetting ratio;      // edited only when it has been given
+};
+
+class SettingsDialog : public TDialog {
+ public:
+  // `legend` and `settings` are written on OK and must outlive the dialog.
+  SettingsDialog(CWnd* owner, LegendTable& legend, PlotSettings& settings);
+
+ protected:
+  BOOL OnInitDialog() override;
+  void OnOK() override;
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+  afx_msg void OnEntryChange();
+  afx_msg void OnCopyToAll();
+  afx_msg void OnDestroy();
+  afx_msg void OnColor();
+  afx_msg void OnDrawItem(int id, DRAWITEMSTRUCT* item);
+  DECLARE_MESSAGE_MAP()
+
+ private:
+  void FillEntryList();
+  void FillSizeList(UINT id);
+  void ShowRatio();
+  void ShowEntry(int entry);
+  void TakeEntry();
+  void TakeRatio();
+  void ShowColor();
+  [[nodiscard]] CComboBox& List(int id);
+
+  LegendTable& legend_;
+  PlotSettings& settings_;
+  LegendEditor editor_;
+  CBrush color_brush_;
+  TEditInt vertical_;
+  TEditInt horizontal_;
+};
+
+}  // namespace tavix
