@@ -1,0 +1,32 @@
+#include "platform/framework/database/device_store.h"
+
+#include <utility>
+
+#include "framework/platform.h"
+#include "platform/objectstore/memory_store.h"
+
+namespace {
+
+// CharLowerW takes one character in place of a pointer when the pointer's high part is 0.
+char16_t FoldAsSystem(char16_t character) {
+  auto* const in_place_of_text = reinterpret_cast<LPWSTR>(static_cast<ULONG_PTR>(character));
+  return static_cast<char16_t>(reinterpret_cast<ULONG_PTR>(CharLowerW(in_place_of_text)));
+}
+
+tavix::ObjectStore& OwnStore() {
+  static tavix::MemoryStore store(&FoldAsSystem);
+  return store;
+}
+
+tavix::ObjectStore*& Installed() {
+  static tavix::ObjectStore* installed = &OwnStore();
+  return installed;
+}
+
+}  // namespace
+
+tavix::ObjectStore& DeviceStore() { return *Installed(); }
+
+tavix::ObjectStore* SetDeviceStore(tavix::ObjectStore* store) {
+  return std::exchange(Installed(), store ? store : &OwnStore());
+}
