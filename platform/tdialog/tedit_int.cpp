@@ -1,10 +1,10 @@
-#include <imm.h>
-
 #include <algorithm>
 #include <string>
 
 #include "platform/tdialog/integer_text.h"
 #include "tdialog.h"
+
+#include <imm.h>
 
 BEGIN_MESSAGE_MAP(TEditInt, TEdit)
 ON_WM_CHAR()

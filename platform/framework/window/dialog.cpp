@@ -71,8 +71,11 @@ BOOL CDialog::CreateIndirect(const DLGTEMPLATE* dialogTemplate, CWnd* parent) {
 
 BOOL CDialog::CreateFromTemplate(const DLGTEMPLATE* dialogTemplate, HWND owner) {
   const afx::CreationHook hook(*this);
-  return ::CreateDialogIndirectParamW(AfxGetResourceHandle(), dialogTemplate, owner, &DialogProc,
-                                      0) != nullptr;
+  const HWND window =
+      ::CreateDialogIndirectParamW(AfxGetResourceHandle(), dialogTemplate, owner, &DialogProc, 0);
+  if (hook.IsBound()) return window != nullptr;
+  if (window) ::DestroyWindow(window);  // no hook was to be had, so it would not be ours
+  return FALSE;
 }
 
 INT_PTR CDialog::DoModal() {

@@ -24,7 +24,9 @@ int CWinThread::Run() {
   }
 }
 
-int CWinThread::ExitInstance() { return static_cast<int>(m_msgCur.wParam); }
+int CWinThread::ExitInstance() {
+  return m_msgCur.message == WM_QUIT ? static_cast<int>(m_msgCur.wParam) : 0;
+}
 
 BOOL CWinThread::PumpMessage() {
   // -1 (a broken queue) ends the loop like WM_QUIT.

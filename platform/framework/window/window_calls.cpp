@@ -77,19 +77,10 @@ BOOL CWnd::ModifyStyleEx(DWORD remove, DWORD add, UINT setPosFlags) {
 }
 
 void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam) {
-  struct Message {
-    UINT number;
-    WPARAM wParam;
-    LPARAM lParam;
-  } toSend = {message, wParam, lParam};
-  ::EnumChildWindows(
-      m_hWnd,
-      [](HWND child, LPARAM data) -> BOOL {
-        const auto& sent = *reinterpret_cast<const Message*>(data);
-        ::SendMessageW(child, sent.number, sent.wParam, sent.lParam);
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&toSend));
+  for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+    ::SendMessageW(child, message, wParam, lParam);
+    FromHandle(child)->SendMessageToDescendants(message, wParam, lParam);
+  }
 }
 
 CWnd* CWnd::GetOwner() const {

@@ -73,8 +73,10 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR windowName, DWORD 
                         static_cast<DWORD>(create.style), create.x, create.y, create.cx, create.cy,
                         create.hwndParent, create.hMenu, create.hInstance, create.lpCreateParams);
   // A window that began and failed has told us its end itself.
-  if (!window && !hook.IsBound()) PostNcDestroy();
-  return window != nullptr;
+  if (hook.IsBound()) return window != nullptr;
+  if (window) ::DestroyWindow(window);  // no hook was to be had, so it would not be ours
+  PostNcDestroy();
+  return FALSE;
 }
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCTW& create) {

@@ -81,12 +81,14 @@ TEST(Application, ExitCodeIsThatOfTheQuitMessage) {
   EXPECT_EQ(app.Run(), 17);
 }
 
+void CALLBACK QuitOnTimer(HWND, UINT, UINT_PTR id, DWORD) {
+  ::KillTimer(nullptr, id);
+  AfxPostQuitMessage(0);
+}
+
 TEST(Application, IdlesUntilToldOtherwise) {
   App app;
-  ::SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR id, DWORD) {
-    ::KillTimer(nullptr, id);
-    AfxPostQuitMessage(0);
-  });
+  ::SetTimer(nullptr, 0, 50, &QuitOnTimer);
   app.Run();
   ASSERT_GE(app.idles.size(), 3u);
   EXPECT_EQ((std::vector<LONG>(app.idles.begin(), app.idles.begin() + 3)),

@@ -128,7 +128,7 @@ TEST(MessageMap, HandlersGetTheMessageTakenApart) {
       {WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, -120), minusFiveMinusSix, L"wheel 8 -120 -5,-6", 1},
       {WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(640, 40000), L"size 2 640x40000", 0},
       {WM_TIMER, 12, 0, L"timer 12", 0},
-      {WM_KEYDOWN, VK_F5, 0xC0010003, L"key 116 3 49153", 0},
+      {WM_KEYDOWN, VK_F5, static_cast<LPARAM>(0xC0010003u), L"key 116 3 49153", 0},
       {WM_CHAR, 0x6E2C, 1, L"char 28204 1 0", 0},
       {WM_CAPTURECHANGED, 0, self, L"capture to me", 0},
       {WM_CAPTURECHANGED, 0, 0, L"capture to -", 0},

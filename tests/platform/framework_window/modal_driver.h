@@ -31,21 +31,20 @@ class ModalDriver {
   // The thread's visible dialog that takes input, or null.
   static HWND OpenDialog() {
     HWND found = nullptr;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND window, LPARAM result) -> BOOL {
-          wchar_t name[16] = {};
-          ::GetClassNameW(window, name, 16);
-          const bool open = ::lstrcmpW(name, L"#32770") == 0 && ::IsWindowVisible(window) &&
-                            ::IsWindowEnabled(window);
-          if (open) *reinterpret_cast<HWND*>(result) = window;
-          return !open;
-        },
-        reinterpret_cast<LPARAM>(&found));
+    ::EnumThreadWindows(::GetCurrentThreadId(), &TakeIfOpen, reinterpret_cast<LPARAM>(&found));
     return found;
   }
 
  private:
+  static BOOL CALLBACK TakeIfOpen(HWND window, LPARAM result) {
+    wchar_t name[16] = {};
+    ::GetClassNameW(window, name, 16);
+    const bool open =
+        ::lstrcmpW(name, L"#32770") == 0 && ::IsWindowVisible(window) && ::IsWindowEnabled(window);
+    if (open) *reinterpret_cast<HWND*>(result) = window;
+    return !open;
+  }
+
   static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
     if (!current_ || current_->Done()) return;
     if (const HWND dialog = OpenDialog()) current_->steps_[current_->done_++](dialog);

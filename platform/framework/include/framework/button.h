@@ -24,7 +24,6 @@ class AFX_FRAMEWORK CButton : public CWnd {
 
  protected:
   BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
-  using CWnd::Create;
 };
 
 // A button shown as a bitmap for each state. The style given to Create must hold BS_OWNERDRAW.

@@ -55,9 +55,6 @@ class AFX_FRAMEWORK CComboBox : public CWnd {
     return Send(CB_SELECTSTRING, startAfter, prefix);
   }
 
- protected:
-  using CWnd::Create;
-
  private:
   int Send(UINT message, int index = 0, LPCWSTR text = nullptr) const {
     return static_cast<int>(

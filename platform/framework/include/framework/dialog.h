@@ -61,7 +61,6 @@ class AFX_FRAMEWORK CDialog : public CWnd {
  private:
   struct ModalState;
 
-  using CWnd::Create;
   BOOL CreateFromTemplate(const DLGTEMPLATE* dialogTemplate, HWND owner);
   void RunModal(ModalState& state);
   static INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -38,7 +38,4 @@ class AFX_FRAMEWORK CEdit : public CWnd {
   void Copy() { SendMessageW(WM_COPY); }
   void Paste() { SendMessageW(WM_PASTE); }
   void Clear() { SendMessageW(WM_CLEAR); }
-
- protected:
-  using CWnd::Create;
 };

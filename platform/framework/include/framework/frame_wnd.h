@@ -25,7 +25,4 @@ class AFX_FRAMEWORK CFrameWnd : public CWnd {
   void PostNcDestroy() override;
 
   HACCEL m_hAccelTable = nullptr;
-
- private:
-  using CWnd::Create;
 };

@@ -39,9 +39,6 @@ class AFX_FRAMEWORK CListBox : public CWnd {
     return Send(LB_FINDSTRINGEXACT, startAfter, text);
   }
 
- protected:
-  using CWnd::Create;
-
  private:
   int Send(UINT message, int index = 0, LPCWSTR text = nullptr) const {
     return static_cast<int>(

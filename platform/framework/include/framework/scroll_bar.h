@@ -18,7 +18,4 @@ class AFX_FRAMEWORK CScrollBar : public CWnd {
   void SetScrollRange(int smallest, int largest, BOOL redraw = TRUE) {
     ::SetScrollRange(m_hWnd, SB_CTL, smallest, largest, redraw);
   }
-
- private:
-  using CWnd::Create;
 };

@@ -37,7 +37,4 @@ class AFX_FRAMEWORK CSpinButtonCtrl : public CWnd {
   // The buddy before.
   CWnd* SetBuddy(CWnd* buddy);
   CWnd* GetBuddy() const;
-
- protected:
-  using CWnd::Create;
 };

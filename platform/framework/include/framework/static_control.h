@@ -17,7 +17,4 @@ class AFX_FRAMEWORK CStatic : public CWnd {
   HICON SetIcon(HICON icon) {
     return reinterpret_cast<HICON>(SendMessageW(STM_SETICON, reinterpret_cast<WPARAM>(icon)));
   }
-
- protected:
-  using CWnd::Create;
 };
