@@ -172,7 +172,10 @@ void CPlotWnd::SetRatio(int vertical, int horizontal) {
   links_.view->SetRatio(static_cast<double>(vertical) / horizontal);
 }
 
-PlotData CPlotWnd::Data() const { return {*links_.view, links_.legend->Table(), *links_.points}; }
+PlotData CPlotWnd::Data() const {
+  return {*links_.view,  links_.legend->Table(), *links_.points,
+          *links_.lines, *links_.figures,        draws_lines_};
+}
 
 BOOL CPlotWnd::OnEraseBkgnd(CDC* dc) {
   CRect client;
