@@ -22,6 +22,12 @@ CRect WorkArea() {
   return area;
 }
 
+// The face colour of controls, so that the information line stands on one colour.
+LPCWSTR WindowClass() {
+  return AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
+                             ::GetSysColorBrush(COLOR_BTNFACE));
+}
+
 bool IsHandheld(const CRect& work_area) {
   return work_area.Width() <= kUsualSize.width || work_area.Height() <= kUsualSize.height;
 }
@@ -50,12 +56,13 @@ BOOL CMainWindow::CreateForUser(const std::optional<PictureSize>& size) {
     ::AdjustWindowRect(&window, kStyle, TRUE);
     rect = CRect(rect.left, rect.top, rect.left + window.Width(), rect.top + window.Height());
   }
-  return Create(nullptr, kTitle, kStyle, rect, nullptr, MAKEINTRESOURCEW(IDR_MAIN)) &&
+  return Create(WindowClass(), kTitle, kStyle, rect, nullptr, MAKEINTRESOURCEW(IDR_MAIN)) &&
          LoadAccelTable(MAKEINTRESOURCEW(IDR_MAIN));
 }
 
 BOOL CMainWindow::CreateForPicture(const PictureSize& size) {
-  return Create(nullptr, kTitle, WS_POPUP | WS_CLIPCHILDREN, CRect(0, 0, size.width, size.height));
+  return Create(WindowClass(), kTitle, WS_POPUP | WS_CLIPCHILDREN,
+                CRect(0, 0, size.width, size.height));
 }
 
 void CMainWindow::OpenFiles(std::span<const std::filesystem::path> files) {

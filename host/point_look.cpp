@@ -8,7 +8,6 @@
 namespace fieldhost {
 namespace {
 
-constexpr int kDot = 1;
 constexpr int kCircle = 2;
 constexpr int kUprightCross = 4;
 constexpr int kTriangle = 5;
@@ -19,7 +18,7 @@ constexpr std::uint32_t Rgb(std::uint32_t red, std::uint32_t green, std::uint32_
   return red | green << 8U | blue << 16U;
 }
 
-constexpr int kLabel = 10;
+constexpr int kLabel = 12;
 constexpr int kNoLabel = 0;
 
 enum Look : std::size_t { kPlain, kControl, kBoundary, kRoad, kBuilding, kTree, kManhole };
@@ -27,9 +26,12 @@ enum Look : std::size_t { kPlain, kControl, kBoundary, kRoad, kBuilding, kTree, 
 // Points that stand in rows, a name each, would cover one another with their labels; their shape is
 // what one wants to see.
 constexpr PointLook kLooks[] = {
-    {kCircle, 1, Rgb(0, 0, 0), 5, kLabel},           {kTriangle, 1, Rgb(200, 0, 0), 9, kLabel},
-    {kFilledCircle, 1, Rgb(0, 0, 200), 5, kLabel},   {kDot, 1, Rgb(90, 90, 90), 2, kNoLabel},
-    {kSquare, 1, Rgb(130, 70, 0), 4, kNoLabel},      {kCircle, 1, Rgb(0, 128, 0), 9, kLabel},
+    {kCircle, 1, Rgb(0, 0, 0), 5, kLabel},
+    {kTriangle, 1, Rgb(200, 0, 0), 9, kLabel},
+    {kFilledCircle, 1, Rgb(0, 0, 200), 5, kLabel},
+    {kFilledCircle, 1, Rgb(90, 90, 90), 4, kNoLabel},
+    {kSquare, 1, Rgb(130, 70, 0), 4, kNoLabel},
+    {kCircle, 1, Rgb(0, 128, 0), 9, kLabel},
     {kUprightCross, 1, Rgb(140, 0, 140), 7, kLabel},
 };
 
