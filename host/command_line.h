@@ -21,6 +21,9 @@ struct PictureSize {
   int height = 0;
 };
 
+// Where no size is asked for and the screen is larger.
+inline constexpr PictureSize kUsualSize{480, 600};
+
 // Text is UTF-8.
 struct CommandLine {
   std::vector<std::string> files;

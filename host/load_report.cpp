@@ -1,5 +1,6 @@
 #include "host/load_report.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace fieldhost {
@@ -15,16 +16,38 @@ std::string Counted(std::size_t count, std::string_view noun) {
 
 }  // namespace
 
-std::string Summary(const Survey& survey, std::size_t skipped_lines) {
-  std::string text = Counted(survey.points.size(), "point");
-  if (!survey.lots.empty()) text += ", " + Counted(survey.lots.size(), "lot");
-  if (skipped_lines > 0) text += ", " + Counted(skipped_lines, "line") + " skipped";
+SurveyCounts& SurveyCounts::operator+=(const SurveyCounts& other) {
+  points += other.points;
+  lots += other.lots;
+  skipped_lines += other.skipped_lines;
+  return *this;
+}
+
+SurveyCounts CountsOf(const LoadedSurvey& loaded) {
+  return {loaded.survey.points.size(), loaded.survey.lots.size(), loaded.skipped_lines};
+}
+
+std::string Summary(const SurveyCounts& counts) {
+  std::string text = Counted(counts.points, "point");
+  if (counts.lots > 0) text += ", " + Counted(counts.lots, "lot");
+  if (counts.skipped_lines > 0) text += ", " + Counted(counts.skipped_lines, "line") + " skipped";
   return text;
 }
 
 std::string Sentence(const Diagnostic& diagnostic) {
   return diagnostic.file + ", line " + std::to_string(diagnostic.line) + ": " +
          diagnostic.sentence + '.';
+}
+
+std::string Complaints(const LoadedSurvey& loaded, std::size_t most_lines) {
+  std::string text;
+  for (const std::string& refusal : loaded.refusals) text += refusal + '\n';
+  const std::size_t told = std::min(most_lines, loaded.diagnostics.size());
+  for (std::size_t i = 0; i < told; ++i) text += Sentence(loaded.diagnostics[i]) + '\n';
+  if (told < loaded.diagnostics.size()) {
+    text += Counted(loaded.skipped_lines, "line") + " were skipped in all.\n";
+  }
+  return text;
 }
 
 }  // namespace fieldhost

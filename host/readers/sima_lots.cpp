@@ -65,6 +65,7 @@ void SimaLots::Resolve(const std::vector<std::string>& numbers, Survey& survey,
     for (const Corner& corner : lot.corners) {
       if (const auto point = directory.Find(corner.number, corner.name)) {
         resolved.corners.push_back(*point);
+        survey.points[*point].kind = "boundary";
       } else {
         log.Skip(corner.line, "the corner " + Quoted(corner.number + ' ' + corner.name) +
                                   " is no point of this file");

@@ -21,7 +21,7 @@ class SimaLots {
 
   // Adds the lots to `survey`, whose points were entered under `numbers`, each the text of its
   // number. A corner is looked up by its number and then by its name: writers differ in which of
-  // the two they mean, the number in most.
+  // the two they mean, the number in most. A point that is a corner is a boundary point.
   void Resolve(const std::vector<std::string>& numbers, Survey& survey, ReadLog& log) const;
 
  private:

@@ -97,6 +97,14 @@ TEST(SimaReader, FindsCornersByNumberThenByName) {
   }
 }
 
+TEST(SimaReader, CornersAreBoundaryPoints) {
+  const Read read = ReadFile(std::string(kPoints) + "D00,1,a,1,\nB01,2,T-2,\nB01,1,T-1,\nD99,\n");
+  ASSERT_EQ(read.survey.points.size(), 3U);
+  EXPECT_EQ(read.survey.points[0].kind, "boundary");
+  EXPECT_EQ(read.survey.points[1].kind, "boundary");
+  EXPECT_EQ(read.survey.points[2].kind, "");
+}
+
 TEST(SimaReader, LotsMayComeBeforeThePoints) {
   const Read read = ReadFile("D00,1,a,1,\nB01,2,T-2,\nB01,1,T-1,\nD99,\n" + std::string(kPoints));
   ASSERT_EQ(read.survey.lots.size(), 1U);

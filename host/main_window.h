@@ -1,0 +1,60 @@
+// The main window: a menu, the plot, and a line of information below it.
+#pragma once
+
+#include <afxwin.h>
+
+#include <filesystem>
+#include <optional>
+#include <span>
+
+#include "host/command_line.h"
+#include "host/load_report.h"
+#include "host/plot_pane.h"
+#include "host/survey_loader.h"
+
+namespace fieldhost {
+
+// Make it with new: the framework deletes it with its window.
+class CMainWindow : public CFrameWnd {
+ public:
+  // For the user: of the given client size, else of the usual one; a handheld's screen it fills.
+  BOOL CreateForUser(const std::optional<PictureSize>& size);
+  // For a picture: nothing but the client area, of just this size, at the screen's corner.
+  BOOL CreateForPicture(const PictureSize& size);
+
+  // Reads files and shows them beside those already open, or tells the user what is wrong.
+  void OpenFiles(std::span<const std::filesystem::path> files);
+
+  // Shows a survey beside those already open, and counts it in the information line.
+  void Show(const LoadedSurvey& loaded);
+
+ protected:
+  BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+
+  afx_msg int OnCreate(CREATESTRUCTW* create);
+  afx_msg void OnSize(UINT type, int width, int height);
+  afx_msg LRESULT OnEnterSizeMove(WPARAM wParam, LPARAM lParam);
+  afx_msg LRESULT OnExitSizeMove(WPARAM wParam, LPARAM lParam);
+  afx_msg void OnInitMenuPopup(CMenu* menu, UINT index, BOOL system_menu);
+  afx_msg void OnOpen();
+  afx_msg void OnCloseAll();
+  afx_msg void OnExit();
+  afx_msg void OnWholeView();
+  afx_msg void OnShowButtons();
+  DECLARE_MESSAGE_MAP()
+
+ private:
+  BOOL CreateInfoLine();
+  void LayOut();
+  void ShowPoint(int key);
+  void ShowSummary();
+
+  PlotPane plot_;
+  CFont info_font_;
+  CStatic info_;
+  CSize laid_out_{0, 0};  // the client size that the children fit
+  bool sizing_ = false;   // the user is dragging an edge
+  SurveyCounts counts_;   // of all that is shown
+};
+
+}  // namespace fieldhost

@@ -1,0 +1,67 @@
+#include "host/plot_pane.h"
+
+#include <tavix/tavix.h>
+
+namespace fieldhost {
+namespace {
+
+constexpr int kSlot = 0;
+constexpr BYTE kOff = 0;
+constexpr BYTE kOn = 1;
+constexpr BYTE kFitView = 0;
+constexpr BYTE kKeepView = 1;
+
+}  // namespace
+
+PlotPane::PlotPane() {
+  Tavix_SetIdx(kSlot);
+  Tavix_Crt();
+  entry_.AddLegends();
+}
+
+PlotPane::~PlotPane() {
+  Tavix_SetIdx(kSlot);
+  Tavix_Del();
+}
+
+bool PlotPane::Place(CWnd& parent, const CRect& rect, UINT notify_id) {
+  if (Tavix_LnkRct(&parent, rect.left, rect.top, rect.right, rect.bottom, notify_id) != 0) {
+    return false;
+  }
+  Tavix_SetBtn(shows_buttons_ ? kOn : kOff);
+  Tavix_Drw(kKeepView);
+  Tavix_Dsp(kOn);
+  return true;
+}
+
+std::size_t PlotPane::Add(const Survey& survey) {
+  Tavix_DrwFlg(kOff);
+  const std::size_t refused = entry_.Enter(survey);
+  Tavix_Drw(kFitView);
+  return refused;
+}
+
+void PlotPane::Clear() {
+  Tavix_DrwClr();
+  entry_.StartOver();
+  Tavix_Drw(kKeepView);
+}
+
+void PlotPane::ShowWholeView() { Tavix_Drw(kFitView); }
+
+void PlotPane::ShowButtons(bool show) {
+  shows_buttons_ = show;
+  Tavix_SetBtn(show ? kOn : kOff);
+  Tavix_Drw(kKeepView);
+}
+
+std::optional<TappedPoint> PlotPane::PointOf(int key) {
+  TappedPoint point;
+  if (Tavix_GetPntNoNam(key, &point.number, &point.name) != 0 ||
+      Tavix_GetPntCrd(key, &point.north, &point.east) != 0) {
+    return std::nullopt;
+  }
+  return point;
+}
+
+}  // namespace fieldhost

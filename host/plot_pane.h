@@ -1,0 +1,50 @@
+// The plot inside the main window: one instance of the library.
+#pragma once
+
+#include <afxwin.h>
+
+#include <cstddef>
+#include <optional>
+
+#include "host/readers/survey.h"
+#include "host/survey_entry.h"
+
+namespace fieldhost {
+
+struct TappedPoint {
+  int number = 0;
+  CString name;
+  double north = 0.0;  // metres
+  double east = 0.0;
+};
+
+// Holds slot 0 from construction to destruction.
+class PlotPane {
+ public:
+  PlotPane();
+  ~PlotPane();
+  PlotPane(const PlotPane&) = delete;
+  PlotPane& operator=(const PlotPane&) = delete;
+
+  // Puts the plot window into a rectangle of the parent's client area. The plot window keeps the
+  // size it is made with, so this makes another one; data and view are the instance's and stay.
+  // False when the window could not be made.
+  bool Place(CWnd& parent, const CRect& rect, UINT notify_id);
+
+  // Adds a survey and shows all there is. Returns how many points the library refused.
+  std::size_t Add(const Survey& survey);
+
+  void Clear();
+  void ShowWholeView();
+  void ShowButtons(bool show);
+  [[nodiscard]] bool ShowsButtons() const { return shows_buttons_; }
+
+  // The point of a key that the plot window reported; nothing when it is no longer there.
+  [[nodiscard]] static std::optional<TappedPoint> PointOf(int key);
+
+ private:
+  SurveyEntry entry_;
+  bool shows_buttons_ = true;
+};
+
+}  // namespace fieldhost

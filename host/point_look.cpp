@@ -1,0 +1,62 @@
+#include "host/point_look.h"
+
+#include <algorithm>
+#include <string>
+
+#include "host/readers/field_text.h"
+
+namespace fieldhost {
+namespace {
+
+constexpr int kCircle = 2;
+constexpr int kUprightCross = 4;
+constexpr int kTriangle = 5;
+constexpr int kSquare = 6;
+constexpr int kFilledCircle = 8;
+
+constexpr std::uint32_t Rgb(std::uint32_t red, std::uint32_t green, std::uint32_t blue) {
+  return red | green << 8U | blue << 16U;
+}
+
+constexpr int kLabel = 12;
+constexpr int kNoLabel = 0;
+
+enum Look : std::size_t { kPlain, kControl, kBoundary, kRoad, kBuilding, kTree, kManhole };
+
+// Points that stand in rows, a name each, would cover one another with their labels; their shape is
+// what one wants to see.
+constexpr PointLook kLooks[] = {
+    {kCircle, 1, Rgb(0, 0, 0), 5, kLabel},
+    {kTriangle, 1, Rgb(200, 0, 0), 9, kLabel},
+    {kFilledCircle, 1, Rgb(0, 0, 200), 5, kLabel},
+    {kFilledCircle, 1, Rgb(90, 90, 90), 4, kNoLabel},
+    {kSquare, 1, Rgb(130, 70, 0), 4, kNoLabel},
+    {kCircle, 1, Rgb(0, 128, 0), 9, kLabel},
+    {kUprightCross, 1, Rgb(140, 0, 140), 7, kLabel},
+};
+
+struct KindWord {
+  std::string_view word;  // lower case
+  Look look;
+};
+
+constexpr KindWord kWords[] = {
+    {"基準点", kControl},  {"三角点", kControl}, {"多角点", kControl},     {"水準点", kControl},
+    {"control", kControl}, {"境界", kBoundary},  {"筆界", kBoundary},      {"boundary", kBoundary},
+    {"道路", kRoad},       {"road", kRoad},      {"建物", kBuilding},      {"building", kBuilding},
+    {"樹木", kTree},       {"tree", kTree},      {"マンホール", kManhole}, {"manhole", kManhole},
+};
+
+}  // namespace
+
+std::span<const PointLook> PointLooks() { return kLooks; }
+
+std::size_t LookOf(std::string_view kind) {
+  const std::string lower = LowerCase(kind);
+  const auto* found = std::find_if(std::begin(kWords), std::end(kWords), [&](const KindWord& row) {
+    return lower.starts_with(row.word);
+  });
+  return found == std::end(kWords) ? kPlain : found->look;
+}
+
+}  // namespace fieldhost

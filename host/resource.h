@@ -1,0 +1,12 @@
+// Numbers of the program's resources and commands.
+#pragma once
+
+#define IDR_MAIN 100
+
+#define ID_SURVEY_OPEN 1001
+#define ID_SURVEY_CLOSE_ALL 1002
+#define ID_SURVEY_EXIT 1003
+#define ID_VIEW_WHOLE 1004
+#define ID_VIEW_BUTTONS 1005
+#define ID_PLOT_NOTIFY 1006
+#define ID_INFO_LINE 1007

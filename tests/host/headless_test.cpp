@@ -1,0 +1,129 @@
+// The host without a user: fieldhost FILES --picture FILE.png
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
+#include "tests/host/host_process.h"
+#include "tests/host/host_test.h"
+#include "tests/host/picture_image.h"
+
+namespace fieldhost {
+namespace {
+
+using Headless = HostTest;
+
+bool BeginsLikePng(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  char start[8] = {};
+  file.read(start, sizeof(start));
+  return std::memcmp(start, "\x89PNG\r\n\x1A\n", sizeof(start)) == 0;
+}
+
+std::ptrdiff_t Count(const PictureImage& image, std::uint32_t color) {
+  return std::count(image.pixels.begin(), image.pixels.end(), 0xFF000000U | color);
+}
+
+TEST_F(Headless, DrawsTheSampleSurvey) {
+  HostProcess host(folder_, {Sample(L"site.csv"), Sample(L"site.sim"), L"--picture", In(L"絵.png"),
+                             L"--size", L"300x400"});
+  ASSERT_EQ(host.Wait(), 0) << host.Errors();
+  EXPECT_EQ(host.Output(), "94 points, 4 lots\n");
+  EXPECT_EQ(host.Errors(), "");
+  EXPECT_TRUE(BeginsLikePng(In(L"絵.png")));
+
+  const PictureImage image = DecodePicture(In(L"絵.png"));
+  ASSERT_EQ(image.width, 300);
+  ASSERT_EQ(image.height, 400);
+  // The triangles of the control points, the corners of the lots, the rings of the trees.
+  EXPECT_GT(Count(image, 0xC80000), 50);
+  EXPECT_GT(Count(image, 0x0000C8), 50);
+  EXPECT_GT(Count(image, 0x008000), 50);
+}
+
+TEST_F(Headless, PictureHoldsThePlotTheButtonsAndTheInformationLine) {
+  HostProcess empty(folder_, {L"--picture", In(L"empty.png"), L"--size", L"240x320"});
+  ASSERT_EQ(empty.Wait(), 0) << empty.Errors();
+  EXPECT_EQ(empty.Output(), "0 points\n");
+  HostProcess full(folder_,
+                   {Sample(L"site.csv"), L"--picture", In(L"full.png"), L"--size", L"240x320"});
+  ASSERT_EQ(full.Wait(), 0) << full.Errors();
+
+  const PictureImage before = DecodePicture(In(L"empty.png"));
+  const PictureImage after = DecodePicture(In(L"full.png"));
+  ASSERT_EQ(before.pixels.size(), after.pixels.size());
+  constexpr int kPlotRight = 215;  // left of the buttons
+  constexpr int kPlotBottom = 298;
+  int plot_changes = 0;
+  int button_changes = 0;
+  int info_changes = 0;
+  int button_colours = 0;
+  for (int y = 4; y < before.height; ++y) {
+    for (int x = 4; x < before.width - 4; ++x) {
+      const bool changed = before.At(x, y) != after.At(x, y);
+      if (y > kPlotBottom + 4) {
+        info_changes += changed;
+      } else if (x < kPlotRight && y < kPlotBottom) {
+        EXPECT_EQ(before.At(x, y), 0xFFFFFFFFU) << x << ' ' << y;
+        plot_changes += changed;
+      } else if (x > kPlotRight + 4 && y < 160) {
+        button_changes += changed;
+        button_colours += after.At(x, y) != 0xFFFFFFFFU;
+      }
+    }
+  }
+  EXPECT_GT(plot_changes, 300);
+  EXPECT_GT(info_changes, 20);
+  EXPECT_EQ(button_changes, 0);
+  EXPECT_GT(button_colours, 1000);
+}
+
+TEST_F(Headless, SaysWhichLinesItSkipped) {
+  HostProcess host(folder_, {Write(L"list.csv", "1,10,20,3,a\n2,x,20,3,b\n3,30,20,3,c\n"),
+                             L"--picture", In(L"p.png")});
+  EXPECT_EQ(host.Wait(), 0);
+  EXPECT_EQ(host.Output(), "2 points, 1 line skipped\n");
+  EXPECT_EQ(host.Errors(), "list.csv, line 2: the northing 'x' is not a number.\n");
+}
+
+TEST_F(Headless, FailsForAFileThatCannotBeRead) {
+  HostProcess host(folder_, {In(L"none.csv"), L"--picture", In(L"p.png")});
+  EXPECT_EQ(host.Wait(), 1);
+  EXPECT_EQ(host.Output(), "");
+  EXPECT_EQ(host.Errors(), "none.csv does not exist; check its name and folder.\n");
+  EXPECT_FALSE(std::filesystem::exists(In(L"p.png")));
+}
+
+TEST_F(Headless, DrawsTheOthersOfAFileThatCannotBeRead) {
+  HostProcess host(folder_, {folder_.wstring(), Sample(L"site.sim"), L"--picture", In(L"p.png")});
+  EXPECT_EQ(host.Wait(), 1);
+  EXPECT_EQ(host.Output(), "20 points, 4 lots\n");
+  EXPECT_NE(host.Errors().find("is a folder"), std::string::npos) << host.Errors();
+  EXPECT_TRUE(BeginsLikePng(In(L"p.png")));
+}
+
+TEST_F(Headless, FailsForAPictureThatCannotBeWritten) {
+  HostProcess host(folder_, {Sample(L"site.csv"), L"--picture", In(L"none\\p.png")});
+  EXPECT_EQ(host.Wait(), 1);
+  EXPECT_EQ(host.Output(), "");
+  EXPECT_NE(host.Errors().find("cannot be written"), std::string::npos) << host.Errors();
+}
+
+TEST_F(Headless, FailsForAPictureLargerThanTheScreen) {
+  HostProcess host(folder_,
+                   {Sample(L"site.csv"), L"--picture", In(L"p.png"), L"--size", L"8000x8000"});
+  EXPECT_EQ(host.Wait(), 1);
+  EXPECT_NE(host.Errors().find("does not fit the screen"), std::string::npos) << host.Errors();
+  EXPECT_FALSE(std::filesystem::exists(In(L"p.png")));
+}
+
+TEST_F(Headless, RefusesWrongUse) {
+  for (const wchar_t* option : {L"--sizes", L"--picture", L"--size"}) {
+    HostProcess host(folder_, {option});
+    EXPECT_EQ(host.Wait(), 2);
+    EXPECT_NE(host.Errors().find("usage: fieldhost"), std::string::npos) << host.Errors();
+  }
+}
+
+}  // namespace
+}  // namespace fieldhost

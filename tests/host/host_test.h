@@ -1,0 +1,44 @@
+// What the tests of the running host share: a folder of their own and the sample survey.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+
+namespace fieldhost {
+
+class HostTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
+    folder_ = std::filesystem::path(testing::TempDir()) / L"fieldhost 現場" / test->name();
+    std::filesystem::remove_all(folder_);
+    std::filesystem::create_directories(folder_);
+    // The legend file goes there too, not into the user's own folder.
+    ::SetEnvironmentVariableW(L"ROVCOND_DATA_FOLDER", folder_.c_str());
+  }
+  void TearDown() override {
+    if (!HasFailure()) std::filesystem::remove_all(folder_);
+  }
+
+  [[nodiscard]] std::wstring In(const wchar_t* name) const { return (folder_ / name).wstring(); }
+
+  std::wstring Write(const wchar_t* name, std::string_view bytes) const {
+    std::ofstream file(folder_ / name, std::ios::binary);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    EXPECT_TRUE(file.good());
+    return In(name);
+  }
+
+  static std::wstring Sample(const wchar_t* name) {
+    return (std::filesystem::path(TAVIX_HOST_SAMPLE) / name).wstring();
+  }
+
+  std::filesystem::path folder_;
+};
+
+}  // namespace fieldhost

@@ -1,0 +1,168 @@
+// The host's main window, worked by its commands.
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+
+#include "host/resource.h"
+#include "tests/host/host_process.h"
+#include "tests/host/host_test.h"
+
+namespace fieldhost {
+namespace {
+
+constexpr const wchar_t* kTitle = L"Field survey";
+constexpr const wchar_t* kBoxTitle = L"fieldhost";
+
+// Waits for a state of another process, which only asking again can tell.
+bool WaitUntil(const std::function<bool()>& condition) {
+  constexpr ULONGLONG kPatience = 60000;  // milliseconds
+  const ULONGLONG end = ::GetTickCount64() + kPatience;
+  while (!condition()) {
+    if (::GetTickCount64() > end) return false;
+    ::Sleep(20);
+  }
+  return true;
+}
+
+std::wstring TextOf(HWND window) {
+  wchar_t text[1000] = {};
+  ::SendMessageW(window, WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text));
+  return text;
+}
+
+class MainWindow : public HostTest {
+ protected:
+  void Open(const std::vector<std::wstring>& arguments) {
+    host_.emplace(folder_, arguments);
+    window_ = host_->WaitForWindow(kTitle);
+    ASSERT_TRUE(window_);
+  }
+
+  void Command(int id) const { ::SendMessageW(window_, WM_COMMAND, static_cast<WPARAM>(id), 0); }
+
+  [[nodiscard]] HWND Info() const { return ::GetDlgItem(window_, ID_INFO_LINE); }
+
+  void ExpectInfo(const std::wstring& text) const {
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(Info()) == text; }))
+        << "the line shows: " << std::filesystem::path(TextOf(Info())).string();
+  }
+
+  // The plot window: the child that is not the information line.
+  [[nodiscard]] HWND Plot() const {
+    for (HWND child = ::GetWindow(window_, GW_CHILD); child;
+         child = ::GetWindow(child, GW_HWNDNEXT)) {
+      if (child != Info()) return child;
+    }
+    return nullptr;
+  }
+
+  [[nodiscard]] static int WidthOf(HWND window) {
+    RECT rect = {};
+    ::GetWindowRect(window, &rect);
+    return rect.right - rect.left;
+  }
+
+  void Exit() {
+    ::PostMessageW(window_, WM_COMMAND, ID_SURVEY_EXIT, 0);
+    EXPECT_EQ(host_->Wait(), 0);
+  }
+
+  std::optional<HostProcess> host_;
+  HWND window_ = nullptr;
+};
+
+TEST_F(MainWindow, HasTheAskedClientSize) {
+  ASSERT_NO_FATAL_FAILURE(Open({L"--size", L"300x400"}));
+  RECT client = {};
+  ::GetClientRect(window_, &client);
+  EXPECT_EQ(client.right, 300);
+  EXPECT_EQ(client.bottom, 400);
+  ExpectInfo(L"0 points");
+  Exit();
+}
+
+TEST_F(MainWindow, OpensFilesAndClosesThemAll) {
+  ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv"), Sample(L"site.sim")}));
+  ExpectInfo(L"94 points, 4 lots");
+  Command(ID_SURVEY_CLOSE_ALL);
+  ExpectInfo(L"0 points");
+  Exit();
+}
+
+TEST_F(MainWindow, TellsTheTappedPoint) {
+  ASSERT_NO_FATAL_FAILURE(
+      Open({Write(L"list.csv", "7,10.5,20.25,3,\xE6\x9C\xA8\nT-8,-1.0005,2,3\n")}));
+  ExpectInfo(L"2 points");
+  ::PostMessageW(window_, WM_COMMAND, ID_PLOT_NOTIFY, 1);
+  ExpectInfo(L"7  木  X 10.500  Y 20.250");
+  // A key no point has says nothing: what is shown stays.
+  ::SendMessageW(window_, WM_COMMAND, ID_PLOT_NOTIFY, 3);
+  EXPECT_EQ(TextOf(Info()), L"7  木  X 10.500  Y 20.250");
+  Exit();
+}
+
+TEST_F(MainWindow, PlotFollowsTheWindowsSize) {
+  ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv"), L"--size", L"300x400"}));
+  ExpectInfo(L"74 points");
+  EXPECT_EQ(WidthOf(Plot()), 300);
+  const int frame = WidthOf(window_) - 300;
+  ::SetWindowPos(window_, nullptr, 0, 0, 500 + frame, 500, SWP_NOMOVE | SWP_NOZORDER);
+  EXPECT_TRUE(WaitUntil([&] { return Plot() && WidthOf(Plot()) == 500; }));
+  // The survey is still there.
+  ::PostMessageW(window_, WM_COMMAND, ID_PLOT_NOTIFY, 74);
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(Info()).starts_with(L"504  雨水2  X "); }));
+  Exit();
+}
+
+TEST_F(MainWindow, SizesThePlotOnceAfterTheEdgeWasDragged) {
+  ASSERT_NO_FATAL_FAILURE(Open({L"--size", L"300x400"}));
+  const HWND before = Plot();
+  const int frame = WidthOf(window_) - 300;
+  ::SendMessageW(window_, WM_ENTERSIZEMOVE, 0, 0);
+  for (int width = 310; width <= 350; width += 10) {
+    ::SetWindowPos(window_, nullptr, 0, 0, width + frame, 500, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(Plot(), before);
+  }
+  ::SendMessageW(window_, WM_EXITSIZEMOVE, 0, 0);
+  EXPECT_TRUE(WaitUntil([&] { return Plot() && WidthOf(Plot()) == 350; }));
+  Exit();
+}
+
+TEST_F(MainWindow, ButtonsHideAndShow) {
+  ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv")}));
+  ExpectInfo(L"74 points");
+  const HWND button = ::FindWindowExW(Plot(), nullptr, L"Button", nullptr);
+  ASSERT_TRUE(button);
+  const auto shown = [&] {
+    for (HWND one = button; one; one = ::FindWindowExW(Plot(), one, L"Button", nullptr)) {
+      if (::IsWindowVisible(one)) return true;
+    }
+    return false;
+  };
+  EXPECT_TRUE(shown());
+  Command(ID_VIEW_BUTTONS);
+  EXPECT_FALSE(shown());
+  Command(ID_VIEW_BUTTONS);
+  EXPECT_TRUE(shown());
+  Exit();
+}
+
+TEST_F(MainWindow, SaysInABoxWhatCannotBeRead) {
+  ASSERT_NO_FATAL_FAILURE(Open({In(L"none.csv"), Sample(L"site.sim")}));
+  const HWND box = host_->WaitForWindow(kBoxTitle);
+  ASSERT_TRUE(box);
+  bool said = false;
+  for (HWND child = ::GetWindow(box, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+    said |= TextOf(child).find(L"none.csv does not exist; check its name and folder.") !=
+            std::wstring::npos;
+  }
+  EXPECT_TRUE(said);
+  ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+  EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+  ExpectInfo(L"20 points, 4 lots");
+  Exit();
+}
+
+}  // namespace
+}  // namespace fieldhost

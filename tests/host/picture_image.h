@@ -1,0 +1,24 @@
+// A PNG file, decoded by the system.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <vector>
+
+namespace fieldhost {
+
+struct PictureImage {
+  int width = 0;
+  int height = 0;
+  std::vector<std::uint32_t> pixels;  // 0xAARRGGBB, rows from the top
+
+  [[nodiscard]] std::uint32_t At(int x, int y) const {
+    return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+                  static_cast<std::size_t>(x)];
+  }
+};
+
+// Empty when the file is no picture.
+[[nodiscard]] PictureImage DecodePicture(const std::filesystem::path& file);
+
+}  // namespace fieldhost
