@@ -45,6 +45,8 @@ ON_COMMAND(ID_SURVEY_CLOSE_ALL, &CMainWindow::OnCloseAll)
 ON_COMMAND(ID_SURVEY_EXIT, &CMainWindow::OnExit)
 ON_COMMAND(ID_VIEW_WHOLE, &CMainWindow::OnWholeView)
 ON_COMMAND(ID_VIEW_BUTTONS, &CMainWindow::OnShowButtons)
+ON_COMMAND(ID_SURVEY_CAPTURE, &CMainWindow::OnCapture)
+ON_WM_SETFOCUS()
 END_MESSAGE_MAP()
 
 BOOL CMainWindow::CreateForUser(const std::optional<PictureSize>& size) {
@@ -84,6 +86,10 @@ BOOL CMainWindow::OnCommand(WPARAM wParam, LPARAM lParam) {
   // The plot window reports a tapped point; what lParam holds is its key, not a control's window.
   if (LOWORD(wParam) == ID_PLOT_NOTIFY) {
     ShowPoint(static_cast<int>(lParam));
+    return TRUE;
+  }
+  if (LOWORD(wParam) == ID_PLOT_CAPTURE) {
+    ShowCapture();
     return TRUE;
   }
   return CFrameWnd::OnCommand(wParam, lParam);
@@ -146,12 +152,21 @@ void CMainWindow::ShowPoint(int key) {
   info_.SetWindowText(text);
 }
 
+void CMainWindow::ShowCapture() {
+  const std::optional<GroundPosition> position = PlotPane::CapturedCoordinate();
+  if (!position) return;
+  CString text;
+  text.Format(L"Captured  X %.3f  Y %.3f", position->north, position->east);
+  info_.SetWindowText(text);
+}
+
 void CMainWindow::ShowSummary() { info_.SetWindowText(WideOf(Summary(counts_))); }
 
 void CMainWindow::OnInitMenuPopup(CMenu* menu, UINT index, BOOL system_menu) {
   CFrameWnd::OnInitMenuPopup(menu, index, system_menu);
   if (!system_menu) {
     menu->CheckMenuItem(ID_VIEW_BUTTONS, plot_.ShowsButtons() ? MF_CHECKED : MF_UNCHECKED);
+    menu->CheckMenuItem(ID_SURVEY_CAPTURE, plot_.CapturesCoordinates() ? MF_CHECKED : MF_UNCHECKED);
   }
 }
 
@@ -169,6 +184,17 @@ void CMainWindow::OnCloseAll() {
 void CMainWindow::OnExit() { SendMessage(WM_CLOSE); }
 
 void CMainWindow::OnWholeView() { plot_.ShowWholeView(); }
+
+void CMainWindow::OnCapture() {
+  plot_.CaptureCoordinates(!plot_.CapturesCoordinates(), ID_PLOT_CAPTURE);
+  if (plot_.CapturesCoordinates()) {
+    info_.SetWindowText(L"Tap a place to capture its coordinates.");
+  } else {
+    ShowSummary();
+  }
+}
+
+void CMainWindow::OnSetFocus(CWnd*) { plot_.TakeFocus(); }
 
 void CMainWindow::OnShowButtons() { plot_.ShowButtons(!plot_.ShowsButtons()); }
 

@@ -41,12 +41,15 @@ class CMainWindow : public CFrameWnd {
   afx_msg void OnExit();
   afx_msg void OnWholeView();
   afx_msg void OnShowButtons();
+  afx_msg void OnCapture();
+  afx_msg void OnSetFocus(CWnd* old);
   DECLARE_MESSAGE_MAP()
 
  private:
   BOOL CreateInfoLine();
   void LayOut();
   void ShowPoint(int key);
+  void ShowCapture();
   void ShowSummary();
 
   PlotPane plot_;

@@ -29,6 +29,7 @@ bool PlotPane::Place(CWnd& parent, const CRect& rect, UINT notify_id) {
     return false;
   }
   Tavix_SetBtn(shows_buttons_ ? kOn : kOff);
+  if (captures_) Tavix_CrdStt(static_cast<int>(capture_id_));  // the mode was the old window's
   Tavix_Drw(kKeepView);
   Tavix_Dsp(kOn);
   return true;
@@ -53,6 +54,26 @@ void PlotPane::ShowButtons(bool show) {
   shows_buttons_ = show;
   Tavix_SetBtn(show ? kOn : kOff);
   Tavix_Drw(kKeepView);
+}
+
+void PlotPane::TakeFocus() {
+  if (CWnd* window = Tavix_Wnd()) window->SetFocus();
+}
+
+void PlotPane::CaptureCoordinates(bool on, UINT capture_id) {
+  captures_ = on;
+  capture_id_ = capture_id;
+  if (on) {
+    Tavix_CrdStt(static_cast<int>(capture_id));
+  } else {
+    Tavix_CrdEnd();
+  }
+}
+
+std::optional<GroundPosition> PlotPane::CapturedCoordinate() {
+  GroundPosition position;
+  if (Tavix_CrdGet(&position.north, &position.east) != 0) return std::nullopt;
+  return position;
 }
 
 std::optional<TappedPoint> PlotPane::PointOf(int key) {

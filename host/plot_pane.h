@@ -18,6 +18,11 @@ struct TappedPoint {
   double east = 0.0;
 };
 
+struct GroundPosition {
+  double north = 0.0;  // metres
+  double east = 0.0;
+};
+
 // Holds slot 0 from construction to destruction.
 class PlotPane {
  public:
@@ -39,12 +44,22 @@ class PlotPane {
   void ShowButtons(bool show);
   [[nodiscard]] bool ShowsButtons() const { return shows_buttons_; }
 
+  // Gives the plot window the keyboard: the arrow keys pan.
+  void TakeFocus();
+
+  // While on, each tap is reported under `capture_id`, and CapturedCoordinate tells where it was.
+  void CaptureCoordinates(bool on, UINT capture_id);
+  [[nodiscard]] bool CapturesCoordinates() const { return captures_; }
+  [[nodiscard]] static std::optional<GroundPosition> CapturedCoordinate();
+
   // The point of a key that the plot window reported; nothing when it is no longer there.
   [[nodiscard]] static std::optional<TappedPoint> PointOf(int key);
 
  private:
   SurveyEntry entry_;
   bool shows_buttons_ = true;
+  bool captures_ = false;
+  UINT capture_id_ = 0;
 };
 
 }  // namespace fieldhost

@@ -14,14 +14,18 @@ class SurveyEntry {
   // Adds the host's legends to the current instance, which must exist.
   void AddLegends();
 
-  // Enters all points. Returns how many the library refused. Lots wait for lines.
+  // Enters all points, and the lots as lines between them. Returns how many points the library
+  // refused.
   std::size_t Enter(const Survey& survey);
 
   // The next key is 1 again; for an instance that was emptied.
   void StartOver() { next_key_ = 1; }
 
  private:
+  void EnterLot(const SurveyLot& lot, int first_key);
+
   std::vector<short> legends_;  // one for each of PointLooks()
+  short lot_legend_ = 0;
   int next_key_ = 1;
 };
 
