@@ -47,6 +47,7 @@ ON_COMMAND(ID_VIEW_WHOLE, &CMainWindow::OnWholeView)
 ON_COMMAND(ID_VIEW_BUTTONS, &CMainWindow::OnShowButtons)
 ON_COMMAND(ID_SURVEY_CAPTURE, &CMainWindow::OnCapture)
 ON_WM_SETFOCUS()
+ON_MESSAGE(WM_PARENTNOTIFY, &CMainWindow::OnParentNotify)
 END_MESSAGE_MAP()
 
 BOOL CMainWindow::CreateForUser(const std::optional<PictureSize>& size) {
@@ -195,6 +196,12 @@ void CMainWindow::OnCapture() {
 }
 
 void CMainWindow::OnSetFocus(CWnd*) { plot_.TakeFocus(); }
+
+// A tap on the plot brings the keyboard back to it.
+LRESULT CMainWindow::OnParentNotify(WPARAM wParam, LPARAM) {
+  if (LOWORD(wParam) == WM_LBUTTONDOWN) plot_.TakeFocus();
+  return Default();
+}
 
 void CMainWindow::OnShowButtons() { plot_.ShowButtons(!plot_.ShowsButtons()); }
 

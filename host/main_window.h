@@ -43,6 +43,7 @@ class CMainWindow : public CFrameWnd {
   afx_msg void OnShowButtons();
   afx_msg void OnCapture();
   afx_msg void OnSetFocus(CWnd* old);
+  afx_msg LRESULT OnParentNotify(WPARAM wParam, LPARAM lParam);
   DECLARE_MESSAGE_MAP()
 
  private:
