@@ -96,5 +96,26 @@ TEST_F(PointVisibility, FarAwayPointsAreNotDrawnAndDoNoHarm) {
   }
 }
 
+TEST_F(PointVisibility, OfAMarkLargerThanAnyScreenFillsTheWindow) {
+  const PointLegend look{4, std::numeric_limits<int>::max(), 0, 0, 1, RGB(255, 0, 0)};
+  ASSERT_EQ(0, Enter(1, GroundAt({100, 80}), AddLegend(look)));
+  EXPECT_EQ(kWidth + kHeight - 1, CountPixels(Redrawn(), 0xFF0000));
+}
+
+TEST_F(PointVisibility, LegendValuesOutOfAllReasonDoNotHoldTheDrawingUp) {
+  // The first of these once kept the system busy with an ellipse for minutes.
+  constexpr int kLeast = std::numeric_limits<int>::min();
+  constexpr int kMost = std::numeric_limits<int>::max();
+  const PointLegend looks[] = {{8, kMost, 0, 0, 1, 0},
+                               {2, kMost, 0, 0, 3, 0},
+                               {5, kMost, kMost, 0, kMost, 0},
+                               {6, kLeast, kLeast, 0, kLeast, 0}};
+  for (const PointLegend& look : looks) {
+    ASSERT_EQ(0, Enter(1, GroundAt({100, 80}), AddLegend(look), L"A"));
+    EXPECT_EQ(0, Tavix_Drw(1));
+    EXPECT_FALSE(Shown().pixels.empty());
+  }
+}
+
 }  // namespace
 }  // namespace tavix::test
