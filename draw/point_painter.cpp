@@ -10,8 +10,9 @@
 namespace tavix {
 namespace {
 
-// Larger than any screen, and small enough that no sum of pixels leaves the 32-bit range.
-constexpr int kMostPixels = 1 << 24;
+// Larger than any screen, and small enough that no sum of pixels leaves the 32-bit range and that
+// the system, which walks along an ellipse pixel by pixel, is done with it at once.
+constexpr int kMostPixels = 1 << 16;
 
 void DrawLabel(CDC& dc, const LegendStyle& style, ScreenPoint at, NameView text) {
   const int length = static_cast<int>(text.size());

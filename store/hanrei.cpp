@@ -69,8 +69,15 @@ bool WriteWhole(const CString& path, const std::string& bytes) {
   }
 }
 
-// A crash or a full disk while saving leaves the old file as it was.
+// Moving a file over another one does not heed this everywhere; writing into it would.
+bool IsReadOnly(const CString& path) {
+  const DWORD attributes = GetFileAttributesW(path);
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
+// A crash or a full disk while saving leaves the old file as it was, and so does a read-only one.
 void ReplaceFile(const LegendPath& path, const std::string& bytes) {
+  if (IsReadOnly(path.file)) return;
   if (!WriteWhole(path.beside, bytes) ||
       !MoveFileExW(path.beside, path.file, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
     DeleteFileW(path.beside);

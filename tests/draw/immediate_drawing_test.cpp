@@ -1,0 +1,114 @@
+// A point entered with auto-redraw on is drawn at once: what is on the screen then, what is in the
+// buffer, and what a full redraw makes of it are one picture.
+#include <tavix/tavix.h>
+
+#include <random>
+#include <string>
+
+#include "tests/support/picture_compare.h"
+#include "tests/support/plot_test.h"
+#include "tests/support/raw_canvas.h"
+
+namespace tavix::test {
+namespace {
+
+class ImmediateDrawing : public PlotTest {
+ protected:
+  // Screen, buffer and full redraw.
+  static void ExpectOnePicture() {
+    EXPECT_FALSE(AwaitsPaint());
+    const Picture on_screen = TakeClientPicture(Window());
+    ::InvalidateRect(Window(), nullptr, TRUE);
+    EXPECT_TRUE(SamePicture(on_screen, Shown())) << "the buffer has something else";
+    EXPECT_TRUE(SamePicture(on_screen, Redrawn())) << "a full redraw makes something else";
+  }
+
+  static PointLegend RandomLook(std::mt19937& random) {
+    const auto below = [&random](unsigned limit) { return static_cast<int>(random() % limit); };
+    return {below(13), below(40) - 4, below(24) - 2,
+            below(2),  below(4),      RGB(below(256), below(256), below(256))};
+  }
+};
+
+TEST_F(ImmediateDrawing, OfEachKindOfMark) {
+  MakePlot(300, 100);
+  Tavix_DrwFlg(1);
+  RawCanvas canvas(Window());
+  for (int kind = 0; kind <= 12; ++kind) {
+    const PointLegend look{kind, 15, 12, 0, 1, RGB(0, 0, 255)};
+    const POINT at{12 + kind * 22, 40};
+    const std::wstring name = L"点" + std::to_wstring(kind);
+    EXPECT_EQ(0, Enter(kind, GroundAt(at), AddLegend(look), name));
+    DrawRawPoint(canvas.Dc(), look, at, name);
+    EXPECT_TRUE(SamePicture(canvas.Take(), TakeClientPicture(Window()))) << kind;
+  }
+  ExpectOnePicture();
+}
+
+TEST_F(ImmediateDrawing, OfManyPointsOneOverTheOther) {
+  MakePlot(240, 180);
+  Tavix_DrwFlg(1);
+  std::mt19937 random(20240511);  // the same points each time
+  short legends[8];
+  for (short& legend : legends) legend = AddLegend(RandomLook(random));
+  for (int key = 0; key < 150; ++key) {
+    const POINT at{static_cast<LONG>(random() % 280) - 20, static_cast<LONG>(random() % 220) - 20};
+    EXPECT_EQ(0, Enter(key, GroundAt(at), legends[random() % 8], L"測点" + std::to_wstring(key),
+                       static_cast<int>(random() % 5) - 1));
+  }
+  ExpectOnePicture();
+}
+
+TEST_F(ImmediateDrawing, InATurnedAndStretchedView) {
+  MakePlot(240, 180);
+  Tavix_SetAng(37);
+  Tavix_SetTatYok(3, 2);
+  Tavix_DrwFlg(1);
+  std::mt19937 random(7);
+  const short legend = AddLegend({9, 11, 12, 0, 1, RGB(255, 0, 0)});
+  for (int key = 0; key < 40; ++key) {
+    const Ground at{static_cast<double>(random() % 2000) / 10.0 - 100.0,
+                    static_cast<double>(random() % 2000) / 10.0 - 100.0};
+    EXPECT_EQ(0, Enter(key, at, legend, std::to_wstring(key)));
+  }
+  ExpectOnePicture();
+}
+
+TEST_F(ImmediateDrawing, SparesTheButtons) {
+  MakePlot(200, 180);
+  Tavix_SetBtn(1);
+  Tavix_Drw(1);
+  ::RedrawWindow(Window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  const Picture before = TakeClientPicture(Window());
+  Tavix_DrwFlg(1);
+  const short legend = AddLegend({10, 60, 0, 0, 1, RGB(255, 0, 0)});
+  EXPECT_EQ(0, Enter(1, {0.0, 85.0}, legend));  // five pixels left of the column
+  const Picture after = TakeClientPicture(Window());
+  EXPECT_EQ(0xFF0000U, after.At(179, 90));
+  for (int y = 0; y < 180; ++y) {
+    for (int x = 180; x < 200; ++x) ASSERT_EQ(before.At(x, y), after.At(x, y)) << x << ", " << y;
+  }
+}
+
+TEST_F(ImmediateDrawing, StaysInItsOwnWindow) {
+  MakePlot(100, 100);
+  Tavix_SetIdx(1);
+  ASSERT_EQ(0, Tavix_Crt());
+  ASSERT_EQ(0, LinkPlot(100, 100, {150, 10}));
+  Tavix_SetBtn(0);
+  Tavix_Dsp(1);
+  const Picture second = Redrawn();
+  Tavix_SetIdx(0);
+  Tavix_DrwFlg(1);
+  const Picture host_before = TakeClientPicture(host_.Window());
+  const short legend = AddLegend({10, 300, 0, 0, 1, RGB(255, 0, 0)});
+  EXPECT_EQ(0, Enter(1, {0.0, 0.0}, legend));
+  EXPECT_EQ(100 * 100, CountPixels(TakeClientPicture(Window()), 0xFF0000));
+  const Picture host_after = TakeClientPicture(host_.Window());
+  EXPECT_EQ(100 * 100, CountPixels(host_after, 0xFF0000) - CountPixels(host_before, 0xFF0000));
+  Tavix_SetIdx(1);
+  EXPECT_TRUE(SamePicture(second, TakeClientPicture(Window())));
+}
+
+}  // namespace
+}  // namespace tavix::test

@@ -1,0 +1,30 @@
+// What every test of the library's exported calls starts from.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "tests/support/private_folder.h"
+
+namespace tavix::test {
+
+// No instance exists, index 0 is current, and the library's files go to folders of the test's own.
+// What a test creates is deleted after it.
+class LibraryTest : public testing::Test {
+ protected:
+  static constexpr int kInstances = 5;
+
+  LibraryTest();
+  void TearDown() override;
+
+  static int CurrentIndex();
+
+  [[nodiscard]] std::filesystem::path LegendFile() const { return data_.Path() / L"HANREI.DAT"; }
+
+ private:
+  PrivateFolder data_{L"ROVCOND_DATA_FOLDER"};
+  PrivateFolder root_{L"CE_DEVICE_ROOT"};
+};
+
+}  // namespace tavix::test
