@@ -13,7 +13,7 @@ namespace {
 
 constexpr const wchar_t* kTitle = L"Field survey";
 constexpr int kInfoHeight = 18;  // pixels
-constexpr int kInfoText = 13;
+constexpr int kInfoText = 12;    // a handheld's width then holds number, name and coordinates
 constexpr int kInfoMargin = 3;
 
 CRect WorkArea() {
@@ -148,7 +148,7 @@ void CMainWindow::ShowPoint(int key) {
   const std::optional<TappedPoint> point = PlotPane::PointOf(key);
   if (!point) return;
   CString text;
-  text.Format(L"%d  %s  X %.3f  Y %.3f", point->number, point->name.GetString(), point->north,
+  text.Format(L"%d %s  X %.3f  Y %.3f", point->number, point->name.GetString(), point->north,
               point->east);
   info_.SetWindowText(text);
 }

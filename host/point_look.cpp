@@ -9,6 +9,7 @@ namespace fieldhost {
 namespace {
 
 constexpr int kCircle = 2;
+constexpr int kDiagonalCross = 3;
 constexpr int kUprightCross = 4;
 constexpr int kTriangle = 5;
 constexpr int kSquare = 6;
@@ -29,7 +30,7 @@ constexpr PointLook kLooks[] = {
     {kCircle, 1, Rgb(0, 0, 0), 5, kLabel},
     {kTriangle, 1, Rgb(200, 0, 0), 9, kLabel},
     {kFilledCircle, 1, Rgb(0, 0, 200), 5, kLabel},
-    {kFilledCircle, 1, Rgb(90, 90, 90), 4, kNoLabel},
+    {kDiagonalCross, 1, Rgb(90, 90, 90), 3, kNoLabel},
     {kSquare, 1, Rgb(130, 70, 0), 4, kNoLabel},
     {kCircle, 1, Rgb(0, 128, 0), 9, kLabel},
     {kUprightCross, 1, Rgb(140, 0, 140), 7, kLabel},

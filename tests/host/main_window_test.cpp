@@ -95,10 +95,10 @@ TEST_F(MainWindow, TellsTheTappedPoint) {
       Open({Write(L"list.csv", "7,10.5,20.25,3,\xE6\x9C\xA8\nT-8,-1.0005,2,3\n")}));
   ExpectInfo(L"2 points");
   ::PostMessageW(window_, WM_COMMAND, ID_PLOT_NOTIFY, 1);
-  ExpectInfo(L"7  木  X 10.500  Y 20.250");
+  ExpectInfo(L"7 木  X 10.500  Y 20.250");
   // A key no point has says nothing: what is shown stays.
   ::SendMessageW(window_, WM_COMMAND, ID_PLOT_NOTIFY, 3);
-  EXPECT_EQ(TextOf(Info()), L"7  木  X 10.500  Y 20.250");
+  EXPECT_EQ(TextOf(Info()), L"7 木  X 10.500  Y 20.250");
   Exit();
 }
 
@@ -111,7 +111,7 @@ TEST_F(MainWindow, PlotFollowsTheWindowsSize) {
   EXPECT_TRUE(WaitUntil([&] { return Plot() && WidthOf(Plot()) == 500; }));
   // The survey is still there.
   ::PostMessageW(window_, WM_COMMAND, ID_PLOT_NOTIFY, 74);
-  EXPECT_TRUE(WaitUntil([&] { return TextOf(Info()).starts_with(L"504  雨水2  X "); }));
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(Info()).starts_with(L"504 雨水2  X "); }));
   Exit();
 }
 
