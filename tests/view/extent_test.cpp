@@ -16,7 +16,7 @@ TEST(Extent, NothingHasZeros) {
 
 TEST(Extent, OnePointIsBothCorners) {
   ExtentBuilder builder;
-  builder.Include({-5, 7});
+  builder.Include(GroundPoint{-5, 7});
   EXPECT_FALSE(builder.IsEmpty());
   EXPECT_EQ(builder.Extent().max.x, -5.0);
   EXPECT_EQ(builder.Extent().min.x, -5.0);
