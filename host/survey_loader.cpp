@@ -62,6 +62,10 @@ LoadedSurvey LoadSurveyFiles(std::span<const std::filesystem::path> files) {
 }
 
 void Append(Survey addition, Survey& survey) {
+  if (survey.points.empty()) {
+    survey = std::move(addition);
+    return;
+  }
   const std::size_t before = survey.points.size();
   survey.points.insert(survey.points.end(), std::make_move_iterator(addition.points.begin()),
                        std::make_move_iterator(addition.points.end()));

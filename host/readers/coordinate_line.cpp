@@ -14,6 +14,7 @@ namespace {
 class Fields {
  public:
   Fields(std::string_view line, char separator, const ColumnLayout& layout) : layout_(layout) {
+    fields_.reserve(layout.Fields());
     SplitFields(line, separator, layout.Fields(), fields_);
   }
 

@@ -35,10 +35,12 @@ TEST_F(Headless, DrawsTheSampleSurvey) {
   const PictureImage image = DecodePicture(In(L"絵.png"));
   ASSERT_EQ(image.width, 300);
   ASSERT_EQ(image.height, 400);
-  // The triangles of the control points, the corners of the lots, the rings of the trees.
+  // The triangles of the control points, the corners of the lots, the rings of the trees, and the
+  // lots' sides.
   EXPECT_GT(Count(image, 0xC80000), 50);
   EXPECT_GT(Count(image, 0x0000C8), 50);
   EXPECT_GT(Count(image, 0x008000), 50);
+  EXPECT_GT(Count(image, 0x006000), 500);
 }
 
 TEST_F(Headless, PictureHoldsThePlotTheButtonsAndTheInformationLine) {

@@ -102,6 +102,20 @@ TEST_F(MainWindow, TellsTheTappedPoint) {
   Exit();
 }
 
+TEST_F(MainWindow, CapturesTheCoordinatesOfATap) {
+  ASSERT_NO_FATAL_FAILURE(Open({Write(L"list.csv", "1,100,200,3,a\n2,110,210,3,b\n")}));
+  ExpectInfo(L"2 points");
+  Command(ID_SURVEY_CAPTURE);
+  ExpectInfo(L"Tap a place to capture its coordinates.");
+  const LPARAM place = MAKELPARAM(100, 100);
+  ::PostMessageW(Plot(), WM_LBUTTONDOWN, MK_LBUTTON, place);
+  ::PostMessageW(Plot(), WM_LBUTTONUP, 0, place);
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(Info()).starts_with(L"Captured  X 1"); }));
+  Command(ID_SURVEY_CAPTURE);
+  ExpectInfo(L"2 points");
+  Exit();
+}
+
 TEST_F(MainWindow, PlotFollowsTheWindowsSize) {
   ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv"), L"--size", L"300x400"}));
   ExpectInfo(L"74 points");
