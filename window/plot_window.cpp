@@ -148,6 +148,7 @@ int CPlotWnd::ViewChanged() {
 void CPlotWnd::DrawNewPoint(const Point& point) {
   if (!m_hWnd) return;
   if (IsWindowVisible()) {
+    const RubberBand::Hidden hidden(band_, *this);
     ClientSurface screen(*this);
     DrawSinglePoint(screen.Dc(), Data(), point);
   }
@@ -157,6 +158,7 @@ void CPlotWnd::DrawNewPoint(const Point& point) {
 void CPlotWnd::DrawNewLine(const Line& line) {
   if (!m_hWnd) return;
   if (IsWindowVisible()) {
+    const RubberBand::Hidden hidden(band_, *this);
     ClientSurface screen(*this);
     DrawSingleLine(screen.Dc(), Data(), line);
   }

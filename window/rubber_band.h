@@ -25,6 +25,24 @@ class RubberBand {
   // Draws the outline, if it is on the screen, into the part that a paint has covered.
   void Restore(CDC& paint) const;
 
+  // Keeps the outline off the screen while something else is drawn there at once, which would
+  // leave a trace of an outline it covers.
+  class Hidden {
+   public:
+    Hidden(const RubberBand& band, CWnd& window) : band_(band), window_(window) {
+      if (band_.shown_) band_.Flip(window_);
+    }
+    ~Hidden() {
+      if (band_.shown_) band_.Flip(window_);
+    }
+    Hidden(const Hidden&) = delete;
+    Hidden& operator=(const Hidden&) = delete;
+
+   private:
+    const RubberBand& band_;
+    CWnd& window_;
+  };
+
   [[nodiscard]] ScreenPoint FirstCorner() const {
     return {static_cast<int>(outline_[0].x), static_cast<int>(outline_[0].y)};
   }
