@@ -1,7 +1,6 @@
 // The dashed outline that follows the stylus in a band zoom.
 #include <tavix/tavix.h>
 
-#include "tests/support/message_pump.h"
 #include "tests/support/picture_compare.h"
 #include "tests/support/raw_canvas.h"
 #include "tests/window/interaction/interaction_test.h"

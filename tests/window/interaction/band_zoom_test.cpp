@@ -2,7 +2,6 @@
 #include <tavix/tavix.h>
 
 #include "tests/support/picture_compare.h"
-#include "tests/support/raw_canvas.h"
 #include "tests/window/interaction/interaction_test.h"
 
 namespace tavix::test {

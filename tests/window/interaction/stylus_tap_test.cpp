@@ -3,7 +3,6 @@
 
 #include <limits>
 
-#include "tests/support/message_pump.h"
 #include "tests/support/picture_compare.h"
 #include "tests/window/interaction/interaction_test.h"
 
