@@ -76,17 +76,17 @@ void CPlotWnd::FinishBand(const StylusGesture& gesture) {
   EndBandZoom();
 }
 
-// A tap centres the view on it; in a drag the map follows the stylus.
+// A tap centres the view on it; in a drag the map follows the stylus. The middle that moves is that
+// of the drawing area, so that the map keeps to the stylus with the button column shown too.
 void CPlotWnd::FinishPan(const StylusGesture& gesture) {
-  GroundPoint centre = GroundUnder(gesture.up);
-  if (!gesture.IsTap()) {
-    CRect client;
-    GetClientRect(&client);
-    const GroundPoint middle = GroundUnder({client.right / 2, client.bottom / 2});
-    const GroundPoint from = GroundUnder(gesture.down);
-    centre = {middle.x + from.x - centre.x, middle.y + from.y - centre.y};
+  const GroundPoint to = GroundUnder(gesture.up);
+  if (gesture.IsTap()) {
+    PanTo(to);
+    return;
   }
-  PanTo(centre);
+  const GroundPoint from = GroundUnder(gesture.down);
+  const GroundPoint middle = links_.view->Centre();
+  PanTo({middle.x + from.x - to.x, middle.y + from.y - to.y});
 }
 
 void CPlotWnd::Pick(ScreenPoint at) {

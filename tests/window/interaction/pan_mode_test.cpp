@@ -44,6 +44,15 @@ TEST_F(PanMode, MovesTheMapWithTheStylus) {
   }
 }
 
+// The drawing area's middle lies ten pixels left of the window's then; taken for the other, the map
+// would stay ten pixels behind the stylus.
+TEST_F(PanMode, MovesTheMapWithTheStylusBesideTheButtonColumn) {
+  MakePlotWithButtons(260, 180);
+  Press(kPan);
+  Drag({50, 50}, {80, 50});
+  EXPECT_TRUE(SamePicture(LeftPart(CrossesAt({{170, 80}}), 240), LeftPart(Shown(), 240)));
+}
+
 TEST_F(PanMode, MovesTheMapByPixelsAtAnyScaleAngleAndRatio) {
   Tavix_Zom(-45.0, -60.0, 45.0, 60.0);
   Tavix_SetTatYok(2, 1);
