@@ -141,14 +141,30 @@ TEST_F(LineFailures, ADatabaseThatCannotBeOpenedIsOpenedLater) {
   EXPECT_EQ(1U, LinesOnDevice().size());
 }
 
-// The stores are cleared one after the other; the first that fails ends it.
+// Points, points with a height, memos, lines: the first that fails ends the clearing.
 TEST_F(LineFailures, EndTheClearingOfTheDrawing) {
-  ASSERT_EQ(0, Tavix_EntPntMem(1, L"memo"));
-  store_.Fail(Operation::kCreate, StoreError::kFull, 0, 1);
-  const int code = Tavix_DrwClr();
-  EXPECT_NE(0, code);
-  EXPECT_EQ(0, Tavix_DrwClr());
-  EXPECT_TRUE(LinesOnDevice().empty());
+  const struct {
+    int databases_made;  // before one cannot be
+    int code;
+    std::size_t lines_left;
+  } rows[] = {{0, 1, 2}, {1, -1, 0}};
+  for (const auto& [made, code, lines_left] : rows) {
+    ASSERT_EQ(0, Tavix_DrwClr());
+    ASSERT_EQ(0, Tavix_EntLin(1, 2));
+    ASSERT_EQ(0, Tavix_EntLin(1, 3));
+    ASSERT_EQ(0, Tavix_EntPnt(1, 1, L"P", 1.0, 2.0));
+    store_.Fail(Operation::kCreate, StoreError::kFull, made, 1);
+    EXPECT_EQ(code, Tavix_DrwClr());
+    double x = 0.0;
+    double y = 0.0;
+    EXPECT_EQ(-1, Tavix_GetPntCrd(1, &x, &y)) << "the points are gone";
+    if (lines_left > 0) {
+      EXPECT_EQ(lines_left, LinesOnDevice().size()) << "untouched";
+    }
+    store_.Pass(Operation::kCreate);
+    EXPECT_EQ(0, Tavix_DrwClr());
+    EXPECT_TRUE(LinesOnDevice().empty());
+  }
 }
 
 }  // namespace
