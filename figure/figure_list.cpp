@@ -67,9 +67,11 @@ int ReadFigure(FileWindow& index_file, FileWindow& coordinate_file, std::int32_t
   figure->is_circle = record->is_circle != 0;
   figure->points.clear();
   if (record->point_count < 1) return 0;
-  const auto count = static_cast<std::size_t>(record->point_count);
-  const unsigned char* bytes = coordinate_file.Bytes(record->first_point, count * kFigurePointSize);
+  // In 64 bits: the size a damaged count promises does not fit the 32 of the smaller target.
+  const auto size = static_cast<std::uint64_t>(record->point_count) * kFigurePointSize;
+  const unsigned char* bytes = coordinate_file.Bytes(record->first_point, size);
   if (!bytes) return -3;
+  const auto count = static_cast<std::size_t>(record->point_count);
   figure->points.reserve(count);
   for (std::size_t i = 0; i < count; ++i) {
     figure->points.push_back(DecodeFigurePoint(bytes + i * kFigurePointSize));

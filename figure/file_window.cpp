@@ -4,20 +4,20 @@
 
 namespace tavix {
 
-const unsigned char* FileWindow::Bytes(std::uint64_t offset, std::size_t size) {
+const unsigned char* FileWindow::Bytes(std::uint64_t offset, std::uint64_t size) {
   const bool inside = offset >= start_ && offset - start_ + size <= bytes_.size();
   if (!inside && !MoveTo(offset, size)) return nullptr;
   return bytes_.data() + (offset - start_);
 }
 
-bool FileWindow::MoveTo(std::uint64_t offset, std::size_t size) {
-  constexpr std::size_t kWindow = 64 * 1024;
+bool FileWindow::MoveTo(std::uint64_t offset, std::uint64_t size) {
+  constexpr std::uint64_t kWindow = 64 * 1024;
   try {
     // A damaged size is found out before room is made for it.
     const std::uint64_t length = file_.GetLength();
     if (offset > length || size > length - offset) return false;
     start_ = offset;
-    bytes_.resize(std::max(size, kWindow));
+    bytes_.resize(static_cast<std::size_t>(std::max(size, kWindow)));
     file_.Seek(static_cast<LONGLONG>(offset), CFile::begin);
     bytes_.resize(file_.Read(bytes_.data(), static_cast<UINT>(bytes_.size())));
     return bytes_.size() >= size;

@@ -17,10 +17,10 @@ class FileWindow {
 
   // `size` bytes from `offset` on, or null when the file does not hold them all or cannot be read.
   // Valid until the next call.
-  const unsigned char* Bytes(std::uint64_t offset, std::size_t size);
+  const unsigned char* Bytes(std::uint64_t offset, std::uint64_t size);
 
  private:
-  bool MoveTo(std::uint64_t offset, std::size_t size);
+  bool MoveTo(std::uint64_t offset, std::uint64_t size);
 
   CFile& file_;
   std::uint64_t start_ = 0;

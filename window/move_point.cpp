@@ -24,25 +24,33 @@ void MovePoint::SetAnchor(GroundPoint anchor) {
   has_line_ = true;
 }
 
-void MovePoint::MoveTo(CWnd& window, const CViewState& view, GroundPoint at) {
-  if (drawn_) Flip(window, view);
+void MovePoint::MoveTo(CWnd& window, const CViewState& view, GroundPoint at, bool plan_shown) {
+  Flip(window, view);
   drawn_ = true;
   position_ = at;
+  on_screen_ = plan_shown;
   Flip(window, view);
 }
 
 void MovePoint::End(CWnd& window, const CViewState& view) {
-  if (drawn_) Flip(window, view);
+  Hide(window, view);
   drawn_ = false;
   has_line_ = false;
 }
 
-void MovePoint::Restore(CDC& paint, const CViewState& view) const {
-  if (drawn_) FlipOn(paint, view);
+void MovePoint::Hide(CWnd& window, const CViewState& view) {
+  Flip(window, view);
+  on_screen_ = false;
+}
+
+void MovePoint::Restore(CDC& paint, const CViewState& view) {
+  if (!drawn_) return;
+  FlipOn(paint, view);
+  on_screen_ = true;
 }
 
 void MovePoint::Flip(CWnd& window, const CViewState& view) const {
-  if (!window.m_hWnd) return;
+  if (!on_screen_ || !window.m_hWnd) return;
   ClientSurface screen(window);
   FlipOn(screen.Dc(), view);
 }

@@ -20,20 +20,27 @@ class MovePoint {
   // first move.
   void SetAnchor(GroundPoint anchor);
 
-  void MoveTo(CWnd& window, const CViewState& view, GroundPoint at);
+  // Where the window shows something else than the plan, the new place is only remembered.
+  void MoveTo(CWnd& window, const CViewState& view, GroundPoint at, bool plan_shown);
   void End(CWnd& window, const CViewState& view);
 
+  // Takes the mark off the screen until the next move or paint of the plan.
+  void Hide(CWnd& window, const CViewState& view);
+
   // Draws the present state over what a paint has copied.
-  void Restore(CDC& paint, const CViewState& view) const;
+  void Restore(CDC& paint, const CViewState& view);
+
+  // Takes what is on the screen off, and on again when called a second time.
+  void Flip(CWnd& window, const CViewState& view) const;
 
   [[nodiscard]] bool IsDrawn() const { return drawn_; }
   [[nodiscard]] GroundPoint Position() const { return position_; }
 
  private:
-  void Flip(CWnd& window, const CViewState& view) const;
   void FlipOn(CDC& dc, const CViewState& view) const;
 
   bool drawn_ = false;
+  bool on_screen_ = false;
   COLORREF color_ = 0;  // the legend's, inverted: by exclusive-or it shows true on white
   int pen_width_ = 0;
   int mark_ = 0;

@@ -145,24 +145,40 @@ int CPlotWnd::ViewChanged() {
   return Redraw();
 }
 
+void CPlotWnd::SetDisplay3D(bool on) {
+  if (on) move_point_.Hide(*this, *links_.view);
+  display_3d_ = on;
+}
+
+// What is drawn by exclusive-or makes way for what is drawn at once below it: over a picture that
+// changed, taking it off would leave a trace.
+void CPlotWnd::FlipOverlays() {
+  move_point_.Flip(*this, *links_.view);
+  traced_.Flip(Surfaces());
+}
+
 void CPlotWnd::DrawNewPoint(const Point& point) {
   if (!m_hWnd) return;
+  FlipOverlays();
   if (IsWindowVisible()) {
     const RubberBand::Hidden hidden(band_, *this);
     ClientSurface screen(*this);
     DrawSinglePoint(screen.Dc(), Data(), point);
   }
   DrawSinglePoint(buffer_.Dc(), Data(), point);
+  FlipOverlays();
 }
 
 void CPlotWnd::DrawNewLine(const Line& line) {
   if (!m_hWnd) return;
+  FlipOverlays();
   if (IsWindowVisible()) {
     const RubberBand::Hidden hidden(band_, *this);
     ClientSurface screen(*this);
     DrawSingleLine(screen.Dc(), Data(), line);
   }
   DrawSingleLine(buffer_.Dc(), Data(), line);
+  FlipOverlays();
 }
 
 void CPlotWnd::BuildGroup(int height, int width) {

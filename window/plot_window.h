@@ -82,7 +82,8 @@ class CPlotWnd : public CWnd {
   void SetRatio(int vertical, int horizontal);
   [[nodiscard]] const RatioSetting& Ratio() const { return ratio_; }
 
-  void SetDisplay3D(bool on) { display_3d_ = on; }
+  // To be called before the view changes with it: a moved point is taken off the plan.
+  void SetDisplay3D(bool on);
 
   [[nodiscard]] CoordinateCapture& Capture() { return capture_; }
 
@@ -92,7 +93,7 @@ class CPlotWnd : public CWnd {
   // The move-point band. Start takes the look of a point legend.
   void StartMovePoint(const LegendStyle& style) { move_point_.Start(*this, *links_.view, style); }
   void SetMoveAnchor(GroundPoint anchor) { move_point_.SetAnchor(anchor); }
-  void MovePointTo(GroundPoint at) { move_point_.MoveTo(*this, *links_.view, at); }
+  void MovePointTo(GroundPoint at) { move_point_.MoveTo(*this, *links_.view, at, !display_3d_); }
   void EndMovePoint() { move_point_.End(*this, *links_.view); }
 
   // The traced polyline.
@@ -166,6 +167,7 @@ class CPlotWnd : public CWnd {
   int FitSideView();
   void DrawSide();
   void DrawOverlays(CDC& paint);
+  void FlipOverlays();
 
   UINT notify_id_;
   PlotLinks links_;

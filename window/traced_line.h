@@ -29,6 +29,9 @@ class TracedLine {
   // Takes every segment off and forgets the vertices.
   void End(const Surfaces& surfaces);
 
+  // Takes what is drawn off both surfaces, and on again when called a second time.
+  void Flip(const Surfaces& surfaces) const { Flip(surfaces, segments_); }
+
   // Draws the segments of the present view into a buffer that has just been filled.
   void Redraw(CDC& buffer, const CViewState& view);
 
