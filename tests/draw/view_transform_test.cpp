@@ -7,6 +7,7 @@
 #include "tests/support/picture_compare.h"
 #include "tests/support/plot_test.h"
 #include "tests/support/raw_canvas.h"
+#include "tests/support/raw_north_arrow.h"
 
 namespace tavix::test {
 namespace {
@@ -50,6 +51,7 @@ class ViewTransform : public PlotTest {
     for (const Ground& at : points) {
       DrawRawPoint(canvas.Dc(), kCross, PixelOf(view, client.right, client.bottom, at));
     }
+    DrawRawNorthArrow(canvas.Dc(), view.angle, client.bottom);
     EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn()))
         << "scale " << view.scale << ", ratio " << view.ratio << ", angle " << view.angle;
   }
@@ -77,6 +79,7 @@ TEST_F(ViewTransform, PositiveAnglesTurnThePictureClockwise) {
     ASSERT_EQ(0, Tavix_SetAng(angle));
     RawCanvas canvas(Window());
     DrawRawPoint(canvas.Dc(), kCross, north);
+    DrawRawNorthArrow(canvas.Dc(), angle, 180);
     EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn())) << angle;
   }
 }
@@ -98,6 +101,7 @@ TEST_F(ViewTransform, MarksAndLabelsDoNotTurn) {
   ASSERT_EQ(0, Tavix_SetTatYok(3, 1));
   RawCanvas canvas(Window());
   DrawRawPoint(canvas.Dc(), look, {120, 90}, L"A1");
+  DrawRawNorthArrow(canvas.Dc(), 45, 180);
   EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn()));
 }
 

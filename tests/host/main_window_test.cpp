@@ -131,6 +131,7 @@ TEST_F(MainWindow, PlotFollowsTheWindowsSize) {
 
 TEST_F(MainWindow, SizesThePlotOnceAfterTheEdgeWasDragged) {
   ASSERT_NO_FATAL_FAILURE(Open({L"--size", L"300x400"}));
+  ASSERT_TRUE(WaitUntil([&] { return Plot() != nullptr; }));
   const HWND before = Plot();
   const int frame = WidthOf(window_) - 300;
   ::SendMessageW(window_, WM_ENTERSIZEMOVE, 0, 0);

@@ -4,6 +4,7 @@
 #include "tests/support/picture_compare.h"
 #include "tests/support/plot_test.h"
 #include "tests/support/raw_canvas.h"
+#include "tests/support/raw_north_arrow.h"
 
 namespace tavix::test {
 namespace {
@@ -79,6 +80,7 @@ TEST_F(Linking, AgainDestroysTheFirstWindowAndKeepsDataAndView) {
   ASSERT_EQ(0, Tavix_Dsp(1));
   RawCanvas canvas(Window());  // east is down now: north of the middle lies to its right
   DrawRawPoint(canvas.Dc(), {6, 20, 0, 0, 1, RGB(255, 0, 0)}, {(120 - 20) / 2 + 30, 60});
+  DrawRawNorthArrow(canvas.Dc(), 90, 120);
   EXPECT_TRUE(SamePicture(LeftPart(canvas.Take(), 100), LeftPart(Redrawn(), 100)));
 }
 

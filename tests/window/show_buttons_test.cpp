@@ -5,6 +5,7 @@
 #include "tests/support/picture_compare.h"
 #include "tests/support/plot_test.h"
 #include "tests/support/raw_canvas.h"
+#include "tests/support/raw_north_arrow.h"
 
 namespace tavix::test {
 namespace {
@@ -22,10 +23,11 @@ class ShowButtons : public PlotTest {
   }
 
   // Shows the window and compares it, the column aside, with one that has the point at `at`.
-  void ExpectPointAt(POINT at) const {
+  void ExpectPointAt(POINT at, int angle = 0) const {
     Tavix_Dsp(1);
     RawCanvas canvas(Window());
     DrawRawPoint(canvas.Dc(), look_, at);
+    DrawRawNorthArrow(canvas.Dc(), angle, kHeight);
     EXPECT_TRUE(SamePicture(LeftPart(canvas.Take(), kWidth - kColumn),
                             LeftPart(Redrawn(), kWidth - kColumn)));
   }
@@ -105,7 +107,7 @@ TEST_F(ShowButtons, KeepsAngleAndScale) {
   ASSERT_EQ(0, Tavix_SetAng(90));
   ::SendMessageW(Window(), WM_COMMAND, 409, 0);  // the zoom-in button: one and a half times
   EXPECT_EQ(0, Tavix_SetBtn(0));
-  ExpectPointAt({kWidth / 2 + 45, kHeight / 2});
+  ExpectPointAt({kWidth / 2 + 45, kHeight / 2}, 90);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "tests/support/picture_compare.h"
 #include "tests/support/plot_test.h"
 #include "tests/support/raw_canvas.h"
+#include "tests/support/raw_north_arrow.h"
 
 namespace tavix::test {
 namespace {
@@ -37,6 +38,7 @@ class ViewButtons : public PlotTest {
   static Picture PointsAt(std::initializer_list<POINT> pixels) {
     const RawCanvas canvas(Window());
     for (const POINT& at : pixels) DrawRawPoint(canvas.Dc(), kCross, at);
+    DrawRawNorthArrow(canvas.Dc(), Angle(), Client().bottom);
     return canvas.Take();
   }
 
