@@ -109,11 +109,11 @@ CEPROPVAL ToPropVal(const Property& property) {
   return value;
 }
 
-tavix::SortOrder ToSortOrder(const SORTORDERSPEC& spec) {
-  return {.property = PropertyId(spec.propid),
-          .descending = (spec.dwFlags & CEDB_SORT_DESCENDING) != 0,
-          .ignore_case = (spec.dwFlags & CEDB_SORT_CASEINSENSITIVE) != 0,
-          .unknown_first = (spec.dwFlags & CEDB_SORT_UNKNOWNFIRST) != 0};
+tavix::SortOrder ToSortOrder(const SORTORDERSPEC& sorting) {
+  return {.property = PropertyId(sorting.propid),
+          .descending = (sorting.dwFlags & CEDB_SORT_DESCENDING) != 0,
+          .ignore_case = (sorting.dwFlags & CEDB_SORT_CASEINSENSITIVE) != 0,
+          .unknown_first = (sorting.dwFlags & CEDB_SORT_UNKNOWNFIRST) != 0};
 }
 
 SORTORDERSPEC ToSortSpec(const tavix::SortOrder& order) {

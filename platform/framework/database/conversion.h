@@ -29,5 +29,5 @@ tavix::Property ToProperty(const CEPROPVAL& value);
 // The device's view of a value, which points to the store's text or bytes.
 CEPROPVAL ToPropVal(const tavix::Property& property);
 
-tavix::SortOrder ToSortOrder(const SORTORDERSPEC& spec);
+tavix::SortOrder ToSortOrder(const SORTORDERSPEC& sorting);
 SORTORDERSPEC ToSortSpec(const tavix::SortOrder& order);

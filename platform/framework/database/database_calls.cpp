@@ -20,11 +20,12 @@ std::u16string_view Text(LPCWSTR text) {
 }
 
 // Placeholders of the generic order are no orders.
-std::vector<SortOrder> ToSortOrders(const SORTORDERSPEC* specs, WORD count) {
+std::vector<SortOrder> ToSortOrders(const SORTORDERSPEC* sortings, WORD count) {
   std::vector<SortOrder> orders;
   for (WORD i = 0; i < count; ++i) {
-    const bool placeholder = specs[i].propid == 0 && (specs[i].dwFlags & CEDB_SORT_GENERICORDER);
-    if (!placeholder) orders.push_back(ToSortOrder(specs[i]));
+    const bool placeholder =
+        sortings[i].propid == 0 && (sortings[i].dwFlags & CEDB_SORT_GENERICORDER);
+    if (!placeholder) orders.push_back(ToSortOrder(sortings[i]));
   }
   return orders;
 }

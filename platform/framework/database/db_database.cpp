@@ -26,20 +26,20 @@ CEOID FindByName(LPCWSTR name) {
 using SortSpecs = std::array<SORTORDERSPEC, CEDB_MAXSORTORDER>;
 
 // False, with the last error set, for more properties than a database can be sorted by.
-bool ToSortSpecs(const CCeDBProp* props, WORD count, SortSpecs& specs) {
-  if (count > specs.size() || (count > 0 && !props)) {
+bool ToSortSpecs(const CCeDBProp* props, WORD count, SortSpecs& sortings) {
+  if (count > sortings.size() || (count > 0 && !props)) {
     SetLastError(ERROR_INVALID_PARAMETER);
     return false;
   }
-  std::transform(props, props + count, specs.begin(), [](const CCeDBProp& prop) {
+  std::transform(props, props + count, sortings.begin(), [](const CCeDBProp& prop) {
     return SORTORDERSPEC{SortId(prop), prop.GetSortFlags()};
   });
   return true;
 }
 
-CCeDBProp ToSortProp(const SORTORDERSPEC& spec) {
-  return {static_cast<CCeDBProp::enType>(LOWORD(spec.propid)), HIWORD(spec.propid),
-          static_cast<WORD>(spec.dwFlags)};
+CCeDBProp ToSortProp(const SORTORDERSPEC& sorting) {
+  return {static_cast<CCeDBProp::enType>(LOWORD(sorting.propid)), HIWORD(sorting.propid),
+          static_cast<WORD>(sorting.dwFlags)};
 }
 
 }  // namespace
@@ -54,9 +54,9 @@ BOOL CCeDBDatabase::Exists(LPCWSTR lpszName) { return FindByName(lpszName) != 0;
 
 CEOID CCeDBDatabase::Create(LPCWSTR lpszName, DWORD dwIdent, WORD wNumProps,
                             CCeDBProp* pSortProps) {
-  SortSpecs specs;
-  if (!ToSortSpecs(pSortProps, wNumProps, specs)) return 0;
-  return CeCreateDatabase(Name(lpszName), dwIdent, wNumProps, specs.data());
+  SortSpecs sortings;
+  if (!ToSortSpecs(pSortProps, wNumProps, sortings)) return 0;
+  return CeCreateDatabase(Name(lpszName), dwIdent, wNumProps, sortings.data());
 }
 
 BOOL CCeDBDatabase::Delete(LPCWSTR lpszName) {
@@ -159,12 +159,12 @@ BOOL CCeDBDatabase::GetSortPropFromIdent(WORD wIdent, CCeDBProp* pSortProp) cons
 }
 
 BOOL CCeDBDatabase::SetSortProps(WORD wNumProps, CCeDBProp* pSortProps) {
-  SortSpecs specs;
-  if (!ToSortSpecs(pSortProps, wNumProps, specs)) return FALSE;
+  SortSpecs sortings;
+  if (!ToSortSpecs(pSortProps, wNumProps, sortings)) return FALSE;
   CEDBASEINFO info{};
   info.dwFlags = CEDB_VALIDSORTSPEC;
   info.wNumSortOrder = wNumProps;
-  std::copy_n(specs.begin(), wNumProps, info.rgSortSpecs);
+  std::copy_n(sortings.begin(), wNumProps, info.rgSortSpecs);
   const CEOID oid = m_oidDatabase;
   Close();
   return CeSetDatabaseInfo(oid, &info);

@@ -15,11 +15,11 @@ CEDBASEINFO InfoOf(CEOID oid) {
 }
 
 TEST_F(DatabaseCalls, ACreatedDatabaseTellsWhatItWasMadeOf) {
-  SORTORDERSPEC specs[] = {
+  SORTORDERSPEC sortings[] = {
       {kLineId, 0},
       {kPointId, CEDB_SORT_DESCENDING | CEDB_SORT_UNKNOWNFIRST},
       {static_cast<CEPROPID>(MAKELONG(CEVT_LPWSTR, 5)), CEDB_SORT_CASEINSENSITIVE}};
-  const CEOID oid = CeCreateDatabase(Name(L"lines"), 77, 3, specs);
+  const CEOID oid = CeCreateDatabase(Name(L"lines"), 77, 3, sortings);
   ASSERT_NE(oid, 0U);
   const CEDBASEINFO info = InfoOf(oid);
   EXPECT_STREQ(info.szDbaseName, L"lines");
@@ -28,8 +28,8 @@ TEST_F(DatabaseCalls, ACreatedDatabaseTellsWhatItWasMadeOf) {
   EXPECT_EQ(info.dwSize, 0U);
   ASSERT_EQ(info.wNumSortOrder, 3);
   for (int i = 0; i < 3; ++i) {
-    EXPECT_EQ(info.rgSortSpecs[i].propid, specs[i].propid);
-    EXPECT_EQ(info.rgSortSpecs[i].dwFlags, specs[i].dwFlags);
+    EXPECT_EQ(info.rgSortSpecs[i].propid, sortings[i].propid);
+    EXPECT_EQ(info.rgSortSpecs[i].dwFlags, sortings[i].dwFlags);
   }
   FILETIME now;
   GetSystemTimeAsFileTime(&now);
