@@ -135,8 +135,9 @@ TAVIX_CALL int Tavix_Mov(void);
 // Writes 1 when the pixel of (X, Y) lies in the drawing area, borders included, else 0. Returns 0.
 TAVIX_CALL int Tavix_ChkCrd(double X, double Y, int* visible);
 
-// Writes 1 when the four outermost points of a circle lie in the drawing area, else 0; a radius
-// below 0.00001 m asks for the centre alone. Returns 0.
+// Writes 1 when four points of a circle, one to each side, lie in the drawing area, else 0; a
+// radius below 0.00001 m asks for the centre alone. In a turned view the four are turned twice:
+// meant so. Returns 0.
 TAVIX_CALL int Tavix_ChkCir(double X, double Y, double radius, int* visible);
 
 // Writes the client pixel where the stylus last left the window, and returns its y.
