@@ -5,8 +5,8 @@
 #pragma once
 
 #include <array>
-#include <bit>
 #include <cstddef>
+#include <cstring>
 
 #include "framework/export.h"
 #include "framework/platform.h"
@@ -14,7 +14,8 @@
 class CCmdTarget;
 struct AFX_MSGMAP_ENTRY;
 
-// Any handler's address, whatever its signature: member pointers all have one size.
+// Any handler's address, whatever its signature: member pointers all have one size. This header
+// keeps to C++17, as hosts may: the bytes are copied.
 using AFX_HANDLER = std::array<std::byte, sizeof(void (CCmdTarget::*)())>;
 
 // What a handler is called with. For a command, message is the command's code, wParam its id; for a
@@ -56,21 +57,19 @@ AFX_FRAMEWORK const AFX_MSGMAP_ENTRY* AfxFindMessageEntry(const AFX_MSGMAP* mess
 template <template <class> class Unpacker, class T>
 LRESULT AfxInvokeHandler(CCmdTarget& target, const AFX_MSGMAP_ENTRY& entry,
                          const AFX_MESSAGE& message) {
-  using Member = typename Unpacker<T>::Member;
-  return Unpacker<T>::Call(static_cast<T&>(target), std::bit_cast<Member>(entry.handler), message);
+  typename Unpacker<T>::Member handler = nullptr;
+  std::memcpy(&handler, entry.handler.data(), sizeof(handler));
+  return Unpacker<T>::Call(static_cast<T&>(target), handler, message);
 }
 
 template <template <class> class Unpacker, class T>
 AFX_MSGMAP_ENTRY AfxMessageEntry(UINT message, UINT code, UINT firstId, UINT lastId,
                                  typename Unpacker<T>::Member handler,
                                  const UINT* registered = nullptr) {
-  return {message,
-          code,
-          firstId,
-          lastId,
-          &AfxInvokeHandler<Unpacker, T>,
-          std::bit_cast<AFX_HANDLER>(handler),
-          registered};
+  AFX_HANDLER address = {};
+  static_assert(sizeof(handler) == sizeof(address), "member pointers have one size");
+  std::memcpy(address.data(), &handler, sizeof(handler));
+  return {message, code, firstId, lastId, &AfxInvokeHandler<Unpacker, T>, address, registered};
 }
 
 #define DECLARE_MESSAGE_MAP()                   \
