@@ -12,8 +12,8 @@ class RecordCalls : public FreshStore {
   RecordCalls() { handle_ = Open(0); }
 
   HANDLE Open(DWORD flags) {
-    SORTORDERSPEC specs[] = {{kLineId, 0}, {kPointId, 0}};
-    if (oid_ == 0) oid_ = CeCreateDatabase(Name(L"lines"), 0, 2, specs);
+    SORTORDERSPEC sortings[] = {{kLineId, 0}, {kPointId, 0}};
+    if (oid_ == 0) oid_ = CeCreateDatabase(Name(L"lines"), 0, 2, sortings);
     return CeOpenDatabase(&oid_, nullptr, kLineId, flags, nullptr);
   }
   CEOID Add(short line, short point) {
