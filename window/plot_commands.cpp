@@ -128,11 +128,13 @@ void CPlotWnd::MarkStale() {
 }
 
 bool CPlotWnd::TakeStale() {
-  if (display_3d_) {
-    const bool stale = links_.points3->Changed();
-    links_.points3->SetChanged(false);
-    return stale;
-  }
+  if (!display_3d_) return TakePlanStale();
+  const bool stale = links_.points3->Changed();
+  links_.points3->SetChanged(false);
+  return stale;
+}
+
+bool CPlotWnd::TakePlanStale() {
   const bool stale =
       links_.points->Changed() || links_.lines->Changed() || links_.figures->Changed();
   links_.points->SetChanged(false);

@@ -20,7 +20,7 @@ void CPlotWnd::EditSettings() {
       settings.ratio.vertical == ratio_.vertical && settings.ratio.horizontal == ratio_.horizontal;
   if (ratio_.given && !same_ratio) {
     SetRatio(settings.ratio.vertical, settings.ratio.horizontal);
-    TakeStale();
+    TakePlanStale();  // the plan's flags, whichever view is shown
     FitView();
   }
   ViewChanged();

@@ -157,28 +157,25 @@ void CPlotWnd::FlipOverlays() {
   traced_.Flip(Surfaces());
 }
 
-void CPlotWnd::DrawNewPoint(const Point& point) {
-  if (!m_hWnd) return;
+template <class Draw>
+void CPlotWnd::DrawAtOnce(Draw draw) {
+  if (!m_hWnd || display_3d_) return;
   FlipOverlays();
   if (IsWindowVisible()) {
     const RubberBand::Hidden hidden(band_, *this);
     ClientSurface screen(*this);
-    DrawSinglePoint(screen.Dc(), Data(), point);
+    draw(screen.Dc());
   }
-  DrawSinglePoint(buffer_.Dc(), Data(), point);
+  draw(buffer_.Dc());
   FlipOverlays();
 }
 
+void CPlotWnd::DrawNewPoint(const Point& point) {
+  DrawAtOnce([&](CDC& dc) { DrawSinglePoint(dc, Data(), point); });
+}
+
 void CPlotWnd::DrawNewLine(const Line& line) {
-  if (!m_hWnd) return;
-  FlipOverlays();
-  if (IsWindowVisible()) {
-    const RubberBand::Hidden hidden(band_, *this);
-    ClientSurface screen(*this);
-    DrawSingleLine(screen.Dc(), Data(), line);
-  }
-  DrawSingleLine(buffer_.Dc(), Data(), line);
-  FlipOverlays();
+  DrawAtOnce([&](CDC& dc) { DrawSingleLine(dc, Data(), line); });
 }
 
 void CPlotWnd::BuildGroup(int height, int width) {

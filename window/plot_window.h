@@ -72,7 +72,8 @@ class CPlotWnd : public CWnd {
   // To be called after every pan and zoom and for every redraw request. Always 0.
   int ViewChanged();
 
-  // Draws one new point on the screen, where the window is visible, and into the back buffer.
+  // Draws one new point of the plan on the screen, where the window is visible, and into the back
+  // buffer; nothing while the side view is on.
   void DrawNewPoint(const Point& point);
 
   // The same for a line, while lines are drawn at all.
@@ -97,8 +98,8 @@ class CPlotWnd : public CWnd {
   void EndMovePoint() { move_point_.End(*this, *links_.view); }
 
   // The traced polyline.
-  void AddTraced(GroundPoint vertex) { traced_.Add(Surfaces(), *links_.view, vertex); }
-  bool RemoveTraced() { return traced_.RemoveLast(Surfaces(), *links_.view); }
+  void AddTraced(GroundPoint at) { traced_.Add(Surfaces(), *links_.view, at, !display_3d_); }
+  bool RemoveTraced() { return traced_.RemoveLast(Surfaces()); }
   void EndTraced() { traced_.End(Surfaces()); }
   [[nodiscard]] std::span<const GroundPoint> Traced() const { return traced_.Vertices(); }
 
@@ -160,6 +161,7 @@ class CPlotWnd : public CWnd {
   // The refit flags of the stores that are shown: set, or read and cleared.
   void MarkStale();
   bool TakeStale();
+  bool TakePlanStale();
 
   BOOL CreateChild(CWnd* parent, const CRect& rect, const CString& class_name);
   [[nodiscard]] PlotData Data() const;
@@ -168,6 +170,10 @@ class CPlotWnd : public CWnd {
   void DrawSide();
   void DrawOverlays(CDC& paint);
   void FlipOverlays();
+
+  // Has `draw` draw something of the plan at once, on the screen and into the back buffer.
+  template <class Draw>
+  void DrawAtOnce(Draw draw);
 
   UINT notify_id_;
   PlotLinks links_;

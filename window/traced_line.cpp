@@ -8,32 +8,34 @@ namespace {
 
 constexpr COLORREF kCyan = RGB(0, 255, 255);
 
-void FlipOn(CDC& dc, std::span<const ScreenSegment> segments) {
-  const XorDrawing drawing(dc, PS_SOLID, 1, kCyan);
-  for (const ScreenSegment& segment : segments) {
-    dc.MoveTo(segment.start.x, segment.start.y);
-    dc.LineTo(segment.end.x, segment.end.y);
-  }
-}
-
 }  // namespace
 
-void TracedLine::Add(const Surfaces& surfaces, const CViewState& view, GroundPoint vertex) {
-  ScreenSegment segment;
-  if (!vertices_.empty() && view.ClipGroundSegment(vertices_.back(), vertex, segment)) {
-    Flip(surfaces, {&segment, 1});
-    segments_.push_back(segment);
+std::optional<TracedLine::Drawn> TracedLine::SegmentTo(const CViewState& view,
+                                                       std::span<const GroundPoint> vertices) {
+  if (vertices.size() < 2) return std::nullopt;
+  const std::size_t last = vertices.size() - 1;
+  Drawn drawn{{}, last};
+  if (!view.ClipGroundSegment(vertices[last - 1], vertices[last], drawn.segment)) {
+    return std::nullopt;
   }
-  vertices_.push_back(vertex);
+  return drawn;
 }
 
-bool TracedLine::RemoveLast(const Surfaces& surfaces, const CViewState& view) {
+void TracedLine::Add(const Surfaces& surfaces, const CViewState& view, GroundPoint vertex,
+                     bool plan_shown) {
+  vertices_.push_back(vertex);
+  if (!plan_shown) return;
+  if (const auto drawn = SegmentTo(view, vertices_)) {
+    Flip(surfaces, {&*drawn, 1});
+    segments_.push_back(*drawn);
+  }
+}
+
+// What was drawn is taken off, whatever the view has become since without a redraw.
+bool TracedLine::RemoveLast(const Surfaces& surfaces) {
   if (vertices_.empty()) return false;
-  const GroundPoint removed = vertices_.back();
   vertices_.pop_back();
-  ScreenSegment ignored;
-  if (!vertices_.empty() && !segments_.empty() &&
-      view.ClipGroundSegment(vertices_.back(), removed, ignored)) {
+  if (!segments_.empty() && segments_.back().end_vertex == vertices_.size()) {
     Flip(surfaces, {&segments_.back(), 1});
     segments_.pop_back();
   }
@@ -41,23 +43,29 @@ bool TracedLine::RemoveLast(const Surfaces& surfaces, const CViewState& view) {
 }
 
 void TracedLine::End(const Surfaces& surfaces) {
-  Flip(surfaces, segments_);
+  Flip(surfaces);
   segments_.clear();
   vertices_.clear();
 }
 
 void TracedLine::Redraw(CDC& buffer, const CViewState& view) {
   segments_.clear();
-  for (std::size_t i = 1; i < vertices_.size(); ++i) {
-    ScreenSegment segment;
-    if (view.ClipGroundSegment(vertices_[i - 1], vertices_[i], segment)) {
-      segments_.push_back(segment);
-    }
+  const std::span<const GroundPoint> vertices(vertices_);
+  for (std::size_t count = 2; count <= vertices.size(); ++count) {
+    if (const auto drawn = SegmentTo(view, vertices.first(count))) segments_.push_back(*drawn);
   }
   FlipOn(buffer, segments_);
 }
 
-void TracedLine::Flip(const Surfaces& surfaces, std::span<const ScreenSegment> segments) {
+void TracedLine::FlipOn(CDC& dc, std::span<const Drawn> segments) {
+  const XorDrawing drawing(dc, PS_SOLID, 1, kCyan);
+  for (const auto& [segment, end_vertex] : segments) {
+    dc.MoveTo(segment.start.x, segment.start.y);
+    dc.LineTo(segment.end.x, segment.end.y);
+  }
+}
+
+void TracedLine::Flip(const Surfaces& surfaces, std::span<const Drawn> segments) {
   if (segments.empty() || !surfaces.window.m_hWnd) return;
   {
     ClientSurface screen(surfaces.window);

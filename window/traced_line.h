@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include <cstddef>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -21,10 +23,11 @@ class TracedLine {
     CDC& buffer;
   };
 
-  void Add(const Surfaces& surfaces, const CViewState& view, GroundPoint vertex);
+  // Where the window shows something else than the plan, the new vertex is only remembered.
+  void Add(const Surfaces& surfaces, const CViewState& view, GroundPoint vertex, bool plan_shown);
 
-  // Takes the last vertex back. False when there is none.
-  bool RemoveLast(const Surfaces& surfaces, const CViewState& view);
+  // Takes the last vertex back, and the segment to it where it was drawn. False when there is none.
+  bool RemoveLast(const Surfaces& surfaces);
 
   // Takes every segment off and forgets the vertices.
   void End(const Surfaces& surfaces);
@@ -41,10 +44,20 @@ class TracedLine {
   [[nodiscard]] std::span<const GroundPoint> Vertices() const { return vertices_; }
 
  private:
-  static void Flip(const Surfaces& surfaces, std::span<const ScreenSegment> segments);
+  // A segment as it was drawn; only those that reach the drawing area are.
+  struct Drawn {
+    ScreenSegment segment;
+    std::size_t end_vertex;
+  };
+
+  // The segment to the last vertex in the present view, if it reaches the drawing area.
+  [[nodiscard]] static std::optional<Drawn> SegmentTo(const CViewState& view,
+                                                      std::span<const GroundPoint> vertices);
+  static void FlipOn(CDC& dc, std::span<const Drawn> segments);
+  static void Flip(const Surfaces& surfaces, std::span<const Drawn> segments);
 
   std::vector<GroundPoint> vertices_;
-  std::vector<ScreenSegment> segments_;  // those that reach the drawing area, in vertex order
+  std::vector<Drawn> segments_;  // in vertex order
 };
 
 }  // namespace tavix

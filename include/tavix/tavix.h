@@ -3,9 +3,8 @@
 // Conventions of every call in this header:
 //
 //  1. The library keeps five plot instances, 0 to 4. One of them is current (at first 0); every
-//  call
-//     but Tavix_SetIdx and Tavix_GetIdx works on the current instance only. Tavix_Del may make
-//     another instance current.
+//     call but Tavix_SetIdx and Tavix_GetIdx works on the current instance only. Tavix_Del may
+//     make another instance current.
 //  2. Ground coordinates are doubles in metres: X is north, Y is east, and X always comes first.
 //     Screen coordinates are whole pixels of the plot window's client area, origin top left, y
 //     down. A ground position becomes a pixel by truncation toward zero, not by rounding.
@@ -13,8 +12,7 @@
 //  4. A key is a number the host chooses to name a point. The point number is shown as a label and
 //     names nothing.
 //  5. A legend number names the look of a point or a line: 1 to 11 are the built-in point marks,
-//  101
-//     to 105 the built-in line styles, from 201 up the entries the host adds.
+//     101 to 105 the built-in line styles, from 201 up the entries the host adds.
 //  6. Strings are CString objects, by value on the way in, by pointer on the way out. Every pointer
 //     is the caller's: the library writes through it during the call and keeps nothing of it. No
 //     output may be null unless the call says so. A refused call leaves its outputs untouched
