@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "draw/ink_legend.h"
 #include "draw/one_bit_canvas.h"
 #include "view/truncate.h"
 
@@ -25,16 +26,6 @@ CViewState PictureView(const CViewState& window_view, const PaperFrame& frame, i
     cut = view.ZoomIn(static_cast<double>(width) / window_width);
   }
   return view;
-}
-
-// The legend with every colour but white turned to black: a one-bit bitmap would map light colours
-// to white, and then they would be lost.
-LegendTable InkLegend(LegendTable legend) {
-  constexpr std::int32_t kWhite = 0x00FFFFFF;
-  legend.ForEachStyle([](LegendStyle& style) {
-    if ((style.color & kWhite) != kWhite) style.color = 0;
-  });
-  return legend;
 }
 
 // A bar across and a one-sided arrow along north, turned with the view.

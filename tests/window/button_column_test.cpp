@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/button_face.h"
 #include "tests/support/picture_compare.h"
 #include "tests/support/plot_test.h"
 #include "tests/support/raw_canvas.h"
@@ -51,70 +52,32 @@ std::vector<Place> ShownButtons(HWND plot) {
   return shown;
 }
 
-// Draws a button's face where the button shows, and deletes the face.
-void CopyFace(HDC dc, HBITMAP face, const Place& place) {
-  const HDC source = ::CreateCompatibleDC(dc);
-  {
-    const RawSelection selection(source, face);
-    ::BitBlt(dc, kClientWidth - 20, place.top, 20, place.height, source, 0, 0, SRCCOPY);
-  }
-  ::DeleteDC(source);
-}
-
 struct Row {
   int height;
   std::vector<Place> shown;
 };
 
+// The nine main buttons from the top edge on.
+std::vector<Place> AllNine() {
+  std::vector<Place> shown;
+  for (int k = 1; k <= 9; ++k) shown.push_back({k, (k - 1) * 20, 20});
+  return shown;
+}
+
+// The first main buttons between the two that scroll.
+std::vector<Place> Scrolling(int main_buttons) {
+  std::vector<Place> shown{{0, 0, 10}};
+  for (int k = 1; k <= main_buttons; ++k) shown.push_back({k, 10 + (k - 1) * 20, 20});
+  shown.push_back({10, 10 + main_buttons * 20, 10});
+  return shown;
+}
+
 const Row kRows[] = {
-    {200,
-     {{1, 0, 20},
-      {2, 20, 20},
-      {3, 40, 20},
-      {4, 60, 20},
-      {5, 80, 20},
-      {6, 100, 20},
-      {7, 120, 20},
-      {8, 140, 20},
-      {9, 160, 20}}},
-    {180,
-     {{1, 0, 20},
-      {2, 20, 20},
-      {3, 40, 20},
-      {4, 60, 20},
-      {5, 80, 20},
-      {6, 100, 20},
-      {7, 120, 20},
-      {8, 140, 20},
-      {9, 160, 20}}},
-    {178,  // two pixels too low, and counted as fitting
-     {{1, 0, 20},
-      {2, 20, 20},
-      {3, 40, 20},
-      {4, 60, 20},
-      {5, 80, 20},
-      {6, 100, 20},
-      {7, 120, 20},
-      {8, 140, 20},
-      {9, 160, 20}}},
-    {177,
-     {{0, 0, 10},
-      {1, 10, 20},
-      {2, 30, 20},
-      {3, 50, 20},
-      {4, 70, 20},
-      {5, 90, 20},
-      {6, 110, 20},
-      {7, 130, 20},
-      {10, 150, 10}}},
-    {100, {{0, 0, 10}, {1, 10, 20}, {2, 30, 20}, {3, 50, 20}, {4, 70, 20}, {10, 90, 10}}},
-    {98, {{0, 0, 10}, {1, 10, 20}, {2, 30, 20}, {3, 50, 20}, {4, 70, 20}, {10, 90, 10}}},
-    {97, {{0, 0, 10}, {1, 10, 20}, {2, 30, 20}, {3, 50, 20}, {10, 70, 10}}},
-    {60, {{0, 0, 10}, {1, 10, 20}, {2, 30, 20}, {10, 50, 10}}},
-    {38, {{0, 0, 10}, {1, 10, 20}, {10, 30, 10}}},
-    {37, {{0, 0, 10}, {10, 10, 10}}},  // no room for a main button
-    {18, {{0, 0, 10}, {10, 10, 10}}},
-    {15, {{0, 0, 10}, {10, 10, 10}}},  // less than none: the count of places is -1
+    {200, AllNine()},    {180, AllNine()},    {178, AllNine()},  // two pixels too low, and counted
+                                                                 // as fitting
+    {177, Scrolling(7)}, {100, Scrolling(4)}, {98, Scrolling(4)}, {97, Scrolling(3)},
+    {60, Scrolling(2)},  {38, Scrolling(1)},  {37, Scrolling(0)},  // no room for a main button
+    {18, Scrolling(0)},  {15, Scrolling(0)},  // less than none: the count of places is -1
 };
 
 class ButtonColumnOf : public PlotTest, public testing::WithParamInterface<Row> {
@@ -154,13 +117,9 @@ TEST_P(ButtonColumnOf, HidesAndComesBackTheSame) {
 
 TEST_P(ButtonColumnOf, ShowsTheButtonsFacesOverThePlot) {
   ASSERT_EQ(0, Tavix_Dsp(1));
-  const HMODULE library = ::GetModuleHandleW(L"tavix.dll");
-  RawCanvas canvas(Window());
+  const RawCanvas canvas(Window());
   for (const Place& shown : GetParam().shown) {
-    const HBITMAP face =
-        ::LoadBitmapW(library, MAKEINTRESOURCEW(static_cast<WORD>(401 + 4 * shown.button)));
-    ASSERT_NE(nullptr, face) << shown.button;
-    CopyFace(canvas.Dc(), face, shown);
+    DrawFace(canvas.Dc(), 401 + 4 * shown.button, {kClientWidth - 20, shown.top});
   }
   EXPECT_EQ(0, Tavix_Drw(1));
   ::RedrawWindow(Window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);

@@ -192,6 +192,26 @@ TEST_F(PaperFrame, AFitUsesTheFrameAndTellsTheNewScale) {
   EXPECT_EQ(static_cast<int>(170 / 1.5 / 0.297), Scale());
 }
 
+TEST_F(PaperFrame, TheButtonsTellTheNewScale) {
+  ASSERT_NO_FATAL_FAILURE(MakePlot(220, 180));
+  SetA4();
+  Enter(1, {0, 0}, 1);
+  Enter(2, {100, 50}, 1);
+  const struct {
+    WPARAM button;
+    double pixels_per_metre;     // afterwards
+  } rows[] = {{417, 1.5},        // whole: fitted into the frame, as above
+              {409, 1.5 * 1.5},  // zoom in
+              {413, 1.5},        // zoom out
+              {413, 1.0},
+              {417, 1.5}};  // whole: back to the view that was fitted
+  for (const auto& [button, pixels_per_metre] : rows) {
+    ::SendMessageW(Window(), WM_COMMAND, button, 0);
+    EXPECT_EQ(static_cast<int>(170 / pixels_per_metre / 0.297), Scale()) << button;
+    ExpectOrigin(50 + (90 - 175) / pixels_per_metre, 25 + (49 - 110) / pixels_per_metre);
+  }
+}
+
 TEST_F(PaperFrame, LeftOffItKeepsNoHoldOnTheFit) {
   ASSERT_NO_FATAL_FAILURE(MakePlot(220, 180));
   SetA4();

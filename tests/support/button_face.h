@@ -1,0 +1,11 @@
+// The faces of the on-screen buttons as the library carries them.
+#pragma once
+
+#include <windows.h>
+
+namespace tavix::test {
+
+// Draws the library's bitmap of this number with its top left corner at `at`.
+void DrawFace(HDC dc, int bitmap, POINT at);
+
+}  // namespace tavix::test
