@@ -1,8 +1,8 @@
 #include <tavix/tavix.h>
 
 #include "tests/support/picture_compare.h"
-#include "tests/support/plot_test.h"
 #include "tests/support/raw_canvas.h"
+#include "tests/window/overlays/overlay_test.h"
 #include "tests/window/overlays/raw_overlays.h"
 
 namespace tavix::test {
@@ -10,21 +10,11 @@ namespace {
 
 constexpr COLORREF kCyan = 0xFFFF00;
 
-class TracedLine : public PlotTest {
+class TracedLine : public OverlayTest {
  protected:
   static void AddPixel(POINT at) {
     const Ground ground = GroundAt(at);
     EXPECT_EQ(0, Tavix_VoAdd(ground.x, ground.y));
-  }
-
-  // The view an instance begins with, of a window that shows it.
-  static void ResetView() {
-    Tavix_Dsp(1);
-    Tavix_Dsp3D(0);
-    Tavix_SetAng(0);
-    Tavix_SetTatYok(1, 1);
-    Tavix_Zom(-80, -100, 80, 100);
-    Shown();
   }
 
   static int Count() {
@@ -159,65 +149,28 @@ TEST_F(TracedLine, StartsAfreshAlsoWhenNothingShows) {
 
 TEST_F(TracedLine, LeavesNoTraceWhateverHappensBetween) {
   ASSERT_NO_FATAL_FAILURE(MakePlot(200, 160));
-  const PointLegend look{.kind = 8, .size = 30, .color = RGB(0, 0, 200)};
-  Enter(1, {0, 0}, AddLegend(look));
-  Redrawn();
-  HWND cover = nullptr;
-  const struct {
-    const char* what;
-    std::function<void()> happens;
-  } rows[] = {
-      {"nothing", [] {}},
-      {"pan", [] { Tavix_Pan(5, 7); }},
-      {"pan and paint", [] { Tavix_Pan(0, 0), Shown(); }},
-      {"zoom", [] { Tavix_Zom(-30, -40, 30, 40); }},
-      {"zoom and paint", [] { Tavix_Zom(-80, -100, 80, 100), Shown(); }},
-      {"redraw", [] { Tavix_Drw(1); }},
-      {"fit", [] { Tavix_Drw(0), Shown(); }},
-      {"hide", [] { Tavix_Dsp(0); }},
-      {"show", [] { Tavix_Dsp(1); }},
-      {"paint a part",
-       [] {
-         const RECT part{50, 40, 80, 75};
-         ::InvalidateRect(Window(), &part, TRUE);
-       }},
-      {"cover",
-       [&] {
-         RECT place{60, 50, 100, 90};
-         ::MapWindowPoints(Window(), host_.Window(), reinterpret_cast<POINT*>(&place), 2);
-         cover = host_.AddControl(77, place);
-         ::SetWindowPos(cover, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-         ::UpdateWindow(cover);
-       }},
-      {"turn", [] { Tavix_SetAng(2); }},
-      {"exaggerate", [] { Tavix_SetTatYok(3, 1); }},
-      {"a new point under it",
-       [&] {
-         Tavix_DrwFlg(1);
-         Tavix_EntPnt(2, 0, CString(), GroundAt({75, 60}).x, GroundAt({75, 60}).y);
-       }},
-      {"side view", [] { Tavix_Dsp3D(1), Redrawn(); }},
-      {"side view and back",
-       [] {
-         Tavix_Dsp3D(1), Redrawn();
-         Tavix_Dsp3D(0), Redrawn();
-       }},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.what);
-    ResetView();
-    Tavix_VoStt();
-    for (const POINT at : {POINT{20, 30}, POINT{120, 90}, POINT{30, 140}}) AddPixel(at);
-    row.happens();
-    Tavix_VoDel();
-    AddPixel({180, 20});
-    Tavix_VoEnd();
-    if (::IsWindow(cover)) ::DestroyWindow(cover);
-    Tavix_Dsp(1);
-    ::UpdateWindow(host_.Window());
-    const Picture after = Shown();
-    EXPECT_TRUE(SamePicture(Redrawn(), after));
-  }
+  ExpectNoTrace(
+      [] {
+        Tavix_VoStt();
+        for (const POINT at : {POINT{20, 30}, POINT{120, 90}, POINT{30, 140}}) AddPixel(at);
+      },
+      [] {
+        Tavix_VoDel();
+        AddPixel({180, 20});
+        Tavix_VoEnd();
+      });
+}
+
+// The view has changed, the picture has not yet.
+TEST_F(TracedLine, VertexComesOffWhereItsSegmentWasDrawn) {
+  ASSERT_NO_FATAL_FAILURE(MakePlot(200, 160));
+  for (const POINT at : {POINT{20, 30}, POINT{120, 90}, POINT{30, 140}}) AddPixel(at);
+  Tavix_SetAng(180);
+  Tavix_SetTatYok(1, 100);
+  EXPECT_EQ(0, Tavix_VoDel());
+  EXPECT_TRUE(SamePicture(Raw({{{20, 30}, {120, 90}}}), TakeClientPicture(Window())));
+  EXPECT_EQ(0, Tavix_VoDel());
+  EXPECT_TRUE(SamePicture(Raw({}), TakeClientPicture(Window())));
 }
 
 TEST_F(TracedLine, NeedsAWindow) {
