@@ -66,15 +66,6 @@ bool GroupPicture::Build(const PlotData& data, const PaperFrame& frame, int heig
   return cut;
 }
 
-bool GroupPicture::IsInk(const PaperFrame& frame, int row, int column) const {
-  if (row < 0 || row >= height_ || column < 0 || column >= width_) return false;
-  const bool on_border = row <= 1 || row >= height_ - 2 || column <= 1 || column >= width_ - 2;
-  if (frame.IsShown() && on_border) return true;
-  const auto line = static_cast<std::size_t>(height_ - row - 1);
-  const std::uint8_t byte = bits_[line * stride_ + static_cast<std::size_t>(column) / 8];
-  return (byte >> (7 - column % 8) & 1) != 0;
-}
-
 void GroupPicture::Release() {
   height_ = 0;
   width_ = 0;

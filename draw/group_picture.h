@@ -22,11 +22,20 @@ class GroupPicture {
 
   // Whether the pixel is ink; rows count from the top. Pixels outside of the picture are not. While
   // the frame's outline shows, the two outermost rows and columns are always ink.
-  [[nodiscard]] bool IsInk(const PaperFrame& frame, int row, int column) const;
+  [[nodiscard]] bool IsInk(const PaperFrame& frame, int row, int column) const {
+    if (row < 0 || row >= height_ || column < 0 || column >= width_) return false;
+    if (frame.IsShown() && IsOnBorder(row, column)) return true;
+    const auto line = static_cast<std::size_t>(height_ - row - 1);
+    const std::uint8_t byte = bits_[line * stride_ + static_cast<std::size_t>(column) / 8];
+    return (byte >> (7 - column % 8) & 1) != 0;
+  }
 
   void Release();
 
  private:
+  [[nodiscard]] bool IsOnBorder(int row, int column) const {
+    return row <= 1 || row >= height_ - 2 || column <= 1 || column >= width_ - 2;
+  }
   [[nodiscard]] bool HasInk(const PaperFrame& frame, int first_row, int first_column) const;
   [[nodiscard]] ScreenPoint FindFreeCorner(const PaperFrame& frame) const;
 
