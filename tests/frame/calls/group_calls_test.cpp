@@ -41,6 +41,20 @@ TEST_F(GroupCalls, TellInkFromPaperUntilTheEnd) {
   }
 }
 
+TEST_F(GroupCalls, NeedTheWindowOfTheInstance) {
+  ASSERT_EQ(0, Tavix_GrpStt(180, 240));
+  Tavix_SetIdx(1);
+  ASSERT_EQ(0, Tavix_Crt());
+  int ink = 7;
+  EXPECT_EQ(-1, Tavix_GrpStt(180, 240));
+  EXPECT_EQ(-1, Tavix_GrpGet(90, 20, &ink));
+  EXPECT_EQ(7, ink);
+  EXPECT_EQ(-1, Tavix_GrpEnd());
+  Tavix_SetIdx(0);
+  EXPECT_EQ(0, Tavix_GrpGet(90, 20, &ink));
+  EXPECT_EQ(1, ink) << "the other instance's picture stays";
+}
+
 TEST_F(GroupCalls, OfASizeBeyondAllMemoryHoldNoPicture) {
   constexpr int kMost = std::numeric_limits<int>::max();
   ASSERT_EQ(0, Tavix_GrpStt(180, 240));
