@@ -54,6 +54,8 @@ def plan():
     steps = Steps()
     steps.check("checking the layout of the sources", [ROOT / "scripts/format.sh", "--check"])
     steps.check("checking who includes whom", [ROOT / "scripts/check_includes.py"])
+    title = "checking that a test asks for every exported call"
+    steps.check(title, [ROOT / "scripts/check_call_tests.py"])
     steps.count("testing the scripts", lambda: count_script_tests(ROOT / "tests/scripts"))
     plan_build(steps, "native")
     steps.count("testing native", lambda: run_programs("native", JOBS))

@@ -249,8 +249,8 @@ TAVIX_CALL int Tavix_ClrEntLin(void);
 
 // Keeps a text for a point key (16 bits of it, as lines do); the point need not exist. An empty
 // text removes the memo of a key that has one, and is kept as an empty memo for a key that has
-// none. Returns 0, -1 it could not be added or written, -2 the memo database cannot be opened, -3
-// it could not be read or deleted.
+// none. Returns 0, -1 it could not be added or written, as when the memo database cannot be opened,
+// -3 it could not be read or deleted.
 TAVIX_CALL int Tavix_EntPntMem(int key, CString memo);
 
 // Writes the memo of a key; empty when there is none, whatever the reason. Always returns 0.

@@ -3,10 +3,10 @@
 
 namespace tavix::test {
 
-// Calls an exported call that takes a BYTE with all of `flag` in the register.
-template <class Function>
-int CallWithWholeFlag(Function* call, int flag) {
-  return reinterpret_cast<int (*)(int)>(reinterpret_cast<void*>(call))(flag);
+// Calls an exported call that takes a BYTE first, with all of `flag` in the register, and `rest`.
+template <class Function, class... Rest>
+int CallWithWholeFlag(Function* call, int flag, Rest... rest) {
+  return reinterpret_cast<int (*)(int, Rest...)>(reinterpret_cast<void*>(call))(flag, rest...);
 }
 
 }  // namespace tavix::test

@@ -32,13 +32,18 @@ CreationHook::~CreationHook() {
 }
 
 LRESULT CALLBACK CreationHook::OnHook(int code, WPARAM wParam, LPARAM lParam) {
+  CWnd* bound = nullptr;
   if (code == HCBT_CREATEWND && innermost && innermost->object_) {
     const HWND window = reinterpret_cast<HWND>(wParam);
     if (!IsInputMethodWindow(window)) {
-      CWindowBinding::Subclass(*std::exchange(innermost->object_, nullptr), window);
+      bound = std::exchange(innermost->object_, nullptr);
+      CWindowBinding::Subclass(*bound, window);
     }
   }
-  return ::CallNextHookEx(nullptr, code, wParam, lParam);
+  const LRESULT refused = ::CallNextHookEx(nullptr, code, wParam, lParam);
+  // A window that another hook refuses ends without a message.
+  if (bound && refused != 0) CWindowBinding::WindowIsGone(*bound);
+  return refused;
 }
 
 }  // namespace afx
