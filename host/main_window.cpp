@@ -1,5 +1,7 @@
 #include "host/main_window.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -44,6 +46,9 @@ ON_COMMAND(ID_SURVEY_OPEN, &CMainWindow::OnOpen)
 ON_COMMAND(ID_SURVEY_CLOSE_ALL, &CMainWindow::OnCloseAll)
 ON_COMMAND(ID_SURVEY_EXIT, &CMainWindow::OnExit)
 ON_COMMAND(ID_VIEW_WHOLE, &CMainWindow::OnWholeView)
+ON_COMMAND(ID_VIEW_PLAN, &CMainWindow::OnPlanView)
+ON_COMMAND(ID_VIEW_SIDE, &CMainWindow::OnSideView)
+ON_NOTIFY(TCN_SELCHANGE, ID_VIEW_TABS, &CMainWindow::OnViewTab)
 ON_COMMAND(ID_VIEW_BUTTONS, &CMainWindow::OnShowButtons)
 ON_COMMAND(ID_SURVEY_CAPTURE, &CMainWindow::OnCapture)
 ON_WM_SETFOCUS()
@@ -59,6 +64,7 @@ BOOL CMainWindow::CreateForUser(const std::optional<PictureSize>& size) {
     ::AdjustWindowRect(&window, kStyle, TRUE);
     rect = CRect(rect.left, rect.top, rect.left + window.Width(), rect.top + window.Height());
   }
+  has_tabs_ = true;
   return Create(WindowClass(), kTitle, kStyle, rect, nullptr, MAKEINTRESOURCEW(IDR_MAIN)) &&
          LoadAccelTable(MAKEINTRESOURCEW(IDR_MAIN));
 }
@@ -78,6 +84,7 @@ void CMainWindow::OpenFiles(std::span<const std::filesystem::path> files) {
 
 void CMainWindow::Show(const LoadedSurvey& loaded) {
   const std::size_t refused = plot_.Add(loaded.survey);
+  side_.Add(loaded.survey);
   counts_ += CountsOf(loaded);
   counts_.points -= refused;
   ShowSummary();
@@ -93,12 +100,14 @@ BOOL CMainWindow::OnCommand(WPARAM wParam, LPARAM lParam) {
     ShowCapture();
     return TRUE;
   }
+  ShowViewFor(LOWORD(wParam));
   return CFrameWnd::OnCommand(wParam, lParam);
 }
 
 int CMainWindow::OnCreate(CREATESTRUCTW* create) {
   constexpr int kRefused = -1;
   if (CFrameWnd::OnCreate(create) == kRefused || !CreateInfoLine()) return kRefused;
+  if (has_tabs_ && !tabs_.Create(*this, ID_VIEW_TABS, info_font_)) return kRefused;
   ShowSummary();
   return 0;
 }
@@ -139,7 +148,11 @@ void CMainWindow::LayOut() {
   const int info_top = std::max(0, static_cast<int>(client.bottom) - kInfoHeight);
   info_.MoveWindow(kInfoMargin, info_top + kInfoMargin, client.Width() - 2 * kInfoMargin,
                    kInfoHeight - kInfoMargin);
-  if (!plot_.Place(*this, CRect(0, 0, client.right, info_top), ID_PLOT_NOTIFY)) {
+  const int plot_top = has_tabs_ ? std::min(ViewTabs::kHeight, info_top) : 0;
+  if (has_tabs_) tabs_.MoveWindow(0, 0, client.Width(), plot_top);
+  const CRect plot(0, plot_top, client.right, info_top);
+  side_.SetPlace(*this, plot);
+  if (!plot_.Place(*this, plot, ID_PLOT_NOTIFY)) {
     info_.SetWindowText(L"The plot window could not be made.");
   }
 }
@@ -163,11 +176,21 @@ void CMainWindow::ShowCapture() {
 
 void CMainWindow::ShowSummary() { info_.SetWindowText(WideOf(Summary(counts_))); }
 
+// What the line says when the plan comes up: what a tap will do, else what is shown.
+void CMainWindow::ShowPlanInfo() {
+  if (plot_.CapturesCoordinates()) {
+    info_.SetWindowText(L"Tap a place to capture its coordinates.");
+  } else {
+    ShowSummary();
+  }
+}
+
 void CMainWindow::OnInitMenuPopup(CMenu* menu, UINT index, BOOL system_menu) {
   CFrameWnd::OnInitMenuPopup(menu, index, system_menu);
   if (!system_menu) {
     menu->CheckMenuItem(ID_VIEW_BUTTONS, plot_.ShowsButtons() ? MF_CHECKED : MF_UNCHECKED);
     menu->CheckMenuItem(ID_SURVEY_CAPTURE, plot_.CapturesCoordinates() ? MF_CHECKED : MF_UNCHECKED);
+    UpdateViewMenu(*menu);
   }
 }
 
@@ -177,32 +200,26 @@ void CMainWindow::OnOpen() {
 }
 
 void CMainWindow::OnCloseAll() {
+  ShowView(PlotView::kPlan);
   plot_.Clear();
+  side_.Clear();
   counts_ = {};
   ShowSummary();
 }
 
 void CMainWindow::OnExit() { SendMessage(WM_CLOSE); }
 
-void CMainWindow::OnWholeView() { plot_.ShowWholeView(); }
-
 void CMainWindow::OnCapture() {
   plot_.CaptureCoordinates(!plot_.CapturesCoordinates(), ID_PLOT_CAPTURE);
-  if (plot_.CapturesCoordinates()) {
-    info_.SetWindowText(L"Tap a place to capture its coordinates.");
-  } else {
-    ShowSummary();
-  }
+  ShowPlanInfo();
 }
 
-void CMainWindow::OnSetFocus(CWnd*) { plot_.TakeFocus(); }
+void CMainWindow::OnSetFocus(CWnd*) { TakeFocus(); }
 
 // A tap on the plot brings the keyboard back to it.
 LRESULT CMainWindow::OnParentNotify(WPARAM wParam, LPARAM) {
-  if (LOWORD(wParam) == WM_LBUTTONDOWN) plot_.TakeFocus();
+  if (LOWORD(wParam) == WM_LBUTTONDOWN) TakeFocus();
   return Default();
 }
-
-void CMainWindow::OnShowButtons() { plot_.ShowButtons(!plot_.ShowsButtons()); }
 
 }  // namespace fieldhost

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <cstddef>
-#include <vector>
 
+#include "host/point_legends.h"
 #include "host/readers/survey.h"
 
 namespace fieldhost {
@@ -24,7 +24,7 @@ class SurveyEntry {
  private:
   void EnterLot(const SurveyLot& lot, int first_key);
 
-  std::vector<short> legends_;  // one for each of PointLooks()
+  PointLegends legends_;
   short lot_legend_ = 0;
   int next_key_ = 1;
 };
