@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "host/memo/memo_text.h"
+#include "host/memo/point_memo.h"
 #include "host/open_dialog.h"
 #include "host/resource.h"
 #include "host/wide_text.h"
@@ -46,6 +48,8 @@ ON_COMMAND(ID_SURVEY_OPEN, &CMainWindow::OnOpen)
 ON_COMMAND(ID_SURVEY_CLOSE_ALL, &CMainWindow::OnCloseAll)
 ON_COMMAND(ID_SURVEY_EXIT, &CMainWindow::OnExit)
 ON_COMMAND(ID_VIEW_WHOLE, &CMainWindow::OnWholeView)
+ON_COMMAND(ID_SURVEY_MEMO, &CMainWindow::OnPointMemo)
+ON_STN_CLICKED(ID_INFO_LINE, &CMainWindow::OnInfoTapped)
 ON_COMMAND(ID_VIEW_PLAN, &CMainWindow::OnPlanView)
 ON_COMMAND(ID_VIEW_SIDE, &CMainWindow::OnSideView)
 ON_NOTIFY(TCN_SELCHANGE, ID_VIEW_TABS, &CMainWindow::OnViewTab)
@@ -113,7 +117,8 @@ int CMainWindow::OnCreate(CREATESTRUCTW* create) {
 }
 
 BOOL CMainWindow::CreateInfoLine() {
-  constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | SS_LEFTNOWORDWRAP | SS_NOPREFIX | SS_ENDELLIPSIS;
+  constexpr DWORD kStyle =
+      WS_CHILD | WS_VISIBLE | SS_LEFTNOWORDWRAP | SS_NOPREFIX | SS_ENDELLIPSIS | SS_NOTIFY;
   info_font_.CreateFontW(-kInfoText, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
                          OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
                          DEFAULT_PITCH | FF_DONTCARE, L"MS UI Gothic");
@@ -157,12 +162,17 @@ void CMainWindow::LayOut() {
   }
 }
 
+// A star tells of a memo even where its beginning has no room.
 void CMainWindow::ShowPoint(int key) {
+  constexpr std::size_t kMostOfMemo = 40;
   const std::optional<TappedPoint> point = PlotPane::PointOf(key);
   if (!point) return;
+  tapped_key_ = key;
+  const CString memo = MemoOf(key);
   CString text;
-  text.Format(L"%d %s  X %.3f  Y %.3f", point->number, point->name.GetString(), point->north,
-              point->east);
+  text.Format(L"%d %s%s  X %.3f  Y %.3f", point->number, point->name.GetString(),
+              memo.IsEmpty() ? L"" : L" *", point->north, point->east);
+  if (!memo.IsEmpty()) text += L"  " + WideOf(MemoBeginning(Utf8Of(memo), kMostOfMemo));
   info_.SetWindowText(text);
 }
 
@@ -176,10 +186,13 @@ void CMainWindow::ShowCapture() {
 
 void CMainWindow::ShowSummary() { info_.SetWindowText(WideOf(Summary(counts_))); }
 
-// What the line says when the plan comes up: what a tap will do, else what is shown.
+// What the line says when the plan comes up: what a tap will do, else what the last one hit, else
+// how much there is.
 void CMainWindow::ShowPlanInfo() {
   if (plot_.CapturesCoordinates()) {
     info_.SetWindowText(L"Tap a place to capture its coordinates.");
+  } else if (tapped_key_) {
+    ShowPoint(*tapped_key_);
   } else {
     ShowSummary();
   }
@@ -203,6 +216,7 @@ void CMainWindow::OnCloseAll() {
   ShowView(PlotView::kPlan);
   plot_.Clear();
   side_.Clear();
+  tapped_key_.reset();
   counts_ = {};
   ShowSummary();
 }

@@ -45,6 +45,8 @@ class CMainWindow : public CFrameWnd {
   afx_msg void OnOpen();
   afx_msg void OnCloseAll();
   afx_msg void OnExit();
+  afx_msg void OnPointMemo();
+  afx_msg void OnInfoTapped();
   afx_msg void OnWholeView();
   afx_msg void OnPlanView();
   afx_msg void OnSideView();
@@ -74,8 +76,9 @@ class CMainWindow : public CFrameWnd {
   CStatic info_;
   CSize laid_out_{0, 0};  // the client size that the children fit
   bool has_tabs_ = false;
-  bool sizing_ = false;  // the user is dragging an edge
-  SurveyCounts counts_;  // of all that is shown
+  bool sizing_ = false;            // the user is dragging an edge
+  std::optional<int> tapped_key_;  // of the point tapped last
+  SurveyCounts counts_;            // of all that is shown
 };
 
 }  // namespace fieldhost

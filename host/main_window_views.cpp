@@ -10,7 +10,7 @@ namespace fieldhost {
 namespace {
 
 // What works on the plan alone.
-constexpr UINT kPlanCommands[] = {ID_SURVEY_CAPTURE};
+constexpr UINT kPlanCommands[] = {ID_SURVEY_CAPTURE, ID_SURVEY_MEMO};
 
 }  // namespace
 
