@@ -16,6 +16,7 @@ namespace fieldhost {
 namespace {
 
 constexpr const wchar_t* kTitle = L"Field survey";
+constexpr UINT kFocusLater = WM_APP;
 constexpr int kInfoHeight = 18;  // pixels
 constexpr int kInfoText = 12;    // a handheld's width then holds number, name and coordinates
 constexpr int kInfoMargin = 3;
@@ -48,6 +49,7 @@ ON_COMMAND(ID_SURVEY_OPEN, &CMainWindow::OnOpen)
 ON_COMMAND(ID_SURVEY_CLOSE_ALL, &CMainWindow::OnCloseAll)
 ON_COMMAND(ID_SURVEY_EXIT, &CMainWindow::OnExit)
 ON_COMMAND(ID_VIEW_WHOLE, &CMainWindow::OnWholeView)
+ON_COMMAND(ID_SURVEY_EXPORT, &CMainWindow::OnExport)
 ON_COMMAND(ID_SURVEY_MEMO, &CMainWindow::OnPointMemo)
 ON_STN_CLICKED(ID_INFO_LINE, &CMainWindow::OnInfoTapped)
 ON_COMMAND(ID_VIEW_PLAN, &CMainWindow::OnPlanView)
@@ -56,6 +58,7 @@ ON_NOTIFY(TCN_SELCHANGE, ID_VIEW_TABS, &CMainWindow::OnViewTab)
 ON_COMMAND(ID_VIEW_BUTTONS, &CMainWindow::OnShowButtons)
 ON_COMMAND(ID_SURVEY_CAPTURE, &CMainWindow::OnCapture)
 ON_WM_SETFOCUS()
+ON_MESSAGE(kFocusLater, &CMainWindow::OnFocusLater)
 ON_MESSAGE(WM_PARENTNOTIFY, &CMainWindow::OnParentNotify)
 END_MESSAGE_MAP()
 
@@ -228,7 +231,16 @@ void CMainWindow::OnCapture() {
   ShowPlanInfo();
 }
 
-void CMainWindow::OnSetFocus(CWnd*) { TakeFocus(); }
+// While the plot's settings close, the plot cannot take the keyboard yet: it is asked again later.
+void CMainWindow::OnSetFocus(CWnd*) {
+  TakeFocus();
+  if (GetFocus() == this) PostMessage(kFocusLater);
+}
+
+LRESULT CMainWindow::OnFocusLater(WPARAM, LPARAM) {
+  if (GetFocus() == this) TakeFocus();
+  return 0;
+}
 
 // A tap on the plot brings the keyboard back to it.
 LRESULT CMainWindow::OnParentNotify(WPARAM wParam, LPARAM) {

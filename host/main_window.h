@@ -45,6 +45,7 @@ class CMainWindow : public CFrameWnd {
   afx_msg void OnOpen();
   afx_msg void OnCloseAll();
   afx_msg void OnExit();
+  afx_msg void OnExport();
   afx_msg void OnPointMemo();
   afx_msg void OnInfoTapped();
   afx_msg void OnWholeView();
@@ -54,6 +55,7 @@ class CMainWindow : public CFrameWnd {
   afx_msg void OnShowButtons();
   afx_msg void OnCapture();
   afx_msg void OnSetFocus(CWnd* old);
+  afx_msg LRESULT OnFocusLater(WPARAM wParam, LPARAM lParam);
   afx_msg LRESULT OnParentNotify(WPARAM wParam, LPARAM lParam);
   DECLARE_MESSAGE_MAP()
 

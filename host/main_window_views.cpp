@@ -10,7 +10,7 @@ namespace fieldhost {
 namespace {
 
 // What works on the plan alone.
-constexpr UINT kPlanCommands[] = {ID_SURVEY_CAPTURE, ID_SURVEY_MEMO};
+constexpr UINT kPlanCommands[] = {ID_SURVEY_CAPTURE, ID_SURVEY_MEMO, ID_SURVEY_EXPORT};
 
 }  // namespace
 
@@ -24,8 +24,8 @@ bool CMainWindow::ShowView(PlotView view) {
     return shown;
   }
   if (side_.IsShown()) {
-    plot_.Show(true);
     side_.Hide();
+    plot_.Show(true);
     ShowPlanInfo();
   }
   tabs_.Select(PlotView::kPlan);

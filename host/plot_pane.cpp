@@ -30,7 +30,6 @@ bool PlotPane::Place(CWnd& parent, const CRect& rect, UINT notify_id) {
   }
   Tavix_SetBtn(shows_buttons_ ? kOn : kOff);
   if (captures_) Tavix_CrdStt(static_cast<int>(capture_id_));  // the mode was the old window's
-  Tavix_Drw(kKeepView);
   Show(shown_);
   return true;
 }
@@ -50,6 +49,7 @@ void PlotPane::Clear() {
 
 void PlotPane::Show(bool show) {
   shown_ = show;
+  if (show) Tavix_Drw(kKeepView);
   Tavix_Dsp(show ? kOn : kOff);
 }
 

@@ -40,7 +40,7 @@ class PlotPane {
   std::size_t Add(const Survey& survey);
 
   void Clear();
-  // Shows or hides the plot window; the view, marks and modes stay.
+  // Shows the plot window, drawn anew, or hides it; the view, marks and modes stay.
   void Show(bool show);
   void ShowWholeView();
   void ShowButtons(bool show);

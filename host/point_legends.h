@@ -1,21 +1,20 @@
 // The looks of points as legends of a plot instance.
+//
+// They take the place of built-in legends, which have titles in the settings and are saved: what
+// the user changes there is still so the next time.
 #pragma once
 
 #include <string_view>
-#include <vector>
 
 namespace fieldhost {
 
-class PointLegends {
- public:
-  // Adds a legend for each look to the current instance, which must exist.
-  void Add();
+// Gives the current instance a legend for each look, but where the user has changed one.
+void PreparePointLegends();
 
-  // Selects the legend for points of this kind in the current instance, the one of Add.
-  void Select(std::string_view kind) const;
+// Selects the legend for points of this kind in the current instance.
+void SelectPointLegend(std::string_view kind);
 
- private:
-  std::vector<short> numbers_;  // one for each of PointLooks()
-};
+// Gives the current instance the looks that another slot's has now.
+void CopyPointLegends(int from_slot);
 
 }  // namespace fieldhost

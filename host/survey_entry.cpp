@@ -4,6 +4,7 @@
 
 #include <limits>
 
+#include "host/point_legends.h"
 #include "host/wide_text.h"
 
 namespace fieldhost {
@@ -17,7 +18,7 @@ bool CanEndALine(int key) { return key <= std::numeric_limits<short>::max(); }
 }  // namespace
 
 void SurveyEntry::AddLegends() {
-  legends_.Add();
+  PreparePointLegends();
   Tavix_AddLinHan(kSolidLine, 0, 0, 0, 1, static_cast<int>(RGB(0, 96, 0)), &lot_legend_);
 }
 
@@ -25,7 +26,7 @@ std::size_t SurveyEntry::Enter(const Survey& survey) {
   std::size_t refused = 0;
   const int first_key = next_key_;
   for (const SurveyPoint& point : survey.points) {
-    legends_.Select(point.kind);
+    SelectPointLegend(point.kind);
     if (Tavix_EntPnt(next_key_++, point.number, WideOf(point.name), point.north, point.east) != 0) {
       ++refused;
     }

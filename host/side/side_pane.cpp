@@ -6,17 +6,19 @@
 #include <optional>
 
 #include "host/current_slot.h"
+#include "host/plot_area.h"
+#include "host/point_legends.h"
 #include "host/wide_text.h"
 
 namespace fieldhost {
 namespace {
 
+constexpr int kPlanSlot = 0;
 constexpr int kSlot = 1;
 constexpr BYTE kOff = 0;
 constexpr BYTE kOn = 1;
 constexpr BYTE kFitView = 0;
 constexpr BYTE kKeepView = 1;
-constexpr int kButtonColumn = 20;    // pixels
 constexpr UINT kNoNotification = 0;  // the side view reports no taps
 
 }  // namespace
@@ -24,10 +26,11 @@ constexpr UINT kNoNotification = 0;  // the side view reports no taps
 SidePane::SidePane() {
   const CurrentSlot current(kSlot);
   Tavix_Crt();
-  legends_.Add();
+  PreparePointLegends();
 }
 
 SidePane::~SidePane() {
+  if (shown_) KeepLook();
   const CurrentSlot current(kSlot);
   Tavix_Del();
 }
@@ -44,7 +47,7 @@ void SidePane::Add(const Survey& survey) {
   for (const SurveyPoint& point : survey.points) {
     const int key = next_key_++;
     if (!point.height) continue;
-    legends_.Select(point.kind);
+    SelectPointLegend(point.kind);
     Tavix_EntPnt3(key, point.number, WideOf(point.name), point.north, point.east, *point.height);
   }
   heights_.Include(survey);
@@ -63,6 +66,7 @@ void SidePane::Clear() {
 bool SidePane::Show() {
   const CurrentSlot current(kSlot);
   if (needs_window_ && !MakeWindow()) return false;
+  if (!shown_) CopyPointLegends(kPlanSlot);
   if (needs_fit_) {
     Fit();
   } else {
@@ -89,7 +93,13 @@ bool SidePane::MakeWindow() {
   return true;
 }
 
+void SidePane::KeepLook() {
+  const CurrentSlot plan(kPlanSlot);
+  CopyPointLegends(kSlot);
+}
+
 void SidePane::Hide() {
+  KeepLook();
   const CurrentSlot current(kSlot);
   Tavix_Dsp(kOff);
   shown_ = false;
@@ -104,10 +114,8 @@ void SidePane::ShowWholeView() {
 // the window.
 void SidePane::Fit() {
   Tavix_Drw(kFitView);
-  CRect client;
-  Tavix_Wnd()->GetClientRect(&client);
-  SideWindow window{client.Width() - (shows_buttons_ ? kButtonColumn : 0), client.Height(), 0,
-                    std::floor(heights_.lowest)};
+  const PictureSize area = PlotArea(*Tavix_Wnd(), shows_buttons_);
+  SideWindow window{area.width, area.height, 0, std::floor(heights_.lowest)};
   Tavix_GetAng(&window.degrees);
   if (const std::optional<GroundSquare> square = FitSideView(Points(), window)) {
     const double half = square->side / 2;

@@ -6,7 +6,6 @@
 
 #include <vector>
 
-#include "host/point_legends.h"
 #include "host/readers/survey.h"
 #include "host/side/height_range.h"
 #include "host/side/side_fit.h"
@@ -32,8 +31,9 @@ class SidePane {
   void Clear();
   [[nodiscard]] const HeightRange& Heights() const { return heights_; }
 
-  // Shows the view: all points at first and after a change of the data, else as it was left.
-  // False when the window could not be made.
+  // Shows the view: all points at first and after a change of the data, else as it was left. The
+  // points look as in the plan; after Hide the plan's look as here, should the user have changed
+  // it. False when the window could not be made.
   bool Show();
   void Hide();
   [[nodiscard]] bool IsShown() const { return shown_; }
@@ -45,11 +45,11 @@ class SidePane {
  private:
   bool MakeWindow();
   void Fit();
+  void KeepLook();
   [[nodiscard]] std::vector<HighPoint> Points() const;
 
   CWnd* parent_ = nullptr;
   CRect place_;
-  PointLegends legends_;
   HeightRange heights_;
   int next_key_ = 1;
   bool shown_ = false;
