@@ -1,33 +1,43 @@
 #include "host/command_line.h"
 
-#include <charconv>
+#include <algorithm>
 #include <cstddef>
-#include <system_error>
+#include <iterator>
+
+#include "host/one_bit/one_bit_format.h"
 
 namespace fieldhost {
 namespace {
 
-std::optional<int> Side(std::string_view text) {
-  int side = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), side);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  if (side < PictureSize::kSmallest || side > PictureSize::kLargest) return std::nullopt;
-  return side;
-}
-
-std::optional<PictureSize> SizeOf(std::string_view text) {
-  const std::size_t x = text.find('x');
-  if (x == std::string_view::npos) return std::nullopt;
-  const std::optional<int> width = Side(text.substr(0, x));
-  const std::optional<int> height = Side(text.substr(x + 1));
-  if (!width || !height) return std::nullopt;
-  return PictureSize{*width, *height};
-}
+constexpr std::string_view kOptionsWithValue[] = {"--picture", "--one-bit", "--size"};
 
 CommandLine Refused(std::string problem) {
   CommandLine refused;
   refused.problem = std::move(problem);
   return refused;
+}
+
+// Takes the value of an option, or tells in `line` what is wrong with it.
+void TakeValue(const std::string& option, const std::string& value, CommandLine& line) {
+  if (option == "--picture") {
+    line.picture = value;
+  } else if (option == "--one-bit") {
+    line.one_bit = value;
+    if (!OneBitFormatOf(value)) {
+      line.problem = "The one-bit picture " + value + " must be named .pbm or .png.";
+    }
+  } else if (line.size = PictureSizeOf(value); !line.size) {
+    line.problem =
+        "The size " + value + " is not of the form 240x320 with sides from 100 to 8192 pixels.";
+  }
+}
+
+// What cannot be had together; empty when all can.
+std::string Conflict(const CommandLine& line) {
+  if (line.one_bit.empty()) return "";
+  if (!line.picture.empty()) return "Choose one of --picture and --one-bit.";
+  if (line.side) return "The one-bit picture is of the plan; leave out --side.";
+  return "";
 }
 
 }  // namespace
@@ -45,19 +55,20 @@ CommandLine ParseCommandLine(std::span<const std::string> arguments) {
       only_files = true;
       continue;
     }
-    if (argument != "--picture" && argument != "--size") {
+    if (argument == "--side") {
+      line.side = true;
+      continue;
+    }
+    if (std::ranges::find(kOptionsWithValue, argument) == std::end(kOptionsWithValue)) {
       return Refused("There is no option " + argument + '.');
     }
     if (++i == arguments.size() || arguments[i].empty()) {
       return Refused("The option " + argument + " lacks its value.");
     }
-    if (argument == "--picture") {
-      line.picture = arguments[i];
-    } else if (line.size = SizeOf(arguments[i]); !line.size) {
-      return Refused("The size " + arguments[i] +
-                     " is not of the form 240x320 with sides from 100 to 8192 pixels.");
-    }
+    TakeValue(argument, arguments[i], line);
+    if (!line.problem.empty()) return line;
   }
+  line.problem = Conflict(line);
   return line;
 }
 

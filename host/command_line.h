@@ -1,4 +1,4 @@
-// The host's command line: fieldhost [FILES...] [--picture FILE.png] [--size WxH]
+// The host's command line.
 #pragma once
 
 #include <optional>
@@ -7,29 +7,22 @@
 #include <string_view>
 #include <vector>
 
+#include "host/picture_size.h"
+
 namespace fieldhost {
 
 inline constexpr std::string_view kUsage =
-    "usage: fieldhost [FILES...] [--picture FILE.png] [--size WIDTHxHEIGHT]";
-
-// The client area of the main window in pixels.
-struct PictureSize {
-  static constexpr int kSmallest = 100;
-  static constexpr int kLargest = 8192;
-
-  int width = 0;
-  int height = 0;
-};
-
-// Where no size is asked for and the screen is larger.
-inline constexpr PictureSize kUsualSize{480, 600};
+    "usage: fieldhost [FILES...] [--picture FILE.png | --one-bit FILE.pbm|FILE.png]\n"
+    "                 [--side] [--size WIDTHxHEIGHT]";
 
 // Text is UTF-8.
 struct CommandLine {
   std::vector<std::string> files;
-  std::string picture;  // empty: show a window
-  std::optional<PictureSize> size;
-  std::string problem;  // what is wrong, one sentence; the rest is then worthless
+  std::string picture;              // of the window; empty: none
+  std::string one_bit;              // picture of the plan; empty: none
+  bool side = false;                // the window shows the side view
+  std::optional<PictureSize> size;  // of the picture, or of the window's client area
+  std::string problem;              // what is wrong, one sentence; the rest is then worthless
 };
 
 // `arguments` without the program's name. Behind "--" everything is a file.

@@ -47,7 +47,7 @@ class CFieldHostApp : public CWinApp {
       exit_code_ = kWrongUse;
       return FALSE;
     }
-    if (!line.picture.empty()) {
+    if (!line.picture.empty() || !line.one_bit.empty()) {
       exit_code_ = DrawPicture(line);
       return FALSE;
     }
@@ -68,6 +68,7 @@ class CFieldHostApp : public CWinApp {
     window->ShowWindow(m_nCmdShow);
     window->UpdateWindow();
     if (!line.files.empty()) window->OpenFiles(PathsOf(line.files));
+    if (line.side) window->ShowView(PlotView::kSide);
     return TRUE;
   }
 

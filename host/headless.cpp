@@ -4,7 +4,10 @@
 
 #include "host/load_report.h"
 #include "host/main_window.h"
+#include "host/one_bit/group_picture.h"
+#include "host/one_bit/one_bit_writer.h"
 #include "host/picture_writer.h"
+#include "host/plot_pane.h"
 #include "host/survey_loader.h"
 #include "host/utf8_path.h"
 
@@ -30,38 +33,80 @@ bool FitsTheScreen(const PictureSize& size) {
          size.height <= ::GetSystemMetrics(SM_CYSCREEN);
 }
 
-bool WriteWindow(const LoadedSurvey& loaded, const PictureSize& size,
-                 const std::filesystem::path& file) {
+std::string CannotWrite(const std::string& file) {
+  return "The picture " + file +
+         " cannot be written; check that its folder exists and may be written to.";
+}
+
+// What a picture's size is checked for before files are read; empty when there is nothing wrong.
+std::string SizeProblem(const CommandLine& line) {
+  const PictureSize size = line.size.value_or(kUsualSize);
+  if (!line.one_bit.empty() || FitsTheScreen(size)) return "";
+  return "A picture of " + SizeText(size.width, size.height) +
+         " pixels does not fit the screen of " +
+         SizeText(::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)) +
+         "; choose a smaller --size.";
+}
+
+// The functions below write a picture, else say what is wrong.
+
+std::string WriteWindow(const LoadedSurvey& loaded, const CommandLine& line) {
   auto* window = new CMainWindow;  // deletes itself with its window
-  if (!window->CreateForPicture(size)) return false;
+  if (!window->CreateForPicture(line.size.value_or(kUsualSize))) return CannotWrite(line.picture);
   window->Show(loaded);
-  window->ShowWindow(SW_SHOWNOACTIVATE);
-  window->RedrawWindow(nullptr, nullptr,
-                       RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-  const bool written = WritePicture(*window, file);
+  std::string problem;
+  if (line.side && !window->ShowView(PlotView::kSide)) {
+    problem = "No point has a height; leave out --side.";
+  } else {
+    window->ShowWindow(SW_SHOWNOACTIVATE);
+    window->RedrawWindow(nullptr, nullptr,
+                         RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    if (!WritePicture(*window, PathOf(line.picture))) problem = CannotWrite(line.picture);
+  }
   window->DestroyWindow();
-  return written;
+  return problem;
+}
+
+// The plot has the picture's proportions, so that what fits the one fits the other.
+std::optional<OneBitPicture> DrawPlan(CWnd& parent, const LoadedSurvey& loaded,
+                                      const PictureSize& size) {
+  constexpr int kLongestPlot = 1000;  // pixels
+  const PictureSize plot_size = Within(size, kLongestPlot);
+  CRect rect(0, 0, plot_size.width, plot_size.height);
+  ::AdjustWindowRectEx(&rect, WS_CHILD | WS_BORDER, FALSE, WS_EX_CLIENTEDGE);
+  PlotPane plot;
+  plot.ShowButtons(false);
+  if (!plot.Place(parent, rect, 0)) return std::nullopt;
+  plot.Add(loaded.survey);
+  return DrawGroupPicture(size);
+}
+
+std::string WriteOneBit(const LoadedSurvey& loaded, const CommandLine& line) {
+  auto* frame = new CFrameWnd;  // deletes itself with its window
+  if (!frame->Create(nullptr, L"", WS_POPUP)) return CannotWrite(line.one_bit);
+  const std::optional<OneBitPicture> picture =
+      DrawPlan(*frame, loaded, line.size.value_or(kUsualSize));
+  frame->DestroyWindow();
+  if (!picture) return "There is no room for so large a picture; choose a smaller --size.";
+  const std::optional<OneBitFormat> format = OneBitFormatOf(line.one_bit);
+  if (!format || !WriteOneBitPicture(*picture, *format, PathOf(line.one_bit))) {
+    return CannotWrite(line.one_bit);
+  }
+  return "";
 }
 
 }  // namespace
 
 int DrawPicture(const CommandLine& line) {
-  const PictureSize size = line.size.value_or(kUsualSize);
-  if (!FitsTheScreen(size)) {
-    return Fail("A picture of " + SizeText(size.width, size.height) +
-                " pixels does not fit the screen of " +
-                SizeText(::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)) +
-                "; choose a smaller --size.");
-  }
+  if (const std::string problem = SizeProblem(line); !problem.empty()) return Fail(problem);
 
   const LoadedSurvey loaded = LoadSurveyFiles(PathsOf(line.files));
   std::fputs(Complaints(loaded, kMostLines).c_str(), stderr);
   if (!line.files.empty() && loaded.survey.points.empty()) return kFailed;
 
-  if (!WriteWindow(loaded, size, PathOf(line.picture))) {
-    return Fail("The picture " + line.picture +
-                " cannot be written; check that its folder exists and may be written to.");
-  }
+  const std::string problem =
+      line.one_bit.empty() ? WriteWindow(loaded, line) : WriteOneBit(loaded, line);
+  if (!problem.empty()) return Fail(problem);
   std::printf("%s\n", Summary(CountsOf(loaded)).c_str());
   return loaded.refusals.empty() ? kDone : kFailed;
 }

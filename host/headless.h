@@ -5,8 +5,9 @@
 
 namespace fieldhost {
 
-// Draws the files of the command line into its picture. Prints the summary, and to the error stream
-// what went wrong. Returns the exit code: 0, or 1 when a file could not be read or written.
+// Draws the files of the command line into its picture: of the window, or one-bit. Prints the
+// summary, and to the error stream what went wrong. Returns the exit code: 0, or 1 when a file
+// could not be read or written.
 [[nodiscard]] int DrawPicture(const CommandLine& line);
 
 }  // namespace fieldhost

@@ -1,9 +1,13 @@
 #include "host/main_window.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <string>
 #include <vector>
 
+#include "host/memo/memo_text.h"
+#include "host/memo/point_memo.h"
 #include "host/open_dialog.h"
 #include "host/resource.h"
 #include "host/wide_text.h"
@@ -12,6 +16,7 @@ namespace fieldhost {
 namespace {
 
 constexpr const wchar_t* kTitle = L"Field survey";
+constexpr UINT kFocusLater = WM_APP;
 constexpr int kInfoHeight = 18;  // pixels
 constexpr int kInfoText = 12;    // a handheld's width then holds number, name and coordinates
 constexpr int kInfoMargin = 3;
@@ -44,9 +49,16 @@ ON_COMMAND(ID_SURVEY_OPEN, &CMainWindow::OnOpen)
 ON_COMMAND(ID_SURVEY_CLOSE_ALL, &CMainWindow::OnCloseAll)
 ON_COMMAND(ID_SURVEY_EXIT, &CMainWindow::OnExit)
 ON_COMMAND(ID_VIEW_WHOLE, &CMainWindow::OnWholeView)
+ON_COMMAND(ID_SURVEY_EXPORT, &CMainWindow::OnExport)
+ON_COMMAND(ID_SURVEY_MEMO, &CMainWindow::OnPointMemo)
+ON_STN_CLICKED(ID_INFO_LINE, &CMainWindow::OnInfoTapped)
+ON_COMMAND(ID_VIEW_PLAN, &CMainWindow::OnPlanView)
+ON_COMMAND(ID_VIEW_SIDE, &CMainWindow::OnSideView)
+ON_NOTIFY(TCN_SELCHANGE, ID_VIEW_TABS, &CMainWindow::OnViewTab)
 ON_COMMAND(ID_VIEW_BUTTONS, &CMainWindow::OnShowButtons)
 ON_COMMAND(ID_SURVEY_CAPTURE, &CMainWindow::OnCapture)
 ON_WM_SETFOCUS()
+ON_MESSAGE(kFocusLater, &CMainWindow::OnFocusLater)
 ON_MESSAGE(WM_PARENTNOTIFY, &CMainWindow::OnParentNotify)
 END_MESSAGE_MAP()
 
@@ -59,6 +71,7 @@ BOOL CMainWindow::CreateForUser(const std::optional<PictureSize>& size) {
     ::AdjustWindowRect(&window, kStyle, TRUE);
     rect = CRect(rect.left, rect.top, rect.left + window.Width(), rect.top + window.Height());
   }
+  has_tabs_ = true;
   return Create(WindowClass(), kTitle, kStyle, rect, nullptr, MAKEINTRESOURCEW(IDR_MAIN)) &&
          LoadAccelTable(MAKEINTRESOURCEW(IDR_MAIN));
 }
@@ -78,6 +91,7 @@ void CMainWindow::OpenFiles(std::span<const std::filesystem::path> files) {
 
 void CMainWindow::Show(const LoadedSurvey& loaded) {
   const std::size_t refused = plot_.Add(loaded.survey);
+  side_.Add(loaded.survey);
   counts_ += CountsOf(loaded);
   counts_.points -= refused;
   ShowSummary();
@@ -93,18 +107,21 @@ BOOL CMainWindow::OnCommand(WPARAM wParam, LPARAM lParam) {
     ShowCapture();
     return TRUE;
   }
+  ShowViewFor(LOWORD(wParam));
   return CFrameWnd::OnCommand(wParam, lParam);
 }
 
 int CMainWindow::OnCreate(CREATESTRUCTW* create) {
   constexpr int kRefused = -1;
   if (CFrameWnd::OnCreate(create) == kRefused || !CreateInfoLine()) return kRefused;
+  if (has_tabs_ && !tabs_.Create(*this, ID_VIEW_TABS, info_font_)) return kRefused;
   ShowSummary();
   return 0;
 }
 
 BOOL CMainWindow::CreateInfoLine() {
-  constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | SS_LEFTNOWORDWRAP | SS_NOPREFIX | SS_ENDELLIPSIS;
+  constexpr DWORD kStyle =
+      WS_CHILD | WS_VISIBLE | SS_LEFTNOWORDWRAP | SS_NOPREFIX | SS_ENDELLIPSIS | SS_NOTIFY;
   info_font_.CreateFontW(-kInfoText, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
                          OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
                          DEFAULT_PITCH | FF_DONTCARE, L"MS UI Gothic");
@@ -139,17 +156,26 @@ void CMainWindow::LayOut() {
   const int info_top = std::max(0, static_cast<int>(client.bottom) - kInfoHeight);
   info_.MoveWindow(kInfoMargin, info_top + kInfoMargin, client.Width() - 2 * kInfoMargin,
                    kInfoHeight - kInfoMargin);
-  if (!plot_.Place(*this, CRect(0, 0, client.right, info_top), ID_PLOT_NOTIFY)) {
+  const int plot_top = has_tabs_ ? std::min(ViewTabs::kHeight, info_top) : 0;
+  if (has_tabs_) tabs_.MoveWindow(0, 0, client.Width(), plot_top);
+  const CRect plot(0, plot_top, client.right, info_top);
+  side_.SetPlace(*this, plot);
+  if (!plot_.Place(*this, plot, ID_PLOT_NOTIFY)) {
     info_.SetWindowText(L"The plot window could not be made.");
   }
 }
 
+// A star tells of a memo even where its beginning has no room.
 void CMainWindow::ShowPoint(int key) {
+  constexpr std::size_t kMostOfMemo = 40;
   const std::optional<TappedPoint> point = PlotPane::PointOf(key);
   if (!point) return;
+  tapped_key_ = key;
+  const CString memo = MemoOf(key);
   CString text;
-  text.Format(L"%d %s  X %.3f  Y %.3f", point->number, point->name.GetString(), point->north,
-              point->east);
+  text.Format(L"%d %s%s  X %.3f  Y %.3f", point->number, point->name.GetString(),
+              memo.IsEmpty() ? L"" : L" *", point->north, point->east);
+  if (!memo.IsEmpty()) text += L"  " + WideOf(MemoBeginning(Utf8Of(memo), kMostOfMemo));
   info_.SetWindowText(text);
 }
 
@@ -163,11 +189,24 @@ void CMainWindow::ShowCapture() {
 
 void CMainWindow::ShowSummary() { info_.SetWindowText(WideOf(Summary(counts_))); }
 
+// What the line says when the plan comes up: what a tap will do, else what the last one hit, else
+// how much there is.
+void CMainWindow::ShowPlanInfo() {
+  if (plot_.CapturesCoordinates()) {
+    info_.SetWindowText(L"Tap a place to capture its coordinates.");
+  } else if (tapped_key_) {
+    ShowPoint(*tapped_key_);
+  } else {
+    ShowSummary();
+  }
+}
+
 void CMainWindow::OnInitMenuPopup(CMenu* menu, UINT index, BOOL system_menu) {
   CFrameWnd::OnInitMenuPopup(menu, index, system_menu);
   if (!system_menu) {
     menu->CheckMenuItem(ID_VIEW_BUTTONS, plot_.ShowsButtons() ? MF_CHECKED : MF_UNCHECKED);
     menu->CheckMenuItem(ID_SURVEY_CAPTURE, plot_.CapturesCoordinates() ? MF_CHECKED : MF_UNCHECKED);
+    UpdateViewMenu(*menu);
   }
 }
 
@@ -177,32 +216,36 @@ void CMainWindow::OnOpen() {
 }
 
 void CMainWindow::OnCloseAll() {
+  ShowView(PlotView::kPlan);
   plot_.Clear();
+  side_.Clear();
+  tapped_key_.reset();
   counts_ = {};
   ShowSummary();
 }
 
 void CMainWindow::OnExit() { SendMessage(WM_CLOSE); }
 
-void CMainWindow::OnWholeView() { plot_.ShowWholeView(); }
-
 void CMainWindow::OnCapture() {
   plot_.CaptureCoordinates(!plot_.CapturesCoordinates(), ID_PLOT_CAPTURE);
-  if (plot_.CapturesCoordinates()) {
-    info_.SetWindowText(L"Tap a place to capture its coordinates.");
-  } else {
-    ShowSummary();
-  }
+  ShowPlanInfo();
 }
 
-void CMainWindow::OnSetFocus(CWnd*) { plot_.TakeFocus(); }
+// While the plot's settings close, the plot cannot take the keyboard yet: it is asked again later.
+void CMainWindow::OnSetFocus(CWnd*) {
+  TakeFocus();
+  if (GetFocus() == this) PostMessage(kFocusLater);
+}
+
+LRESULT CMainWindow::OnFocusLater(WPARAM, LPARAM) {
+  if (GetFocus() == this) TakeFocus();
+  return 0;
+}
 
 // A tap on the plot brings the keyboard back to it.
 LRESULT CMainWindow::OnParentNotify(WPARAM wParam, LPARAM) {
-  if (LOWORD(wParam) == WM_LBUTTONDOWN) plot_.TakeFocus();
+  if (LOWORD(wParam) == WM_LBUTTONDOWN) TakeFocus();
   return Default();
 }
-
-void CMainWindow::OnShowButtons() { plot_.ShowButtons(!plot_.ShowsButtons()); }
 
 }  // namespace fieldhost

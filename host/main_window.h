@@ -1,4 +1,5 @@
-// The main window: a menu, the plot, and a line of information below it.
+// The main window: a menu, tabs for the plan and the side view, the plot, and a line of information
+// below it.
 #pragma once
 
 #include <afxwin.h>
@@ -10,6 +11,8 @@
 #include "host/command_line.h"
 #include "host/load_report.h"
 #include "host/plot_pane.h"
+#include "host/side/side_pane.h"
+#include "host/side/view_tabs.h"
 #include "host/survey_loader.h"
 
 namespace fieldhost {
@@ -28,6 +31,9 @@ class CMainWindow : public CFrameWnd {
   // Shows a survey beside those already open, and counts it in the information line.
   void Show(const LoadedSurvey& loaded);
 
+  // Turns to the plan or the side view, or tells why the side view cannot be shown: false.
+  bool ShowView(PlotView view);
+
  protected:
   BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
@@ -39,26 +45,42 @@ class CMainWindow : public CFrameWnd {
   afx_msg void OnOpen();
   afx_msg void OnCloseAll();
   afx_msg void OnExit();
+  afx_msg void OnExport();
+  afx_msg void OnPointMemo();
+  afx_msg void OnInfoTapped();
   afx_msg void OnWholeView();
+  afx_msg void OnPlanView();
+  afx_msg void OnSideView();
+  afx_msg void OnViewTab(NMHDR* header, LRESULT* result);
   afx_msg void OnShowButtons();
   afx_msg void OnCapture();
   afx_msg void OnSetFocus(CWnd* old);
+  afx_msg LRESULT OnFocusLater(WPARAM wParam, LPARAM lParam);
   afx_msg LRESULT OnParentNotify(WPARAM wParam, LPARAM lParam);
   DECLARE_MESSAGE_MAP()
 
  private:
   BOOL CreateInfoLine();
   void LayOut();
+  void ShowViewFor(UINT command);
+  void UpdateViewMenu(CMenu& menu);
+  void TakeFocus();
   void ShowPoint(int key);
   void ShowCapture();
   void ShowSummary();
+  void ShowPlanInfo();
+  void ShowHeights();
 
   PlotPane plot_;
+  SidePane side_;
+  ViewTabs tabs_;  // none in a picture
   CFont info_font_;
   CStatic info_;
   CSize laid_out_{0, 0};  // the client size that the children fit
-  bool sizing_ = false;   // the user is dragging an edge
-  SurveyCounts counts_;   // of all that is shown
+  bool has_tabs_ = false;
+  bool sizing_ = false;            // the user is dragging an edge
+  std::optional<int> tapped_key_;  // of the point tapped last
+  SurveyCounts counts_;            // of all that is shown
 };
 
 }  // namespace fieldhost

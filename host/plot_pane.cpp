@@ -30,8 +30,7 @@ bool PlotPane::Place(CWnd& parent, const CRect& rect, UINT notify_id) {
   }
   Tavix_SetBtn(shows_buttons_ ? kOn : kOff);
   if (captures_) Tavix_CrdStt(static_cast<int>(capture_id_));  // the mode was the old window's
-  Tavix_Drw(kKeepView);
-  Tavix_Dsp(kOn);
+  Show(shown_);
   return true;
 }
 
@@ -46,6 +45,12 @@ void PlotPane::Clear() {
   Tavix_DrwClr();
   entry_.StartOver();
   Tavix_Drw(kKeepView);
+}
+
+void PlotPane::Show(bool show) {
+  shown_ = show;
+  if (show) Tavix_Drw(kKeepView);
+  Tavix_Dsp(show ? kOn : kOff);
 }
 
 void PlotPane::ShowWholeView() { Tavix_Drw(kFitView); }

@@ -40,6 +40,8 @@ class PlotPane {
   std::size_t Add(const Survey& survey);
 
   void Clear();
+  // Shows the plot window, drawn anew, or hides it; the view, marks and modes stay.
+  void Show(bool show);
   void ShowWholeView();
   void ShowButtons(bool show);
   [[nodiscard]] bool ShowsButtons() const { return shows_buttons_; }
@@ -57,6 +59,7 @@ class PlotPane {
 
  private:
   SurveyEntry entry_;
+  bool shown_ = true;
   bool shows_buttons_ = true;
   bool captures_ = false;
   UINT capture_id_ = 0;

@@ -27,13 +27,13 @@ enum Look : std::size_t { kPlain, kControl, kBoundary, kRoad, kBuilding, kTree, 
 // Points that stand in rows, a name each, would cover one another with their labels; their shape is
 // what one wants to see.
 constexpr PointLook kLooks[] = {
-    {kCircle, 1, Rgb(0, 0, 0), 5, kLabel},
-    {kTriangle, 1, Rgb(200, 0, 0), 9, kLabel},
-    {kFilledCircle, 1, Rgb(0, 0, 200), 5, kLabel},
-    {kDiagonalCross, 1, Rgb(90, 90, 90), 3, kNoLabel},
-    {kSquare, 1, Rgb(130, 70, 0), 4, kNoLabel},
-    {kCircle, 1, Rgb(0, 128, 0), 9, kLabel},
-    {kUprightCross, 1, Rgb(140, 0, 140), 7, kLabel},
+    {"Other points", kCircle, 1, Rgb(0, 0, 0), 6, kLabel},
+    {"Control points", kTriangle, 1, Rgb(200, 0, 0), 10, kLabel},
+    {"Boundary points", kFilledCircle, 1, Rgb(0, 0, 200), 6, kLabel},
+    {"Roads", kDiagonalCross, 1, Rgb(90, 90, 90), 4, kNoLabel},
+    {"Buildings", kSquare, 1, Rgb(130, 70, 0), 4, kNoLabel},
+    {"Trees", kCircle, 1, Rgb(0, 128, 0), 10, kLabel},
+    {"Manholes", kUprightCross, 1, Rgb(140, 0, 140), 8, kLabel},
 };
 
 struct KindWord {

