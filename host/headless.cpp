@@ -1,6 +1,7 @@
 #include "host/headless.h"
 
 #include <cstdio>
+#include <optional>
 
 #include "host/load_report.h"
 #include "host/main_window.h"
@@ -30,17 +31,19 @@ bool FitsTheScreen(const PictureSize& size) {
          size.height <= ::GetSystemMetrics(SM_CYSCREEN);
 }
 
-bool WriteWindow(const LoadedSurvey& loaded, const PictureSize& size,
-                 const std::filesystem::path& file) {
+// What the picture shows; nothing when there is no picture.
+std::optional<SurveyCounts> WriteWindow(const LoadedSurvey& loaded, const PictureSize& size,
+                                        const std::filesystem::path& file) {
   auto* window = new CMainWindow;  // deletes itself with its window
-  if (!window->CreateForPicture(size)) return false;
+  if (!window->CreateForPicture(size)) return std::nullopt;
   window->Show(loaded);
   window->ShowWindow(SW_SHOWNOACTIVATE);
   window->RedrawWindow(nullptr, nullptr,
                        RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-  const bool written = WritePicture(*window, file);
+  std::optional<SurveyCounts> shown;
+  if (WritePicture(*window, file)) shown = window->Counts();
   window->DestroyWindow();
-  return written;
+  return shown;
 }
 
 }  // namespace
@@ -56,13 +59,14 @@ int DrawPicture(const CommandLine& line) {
 
   const LoadedSurvey loaded = LoadSurveyFiles(PathsOf(line.files));
   std::fputs(Complaints(loaded, kMostLines).c_str(), stderr);
-  if (!line.files.empty() && loaded.survey.points.empty()) return kFailed;
+  if (!line.files.empty() && !loaded.survey.HasAnythingToDraw()) return kFailed;
 
-  if (!WriteWindow(loaded, size, PathOf(line.picture))) {
+  const std::optional<SurveyCounts> shown = WriteWindow(loaded, size, PathOf(line.picture));
+  if (!shown) {
     return Fail("The picture " + line.picture +
                 " cannot be written; check that its folder exists and may be written to.");
   }
-  std::printf("%s\n", Summary(CountsOf(loaded)).c_str());
+  std::printf("%s\n", Summary(*shown).c_str());
   return loaded.refusals.empty() ? kDone : kFailed;
 }
 

@@ -27,6 +27,7 @@ class CMainWindow : public CFrameWnd {
 
   // Shows a survey beside those already open, and counts it in the information line.
   void Show(const LoadedSurvey& loaded);
+  [[nodiscard]] const SurveyCounts& Counts() const { return counts_; }
 
  protected:
   BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;

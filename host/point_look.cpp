@@ -4,10 +4,12 @@
 #include <string>
 
 #include "host/readers/field_text.h"
+#include "host/rgb.h"
 
 namespace fieldhost {
 namespace {
 
+constexpr int kDot = 1;
 constexpr int kCircle = 2;
 constexpr int kDiagonalCross = 3;
 constexpr int kUprightCross = 4;
@@ -15,14 +17,19 @@ constexpr int kTriangle = 5;
 constexpr int kSquare = 6;
 constexpr int kFilledCircle = 8;
 
-constexpr std::uint32_t Rgb(std::uint32_t red, std::uint32_t green, std::uint32_t blue) {
-  return red | green << 8U | blue << 16U;
-}
-
 constexpr int kLabel = 12;
 constexpr int kNoLabel = 0;
 
-enum Look : std::size_t { kPlain, kControl, kBoundary, kRoad, kBuilding, kTree, kManhole };
+enum Look : std::size_t {
+  kPlain,
+  kControl,
+  kBoundary,
+  kRoad,
+  kBuilding,
+  kTree,
+  kManhole,
+  kTerrain
+};
 
 // Points that stand in rows, a name each, would cover one another with their labels; their shape is
 // what one wants to see.
@@ -34,6 +41,7 @@ constexpr PointLook kLooks[] = {
     {kSquare, 1, Rgb(130, 70, 0), 4, kNoLabel},
     {kCircle, 1, Rgb(0, 128, 0), 9, kLabel},
     {kUprightCross, 1, Rgb(140, 0, 140), 7, kLabel},
+    {kDot, 1, Rgb(150, 90, 40), 1, kNoLabel},
 };
 
 struct KindWord {
@@ -46,6 +54,7 @@ constexpr KindWord kWords[] = {
     {"control", kControl}, {"境界", kBoundary},  {"筆界", kBoundary},      {"boundary", kBoundary},
     {"道路", kRoad},       {"road", kRoad},      {"建物", kBuilding},      {"building", kBuilding},
     {"樹木", kTree},       {"tree", kTree},      {"マンホール", kManhole}, {"manhole", kManhole},
+    {"terrain", kTerrain},
 };
 
 }  // namespace
