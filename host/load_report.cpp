@@ -16,12 +16,13 @@ std::string Counted(std::size_t count, std::string_view noun) {
   return text;
 }
 
-// What there is any of, separated by commas.
-std::string Listed(std::initializer_list<std::pair<std::size_t, std::string_view>> counts) {
+// What there is any of.
+std::string Listed(std::initializer_list<std::pair<std::size_t, std::string_view>> counts,
+                   std::string_view between) {
   std::string text;
   for (const auto& [count, noun] : counts) {
     if (count == 0) continue;
-    if (!text.empty()) text += ", ";
+    if (!text.empty()) text += between;
     text += Counted(count, noun);
   }
   return text;
@@ -40,10 +41,11 @@ std::string Summary(const SurveyCounts& counts) {
   std::string text = Listed({{counts.points, "point"},
                              {counts.lots, "lot"},
                              {counts.polylines, "polyline"},
-                             {counts.alignment_elements, "alignment element"}});
+                             {counts.alignment_elements, "alignment element"}},
+                            ", ");
   if (text.empty()) text = Counted(0, "point");
   const std::string skipped =
-      Listed({{counts.skipped_lines, "line"}, {counts.skipped_elements, "element"}});
+      Listed({{counts.skipped_lines, "line"}, {counts.skipped_elements, "element"}}, " and ");
   return skipped.empty() ? text : text + ", " + skipped + " skipped";
 }
 
@@ -58,8 +60,9 @@ std::string Complaints(const LoadedSurvey& loaded, std::size_t most_lines) {
   const std::size_t told = std::min(most_lines, loaded.diagnostics.size());
   for (std::size_t i = 0; i < told; ++i) text += Sentence(loaded.diagnostics[i]) + '\n';
   if (told < loaded.diagnostics.size()) {
-    text += Listed({{loaded.skipped_lines, "line"}, {loaded.skipped_elements, "element"}}) +
-            " were skipped in all.\n";
+    text +=
+        Listed({{loaded.skipped_lines, "line"}, {loaded.skipped_elements, "element"}}, " and ") +
+        " were skipped in all.\n";
   }
   return text;
 }

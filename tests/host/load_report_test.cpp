@@ -17,7 +17,7 @@ TEST(Summary, CountsWhatThereIs) {
       {{2, 0, 0, 0, 1, 0}, "2 points, 1 line skipped"},
       {{0, 0, 67, 15, 0, 0}, "67 polylines, 15 alignment elements"},
       {{0, 0, 1, 0, 0, 1}, "1 polyline, 1 element skipped"},
-      {{5, 0, 0, 1, 2, 3}, "5 points, 1 alignment element, 2 lines, 3 elements skipped"},
+      {{5, 0, 0, 1, 2, 3}, "5 points, 1 alignment element, 2 lines and 3 elements skipped"},
   };
   for (const auto& row : rows) EXPECT_EQ(Summary(row.counts), row.text);
 }
@@ -71,7 +71,7 @@ TEST(Complaints, TellRefusalsAndThenTheFirstLines) {
             "b.csv, line 1: bad.\n7 lines were skipped in all.\n");
   loaded.skipped_elements = 1;
   EXPECT_EQ(Complaints(loaded, 0),
-            "a.csv is empty; export it again.\n7 lines, 1 element were skipped in all.\n");
+            "a.csv is empty; export it again.\n7 lines and 1 element were skipped in all.\n");
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ TEST(LookOf, KnowsTheFirstWordOfAFieldCode) {
   for (const auto& row : rows) EXPECT_EQ(LookOf(row.kind), LookOf(row.same_as)) << row.kind;
   EXPECT_EQ(LookOf(""), 0U);
   for (const std::string_view kind :
-       {"control", "boundary", "road", "tree", "manhole", "building"}) {
+       {"control", "boundary", "road", "tree", "manhole", "building", "terrain"}) {
     EXPECT_NE(LookOf(kind), 0U) << kind;
   }
 }
