@@ -9,7 +9,6 @@
 namespace fieldhost {
 namespace {
 
-constexpr int kDot = 1;
 constexpr int kCircle = 2;
 constexpr int kDiagonalCross = 3;
 constexpr int kUprightCross = 4;
@@ -32,7 +31,8 @@ enum Look : std::size_t {
 };
 
 // Points that stand in rows, a name each, would cover one another with their labels; their shape is
-// what one wants to see.
+// what one wants to see. Points are drawn over lines: the thousands of a terrain take a pixel each,
+// by a cross of that size, for the mark called a dot shows nothing.
 constexpr PointLook kLooks[] = {
     {kCircle, 1, Rgb(0, 0, 0), 5, kLabel},
     {kTriangle, 1, Rgb(200, 0, 0), 9, kLabel},
@@ -41,7 +41,7 @@ constexpr PointLook kLooks[] = {
     {kSquare, 1, Rgb(130, 70, 0), 4, kNoLabel},
     {kCircle, 1, Rgb(0, 128, 0), 9, kLabel},
     {kUprightCross, 1, Rgb(140, 0, 140), 7, kLabel},
-    {kDot, 1, Rgb(150, 90, 40), 1, kNoLabel},
+    {kUprightCross, 1, Rgb(190, 140, 90), 1, kNoLabel},
 };
 
 struct KindWord {

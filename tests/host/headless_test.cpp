@@ -114,6 +114,17 @@ TEST_F(Headless, DrawsTheSampleDesign) {
   EXPECT_GT(Count(image, 0x965A28), 200);
 }
 
+// A cross of one pixel: the mark called a dot shows nothing.
+TEST_F(Headless, DrawsTerrainPointsSmallAndWithoutLabels) {
+  HostProcess host(folder_, {Write(L"ground.xml",
+                                   "<LandXML><DataPoints><PntList3D>0 0 1 10 10 1 30 5 2"
+                                   "</PntList3D></DataPoints></LandXML>"),
+                             L"--picture", In(L"p.png"), L"--size", L"300x320"});
+  ASSERT_EQ(host.Wait(), 0) << host.Errors();
+  EXPECT_EQ(host.Output(), "3 points\n");
+  EXPECT_EQ(Count(DecodePicture(In(L"p.png")), 0xBE8C5A), 3);
+}
+
 // A file without a single point is shown, its lines fill the view, and an arc of three quarters of
 // a circle is drawn the way it turns: the quarter that is not on it stays empty.
 TEST_F(Headless, FitsTheViewToAnAlignmentAndDrawsALongArcRight) {
