@@ -1,6 +1,7 @@
 #include "host/headless.h"
 
 #include <cstdio>
+#include <optional>
 
 #include "host/load_report.h"
 #include "host/main_window.h"
@@ -48,51 +49,63 @@ std::string SizeProblem(const CommandLine& line) {
          "; choose a smaller --size.";
 }
 
-// The functions below write a picture, else say what is wrong.
+// What came of writing a picture.
+struct Written {
+  std::string problem;  // empty when all went well
+  SurveyCounts shown;
+};
 
-std::string WriteWindow(const LoadedSurvey& loaded, const CommandLine& line) {
+Written WriteWindow(const LoadedSurvey& loaded, const CommandLine& line) {
   auto* window = new CMainWindow;  // deletes itself with its window
-  if (!window->CreateForPicture(line.size.value_or(kUsualSize))) return CannotWrite(line.picture);
+  if (!window->CreateForPicture(line.size.value_or(kUsualSize))) {
+    return {CannotWrite(line.picture), {}};
+  }
   window->Show(loaded);
-  std::string problem;
+  Written written{"", window->Counts()};
   if (line.side && !window->ShowView(PlotView::kSide)) {
-    problem = "No point has a height; leave out --side.";
+    written.problem = "No point has a height; leave out --side.";
   } else {
     window->ShowWindow(SW_SHOWNOACTIVATE);
     window->RedrawWindow(nullptr, nullptr,
                          RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    if (!WritePicture(*window, PathOf(line.picture))) problem = CannotWrite(line.picture);
+    if (!WritePicture(*window, PathOf(line.picture))) written.problem = CannotWrite(line.picture);
   }
   window->DestroyWindow();
-  return problem;
+  return written;
 }
 
+struct DrawnPlan {
+  std::optional<OneBitPicture> picture;
+  SurveyCounts shown;
+};
+
 // The plot has the picture's proportions, so that what fits the one fits the other.
-std::optional<OneBitPicture> DrawPlan(CWnd& parent, const LoadedSurvey& loaded,
-                                      const PictureSize& size) {
+DrawnPlan DrawPlan(CWnd& parent, const LoadedSurvey& loaded, const PictureSize& size) {
   constexpr int kLongestPlot = 1000;  // pixels
   const PictureSize plot_size = Within(size, kLongestPlot);
   CRect rect(0, 0, plot_size.width, plot_size.height);
   ::AdjustWindowRectEx(&rect, WS_CHILD | WS_BORDER, FALSE, WS_EX_CLIENTEDGE);
   PlotPane plot;
   plot.ShowButtons(false);
-  if (!plot.Place(parent, rect, 0)) return std::nullopt;
-  plot.Add(loaded.survey);
-  return DrawGroupPicture(size);
+  if (!plot.Place(parent, rect, 0)) return {};
+  SurveyCounts shown = CountsOf(loaded);
+  shown.TakeOut(plot.Add(loaded.survey));
+  return {DrawGroupPicture(size), shown};
 }
 
-std::string WriteOneBit(const LoadedSurvey& loaded, const CommandLine& line) {
+Written WriteOneBit(const LoadedSurvey& loaded, const CommandLine& line) {
   auto* frame = new CFrameWnd;  // deletes itself with its window
-  if (!frame->Create(nullptr, L"", WS_POPUP)) return CannotWrite(line.one_bit);
-  const std::optional<OneBitPicture> picture =
-      DrawPlan(*frame, loaded, line.size.value_or(kUsualSize));
+  if (!frame->Create(nullptr, L"", WS_POPUP)) return {CannotWrite(line.one_bit), {}};
+  const DrawnPlan plan = DrawPlan(*frame, loaded, line.size.value_or(kUsualSize));
   frame->DestroyWindow();
-  if (!picture) return "There is no room for so large a picture; choose a smaller --size.";
-  const std::optional<OneBitFormat> format = OneBitFormatOf(line.one_bit);
-  if (!format || !WriteOneBitPicture(*picture, *format, PathOf(line.one_bit))) {
-    return CannotWrite(line.one_bit);
+  if (!plan.picture) {
+    return {"There is no room for so large a picture; choose a smaller --size.", {}};
   }
-  return "";
+  const std::optional<OneBitFormat> format = OneBitFormatOf(line.one_bit);
+  if (!format || !WriteOneBitPicture(*plan.picture, *format, PathOf(line.one_bit))) {
+    return {CannotWrite(line.one_bit), {}};
+  }
+  return {"", plan.shown};
 }
 
 }  // namespace
@@ -102,12 +115,12 @@ int DrawPicture(const CommandLine& line) {
 
   const LoadedSurvey loaded = LoadSurveyFiles(PathsOf(line.files));
   std::fputs(Complaints(loaded, kMostLines).c_str(), stderr);
-  if (!line.files.empty() && loaded.survey.points.empty()) return kFailed;
+  if (!line.files.empty() && !loaded.survey.HasAnythingToDraw()) return kFailed;
 
-  const std::string problem =
+  const Written written =
       line.one_bit.empty() ? WriteWindow(loaded, line) : WriteOneBit(loaded, line);
-  if (!problem.empty()) return Fail(problem);
-  std::printf("%s\n", Summary(CountsOf(loaded)).c_str());
+  if (!written.problem.empty()) return Fail(written.problem);
+  std::printf("%s\n", Summary(written.shown).c_str());
   return loaded.refusals.empty() ? kDone : kFailed;
 }
 

@@ -84,16 +84,16 @@ BOOL CMainWindow::CreateForPicture(const PictureSize& size) {
 void CMainWindow::OpenFiles(std::span<const std::filesystem::path> files) {
   constexpr std::size_t kMostLines = 8;  // that a message box holds well
   const LoadedSurvey loaded = LoadSurveyFiles(files);
-  if (!loaded.survey.points.empty()) Show(loaded);
+  if (loaded.survey.HasAnythingToDraw()) Show(loaded);
   const std::string complaints = Complaints(loaded, kMostLines);
   if (!complaints.empty()) AfxMessageBox(WideOf(complaints), MB_OK | MB_ICONWARNING);
 }
 
 void CMainWindow::Show(const LoadedSurvey& loaded) {
-  const std::size_t refused = plot_.Add(loaded.survey);
+  const SurveyCounts refused = plot_.Add(loaded.survey);
   side_.Add(loaded.survey);
   counts_ += CountsOf(loaded);
-  counts_.points -= refused;
+  counts_.TakeOut(refused);
   ShowSummary();
 }
 

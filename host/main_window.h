@@ -30,6 +30,7 @@ class CMainWindow : public CFrameWnd {
 
   // Shows a survey beside those already open, and counts it in the information line.
   void Show(const LoadedSurvey& loaded);
+  [[nodiscard]] const SurveyCounts& Counts() const { return counts_; }
 
   // Turns to the plan or the side view, or tells why the side view cannot be shown: false.
   bool ShowView(PlotView view);

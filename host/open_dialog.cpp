@@ -6,7 +6,7 @@ namespace fieldhost {
 
 std::vector<std::filesystem::path> AskForSurveyFiles(CWnd& parent) {
   constexpr const wchar_t* kFilter =
-      L"Survey files|*.sim;*.csv;*.txt;*.asc|SIMA (*.sim)|*.sim|"
+      L"Survey files|*.xml;*.sim;*.csv;*.txt;*.asc|LandXML (*.xml)|*.xml|SIMA (*.sim)|*.sim|"
       L"Coordinate lists (*.csv, *.txt, *.asc)|*.csv;*.txt;*.asc|All files|*.*||";
   CFileDialog dialog(TRUE, nullptr, nullptr,
                      OFN_HIDEREADONLY | OFN_FILEMUSTEXIST | OFN_ALLOWMULTISELECT, kFilter, &parent);

@@ -34,9 +34,9 @@ bool PlotPane::Place(CWnd& parent, const CRect& rect, UINT notify_id) {
   return true;
 }
 
-std::size_t PlotPane::Add(const Survey& survey) {
+SurveyCounts PlotPane::Add(const Survey& survey) {
   Tavix_DrwFlg(kOff);
-  const std::size_t refused = entry_.Enter(survey);
+  const SurveyCounts refused = entry_.Enter(survey);
   Tavix_Drw(kFitView);
   return refused;
 }

@@ -3,10 +3,11 @@
 
 #include <afxwin.h>
 
-#include <cstddef>
 #include <optional>
 
+#include "host/readers/ground_position.h"
 #include "host/readers/survey.h"
+#include "host/survey_counts.h"
 #include "host/survey_entry.h"
 
 namespace fieldhost {
@@ -14,11 +15,6 @@ namespace fieldhost {
 struct TappedPoint {
   int number = 0;
   CString name;
-  double north = 0.0;  // metres
-  double east = 0.0;
-};
-
-struct GroundPosition {
   double north = 0.0;  // metres
   double east = 0.0;
 };
@@ -36,8 +32,8 @@ class PlotPane {
   // False when the window could not be made.
   bool Place(CWnd& parent, const CRect& rect, UINT notify_id);
 
-  // Adds a survey and shows all there is. Returns how many points the library refused.
-  std::size_t Add(const Survey& survey);
+  // Adds a survey and shows all there is. Returns what the library refused.
+  SurveyCounts Add(const Survey& survey);
 
   void Clear();
   // Shows the plot window, drawn anew, or hides it; the view, marks and modes stay.

@@ -14,7 +14,7 @@ namespace {
 // The library's mark of each built-in legend has the legend's own number. From this one on, none of
 // the looks has the mark that its legend has at first: a legend with the look's mark was ours
 // before and may hold what the user wants.
-constexpr std::size_t kFirstLegend = 5;
+constexpr std::size_t kFirstLegend = 4;
 
 short NumberOf(std::size_t look) { return static_cast<short>(kFirstLegend + look); }
 

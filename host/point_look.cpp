@@ -4,6 +4,7 @@
 #include <string>
 
 #include "host/readers/field_text.h"
+#include "host/rgb.h"
 
 namespace fieldhost {
 namespace {
@@ -15,25 +16,32 @@ constexpr int kTriangle = 5;
 constexpr int kSquare = 6;
 constexpr int kFilledCircle = 8;
 
-constexpr std::uint32_t Rgb(std::uint32_t red, std::uint32_t green, std::uint32_t blue) {
-  return red | green << 8U | blue << 16U;
-}
-
 constexpr int kLabel = 12;
 constexpr int kNoLabel = 0;
 
-enum Look : std::size_t { kPlain, kControl, kBoundary, kRoad, kBuilding, kTree, kManhole };
+enum Look : std::size_t {
+  kPlain,
+  kBoundary,
+  kControl,
+  kRoad,
+  kBuilding,
+  kTree,
+  kManhole,
+  kTerrain
+};
 
 // Points that stand in rows, a name each, would cover one another with their labels; their shape is
-// what one wants to see.
+// what one wants to see. Points are drawn over lines: the thousands of a terrain are small crosses,
+// the smallest mark there is, for the one called a dot shows nothing.
 constexpr PointLook kLooks[] = {
     {"Other points", kCircle, 1, Rgb(0, 0, 0), 6, kLabel},
-    {"Control points", kTriangle, 1, Rgb(200, 0, 0), 10, kLabel},
     {"Boundary points", kFilledCircle, 1, Rgb(0, 0, 200), 6, kLabel},
+    {"Control points", kTriangle, 1, Rgb(200, 0, 0), 10, kLabel},
     {"Roads", kDiagonalCross, 1, Rgb(90, 90, 90), 4, kNoLabel},
     {"Buildings", kSquare, 1, Rgb(130, 70, 0), 4, kNoLabel},
     {"Trees", kCircle, 1, Rgb(0, 128, 0), 10, kLabel},
     {"Manholes", kUprightCross, 1, Rgb(140, 0, 140), 8, kLabel},
+    {"Terrain", kUprightCross, 1, Rgb(190, 140, 90), 2, kNoLabel},
 };
 
 struct KindWord {
@@ -46,6 +54,7 @@ constexpr KindWord kWords[] = {
     {"control", kControl}, {"境界", kBoundary},  {"筆界", kBoundary},      {"boundary", kBoundary},
     {"道路", kRoad},       {"road", kRoad},      {"建物", kBuilding},      {"building", kBuilding},
     {"樹木", kTree},       {"tree", kTree},      {"マンホール", kManhole}, {"manhole", kManhole},
+    {"terrain", kTerrain},
 };
 
 }  // namespace

@@ -4,13 +4,13 @@
 
 #include <limits>
 
+#include "host/figure_entry.h"
+#include "host/line_look.h"
 #include "host/point_legends.h"
 #include "host/wide_text.h"
 
 namespace fieldhost {
 namespace {
-
-constexpr int kSolidLine = 101;
 
 // A line keeps 16 bits of a key; beyond that it would join other points.
 bool CanEndALine(int key) { return key <= std::numeric_limits<short>::max(); }
@@ -19,25 +19,38 @@ bool CanEndALine(int key) { return key <= std::numeric_limits<short>::max(); }
 
 void SurveyEntry::AddLegends() {
   PreparePointLegends();
-  Tavix_AddLinHan(kSolidLine, 0, 0, 0, 1, static_cast<int>(RGB(0, 96, 0)), &lot_legend_);
+  for (const LineLook& look : LineLooks()) {
+    Tavix_AddLinHan(look.style, look.dash, look.gap, 0, look.pen_width,
+                    static_cast<int>(look.color), &line_legends_[look.kind]);
+  }
 }
 
-std::size_t SurveyEntry::Enter(const Survey& survey) {
-  std::size_t refused = 0;
+SurveyCounts SurveyEntry::Enter(const Survey& survey) {
+  SurveyCounts refused;
   const int first_key = next_key_;
   for (const SurveyPoint& point : survey.points) {
     SelectPointLegend(point.kind);
     if (Tavix_EntPnt(next_key_++, point.number, WideOf(point.name), point.north, point.east) != 0) {
-      ++refused;
+      ++refused.points;
     }
   }
   for (const SurveyLot& lot : survey.lots) EnterLot(lot, first_key);
+  for (const SurveyLine& line : survey.lines) refused += EnterLine(line);
   return refused;
+}
+
+// Of an alignment that is refused in part, the rest is there.
+SurveyCounts SurveyEntry::EnterLine(const SurveyLine& line) {
+  const std::size_t refused = EnterFigure(line, next_figure_++, line_legends_[line.kind]);
+  if (refused == 0) return {};
+  SurveyCounts counts = CountsOf(line);
+  if (line.kind == LineKind::kAlignment) counts.alignment_elements = refused;
+  return counts;
 }
 
 // Each corner is joined to the next, and the last to the first where the lot is closed.
 void SurveyEntry::EnterLot(const SurveyLot& lot, int first_key) {
-  Tavix_SelLinHan(lot_legend_);
+  Tavix_SelLinHan(line_legends_[LineKind::kLot]);
   const std::size_t sides = lot.corners.size() - (lot.closed || lot.corners.empty() ? 0 : 1);
   for (std::size_t i = 0; i < sides; ++i) {
     const int from = first_key + static_cast<int>(lot.corners[i]);

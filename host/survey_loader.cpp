@@ -21,15 +21,15 @@ bool IsUtf16(std::string_view bytes) {
   return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
 }
 
-std::string NoPoints(const ReadLog& log) {
-  std::string problem = "holds no survey points";
+std::string Nothing(const ReadLog& log) {
+  std::string problem = "holds nothing to draw";
   if (!log.Diagnostics().empty()) {
     const Diagnostic& first = log.Diagnostics().front();
     problem += " (line " + std::to_string(first.line) + ": " + first.sentence + ")";
   }
   return problem +
-         "; choose a SIMA file (.sim) or a list of number, northing, easting, elevation and "
-         "description";
+         "; choose LandXML (.xml), SIMA (.sim) or a list of number, northing, easting, elevation "
+         "and description";
 }
 
 // Adds what the file holds to `loaded`; else says why not, as the end of a sentence.
@@ -41,10 +41,12 @@ std::string LoadFile(const std::filesystem::path& file, LoadedSurvey& loaded) {
   const std::string name = NameOf(file);
   ReadLog log(name);
   Survey survey = ReadSurvey(name, contents.bytes, log);
-  if (survey.points.empty()) return NoPoints(log);
+  if (!log.Refusal().empty()) return log.Refusal();
+  if (!survey.HasAnythingToDraw()) return Nothing(log);
 
   Append(std::move(survey), loaded.survey);
   loaded.skipped_lines += log.SkippedLines();
+  loaded.skipped_elements += log.SkippedElements();
   loaded.diagnostics.insert(loaded.diagnostics.end(), log.Diagnostics().begin(),
                             log.Diagnostics().end());
   return "";
@@ -62,7 +64,7 @@ LoadedSurvey LoadSurveyFiles(std::span<const std::filesystem::path> files) {
 }
 
 void Append(Survey addition, Survey& survey) {
-  if (survey.points.empty()) {
+  if (!survey.HasAnythingToDraw()) {
     survey = std::move(addition);
     return;
   }
@@ -73,6 +75,8 @@ void Append(Survey addition, Survey& survey) {
     for (std::size_t& corner : lot.corners) corner += before;
     survey.lots.push_back(std::move(lot));
   }
+  survey.lines.insert(survey.lines.end(), std::make_move_iterator(addition.lines.begin()),
+                      std::make_move_iterator(addition.lines.end()));
 }
 
 }  // namespace fieldhost

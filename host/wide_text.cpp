@@ -1,5 +1,7 @@
 #include "host/wide_text.h"
 
+#include "host/readers/utf8_windows.h"
+
 namespace fieldhost {
 
 CString WideOf(std::string_view utf8) {
@@ -12,12 +14,7 @@ CString WideOf(std::string_view utf8) {
 }
 
 std::string Utf8Of(const CString& text) {
-  if (text.IsEmpty()) return std::string();
-  std::string utf8(static_cast<std::size_t>(text.GetLength()) * 3, '\0');
-  const int size = ::WideCharToMultiByte(CP_UTF8, 0, text, text.GetLength(), utf8.data(),
-                                         static_cast<int>(utf8.size()), nullptr, nullptr);
-  utf8.resize(static_cast<std::size_t>(size));
-  return utf8;
+  return Utf8FromWide({text.GetString(), static_cast<std::size_t>(text.GetLength())});
 }
 
 }  // namespace fieldhost

@@ -5,7 +5,7 @@ packages=(
   cmake ninja-build g++ clang clang-tidy clang-format libclang-rt-14-dev python3
   g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix
   wine wine64 xvfb xauth x11-utils xdotool imagemagick fonts-vlgothic
-  googletest libbenchmark-dev
+  googletest libbenchmark-dev libexpat1-dev
 )
 missing=()
 for package in "${packages[@]}"; do

@@ -11,9 +11,11 @@ constexpr double kFarthest = 1e8;  // metres
 
 }  // namespace
 
+bool IsOnGround(double metres) { return std::abs(metres) <= kFarthest; }
+
 std::optional<double> GroundNumber(std::string_view field) {
   const std::optional<double> number = RealNumber(field);
-  return number && std::abs(*number) <= kFarthest ? number : std::nullopt;
+  return number && IsOnGround(*number) ? number : std::nullopt;
 }
 
 std::string NoGroundNumber(std::string_view what, std::string_view field) {

@@ -7,6 +7,9 @@
 
 namespace fieldhost {
 
+// False past 100,000 km.
+[[nodiscard]] bool IsOnGround(double metres);
+
 // A coordinate or height in metres. Nothing for text that is no number, and for numbers past
 // 100,000 km: no grid on earth reaches so far, and one such slip of a decimal point would shrink
 // the rest of the survey to a dot.

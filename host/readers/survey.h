@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "host/readers/plan_element.h"
+
 namespace fieldhost {
 
 struct SurveyPoint {
@@ -24,9 +26,31 @@ struct SurveyLot {
   std::vector<std::size_t> corners;  // indices into the survey's points, in order
 };
 
+enum class LineKind {
+  kAlignment,
+  kBreakline,
+  kFeature,   // of a plan: kerbs, fences, walls
+  kLot,       // a parcel that has its own outline in place of corners
+  kBoundary,  // of a surface
+  kContour,
+  kPipe,
+  kOther,
+};
+
+// A line that needs no points of the survey.
+struct SurveyLine {
+  std::string name;  // may be empty
+  LineKind kind = LineKind::kOther;
+  std::vector<PlanElement> elements;  // in order; at least one
+};
+
 struct Survey {
   std::vector<SurveyPoint> points;
   std::vector<SurveyLot> lots;
+  std::vector<SurveyLine> lines;
+
+  // Lots are drawn between points.
+  [[nodiscard]] bool HasAnythingToDraw() const { return !points.empty() || !lines.empty(); }
 };
 
 }  // namespace fieldhost

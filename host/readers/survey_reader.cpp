@@ -2,6 +2,7 @@
 
 #include "host/readers/coordinate_reader.h"
 #include "host/readers/field_text.h"
+#include "host/readers/landxml_reader.h"
 #include "host/readers/sima_reader.h"
 #include "host/readers/sima_record.h"
 #include "host/readers/text_lines.h"
@@ -17,6 +18,7 @@ bool IsSima(std::string_view file_name, const TextLines& lines) {
 }  // namespace
 
 Survey ReadSurvey(std::string_view file_name, std::string_view bytes, ReadLog& log) {
+  if (IsXmlFile(file_name, bytes)) return ReadLandXml(bytes, log);
   const TextLines lines(bytes, log);
   return IsSima(file_name, lines) ? ReadSima(lines, log) : ReadCoordinates(lines, log);
 }

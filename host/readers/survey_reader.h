@@ -8,8 +8,8 @@
 
 namespace fieldhost {
 
-// Reads a file's bytes. A file named *.sim, or one that begins like it, is SIMA; any other is taken
-// for a coordinate list. The survey is without points when the file is neither.
+// Reads a file's bytes. XML is LandXML; a file named *.sim, or one that begins like it, is SIMA;
+// any other is taken for a coordinate list. The survey is empty when the file is none of them.
 [[nodiscard]] Survey ReadSurvey(std::string_view file_name, std::string_view bytes, ReadLog& log);
 
 }  // namespace fieldhost

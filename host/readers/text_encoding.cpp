@@ -40,6 +40,11 @@ bool IsUtf8(std::string_view bytes) {
   return true;
 }
 
+std::string_view WithoutByteOrderMark(std::string_view bytes) {
+  if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
+  return bytes;
+}
+
 TextEncoding EncodingOf(std::string_view bytes) {
   return IsUtf8(bytes) ? TextEncoding::kUtf8 : TextEncoding::kShiftJis;
 }

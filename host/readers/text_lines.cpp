@@ -9,13 +9,6 @@
 namespace fieldhost {
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-std::string_view WithoutMark(std::string_view bytes) {
-  if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
-  return bytes;
-}
-
 // The string's own search for either of two characters makes a call for each it passes.
 std::size_t LineEnd(std::string_view bytes) {
   const auto end = std::find_if(bytes.begin(), bytes.end(),
@@ -32,7 +25,7 @@ bool IsAscii(std::string_view bytes) {
 
 TextLines::TextLines(std::string_view bytes, ReadLog& log)
     : encoding_(bytes.starts_with(kByteOrderMark) ? TextEncoding::kUtf8 : EncodingOf(bytes)) {
-  bytes = WithoutMark(bytes);
+  bytes = WithoutByteOrderMark(bytes);
   for (int number = 1; !bytes.empty(); ++number) {
     const std::size_t end = LineEnd(bytes);
     Take(number, bytes.substr(0, end), log);
@@ -63,7 +56,7 @@ void TextLines::Take(int number, std::string_view bytes, ReadLog& log) {
     }
     return;
   }
-  if (std::optional<std::string> text = Utf8FromShiftJis(bytes)) {
+  if (std::optional<std::string> text = Utf8From(CodePage::kShiftJis, bytes)) {
     lines_.push_back({number, converted_.emplace_back(std::move(*text))});
   } else {
     log.Skip(number, "the line is neither UTF-8 nor Shift-JIS text");

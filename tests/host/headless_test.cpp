@@ -80,6 +80,109 @@ TEST_F(Headless, PictureHoldsThePlotTheButtonsAndTheInformationLine) {
   EXPECT_GT(button_colours, 1000);
 }
 
+// The box around all pixels of a colour.
+struct Extent {
+  int left = 1 << 20;
+  int top = 1 << 20;
+  int right = -1;
+  int bottom = -1;
+};
+
+Extent ExtentOf(const PictureImage& image, std::uint32_t color) {
+  Extent extent;
+  for (int y = 0; y < image.height; ++y) {
+    for (int x = 0; x < image.width; ++x) {
+      if (image.At(x, y) != (0xFF000000U | color)) continue;
+      extent.left = std::min(extent.left, x);
+      extent.top = std::min(extent.top, y);
+      extent.right = std::max(extent.right, x);
+      extent.bottom = std::max(extent.bottom, y);
+    }
+  }
+  return extent;
+}
+
+constexpr std::uint32_t kAlignmentRed = 0xDC0000;
+
+TEST_F(Headless, DrawsTheSampleDesign) {
+  HostProcess host(folder_, {Sample(L"site.xml"), L"--picture", In(L"p.png")});
+  ASSERT_EQ(host.Wait(), 0) << host.Errors();
+  EXPECT_EQ(host.Output(), "1 polyline, 5 alignment elements\n");
+  EXPECT_EQ(host.Errors(), "");
+  const PictureImage image = DecodePicture(In(L"p.png"));
+  EXPECT_GT(Count(image, kAlignmentRed), 500);
+  EXPECT_GT(Count(image, 0x965A28), 200);
+}
+
+// Crosses of five pixels, the smallest mark there is: the one called a dot shows nothing.
+TEST_F(Headless, DrawsTerrainPointsSmallAndWithoutLabels) {
+  HostProcess host(folder_, {Write(L"ground.xml",
+                                   "<LandXML><DataPoints><PntList3D>0 0 1 10 10 1 30 5 2"
+                                   "</PntList3D></DataPoints></LandXML>"),
+                             L"--picture", In(L"p.png"), L"--size", L"300x320"});
+  ASSERT_EQ(host.Wait(), 0) << host.Errors();
+  EXPECT_EQ(host.Output(), "3 points\n");
+  EXPECT_EQ(Count(DecodePicture(In(L"p.png")), 0xBE8C5A), 3 * 5);
+}
+
+// A file without a single point is shown, its lines fill the view, and an arc of three quarters of
+// a circle is drawn the way it turns: the quarter that is not on it stays empty.
+TEST_F(Headless, FitsTheViewToAnAlignmentAndDrawsALongArcRight) {
+  const struct {
+    const char* rot;
+    bool north_east;  // whether the quarter between Start, north, and End, east, is drawn
+    bool south_west;
+  } rows[] = {{"cw", true, false}, {"ccw", false, true}};
+  for (const auto& row : rows) {
+    const std::string xml = "<LandXML><Alignment><CoordGeom><Curve rot=\"" + std::string(row.rot) +
+                            "\"><Start>6783010 21530000</Start><Center>6783000 21530000</Center>"
+                            "<End>6783000 21530010</End></Curve></CoordGeom></Alignment></LandXML>";
+    HostProcess host(folder_,
+                     {Write(L"arc.xml", xml), L"--picture", In(L"arc.png"), L"--size", L"320x340"});
+    ASSERT_EQ(host.Wait(), 0) << host.Errors();
+    EXPECT_EQ(host.Output(), "1 alignment element\n");
+    const PictureImage image = DecodePicture(In(L"arc.png"));
+    const Extent extent = ExtentOf(image, kAlignmentRed);
+    EXPECT_GT(extent.right - extent.left, 240) << row.rot;
+    const int width = extent.right - extent.left;
+    const int height = extent.bottom - extent.top;
+    EXPECT_NEAR(width, height, 4) << row.rot;
+    // A quarter fills its box as a whole circle does: what differs is which corner it leaves out.
+    const auto drawn = [&](bool right, bool lower) {
+      const int x_begin = right ? extent.left + width * 6 / 10 : extent.left;
+      const int y_begin = lower ? extent.top + height * 6 / 10 : extent.top;
+      int count = 0;
+      for (int y = y_begin; y < y_begin + height * 4 / 10; ++y) {
+        for (int x = x_begin; x < x_begin + width * 4 / 10; ++x) {
+          count += image.At(x, y) == (0xFF000000U | kAlignmentRed);
+        }
+      }
+      return count > 50;
+    };
+    EXPECT_EQ(drawn(true, false), row.north_east) << row.rot;
+    EXPECT_EQ(drawn(false, true), row.south_west) << row.rot;
+  }
+}
+
+TEST_F(Headless, SaysWhichElementsItSkipped) {
+  HostProcess host(folder_, {Write(L"site.xml",
+                                   "<LandXML>\n<CgPoints>\n<CgPoint name=\"1\">1 2</CgPoint>\n"
+                                   "<CgPoint name=\"2\">1</CgPoint>\n</CgPoints>\n</LandXML>\n"),
+                             L"--picture", In(L"p.png")});
+  EXPECT_EQ(host.Wait(), 0);
+  EXPECT_EQ(host.Output(), "1 point, 1 element skipped\n");
+  EXPECT_EQ(host.Errors(),
+            "site.xml, line 4: the CgPoint holds 1 numbers in place of northing, easting and "
+            "height.\n");
+}
+
+TEST_F(Headless, FailsForDamagedXml) {
+  HostProcess host(folder_, {Write(L"cut.xml", "<LandXML>\n<CgPoints>\n<CgPoint na"), L"--picture",
+                             In(L"p.png")});
+  EXPECT_EQ(host.Wait(), 1);
+  EXPECT_EQ(host.Errors(), "cut.xml is damaged XML at line 3; export or copy it again.\n");
+}
+
 TEST_F(Headless, SaysWhichLinesItSkipped) {
   HostProcess host(folder_, {Write(L"list.csv", "1,10,20,3,a\n2,x,20,3,b\n3,30,20,3,c\n"),
                              L"--picture", In(L"p.png")});

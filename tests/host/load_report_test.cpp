@@ -10,11 +10,14 @@ TEST(Summary, CountsWhatThereIs) {
     SurveyCounts counts;
     const char* text;
   } rows[] = {
-      {{610, 1, 2}, "610 points, 1 lot, 2 lines skipped"},
-      {{1, 0, 0}, "1 point"},
-      {{0, 0, 0}, "0 points"},
-      {{2, 3, 0}, "2 points, 3 lots"},
-      {{2, 0, 1}, "2 points, 1 line skipped"},
+      {{610, 1, 0, 0, 2, 0}, "610 points, 1 lot, 2 lines skipped"},
+      {{1, 0, 0, 0, 0, 0}, "1 point"},
+      {{0, 0, 0, 0, 0, 0}, "0 points"},
+      {{2, 3, 0, 0, 0, 0}, "2 points, 3 lots"},
+      {{2, 0, 0, 0, 1, 0}, "2 points, 1 line skipped"},
+      {{0, 0, 67, 15, 0, 0}, "67 polylines, 15 alignment elements"},
+      {{0, 0, 1, 0, 0, 1}, "1 polyline, 1 element skipped"},
+      {{5, 0, 0, 1, 2, 3}, "5 points, 1 alignment element, 2 lines and 3 elements skipped"},
   };
   for (const auto& row : rows) EXPECT_EQ(Summary(row.counts), row.text);
 }
@@ -24,11 +27,29 @@ TEST(SurveyCounts, AddUpOverSeveralLoads) {
   loaded.survey.points.resize(2);
   loaded.survey.lots.resize(1);
   loaded.skipped_lines = 3;
-  SurveyCounts counts{10, 20, 30};
+  loaded.skipped_elements = 4;
+  loaded.survey.lines = {{"a", LineKind::kAlignment, {{}, {}}},
+                         {"b", LineKind::kBreakline, {{}}},
+                         {"c", LineKind::kLot, {{}, {}, {}}}};
+  SurveyCounts counts{10, 20, 30, 40, 50, 60};
   counts += CountsOf(loaded);
   EXPECT_EQ(counts.points, 12U);
-  EXPECT_EQ(counts.lots, 21U);
-  EXPECT_EQ(counts.skipped_lines, 33U);
+  EXPECT_EQ(counts.lots, 22U);
+  EXPECT_EQ(counts.polylines, 31U);
+  EXPECT_EQ(counts.alignment_elements, 42U);
+  EXPECT_EQ(counts.skipped_lines, 53U);
+  EXPECT_EQ(counts.skipped_elements, 64U);
+}
+
+TEST(SurveyCounts, CountRefusedLinesAsSkipped) {
+  SurveyCounts counts{10, 20, 30, 40, 50, 60};
+  counts.TakeOut({1, 2, 3, 4, 0, 0});
+  EXPECT_EQ(counts.points, 9U);
+  EXPECT_EQ(counts.lots, 18U);
+  EXPECT_EQ(counts.polylines, 27U);
+  EXPECT_EQ(counts.alignment_elements, 36U);
+  EXPECT_EQ(counts.skipped_lines, 50U);
+  EXPECT_EQ(counts.skipped_elements, 69U);
 }
 
 TEST(Sentence, NamesFileAndLine) {
@@ -48,6 +69,9 @@ TEST(Complaints, TellRefusalsAndThenTheFirstLines) {
   EXPECT_EQ(Complaints(loaded, 1),
             "a.csv is empty; export it again.\n"
             "b.csv, line 1: bad.\n7 lines were skipped in all.\n");
+  loaded.skipped_elements = 1;
+  EXPECT_EQ(Complaints(loaded, 0),
+            "a.csv is empty; export it again.\n7 lines and 1 element were skipped in all.\n");
 }
 
 }  // namespace

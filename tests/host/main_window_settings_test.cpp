@@ -62,7 +62,7 @@ TEST_F(MainWindowSettings, ListTheKindsOfPointsAndKeepWhatTheUserChanged) {
   ASSERT_NO_FATAL_FAILURE(open());
   HWND dialog = OpenSettings();
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(Ask(dialog, kEntry, CB_GETCOUNT), 7);
+  EXPECT_EQ(Ask(dialog, kEntry, CB_GETCOUNT), 8);
   EXPECT_EQ(Ask(dialog, kMarkSize, CB_GETCURSEL), 3);
   Ask(dialog, kMarkSize, CB_SETCURSEL, 8);
   ::PostMessageW(dialog, WM_COMMAND, IDOK, 0);

@@ -66,7 +66,7 @@ TEST_F(SurveyLoader, SaysWhichLinesOfWhichFileItSkipped) {
 
 TEST_F(SurveyLoader, RefusesAFileWithOneSentence) {
   const std::string choose =
-      "; choose a SIMA file (.sim) or a list of number, northing, easting, elevation and "
+      "; choose LandXML (.xml), SIMA (.sim) or a list of number, northing, easting, elevation and "
       "description.";
   const struct {
     std::filesystem::path file;
@@ -79,11 +79,11 @@ TEST_F(SurveyLoader, RefusesAFileWithOneSentence) {
                                           "1\0,\0",
                                           6)),
        "wide.txt is UTF-16 text; save it as UTF-8 or Shift-JIS."},
-      {Write("blank.csv", "\r\n\r\n"), "blank.csv holds no survey points" + choose},
+      {Write("blank.csv", "\r\n\r\n"), "blank.csv holds nothing to draw" + choose},
       {Write("letter.txt", "Dear surveyor\nplease\n"),
-       "letter.txt holds no survey points (line 1: the line has no northing and easting)" + choose},
+       "letter.txt holds nothing to draw (line 1: the line has no northing and easting)" + choose},
       {Write("binary.sim", std::string_view("MZ\0\1\2", 5)),
-       "binary.sim holds no survey points (line 1: the line holds a null character)" + choose},
+       "binary.sim holds nothing to draw (line 1: the line holds a null character)" + choose},
   };
   for (const auto& row : rows) {
     const LoadedSurvey loaded = LoadSurveyFiles(Files{row.file});

@@ -42,29 +42,33 @@ TEST(EncodingOf, ShiftJisIsWhatIsNotUtf8) {
   EXPECT_EQ(EncodingOf("\x8A\xEE\x8F\x80\x93\x5F"), TextEncoding::kShiftJis);
 }
 
-TEST(Utf8FromShiftJis, ConvertsLikeCodePage932) {
+TEST(Utf8From, ConvertsEveryCodePage) {
   const struct {
     const char* what;
+    CodePage code_page;
     std::string_view bytes;
     std::string_view text;
   } rows[] = {
-      {"nothing", "", ""},
-      {"ASCII, the backslash too", "A\\~", "A\\~"},
-      {"characters of two bytes", "\x8A\xEE\x8F\x80\x93\x5F", "基準点"},
-      {"a second byte that looks like a backslash", "\x95\x5C", "表"},
-      {"half-width kana", "\xC3\xDE\xB0\xC0", "ﾃﾞｰﾀ"},
-      {"a wave dash", "\x81\x60", "～"},
-      {"a character only Windows has", "\x87\x40", "①"},
+      {"nothing", CodePage::kShiftJis, "", ""},
+      {"ASCII, the backslash too", CodePage::kShiftJis, "A\\~", "A\\~"},
+      {"characters of two bytes", CodePage::kShiftJis, "\x8A\xEE\x8F\x80\x93\x5F", "基準点"},
+      {"a second byte that looks like a backslash", CodePage::kShiftJis, "\x95\x5C", "表"},
+      {"half-width kana", CodePage::kShiftJis, "\xC3\xDE\xB0\xC0", "ﾃﾞｰﾀ"},
+      {"a wave dash", CodePage::kShiftJis, "\x81\x60", "～"},
+      {"a character only Windows has", CodePage::kShiftJis, "\x87\x40", "①"},
+      {"letters of western Europe", CodePage::kLatin1, "ritil\xE4kansi \xD8", "ritiläkansi Ø"},
+      {"a control character", CodePage::kLatin1, "\x80", "\xC2\x80"},
+      {"the same byte as a sign", CodePage::kWindows1252, "\x80 \xE4", "€ ä"},
   };
-  for (const auto& row : rows) EXPECT_EQ(Utf8FromShiftJis(row.bytes), row.text) << row.what;
+  for (const auto& row : rows) EXPECT_EQ(Utf8From(row.code_page, row.bytes), row.text) << row.what;
 }
 
-TEST(Utf8FromShiftJis, RefusesWhatIsNoText) {
+TEST(Utf8From, RefusesWhatIsNoText) {
   for (const std::string_view bytes : {"\x8A", "ab\x93", "\x81\x20"}) {
-    EXPECT_FALSE(Utf8FromShiftJis(bytes)) << bytes.size();
+    EXPECT_FALSE(Utf8From(CodePage::kShiftJis, bytes)) << bytes.size();
   }
   // A refusal leaves nothing behind for the next call.
-  EXPECT_EQ(Utf8FromShiftJis("\x95\x5C"), "表");
+  EXPECT_EQ(Utf8From(CodePage::kShiftJis, "\x95\x5C"), "表");
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ namespace {
 
 class Converter {
  public:
-  Converter() : handle_(iconv_open("UTF-8", "CP932")) {}
+  explicit Converter(const char* from) : handle_(iconv_open("UTF-8", from)) {}
   ~Converter() {
     if (IsOpen()) iconv_close(handle_);
   }
@@ -26,10 +26,25 @@ class Converter {
   iconv_t handle_;
 };
 
+const Converter& ConverterFrom(CodePage code_page) {
+  static const Converter shift_jis("CP932");
+  static const Converter latin1("ISO-8859-1");
+  static const Converter windows1252("CP1252");
+  switch (code_page) {
+    case CodePage::kShiftJis:
+      return shift_jis;
+    case CodePage::kLatin1:
+      return latin1;
+    case CodePage::kWindows1252:
+      break;
+  }
+  return windows1252;
+}
+
 }  // namespace
 
-std::optional<std::string> Utf8FromShiftJis(std::string_view bytes) {
-  static const Converter converter;
+std::optional<std::string> Utf8From(CodePage code_page, std::string_view bytes) {
+  const Converter& converter = ConverterFrom(code_page);
   if (!converter.IsOpen()) return std::nullopt;
   iconv(converter.Handle(), nullptr, nullptr, nullptr, nullptr);
 
