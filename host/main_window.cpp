@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "host/measure_text.h"
 #include "host/open_dialog.h"
 #include "host/resource.h"
 #include "host/wide_text.h"
@@ -12,9 +13,6 @@ namespace fieldhost {
 namespace {
 
 constexpr const wchar_t* kTitle = L"Field survey";
-constexpr int kInfoHeight = 18;  // pixels
-constexpr int kInfoText = 12;    // a handheld's width then holds number, name and coordinates
-constexpr int kInfoMargin = 3;
 
 CRect WorkArea() {
   CRect area;
@@ -45,7 +43,7 @@ ON_COMMAND(ID_SURVEY_CLOSE_ALL, &CMainWindow::OnCloseAll)
 ON_COMMAND(ID_SURVEY_EXIT, &CMainWindow::OnExit)
 ON_COMMAND(ID_VIEW_WHOLE, &CMainWindow::OnWholeView)
 ON_COMMAND(ID_VIEW_BUTTONS, &CMainWindow::OnShowButtons)
-ON_COMMAND(ID_SURVEY_CAPTURE, &CMainWindow::OnCapture)
+ON_COMMAND(ID_VIEW_SCALE_BAR, &CMainWindow::OnScaleBar)
 ON_WM_SETFOCUS()
 ON_MESSAGE(WM_PARENTNOTIFY, &CMainWindow::OnParentNotify)
 END_MESSAGE_MAP()
@@ -85,12 +83,13 @@ void CMainWindow::Show(const LoadedSurvey& loaded) {
 
 BOOL CMainWindow::OnCommand(WPARAM wParam, LPARAM lParam) {
   // The plot window reports a tapped point; what lParam holds is its key, not a control's window.
-  if (LOWORD(wParam) == ID_PLOT_NOTIFY) {
-    ShowPoint(static_cast<int>(lParam));
+  const int key = static_cast<int>(lParam);
+  if (tools_.Handle(LOWORD(wParam), key, *this)) {
+    ShowToolText();
     return TRUE;
   }
-  if (LOWORD(wParam) == ID_PLOT_CAPTURE) {
-    ShowCapture();
+  if (LOWORD(wParam) == ID_PLOT_NOTIFY) {
+    ShowPoint(key);
     return TRUE;
   }
   return CFrameWnd::OnCommand(wParam, lParam);
@@ -98,19 +97,11 @@ BOOL CMainWindow::OnCommand(WPARAM wParam, LPARAM lParam) {
 
 int CMainWindow::OnCreate(CREATESTRUCTW* create) {
   constexpr int kRefused = -1;
-  if (CFrameWnd::OnCreate(create) == kRefused || !CreateInfoLine()) return kRefused;
+  if (CFrameWnd::OnCreate(create) == kRefused) return kRefused;
+  const bool for_user = ::GetMenu(m_hWnd) != nullptr;
+  if (!info_.Create(*this, ID_INFO_LINE, for_user)) return kRefused;
   ShowSummary();
   return 0;
-}
-
-BOOL CMainWindow::CreateInfoLine() {
-  constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | SS_LEFTNOWORDWRAP | SS_NOPREFIX | SS_ENDELLIPSIS;
-  info_font_.CreateFontW(-kInfoText, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
-                         OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                         DEFAULT_PITCH | FF_DONTCARE, L"MS UI Gothic");
-  if (!info_.Create(L"", kStyle, CRect(0, 0, 0, 0), this, ID_INFO_LINE)) return FALSE;
-  info_.SetFont(&info_font_);
-  return TRUE;
 }
 
 void CMainWindow::OnSize(UINT type, int width, int height) {
@@ -136,11 +127,14 @@ void CMainWindow::LayOut() {
   if (client.Size() == laid_out_) return;
   laid_out_ = client.Size();
 
-  const int info_top = std::max(0, static_cast<int>(client.bottom) - kInfoHeight);
-  info_.MoveWindow(kInfoMargin, info_top + kInfoMargin, client.Width() - 2 * kInfoMargin,
-                   kInfoHeight - kInfoMargin);
-  if (!plot_.Place(*this, CRect(0, 0, client.right, info_top), ID_PLOT_NOTIFY)) {
-    info_.SetWindowText(L"The plot window could not be made.");
+  const int info_height = info_.HeightFor(client.Width());
+  const int info_top = std::max(0, static_cast<int>(client.bottom) - info_height);
+  info_.Place(CRect(0, info_top, client.right, info_top + info_height));
+  tools_.KeepForNewPlot();
+  if (plot_.Place(*this, CRect(0, 0, client.right, info_top), ID_PLOT_NOTIFY)) {
+    tools_.RestoreOnNewPlot();
+  } else {
+    info_.Show(L"The plot window could not be made.");
   }
 }
 
@@ -148,26 +142,41 @@ void CMainWindow::ShowPoint(int key) {
   const std::optional<TappedPoint> point = PlotPane::PointOf(key);
   if (!point) return;
   CString text;
-  text.Format(L"%d %s  X %.3f  Y %.3f", point->number, point->name.GetString(), point->north,
-              point->east);
-  info_.SetWindowText(text);
+  text.Format(L"%d %s  ", point->number, point->name.GetString());
+  info_.Show(text + PositionText({point->north, point->east}));
 }
 
-void CMainWindow::ShowCapture() {
-  const std::optional<GroundPosition> position = PlotPane::CapturedCoordinate();
-  if (!position) return;
-  CString text;
-  text.Format(L"Captured  X %.3f  Y %.3f", position->north, position->east);
-  info_.SetWindowText(text);
+void CMainWindow::ShowToolText() {
+  if (tools_.Text().IsEmpty()) {
+    ShowSummary();
+  } else {
+    info_.Show(tools_.Text());
+  }
 }
 
-void CMainWindow::ShowSummary() { info_.SetWindowText(WideOf(Summary(counts_))); }
+// The tool in use goes first, then the sheet.
+void CMainWindow::ShowSummary() {
+  const CString sheet = tools_.SheetText();
+  if (tools_.IsToolInUse()) {
+    info_.Show(tools_.Text());
+  } else {
+    info_.Show(sheet.IsEmpty() ? WideOf(Summary(counts_)) : sheet);
+  }
+}
+
+void CMainWindow::FollowView() {
+  const CString sheet = tools_.SheetText();
+  if (sheet == sheet_text_) return;
+  sheet_text_ = sheet;
+  ShowSummary();
+}
 
 void CMainWindow::OnInitMenuPopup(CMenu* menu, UINT index, BOOL system_menu) {
   CFrameWnd::OnInitMenuPopup(menu, index, system_menu);
   if (!system_menu) {
     menu->CheckMenuItem(ID_VIEW_BUTTONS, plot_.ShowsButtons() ? MF_CHECKED : MF_UNCHECKED);
-    menu->CheckMenuItem(ID_SURVEY_CAPTURE, plot_.CapturesCoordinates() ? MF_CHECKED : MF_UNCHECKED);
+    menu->CheckMenuItem(ID_VIEW_SCALE_BAR, plot_.ShowsScaleBar() ? MF_CHECKED : MF_UNCHECKED);
+    tools_.UpdateMenu(*menu);
   }
 }
 
@@ -177,6 +186,7 @@ void CMainWindow::OnOpen() {
 }
 
 void CMainWindow::OnCloseAll() {
+  tools_.CloseSurvey();
   plot_.Clear();
   counts_ = {};
   ShowSummary();
@@ -186,15 +196,6 @@ void CMainWindow::OnExit() { SendMessage(WM_CLOSE); }
 
 void CMainWindow::OnWholeView() { plot_.ShowWholeView(); }
 
-void CMainWindow::OnCapture() {
-  plot_.CaptureCoordinates(!plot_.CapturesCoordinates(), ID_PLOT_CAPTURE);
-  if (plot_.CapturesCoordinates()) {
-    info_.SetWindowText(L"Tap a place to capture its coordinates.");
-  } else {
-    ShowSummary();
-  }
-}
-
 void CMainWindow::OnSetFocus(CWnd*) { plot_.TakeFocus(); }
 
 // A tap on the plot brings the keyboard back to it.
@@ -203,6 +204,13 @@ LRESULT CMainWindow::OnParentNotify(WPARAM wParam, LPARAM) {
   return Default();
 }
 
-void CMainWindow::OnShowButtons() { plot_.ShowButtons(!plot_.ShowsButtons()); }
+// The plan becomes wider or narrower by the column of buttons.
+void CMainWindow::OnShowButtons() {
+  tools_.KeepForNewPlot();
+  plot_.ShowButtons(!plot_.ShowsButtons());
+  tools_.RestoreOnNewPlot();
+}
+
+void CMainWindow::OnScaleBar() { plot_.ShowScaleBar(!plot_.ShowsScaleBar()); }
 
 }  // namespace fieldhost

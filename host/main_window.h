@@ -8,9 +8,11 @@
 #include <span>
 
 #include "host/command_line.h"
+#include "host/information_line.h"
 #include "host/load_report.h"
 #include "host/plot_pane.h"
 #include "host/survey_loader.h"
+#include "host/tools/toolbox.h"
 
 namespace fieldhost {
 
@@ -28,6 +30,10 @@ class CMainWindow : public CFrameWnd {
   // Shows a survey beside those already open, and counts it in the information line.
   void Show(const LoadedSurvey& loaded);
 
+  // Keeps up with the view, which the plot's own buttons change without a word: the sheet's scale
+  // and origin are told anew. For idle times.
+  void FollowView();
+
  protected:
   BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
@@ -41,21 +47,21 @@ class CMainWindow : public CFrameWnd {
   afx_msg void OnExit();
   afx_msg void OnWholeView();
   afx_msg void OnShowButtons();
-  afx_msg void OnCapture();
+  afx_msg void OnScaleBar();
   afx_msg void OnSetFocus(CWnd* old);
   afx_msg LRESULT OnParentNotify(WPARAM wParam, LPARAM lParam);
   DECLARE_MESSAGE_MAP()
 
  private:
-  BOOL CreateInfoLine();
   void LayOut();
   void ShowPoint(int key);
-  void ShowCapture();
+  void ShowToolText();
   void ShowSummary();
 
   PlotPane plot_;
-  CFont info_font_;
-  CStatic info_;
+  Toolbox tools_{plot_};
+  InformationLine info_;
+  CString sheet_text_;    // told last
   CSize laid_out_{0, 0};  // the client size that the children fit
   bool sizing_ = false;   // the user is dragging an edge
   SurveyCounts counts_;   // of all that is shown

@@ -29,8 +29,10 @@ bool PlotPane::Place(CWnd& parent, const CRect& rect, UINT notify_id) {
     return false;
   }
   Tavix_SetBtn(shows_buttons_ ? kOn : kOff);
-  if (captures_) Tavix_CrdStt(static_cast<int>(capture_id_));  // the mode was the old window's
-  Tavix_Drw(kKeepView);
+  // The modes were the old window's.
+  if (captures_) Tavix_CrdStt(static_cast<int>(capture_id_));
+  Tavix_SclBarDsp(shows_scale_bar_ ? kOn : kOff);
+  Redraw();
   Tavix_Dsp(kOn);
   return true;
 }
@@ -45,7 +47,7 @@ std::size_t PlotPane::Add(const Survey& survey) {
 void PlotPane::Clear() {
   Tavix_DrwClr();
   entry_.StartOver();
-  Tavix_Drw(kKeepView);
+  Redraw();
 }
 
 void PlotPane::ShowWholeView() { Tavix_Drw(kFitView); }
@@ -53,8 +55,16 @@ void PlotPane::ShowWholeView() { Tavix_Drw(kFitView); }
 void PlotPane::ShowButtons(bool show) {
   shows_buttons_ = show;
   Tavix_SetBtn(show ? kOn : kOff);
-  Tavix_Drw(kKeepView);
+  Redraw();
 }
+
+void PlotPane::ShowScaleBar(bool show) {
+  shows_scale_bar_ = show;
+  Tavix_SclBarDsp(show ? kOn : kOff);
+  Redraw();
+}
+
+void PlotPane::Redraw() { Tavix_Drw(kKeepView); }
 
 void PlotPane::TakeFocus() {
   if (CWnd* window = Tavix_Wnd()) window->SetFocus();

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "host/ground_position.h"
 #include "host/readers/survey.h"
 #include "host/survey_entry.h"
 
@@ -14,11 +15,6 @@ namespace fieldhost {
 struct TappedPoint {
   int number = 0;
   CString name;
-  double north = 0.0;  // metres
-  double east = 0.0;
-};
-
-struct GroundPosition {
   double north = 0.0;  // metres
   double east = 0.0;
 };
@@ -43,6 +39,11 @@ class PlotPane {
   void ShowWholeView();
   void ShowButtons(bool show);
   [[nodiscard]] bool ShowsButtons() const { return shows_buttons_; }
+  void ShowScaleBar(bool show);
+  [[nodiscard]] bool ShowsScaleBar() const { return shows_scale_bar_; }
+
+  // Draws what was changed, in the view as it is.
+  static void Redraw();
 
   // Gives the plot window the keyboard: the arrow keys pan.
   void TakeFocus();
@@ -58,6 +59,7 @@ class PlotPane {
  private:
   SurveyEntry entry_;
   bool shows_buttons_ = true;
+  bool shows_scale_bar_ = false;
   bool captures_ = false;
   UINT capture_id_ = 0;
 };
