@@ -6,7 +6,7 @@ namespace {
 constexpr int kText = 12;  // pixels; a handheld's width then holds number, name and coordinates
 constexpr int kMargin = 3;
 constexpr int kRow = 15;
-constexpr int kNarrow = 400;  // where a row holds less than a tool has to say
+constexpr int kNarrow = 600;  // where a row holds less than a tool has to say
 
 constexpr DWORD kOneRow = SS_LEFTNOWORDWRAP | SS_ENDELLIPSIS;
 constexpr DWORD kTwoRows = SS_LEFT | SS_EDITCONTROL;

@@ -51,6 +51,7 @@ BOOL CSheetDialog::OnInitDialog() {
   CDialog::OnInitDialog();
   FillPapers();
   FillScales();
+  CenterWindow();
   return TRUE;
 }
 

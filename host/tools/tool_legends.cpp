@@ -11,7 +11,8 @@ ToolLegends AddToolLegends() {
   ToolLegends legends;
   Tavix_AddPntHan(kDiagonalCross, 2, static_cast<int>(RGB(255, 96, 0)), kMarkSize, 0, 0,
                   &legends.mark);
-  Tavix_AddLinHan(kSolidLine, 0, 0, 0, 1, static_cast<int>(RGB(192, 0, 128)), &legends.line);
+  // Wider than the sides of lots, which it often runs along.
+  Tavix_AddLinHan(kSolidLine, 0, 0, 0, 2, static_cast<int>(RGB(192, 0, 128)), &legends.line);
   return legends;
 }
 

@@ -42,7 +42,7 @@ CString TracedText(Corners corners) {
   if (corners.size() < kLineCorners) {
     return CountText(corners.size()) + L"  " + PositionText(corners.back()) + L"  Tap the next.";
   }
-  return MeasuredText(corners, PathLength(corners)) + L"  Tap the next, or Enter.";
+  return MeasuredText(corners, PathLength(corners)) + L"  Tap the next; Enter finishes.";
 }
 
 }  // namespace

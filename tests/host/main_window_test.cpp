@@ -1,75 +1,21 @@
 // The host's main window, worked by its commands.
 
 #include <cstddef>
-#include <functional>
-#include <optional>
 
-#include "host/resource.h"
-#include "tests/host/host_process.h"
-#include "tests/host/host_test.h"
+#include "tests/host/window_test.h"
 
 namespace fieldhost {
 namespace {
 
-constexpr const wchar_t* kTitle = L"Field survey";
 constexpr const wchar_t* kBoxTitle = L"fieldhost";
 
-// Waits for a state of another process, which only asking again can tell.
-bool WaitUntil(const std::function<bool()>& condition) {
-  constexpr ULONGLONG kPatience = 60000;  // milliseconds
-  const ULONGLONG end = ::GetTickCount64() + kPatience;
-  while (!condition()) {
-    if (::GetTickCount64() > end) return false;
-    ::Sleep(20);
-  }
-  return true;
-}
-
-std::wstring TextOf(HWND window) {
-  wchar_t text[1000] = {};
-  ::SendMessageW(window, WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text));
-  return text;
-}
-
-class MainWindow : public HostTest {
+class MainWindow : public WindowTest {
  protected:
-  void Open(const std::vector<std::wstring>& arguments) {
-    host_.emplace(folder_, arguments);
-    window_ = host_->WaitForWindow(kTitle);
-    ASSERT_TRUE(window_);
-  }
-
-  void Command(int id) const { ::SendMessageW(window_, WM_COMMAND, static_cast<WPARAM>(id), 0); }
-
-  [[nodiscard]] HWND Info() const { return ::GetDlgItem(window_, ID_INFO_LINE); }
-
-  void ExpectInfo(const std::wstring& text) const {
-    EXPECT_TRUE(WaitUntil([&] { return TextOf(Info()) == text; }))
-        << "the line shows: " << std::filesystem::path(TextOf(Info())).string();
-  }
-
-  // The plot window: the child that is not the information line.
-  [[nodiscard]] HWND Plot() const {
-    for (HWND child = ::GetWindow(window_, GW_CHILD); child;
-         child = ::GetWindow(child, GW_HWNDNEXT)) {
-      if (child != Info()) return child;
-    }
-    return nullptr;
-  }
-
   [[nodiscard]] static int WidthOf(HWND window) {
     RECT rect = {};
     ::GetWindowRect(window, &rect);
     return rect.right - rect.left;
   }
-
-  void Exit() {
-    ::PostMessageW(window_, WM_COMMAND, ID_SURVEY_EXIT, 0);
-    EXPECT_EQ(host_->Wait(), 0);
-  }
-
-  std::optional<HostProcess> host_;
-  HWND window_ = nullptr;
 };
 
 TEST_F(MainWindow, HasTheAskedClientSize) {
@@ -107,10 +53,8 @@ TEST_F(MainWindow, CapturesTheCoordinatesOfATap) {
   ExpectInfo(L"2 points");
   Command(ID_SURVEY_CAPTURE);
   ExpectInfo(L"Tap a place to capture its coordinates.");
-  const LPARAM place = MAKELPARAM(100, 100);
-  ::PostMessageW(Plot(), WM_LBUTTONDOWN, MK_LBUTTON, place);
-  ::PostMessageW(Plot(), WM_LBUTTONUP, 0, place);
-  EXPECT_TRUE(WaitUntil([&] { return TextOf(Info()).starts_with(L"Captured  X 1"); }));
+  TapPixel(100, 100);
+  ExpectInfoBegins(L"Captured  X 1");
   Command(ID_SURVEY_CAPTURE);
   ExpectInfo(L"2 points");
   Exit();
@@ -125,7 +69,7 @@ TEST_F(MainWindow, PlotFollowsTheWindowsSize) {
   EXPECT_TRUE(WaitUntil([&] { return Plot() && WidthOf(Plot()) == 500; }));
   // The survey is still there.
   ::PostMessageW(window_, WM_COMMAND, ID_PLOT_NOTIFY, 74);
-  EXPECT_TRUE(WaitUntil([&] { return TextOf(Info()).starts_with(L"504 雨水2  X "); }));
+  ExpectInfoBegins(L"504 雨水2  X ");
   Exit();
 }
 
