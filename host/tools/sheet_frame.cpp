@@ -33,6 +33,18 @@ GroundPosition SheetFrame::Origin() {
   return origin;
 }
 
+// The frame's middle is that of the view to a pixel only, and the library moves the frame as if it
+// were exactly. What the first move misses, the second makes up for: else a frame that is laid out
+// anew time and again would creep away. Each redraw makes the origin that of the view as it is.
+void SheetFrame::PutOriginOn(const GroundPosition& place) {
+  PlotPane::Redraw();
+  Tavix_SetWakGen(place.north, place.east);
+  PlotPane::Redraw();
+  const GroundPosition reached = Origin();
+  Tavix_SetWakGen(2 * place.north - reached.north, 2 * place.east - reached.east);
+  PlotPane::Redraw();
+}
+
 void SheetFrame::Show(const Sheet& sheet) {
   GroundPosition origin = Origin();
   sheet_ = sheet;
@@ -43,8 +55,7 @@ void SheetFrame::Show(const Sheet& sheet) {
     origin = OriginAboutSameMiddle(Origin(), sheet, ToldScale(), degrees);
   }
   Tavix_SetWakScl(sheet.scale);
-  Tavix_SetWakGen(origin.north, origin.east);
-  PlotPane::Redraw();
+  PutOriginOn(origin);
 }
 
 void SheetFrame::Remove() {
@@ -71,8 +82,7 @@ CString SheetFrame::Text() const {
 void SheetFrame::MoveTo(const GroundPosition& origin) {
   if (!sheet_) return;
   placed_ = true;
-  Tavix_SetWakGen(origin.north, origin.east);
-  PlotPane::Redraw();
+  PutOriginOn(origin);
 }
 
 void SheetFrame::Keep() {
@@ -86,8 +96,7 @@ void SheetFrame::LayOut() {
   if (!sheet_) return;
   TurnOn();
   Tavix_SetWakScl(sheet_->scale);
-  Tavix_SetWakGen(kept_origin_.north, kept_origin_.east);
-  PlotPane::Redraw();
+  PutOriginOn(kept_origin_);
 }
 
 }  // namespace fieldhost

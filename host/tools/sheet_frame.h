@@ -31,6 +31,7 @@ class SheetFrame {
 
  private:
   [[nodiscard]] static GroundPosition Origin();
+  static void PutOriginOn(const GroundPosition& place);
   void TurnOn() const;
 
   std::optional<Sheet> sheet_;  // with the scale that was set last
