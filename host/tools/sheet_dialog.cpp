@@ -75,6 +75,8 @@ void CSheetDialog::OnOK() {
   if (!scale) {
     SetDlgItemText(IDC_SHEET_PROBLEM, WideOf(NoScale(typed)));
     GotoDlgCtrl(&scales_);
+    constexpr LPARAM kAll = MAKELONG(0, 0xFFFF);
+    scales_.SendMessage(CB_SETEDITSEL, 0, kAll);  // what is typed next replaces it
     return;
   }
   const std::size_t paper = static_cast<std::size_t>(papers_.GetCurSel());

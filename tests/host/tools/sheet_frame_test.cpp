@@ -118,6 +118,9 @@ TEST_F(SheetFrame, DialogSaysWhatIsWrongWithAScale) {
     ::SendMessageW(dialog, WM_COMMAND, IDOK, 0);
     EXPECT_EQ(TextOf(::GetDlgItem(dialog, IDC_SHEET_PROBLEM)), row.said);
     ASSERT_TRUE(::IsWindow(dialog));
+    // Selected, so that what is typed next takes its place.
+    const LRESULT selected = ::SendDlgItemMessageW(dialog, IDC_SHEET_SCALE, CB_GETEDITSEL, 0, 0);
+    EXPECT_EQ(selected, MAKELONG(0, std::wcslen(row.typed)));
   }
   Close(dialog, IDCANCEL);
   ExpectInfo(kSummary);
