@@ -27,19 +27,38 @@ void PlanTest::SetUp() {
   Command(ID_VIEW_WHOLE);
   const SIZE size = ClientSize(Plot());
   pixels_per_metre_ = (std::min(size.cx, size.cy) - kFitMargin) / kSide;
-  // Painted, the plot has four marks on white.
-  EXPECT_TRUE(WaitUntil([&] {
-    const tavix::test::Picture shown = Shown();
-    const int black = tavix::test::CountPixels(shown, 0x000000);
-    const int white = tavix::test::CountPixels(shown, 0xFFFFFF);
-    return 20 < black && black < 200 && shown.width * shown.height / 2 < white;
-  }));
+  EXPECT_TRUE(WaitUntil([&] { return ShowsTheSurveyAlone(); }));
+}
+
+POINT PlanTest::PixelOf(double north, double east) const {
+  const SIZE size = ClientSize(Plot());
+  return {std::lround(size.cx * 0.5 + (east - kSide / 2) * pixels_per_metre_),
+          std::lround(size.cy * 0.5 - (north - kSide / 2) * pixels_per_metre_)};
+}
+
+// Painted after the fit, and without buttons, every corner has its mark and nothing else is there.
+bool PlanTest::ShowsTheSurveyAlone() const {
+  constexpr int kMarkRadius = 2;
+  const tavix::test::Picture shown = Shown();
+  for (const double north : {0.0, kSide}) {
+    for (const double east : {0.0, kSide}) {
+      const POINT pixel = PixelOf(north, east);
+      int black = 0;
+      for (int dx = -kMarkRadius - 1; dx <= kMarkRadius + 1; ++dx) {
+        for (int dy = -kMarkRadius - 1; dy <= kMarkRadius + 1; ++dy) {
+          black += shown.At(pixel.x + dx, pixel.y + dy) == 0;
+        }
+      }
+      if (black < 6) return false;
+    }
+  }
+  constexpr int kMarksAndLabels = 400;  // pixels
+  return tavix::test::CountPixels(shown, 0xFFFFFF) > shown.width * shown.height - kMarksAndLabels;
 }
 
 void PlanTest::Tap(double north, double east) const {
-  const SIZE size = ClientSize(Plot());
-  TapPixel(static_cast<int>(std::lround(size.cx * 0.5 + (east - kSide / 2) * pixels_per_metre_)),
-           static_cast<int>(std::lround(size.cy * 0.5 - (north - kSide / 2) * pixels_per_metre_)));
+  const POINT pixel = PixelOf(north, east);
+  TapPixel(pixel.x, pixel.y);
 }
 
 // From the screen: only a process of its own can read what a window shows.

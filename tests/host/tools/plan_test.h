@@ -29,6 +29,9 @@ class PlanTest : public WindowTest {
   void ExpectColour(std::uint32_t colour, int pixels) const;
 
  private:
+  [[nodiscard]] POINT PixelOf(double north, double east) const;
+  [[nodiscard]] bool ShowsTheSurveyAlone() const;
+
   double pixels_per_metre_ = 0.0;
 };
 
