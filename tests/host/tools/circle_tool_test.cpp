@@ -88,6 +88,7 @@ TEST_F(CircleTool, LastCircleIsDeletedWithoutTheTool) {
   DrawFromAToB();
   Command(ID_TOOL_FINISH);
   ExpectInfo(kSummary);
+  ExpectColour(kFigure, 100);
   const Picture one_circle = Shown();
   Start();
   Tap(100, 100);
