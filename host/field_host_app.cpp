@@ -54,6 +54,11 @@ class CFieldHostApp : public CWinApp {
     return OpenMainWindow(line);
   }
 
+  BOOL OnIdle(LONG count) override {
+    if (m_pMainWnd) static_cast<CMainWindow*>(m_pMainWnd)->FollowView();
+    return CWinApp::OnIdle(count);
+  }
+
   int ExitInstance() override { return m_pMainWnd ? CWinApp::ExitInstance() : exit_code_; }
 
  private:

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "host/measure_text.h"
 #include "host/memo/memo_text.h"
 #include "host/memo/point_memo.h"
 #include "host/open_dialog.h"
@@ -17,9 +18,6 @@ namespace {
 
 constexpr const wchar_t* kTitle = L"Field survey";
 constexpr UINT kFocusLater = WM_APP;
-constexpr int kInfoHeight = 18;  // pixels
-constexpr int kInfoText = 12;    // a handheld's width then holds number, name and coordinates
-constexpr int kInfoMargin = 3;
 
 CRect WorkArea() {
   CRect area;
@@ -56,7 +54,7 @@ ON_COMMAND(ID_VIEW_PLAN, &CMainWindow::OnPlanView)
 ON_COMMAND(ID_VIEW_SIDE, &CMainWindow::OnSideView)
 ON_NOTIFY(TCN_SELCHANGE, ID_VIEW_TABS, &CMainWindow::OnViewTab)
 ON_COMMAND(ID_VIEW_BUTTONS, &CMainWindow::OnShowButtons)
-ON_COMMAND(ID_SURVEY_CAPTURE, &CMainWindow::OnCapture)
+ON_COMMAND(ID_VIEW_SCALE_BAR, &CMainWindow::OnScaleBar)
 ON_WM_SETFOCUS()
 ON_MESSAGE(kFocusLater, &CMainWindow::OnFocusLater)
 ON_MESSAGE(WM_PARENTNOTIFY, &CMainWindow::OnParentNotify)
@@ -71,7 +69,7 @@ BOOL CMainWindow::CreateForUser(const std::optional<PictureSize>& size) {
     ::AdjustWindowRect(&window, kStyle, TRUE);
     rect = CRect(rect.left, rect.top, rect.left + window.Width(), rect.top + window.Height());
   }
-  has_tabs_ = true;
+  for_user_ = true;
   return Create(WindowClass(), kTitle, kStyle, rect, nullptr, MAKEINTRESOURCEW(IDR_MAIN)) &&
          LoadAccelTable(MAKEINTRESOURCEW(IDR_MAIN));
 }
@@ -98,36 +96,29 @@ void CMainWindow::Show(const LoadedSurvey& loaded) {
 }
 
 BOOL CMainWindow::OnCommand(WPARAM wParam, LPARAM lParam) {
+  const UINT command = LOWORD(wParam);
+  ShowViewFor(command);
   // The plot window reports a tapped point; what lParam holds is its key, not a control's window.
-  if (LOWORD(wParam) == ID_PLOT_NOTIFY) {
-    ShowPoint(static_cast<int>(lParam));
+  const int key = static_cast<int>(lParam);
+  if (tools_.Handle(command, key, *this)) {
+    ShowToolText();
     return TRUE;
   }
-  if (LOWORD(wParam) == ID_PLOT_CAPTURE) {
-    ShowCapture();
+  if (command == ID_PLOT_NOTIFY) {
+    ShowPoint(key);
     return TRUE;
   }
-  ShowViewFor(LOWORD(wParam));
   return CFrameWnd::OnCommand(wParam, lParam);
 }
 
 int CMainWindow::OnCreate(CREATESTRUCTW* create) {
   constexpr int kRefused = -1;
-  if (CFrameWnd::OnCreate(create) == kRefused || !CreateInfoLine()) return kRefused;
-  if (has_tabs_ && !tabs_.Create(*this, ID_VIEW_TABS, info_font_)) return kRefused;
+  if (CFrameWnd::OnCreate(create) == kRefused || !info_.Create(*this, ID_INFO_LINE, for_user_)) {
+    return kRefused;
+  }
+  if (for_user_ && !tabs_.Create(*this, ID_VIEW_TABS, info_.Font())) return kRefused;
   ShowSummary();
   return 0;
-}
-
-BOOL CMainWindow::CreateInfoLine() {
-  constexpr DWORD kStyle =
-      WS_CHILD | WS_VISIBLE | SS_LEFTNOWORDWRAP | SS_NOPREFIX | SS_ENDELLIPSIS | SS_NOTIFY;
-  info_font_.CreateFontW(-kInfoText, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
-                         OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                         DEFAULT_PITCH | FF_DONTCARE, L"MS UI Gothic");
-  if (!info_.Create(L"", kStyle, CRect(0, 0, 0, 0), this, ID_INFO_LINE)) return FALSE;
-  info_.SetFont(&info_font_);
-  return TRUE;
 }
 
 void CMainWindow::OnSize(UINT type, int width, int height) {
@@ -153,15 +144,18 @@ void CMainWindow::LayOut() {
   if (client.Size() == laid_out_) return;
   laid_out_ = client.Size();
 
-  const int info_top = std::max(0, static_cast<int>(client.bottom) - kInfoHeight);
-  info_.MoveWindow(kInfoMargin, info_top + kInfoMargin, client.Width() - 2 * kInfoMargin,
-                   kInfoHeight - kInfoMargin);
-  const int plot_top = has_tabs_ ? std::min(ViewTabs::kHeight, info_top) : 0;
-  if (has_tabs_) tabs_.MoveWindow(0, 0, client.Width(), plot_top);
+  const int info_height = info_.HeightFor(client.Width());
+  const int info_top = std::max(0, static_cast<int>(client.bottom) - info_height);
+  info_.Place(CRect(0, info_top, client.right, info_top + info_height));
+  const int plot_top = for_user_ ? std::min(ViewTabs::kHeight, info_top) : 0;
+  if (for_user_) tabs_.MoveWindow(0, 0, client.Width(), plot_top);
   const CRect plot(0, plot_top, client.right, info_top);
   side_.SetPlace(*this, plot);
-  if (!plot_.Place(*this, plot, ID_PLOT_NOTIFY)) {
-    info_.SetWindowText(L"The plot window could not be made.");
+  tools_.KeepForNewPlot();
+  if (plot_.Place(*this, plot, ID_PLOT_NOTIFY)) {
+    tools_.RestoreOnNewPlot();
+  } else {
+    info_.Show(L"The plot window could not be made.");
   }
 }
 
@@ -173,39 +167,53 @@ void CMainWindow::ShowPoint(int key) {
   tapped_key_ = key;
   const CString memo = MemoOf(key);
   CString text;
-  text.Format(L"%d %s%s  X %.3f  Y %.3f", point->number, point->name.GetString(),
-              memo.IsEmpty() ? L"" : L" *", point->north, point->east);
+  text.Format(L"%d %s%s  ", point->number, point->name.GetString(), memo.IsEmpty() ? L"" : L" *");
+  text += PositionText({point->north, point->east});
   if (!memo.IsEmpty()) text += L"  " + WideOf(MemoBeginning(Utf8Of(memo), kMostOfMemo));
-  info_.SetWindowText(text);
+  info_.Show(text);
 }
 
-void CMainWindow::ShowCapture() {
-  const std::optional<GroundPosition> position = PlotPane::CapturedCoordinate();
-  if (!position) return;
-  CString text;
-  text.Format(L"Captured  X %.3f  Y %.3f", position->north, position->east);
-  info_.SetWindowText(text);
+void CMainWindow::ShowToolText() {
+  if (tools_.Text().IsEmpty()) {
+    ShowSummary();
+  } else {
+    info_.Show(tools_.Text());
+  }
 }
 
-void CMainWindow::ShowSummary() { info_.SetWindowText(WideOf(Summary(counts_))); }
+// The tool in use goes first, then the sheet.
+void CMainWindow::ShowSummary() {
+  const CString sheet = tools_.SheetText();
+  if (tools_.IsToolInUse()) {
+    info_.Show(tools_.Text());
+  } else {
+    info_.Show(sheet.IsEmpty() ? WideOf(Summary(counts_)) : sheet);
+  }
+}
 
-// What the line says when the plan comes up: what a tap will do, else what the last one hit, else
-// how much there is.
+// What the line says when the plan comes up: what the tool in use waits for, else what the last tap
+// hit, else how much there is.
 void CMainWindow::ShowPlanInfo() {
-  if (plot_.CapturesCoordinates()) {
-    info_.SetWindowText(L"Tap a place to capture its coordinates.");
-  } else if (tapped_key_) {
+  if (tapped_key_ && !tools_.IsToolInUse()) {
     ShowPoint(*tapped_key_);
   } else {
     ShowSummary();
   }
 }
 
+void CMainWindow::FollowView() {
+  const CString sheet = tools_.SheetText();
+  if (side_.IsShown() || sheet == sheet_text_) return;
+  sheet_text_ = sheet;
+  ShowSummary();
+}
+
 void CMainWindow::OnInitMenuPopup(CMenu* menu, UINT index, BOOL system_menu) {
   CFrameWnd::OnInitMenuPopup(menu, index, system_menu);
   if (!system_menu) {
     menu->CheckMenuItem(ID_VIEW_BUTTONS, plot_.ShowsButtons() ? MF_CHECKED : MF_UNCHECKED);
-    menu->CheckMenuItem(ID_SURVEY_CAPTURE, plot_.CapturesCoordinates() ? MF_CHECKED : MF_UNCHECKED);
+    menu->CheckMenuItem(ID_VIEW_SCALE_BAR, plot_.ShowsScaleBar() ? MF_CHECKED : MF_UNCHECKED);
+    tools_.UpdateMenu(*menu);
     UpdateViewMenu(*menu);
   }
 }
@@ -217,6 +225,7 @@ void CMainWindow::OnOpen() {
 
 void CMainWindow::OnCloseAll() {
   ShowView(PlotView::kPlan);
+  tools_.CloseSurvey();
   plot_.Clear();
   side_.Clear();
   tapped_key_.reset();
@@ -226,10 +235,7 @@ void CMainWindow::OnCloseAll() {
 
 void CMainWindow::OnExit() { SendMessage(WM_CLOSE); }
 
-void CMainWindow::OnCapture() {
-  plot_.CaptureCoordinates(!plot_.CapturesCoordinates(), ID_PLOT_CAPTURE);
-  ShowPlanInfo();
-}
+void CMainWindow::OnScaleBar() { plot_.ShowScaleBar(!plot_.ShowsScaleBar()); }
 
 // While the plot's settings close, the plot cannot take the keyboard yet: it is asked again later.
 void CMainWindow::OnSetFocus(CWnd*) {

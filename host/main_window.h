@@ -9,11 +9,13 @@
 #include <span>
 
 #include "host/command_line.h"
+#include "host/information_line.h"
 #include "host/load_report.h"
 #include "host/plot_pane.h"
 #include "host/side/side_pane.h"
 #include "host/side/view_tabs.h"
 #include "host/survey_loader.h"
+#include "host/tools/toolbox.h"
 
 namespace fieldhost {
 
@@ -35,6 +37,10 @@ class CMainWindow : public CFrameWnd {
   // Turns to the plan or the side view, or tells why the side view cannot be shown: false.
   bool ShowView(PlotView view);
 
+  // Keeps up with the view, which the plot's own buttons change without a word: the sheet's scale
+  // and origin are told anew. For idle times.
+  void FollowView();
+
  protected:
   BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
@@ -54,31 +60,31 @@ class CMainWindow : public CFrameWnd {
   afx_msg void OnSideView();
   afx_msg void OnViewTab(NMHDR* header, LRESULT* result);
   afx_msg void OnShowButtons();
-  afx_msg void OnCapture();
+  afx_msg void OnScaleBar();
   afx_msg void OnSetFocus(CWnd* old);
   afx_msg LRESULT OnFocusLater(WPARAM wParam, LPARAM lParam);
   afx_msg LRESULT OnParentNotify(WPARAM wParam, LPARAM lParam);
   DECLARE_MESSAGE_MAP()
 
  private:
-  BOOL CreateInfoLine();
   void LayOut();
   void ShowViewFor(UINT command);
   void UpdateViewMenu(CMenu& menu);
   void TakeFocus();
   void ShowPoint(int key);
-  void ShowCapture();
+  void ShowToolText();
   void ShowSummary();
   void ShowPlanInfo();
   void ShowHeights();
 
   PlotPane plot_;
   SidePane side_;
+  Toolbox tools_{plot_};
   ViewTabs tabs_;  // none in a picture
-  CFont info_font_;
-  CStatic info_;
+  InformationLine info_;
+  CString sheet_text_;    // told last
   CSize laid_out_{0, 0};  // the client size that the children fit
-  bool has_tabs_ = false;
+  bool for_user_ = false;
   bool sizing_ = false;            // the user is dragging an edge
   std::optional<int> tapped_key_;  // of the point tapped last
   SurveyCounts counts_;            // of all that is shown

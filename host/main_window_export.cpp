@@ -40,7 +40,7 @@ void CMainWindow::OnExport() {
 
   const CString problem = Export(dialog.Size(), file);
   if (problem.IsEmpty()) {
-    info_.SetWindowText(L"Written: " + WideOf(Utf8Of(file.filename())));
+    info_.Show(L"Written: " + WideOf(Utf8Of(file.filename())));
   } else {
     AfxMessageBox(problem, MB_OK | MB_ICONWARNING);
   }

@@ -10,11 +10,11 @@ void CMainWindow::OnPointMemo() {
   const std::optional<TappedPoint> point =
       tapped_key_ ? PlotPane::PointOf(*tapped_key_) : std::nullopt;
   if (!point) {
-    info_.SetWindowText(L"Tap the point whose memo you want first.");
+    info_.Show(L"Tap the point whose memo you want first.");
     return;
   }
   if (!CanHaveMemo(*tapped_key_)) {
-    info_.SetWindowText(L"Only the first 32767 points can have a memo.");
+    info_.Show(L"Only the first 32767 points can have a memo.");
     return;
   }
   MemoDialog dialog(*this, *point, MemoOf(*tapped_key_));

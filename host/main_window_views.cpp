@@ -1,7 +1,7 @@
 // The main window's two views of the survey: the plan, and the side view of the points with
 // heights.
 #include <algorithm>
-#include <iterator>
+#include <span>
 
 #include "host/main_window.h"
 #include "host/resource.h"
@@ -10,7 +10,18 @@ namespace fieldhost {
 namespace {
 
 // What works on the plan alone.
-constexpr UINT kPlanCommands[] = {ID_SURVEY_CAPTURE, ID_SURVEY_MEMO, ID_SURVEY_EXPORT};
+constexpr UINT kPlanCommands[] = {
+    ID_SURVEY_CAPTURE,         ID_TOOL_CIRCLE,     ID_TOOL_TRACE,
+    ID_TOOL_MOVE_POINT,        ID_TOOL_MOVE_SHEET, ID_SHEET_SETUP,
+    ID_SHEET_REMOVE,           ID_VIEW_SCALE_BAR,  ID_FIGURE_DELETE_CIRCLE,
+    ID_FIGURE_DELETE_BOUNDARY, ID_SURVEY_MEMO,     ID_SURVEY_EXPORT};
+
+// What the tool in use is told; without one it means nothing.
+constexpr UINT kToolSteps[] = {ID_TOOL_UNDO, ID_TOOL_FINISH, ID_TOOL_FINISH_CLOSED, ID_TOOL_CANCEL};
+
+bool IsOneOf(std::span<const UINT> commands, UINT command) {
+  return std::ranges::find(commands, command) != commands.end();
+}
 
 }  // namespace
 
@@ -40,7 +51,7 @@ void CMainWindow::ShowHeights() {
     text.Format(L"%d with a height, %.2f m to %.2f m", static_cast<int>(heights.points),
                 heights.lowest, heights.highest);
   }
-  info_.SetWindowText(text);
+  info_.Show(text);
 }
 
 void CMainWindow::OnPlanView() { ShowView(PlotView::kPlan); }
@@ -53,9 +64,9 @@ void CMainWindow::OnViewTab(NMHDR*, LRESULT* result) {
 }
 
 void CMainWindow::ShowViewFor(UINT command) {
-  if (std::ranges::find(kPlanCommands, command) != std::end(kPlanCommands)) {
-    ShowView(PlotView::kPlan);
-  }
+  const bool for_plan =
+      IsOneOf(kPlanCommands, command) || (tools_.IsToolInUse() && IsOneOf(kToolSteps, command));
+  if (for_plan) ShowView(PlotView::kPlan);
 }
 
 void CMainWindow::UpdateViewMenu(CMenu& menu) {
@@ -71,8 +82,11 @@ void CMainWindow::OnWholeView() {
   }
 }
 
+// The plan becomes wider or narrower by the column of buttons.
 void CMainWindow::OnShowButtons() {
+  tools_.KeepForNewPlot();
   plot_.ShowButtons(!plot_.ShowsButtons());
+  tools_.RestoreOnNewPlot();
   side_.ShowButtons(plot_.ShowsButtons());
 }
 

@@ -29,7 +29,9 @@ bool PlotPane::Place(CWnd& parent, const CRect& rect, UINT notify_id) {
     return false;
   }
   Tavix_SetBtn(shows_buttons_ ? kOn : kOff);
-  if (captures_) Tavix_CrdStt(static_cast<int>(capture_id_));  // the mode was the old window's
+  // The modes were the old window's.
+  if (captures_) Tavix_CrdStt(static_cast<int>(capture_id_));
+  Tavix_SclBarDsp(shows_scale_bar_ ? kOn : kOff);
   Show(shown_);
   return true;
 }
@@ -44,12 +46,12 @@ SurveyCounts PlotPane::Add(const Survey& survey) {
 void PlotPane::Clear() {
   Tavix_DrwClr();
   entry_.StartOver();
-  Tavix_Drw(kKeepView);
+  Redraw();
 }
 
 void PlotPane::Show(bool show) {
   shown_ = show;
-  if (show) Tavix_Drw(kKeepView);
+  if (show) Redraw();
   Tavix_Dsp(show ? kOn : kOff);
 }
 
@@ -58,8 +60,16 @@ void PlotPane::ShowWholeView() { Tavix_Drw(kFitView); }
 void PlotPane::ShowButtons(bool show) {
   shows_buttons_ = show;
   Tavix_SetBtn(show ? kOn : kOff);
-  Tavix_Drw(kKeepView);
+  Redraw();
 }
+
+void PlotPane::ShowScaleBar(bool show) {
+  shows_scale_bar_ = show;
+  Tavix_SclBarDsp(show ? kOn : kOff);
+  Redraw();
+}
+
+void PlotPane::Redraw() { Tavix_Drw(kKeepView); }
 
 void PlotPane::TakeFocus() {
   if (CWnd* window = Tavix_Wnd()) window->SetFocus();

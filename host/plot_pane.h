@@ -5,7 +5,7 @@
 
 #include <optional>
 
-#include "host/readers/ground_position.h"
+#include "host/ground_position.h"
 #include "host/readers/survey.h"
 #include "host/survey_counts.h"
 #include "host/survey_entry.h"
@@ -41,6 +41,11 @@ class PlotPane {
   void ShowWholeView();
   void ShowButtons(bool show);
   [[nodiscard]] bool ShowsButtons() const { return shows_buttons_; }
+  void ShowScaleBar(bool show);
+  [[nodiscard]] bool ShowsScaleBar() const { return shows_scale_bar_; }
+
+  // Draws what was changed, in the view as it is.
+  static void Redraw();
 
   // Gives the plot window the keyboard: the arrow keys pan.
   void TakeFocus();
@@ -57,6 +62,7 @@ class PlotPane {
   SurveyEntry entry_;
   bool shown_ = true;
   bool shows_buttons_ = true;
+  bool shows_scale_bar_ = false;
   bool captures_ = false;
   UINT capture_id_ = 0;
 };

@@ -63,15 +63,15 @@ PlanElement ReadCurve(const Source& source, GroundPosition start, GroundPosition
   std::optional<double> radius = source.ground.Length(source.node, "radius");
   const std::optional<double> length = source.ground.Length(source.node, "length");
   if (!radius && !centre) source.Refuse("has neither a radius nor a Center");
-  if (!radius) radius = DistanceBetween(*centre, start);
+  if (!radius) radius = Distance(*centre, start);
   if (*radius < kSmallestRadius) source.Refuse("has no radius");
   if (!centre) {
     const bool is_long = length && *length > std::numbers::pi * *radius;
     centre = CentreOf(start, end, *radius, rotation, is_long);
     if (!centre) source.Refuse("has a radius that does not reach from its Start to its End");
   }
-  if (!Agree(DistanceBetween(*centre, start), *radius, *radius) ||
-      !Agree(DistanceBetween(*centre, end), *radius, *radius)) {
+  if (!Agree(Distance(*centre, start), *radius, *radius) ||
+      !Agree(Distance(*centre, end), *radius, *radius)) {
     source.Refuse("has a Center that is not its radius away from its Start and End");
   }
   const double turn = TurnAbout(*centre, start, end, rotation);
@@ -113,7 +113,7 @@ PlanElement ReadSpiral(const Source& source, GroundPosition start, GroundPositio
   }
   shape.length = SpiralLength(source, std::abs(shape.end_curvature - shape.start_curvature));
   if (!(shape.length > 0.0)) source.Refuse("has no length");
-  if (!Agree(ChordOf(shape), DistanceBetween(start, end), shape.length)) {
+  if (!Agree(ChordOf(shape), Distance(start, end), shape.length)) {
     source.Refuse("does not reach from its Start to its End by its radii and its length");
   }
   if (const auto corner = source.Position("PI")) {

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "host/readers/ground_position.h"
+#include "host/ground_position.h"
 #include "host/readers/landxml_ground.h"
 #include "host/readers/plan_element.h"
 #include "host/readers/xml_node.h"

@@ -9,7 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "host/readers/ground_position.h"
+#include "host/ground_position.h"
 #include "host/readers/xml_node.h"
 
 namespace fieldhost {

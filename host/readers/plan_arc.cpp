@@ -20,10 +20,6 @@ GroundPosition Polar(GroundPosition centre, double radius, double bearing) {
 
 }  // namespace
 
-double DistanceBetween(GroundPosition a, GroundPosition b) {
-  return std::hypot(b.north - a.north, b.east - a.east);
-}
-
 double TurnAbout(GroundPosition centre, GroundPosition from, GroundPosition to, Rotation rotation) {
   double turn = Bearing(centre, to) - Bearing(centre, from);
   if (rotation == Rotation::kCounterClockwise) turn = -turn;
@@ -57,7 +53,7 @@ PlanElement ArcAbout(GroundPosition centre, GroundPosition from, GroundPosition 
 std::optional<GroundPosition> CentreOf(GroundPosition from, GroundPosition to, double radius,
                                        Rotation rotation, bool is_long) {
   constexpr double kReach = 1.0 + 1e-9;  // half a circle reaches exactly, but for rounding
-  const double chord = DistanceBetween(from, to);
+  const double chord = Distance(from, to);
   if (chord <= 0.0 || chord > 2.0 * radius * kReach) return std::nullopt;
   const double beside = std::sqrt(std::max(0.0, radius * radius - chord * chord / 4.0));
   const bool right = (rotation == Rotation::kClockwise) != is_long;

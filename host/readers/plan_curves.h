@@ -3,14 +3,12 @@
 
 #include <optional>
 
-#include "host/readers/ground_position.h"
+#include "host/ground_position.h"
 #include "host/readers/plan_element.h"
 
 namespace fieldhost {
 
 enum class Rotation { kClockwise, kCounterClockwise };  // as seen on the map
-
-[[nodiscard]] double DistanceBetween(GroundPosition a, GroundPosition b);
 
 // How far the direction from `centre` turns on the way from `from` to `to`, in radians, above 0 and
 // up to a full circle.

@@ -4,7 +4,7 @@
 #include <variant>
 #include <vector>
 
-#include "host/readers/ground_position.h"
+#include "host/ground_position.h"
 
 namespace fieldhost {
 

@@ -59,6 +59,9 @@ OwnedHandle::~OwnedHandle() {
 HostProcess::HostProcess(const std::filesystem::path& folder,
                          const std::vector<std::wstring>& arguments)
     : folder_(folder) {
+  // Starts the desktop's own process where it does not run yet. Started by the host, it would
+  // inherit the host's files and keep them open.
+  ::GetDesktopWindow();
   const OwnedHandle output(CreateForChild(folder_ / L"output.txt"));
   const OwnedHandle errors(CreateForChild(folder_ / L"errors.txt"));
   STARTUPINFOW startup = {};

@@ -3,13 +3,13 @@
 #include <fstream>
 #include <iterator>
 
-#include "tests/host/main_window_driver.h"
 #include "tests/host/picture_image.h"
+#include "tests/host/window_test.h"
 
 namespace fieldhost {
 namespace {
 
-class MainWindowExport : public MainWindow {
+class MainWindowExport : public WindowTest {
  protected:
   [[nodiscard]] HWND OpenDialog() {
     ::PostMessageW(window_, WM_COMMAND, ID_SURVEY_EXPORT, 0);
@@ -35,12 +35,12 @@ class MainWindowExport : public MainWindow {
   // The message box that stands over a window; null when none comes.
   static HWND WaitForBoxOf(HWND owner) {
     HWND box = nullptr;
-    WaitUntil([&] {
+    EXPECT_TRUE(WaitUntil([&] {
       do {
         box = ::FindWindowExW(nullptr, box, L"#32770", nullptr);
       } while (box && ::GetWindow(box, GW_OWNER) != owner);
       return box != nullptr;
-    });
+    }));
     return box;
   }
 

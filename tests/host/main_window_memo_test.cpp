@@ -1,11 +1,11 @@
 // The memo editor of the host's main window.
 
-#include "tests/host/main_window_driver.h"
+#include "tests/host/window_test.h"
 
 namespace fieldhost {
 namespace {
 
-class MainWindowMemo : public MainWindow {
+class MainWindowMemo : public WindowTest {
  protected:
   void OpenTwoPoints() {
     ASSERT_NO_FATAL_FAILURE(Open({Write(L"list.csv", "7,10.5,20.25,3,a\n8,30,20.25,3,b\n")}));

@@ -1,11 +1,11 @@
 // The plot window's own settings, opened by its button inside the host.
 
-#include "tests/host/main_window_driver.h"
+#include "tests/host/window_test.h"
 
 namespace fieldhost {
 namespace {
 
-class MainWindowSettings : public MainWindow {
+class MainWindowSettings : public WindowTest {
  protected:
   [[nodiscard]] HWND OpenSettings() {
     constexpr WPARAM kSettingsButton = 429;

@@ -2,12 +2,14 @@
 
 #include <cstddef>
 
-#include "tests/host/main_window_driver.h"
+#include "tests/host/window_test.h"
 
 namespace fieldhost {
 namespace {
 
 constexpr const wchar_t* kBoxTitle = L"fieldhost";
+
+using MainWindow = WindowTest;
 
 TEST_F(MainWindow, HasTheAskedClientSize) {
   ASSERT_NO_FATAL_FAILURE(Open({L"--size", L"300x400"}));
@@ -44,8 +46,8 @@ TEST_F(MainWindow, CapturesTheCoordinatesOfATap) {
   ExpectInfo(L"2 points");
   Command(ID_SURVEY_CAPTURE);
   ExpectInfo(L"Tap a place to capture its coordinates.");
-  Tap(Plot(), 100, 100);
-  EXPECT_TRUE(WaitUntil([&] { return TextOf(Info()).starts_with(L"Captured  X 1"); }));
+  TapPixel(100, 100);
+  ExpectInfoBegins(L"Captured  X 1");
   Command(ID_SURVEY_CAPTURE);
   ExpectInfo(L"2 points");
   Exit();
@@ -60,7 +62,7 @@ TEST_F(MainWindow, PlotFollowsTheWindowsSize) {
   EXPECT_TRUE(WaitUntil([&] { return Plot() && WidthOf(Plot()) == 500; }));
   // The survey is still there.
   ::PostMessageW(window_, WM_COMMAND, ID_PLOT_NOTIFY, 74);
-  EXPECT_TRUE(WaitUntil([&] { return TextOf(Info()).starts_with(L"504 雨水2  X "); }));
+  ExpectInfoBegins(L"504 雨水2  X ");
   Exit();
 }
 

@@ -1,11 +1,11 @@
 // The tabs of the host's main window: plan and 3-D side view.
 
-#include "tests/host/main_window_driver.h"
+#include "tests/host/window_test.h"
 
 namespace fieldhost {
 namespace {
 
-using MainWindowViews = MainWindow;
+using MainWindowViews = WindowTest;
 
 TEST_F(MainWindowViews, TabTurnsToTheSideViewAndBack) {
   ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv")}));
@@ -28,10 +28,10 @@ TEST_F(MainWindowViews, KeysTurnToTheSideViewAndBack) {
   ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv")}));
   ExpectInfo(L"74 points");
   const HWND plan = Plot();
-  ::PostMessageW(plan, WM_KEYDOWN, VK_F8, 0);
+  ::PostMessageW(plan, WM_KEYDOWN, VK_F4, 0);
   EXPECT_TRUE(WaitUntil([&] { return ShowsSide(); }));
   EXPECT_NE(Plot(), plan);
-  ::PostMessageW(Plot(), WM_KEYDOWN, VK_F7, 0);
+  ::PostMessageW(Plot(), WM_KEYDOWN, VK_F3, 0);
   EXPECT_TRUE(WaitUntil([&] { return !ShowsSide(); }));
   EXPECT_EQ(Plot(), plan);
   Exit();
@@ -56,6 +56,9 @@ TEST_F(MainWindowViews, PlanIsAsItWasAfterTheSideView) {
   ::SendMessageW(Plot(), WM_COMMAND, kZoomIn, 0);
   ::SendMessageW(Plot(), WM_COMMAND, kRotate, 0);
   Command(ID_VIEW_PLAN);
+  ExpectInfo(before);
+  Command(ID_SURVEY_CAPTURE);
+  Command(ID_SURVEY_CAPTURE);
   ExpectInfo(L"Tap a place to capture its coordinates.");
   EXPECT_EQ(captured(), before);
   Exit();

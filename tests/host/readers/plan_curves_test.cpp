@@ -160,7 +160,7 @@ TEST(SpiralBetween, IsDrawnAlongTheCurve) {
     SCOPED_TRACE(row.what);
     const std::vector<tavix::GroundPoint> way = TrueSpiral(row.shape, 0.7);
     const GroundPosition end = EndOf(way);
-    EXPECT_NEAR(ChordOf(row.shape), DistanceBetween(kCentre, end), 0.001);
+    EXPECT_NEAR(ChordOf(row.shape), Distance(kCentre, end), 0.001);
     const PlanElement pieces = SpiralBetween(kCentre, end, row.shape);
     ASSERT_EQ(pieces.size(), 1U);
     const std::vector<tavix::GroundPoint> drawn = Drawn(pieces[0]);

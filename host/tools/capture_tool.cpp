@@ -1,0 +1,17 @@
+#include "host/tools/capture_tool.h"
+
+#include "host/measure_text.h"
+
+namespace fieldhost {
+
+Progress CaptureTool::Begin() {
+  Say(L"Tap a place to capture its coordinates.");
+  return Progress::kGoesOn;
+}
+
+Progress CaptureTool::PositionTapped(const GroundPosition& position) {
+  Say(L"Captured  " + PositionText(position));
+  return Progress::kGoesOn;
+}
+
+}  // namespace fieldhost

@@ -1,0 +1,34 @@
+// Drawing circles: the centre, then a point on the circle, then the next circle.
+#pragma once
+
+#include <optional>
+
+#include "host/tools/drawn_figures.h"
+#include "host/tools/plan_tool.h"
+#include "host/tools/position_mark.h"
+
+namespace fieldhost {
+
+class CircleTool : public PlanTool {
+ public:
+  // The figures must outlive the tool.
+  CircleTool(DrawnFigures& figures, short mark_legend) : figures_(figures), mark_(mark_legend) {}
+
+  Progress Begin() override;
+  void End() override;
+  void Restore() override;
+  Progress PositionTapped(const GroundPosition& position) override;
+  // Takes the centre back, else the circle drawn last.
+  void Undo() override;
+  Progress Finish(Ending ending) override;
+
+ private:
+  void TakeCentre(const GroundPosition& centre);
+  void Draw(double radius);
+
+  DrawnFigures& figures_;
+  PositionMark mark_;
+  std::optional<GroundPosition> centre_;
+};
+
+}  // namespace fieldhost

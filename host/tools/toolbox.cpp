@@ -1,0 +1,161 @@
+#include "host/tools/toolbox.h"
+
+#include <optional>
+
+#include "host/resource.h"
+#include "host/tools/sheet_dialog.h"
+
+namespace fieldhost {
+
+Toolbox::Toolbox(PlotPane& plot)
+    : plot_(plot),
+      legends_(AddToolLegends()),
+      figures_(legends_.line),
+      circle_(figures_, legends_.mark),
+      trace_(figures_, legends_.mark),
+      move_point_(legends_.mark),
+      move_sheet_(sheet_),
+      tools_({{{ID_SURVEY_CAPTURE, &capture_},
+               {ID_TOOL_CIRCLE, &circle_},
+               {ID_TOOL_TRACE, &trace_},
+               {ID_TOOL_MOVE_POINT, &move_point_},
+               {ID_TOOL_MOVE_SHEET, &move_sheet_}}}) {}
+
+bool Toolbox::Handle(UINT command, int key, CWnd& dialog_parent) {
+  for (const ToolCommand& row : tools_) {
+    if (row.command != command) continue;
+    Choose(*row.tool);
+    return true;
+  }
+  return HandleTap(command, key) || HandleStep(command) || HandleFigure(command) ||
+         HandleSheet(command, dialog_parent);
+}
+
+// The tool in use, chosen again, is put away.
+void Toolbox::Choose(PlanTool& tool) {
+  const bool again = tool_ == &tool;
+  Stop();
+  if (again) return;
+  tool_ = &tool;
+  Went(tool.Begin());
+}
+
+void Toolbox::Stop() {
+  text_.Empty();
+  if (!tool_) return;
+  tool_->End();
+  tool_ = nullptr;
+  AskWhatIsWanted();
+}
+
+void Toolbox::Went(Progress progress) {
+  const CString said = tool_->Text();
+  if (progress == Progress::kDone) {
+    Stop();
+  } else {
+    AskWhatIsWanted();
+  }
+  text_ = said;
+}
+
+void Toolbox::AskWhatIsWanted() {
+  const bool positions = tool_ && tool_->Wants() == PlanTool::Taps::kPositions;
+  // Asking again would lose a position that is on its way.
+  if (positions != plot_.CapturesCoordinates()) {
+    plot_.CaptureCoordinates(positions, ID_PLOT_CAPTURE);
+  }
+}
+
+bool Toolbox::HandleTap(UINT command, int key) {
+  if (command == ID_PLOT_CAPTURE) {
+    const std::optional<GroundPosition> position = PlotPane::CapturedCoordinate();
+    if (tool_ && position) Went(tool_->PositionTapped(*position));
+    return true;
+  }
+  if (command != ID_PLOT_NOTIFY || !tool_ || tool_->Wants() != PlanTool::Taps::kPoints)
+    return false;
+  Went(tool_->PointPicked(key));
+  return true;
+}
+
+bool Toolbox::HandleStep(UINT command) {
+  switch (command) {
+    case ID_TOOL_UNDO:
+      if (tool_) {
+        tool_->Undo();
+        Went(Progress::kGoesOn);
+      }
+      return true;
+    case ID_TOOL_FINISH:
+      if (tool_) Went(tool_->Finish(Ending::kAsItStands));
+      return true;
+    case ID_TOOL_FINISH_CLOSED:
+      if (tool_) Went(tool_->Finish(Ending::kClosed));
+      return true;
+    case ID_TOOL_CANCEL:
+      Stop();
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool Toolbox::HandleFigure(UINT command) {
+  switch (command) {
+    case ID_FIGURE_DELETE_CIRCLE:
+      text_ = figures_.DeleteLastCircle() ? L"The last circle is deleted."
+                                          : L"There is no circle to delete.";
+      return true;
+    case ID_FIGURE_DELETE_BOUNDARY:
+      text_ = figures_.DeleteLastBoundary() ? L"The last boundary is deleted."
+                                            : L"There is no boundary to delete.";
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool Toolbox::HandleSheet(UINT command, CWnd& dialog_parent) {
+  switch (command) {
+    case ID_SHEET_SETUP: {
+      Stop();
+      const auto chosen = AskForSheet(dialog_parent, sheet_.Now().value_or(UsualSheet()));
+      if (chosen) sheet_.Show(*chosen);
+      return true;
+    }
+    case ID_SHEET_REMOVE:
+      Stop();
+      sheet_.Remove();
+      return true;
+    default:
+      return false;
+  }
+}
+
+void Toolbox::UpdateMenu(CMenu& menu) const {
+  for (const ToolCommand& row : tools_) {
+    menu.CheckMenuItem(row.command, row.tool == tool_ ? MF_CHECKED : MF_UNCHECKED);
+  }
+  const auto enable = [&](UINT command, bool can) {
+    menu.EnableMenuItem(command, can ? MF_ENABLED : MF_GRAYED);
+  };
+  for (const UINT step : {ID_TOOL_UNDO, ID_TOOL_FINISH, ID_TOOL_FINISH_CLOSED, ID_TOOL_CANCEL}) {
+    enable(step, tool_ != nullptr);
+  }
+  enable(ID_FIGURE_DELETE_CIRCLE, figures_.HasCircles());
+  enable(ID_FIGURE_DELETE_BOUNDARY, figures_.HasBoundaries());
+  enable(ID_TOOL_MOVE_SHEET, sheet_.Now().has_value());
+  enable(ID_SHEET_REMOVE, sheet_.Now().has_value());
+}
+
+void Toolbox::CloseSurvey() {
+  Stop();
+  figures_.Forget();
+}
+
+void Toolbox::RestoreOnNewPlot() {
+  sheet_.LayOut();
+  if (tool_) tool_->Restore();
+}
+
+}  // namespace fieldhost

@@ -1,0 +1,75 @@
+// The tools of the plan. At most one is in use; commands and taps go to it.
+#pragma once
+
+#include <afxwin.h>
+
+#include <array>
+
+#include "host/plot_pane.h"
+#include "host/tools/capture_tool.h"
+#include "host/tools/circle_tool.h"
+#include "host/tools/drawn_figures.h"
+#include "host/tools/move_point_tool.h"
+#include "host/tools/move_sheet_tool.h"
+#include "host/tools/sheet_frame.h"
+#include "host/tools/tool_legends.h"
+#include "host/tools/trace_tool.h"
+
+namespace fieldhost {
+
+class Toolbox {
+ public:
+  // The plot must outlive the toolbox.
+  explicit Toolbox(PlotPane& plot);
+
+  // Does what a command asks for, a report of the plot window included, whose point key is `key`.
+  // False for a command that is none of the tools', and for a tapped point that no tool waits for.
+  bool Handle(UINT command, int key, CWnd& dialog_parent);
+
+  // What the user is to read after a command; empty when there is nothing to say.
+  [[nodiscard]] const CString& Text() const { return text_; }
+  [[nodiscard]] bool IsToolInUse() const { return tool_ != nullptr; }
+
+  // The sheet, for when there is nothing else to say; empty while there is none.
+  [[nodiscard]] CString SheetText() const { return sheet_.Text(); }
+
+  // Shows in a menu what is in use and what can be done now.
+  void UpdateMenu(CMenu& menu) const;
+
+  // Ends the tool in use. Before the survey is closed.
+  void CloseSurvey();
+
+  // Around a change of the plot window's size, and around a new one.
+  void KeepForNewPlot() { sheet_.Keep(); }
+  void RestoreOnNewPlot();
+
+ private:
+  struct ToolCommand {
+    UINT command;
+    PlanTool* tool;
+  };
+
+  void Choose(PlanTool& tool);
+  void Stop();
+  void Went(Progress progress);
+  void AskWhatIsWanted();
+  bool HandleTap(UINT command, int key);
+  bool HandleStep(UINT command);
+  bool HandleFigure(UINT command);
+  bool HandleSheet(UINT command, CWnd& dialog_parent);
+
+  PlotPane& plot_;
+  ToolLegends legends_;
+  DrawnFigures figures_;
+  SheetFrame sheet_;
+  CaptureTool capture_;
+  CircleTool circle_;
+  TraceTool trace_;
+  MovePointTool move_point_;
+  MoveSheetTool move_sheet_;
+  std::array<ToolCommand, 5> tools_;
+  PlanTool* tool_ = nullptr;  // in use
+  CString text_;
+};
+
+}  // namespace fieldhost

@@ -1,0 +1,38 @@
+// What the tests of the plan tools share: a survey of four points at the corners of a square of
+// 100 m, a (0, 0), b (100, 0), c (100, 100) and d (0, 100), north first, and taps at ground
+// positions.
+#pragma once
+
+#include "tests/host/window_test.h"
+#include "tests/support/window_picture.h"
+
+namespace fieldhost {
+
+class PlanTest : public WindowTest {
+ protected:
+  static constexpr const wchar_t* kSummary = L"4 points";
+
+  // The plot has no buttons, which a mouse over them would light up.
+  void SetUp() override;
+
+  // Taps the pixel of a ground position, whatever size the window has got since, as long as the
+  // view was not panned or turned.
+  void Tap(double north, double east) const;
+  // For a view that was zoomed about its middle.
+  void ZoomedTo(double pixels_per_metre) { pixels_per_metre_ = pixels_per_metre; }
+
+  // What the plot shows at this moment.
+  [[nodiscard]] tavix::test::Picture Shown() const;
+  // Waits until the plot shows just this.
+  void ExpectShown(const tavix::test::Picture& picture) const;
+  // Waits until it shows at least so many pixels of a colour, 0x00RRGGBB.
+  void ExpectColour(std::uint32_t colour, int pixels) const;
+
+ private:
+  [[nodiscard]] POINT PixelOf(double north, double east) const;
+  [[nodiscard]] bool ShowsTheSurveyAlone() const;
+
+  double pixels_per_metre_ = 0.0;
+};
+
+}  // namespace fieldhost

@@ -1,0 +1,193 @@
+// Tracing a boundary on the plan.
+
+#include "tests/host/tools/plan_test.h"
+
+namespace fieldhost {
+namespace {
+
+using tavix::test::CountPixels;
+using tavix::test::Picture;
+
+constexpr std::uint32_t kFigure = 0xC00080;
+constexpr std::uint32_t kTraced = 0xFF0000;  // cyan, exclusive-or, on white
+constexpr std::uint32_t kMark = 0xFF6000;
+constexpr const wchar_t* kAskForFirst = L"Trace: tap the first corner.";
+constexpr const wchar_t* kOneCorner = L"1 corner  X 0.000  Y 0.000  Tap the next.";
+constexpr const wchar_t* kTwoCorners = L"2 corners  100.000 m  Tap the next; Enter finishes.";
+constexpr const wchar_t* kThreeCorners =
+    L"3 corners  200.000 m  5000.00 m\u00B2  Tap the next; Enter finishes.";
+
+class TraceTool : public PlanTest {
+ protected:
+  void Start() const {
+    Command(ID_TOOL_TRACE);
+    ExpectInfo(kAskForFirst);
+  }
+  void TapA() const {
+    Tap(0, 0);
+    ExpectInfo(kOneCorner);
+  }
+  void TapAToB() const {
+    TapA();
+    Tap(100, 0);
+    ExpectInfo(kTwoCorners);
+  }
+  void TapAToC() const {
+    TapAToB();
+    Tap(100, 100);
+    ExpectInfo(kThreeCorners);
+  }
+};
+
+TEST_F(TraceTool, TellsCornersLengthAndArea) {
+  Start();
+  TapAToC();
+  Tap(0, 100);
+  ExpectInfo(L"4 corners  300.000 m  10000.00 m\u00B2  Tap the next; Enter finishes.");
+  ExpectColour(kTraced, 300);
+  Exit();
+}
+
+TEST_F(TraceTool, SaysThatTheBoundaryCrossesItself) {
+  Start();
+  TapA();
+  Tap(100, 100);
+  ExpectInfoBegins(L"2 corners  141.421 m");
+  Tap(100, 0);
+  ExpectInfoBegins(L"3 corners  241.421 m  5000.00 m\u00B2");
+  Tap(0, 100);
+  ExpectInfo(L"4 corners  382.843 m  crosses itself  Tap the next; Enter finishes.");
+  Exit();
+}
+
+TEST_F(TraceTool, CornerTappedAgainCountsOnce) {
+  Start();
+  TapA();
+  Tap(0, 0);
+  ExpectInfo(L"This corner is there already: tap the next.");
+  Tap(100, 0);
+  ExpectInfo(kTwoCorners);
+  Exit();
+}
+
+TEST_F(TraceTool, UndoTakesCornersBackOneByOne) {
+  const Picture before = Shown();
+  Start();
+  TapAToC();
+  ExpectColour(kTraced, 150);
+  Command(ID_TOOL_UNDO);
+  ExpectInfo(kTwoCorners);
+  Command(ID_TOOL_UNDO);
+  ExpectInfo(kOneCorner);
+  ExpectColour(kMark, 8);
+  Command(ID_TOOL_UNDO);
+  ExpectInfo(kAskForFirst);
+  ExpectShown(before);
+  Command(ID_TOOL_UNDO);
+  ExpectInfo(L"There is no corner to take back. Tap the first corner.");
+  // The trace goes on.
+  TapAToB();
+  Exit();
+}
+
+TEST_F(TraceTool, FinishLeavesALine) {
+  Start();
+  TapAToC();
+  Command(ID_TOOL_FINISH);
+  ExpectInfo(L"Line drawn: 3 corners  200.000 m");
+  // Two sides of the square, each two pixels wide.
+  ExpectColour(kFigure, 600);
+  EXPECT_EQ(CountPixels(Shown(), kTraced), 0);
+  EXPECT_EQ(CountPixels(Shown(), kMark), 0);
+  // The tool is put away: a tap tells the point.
+  Tap(0, 0);
+  ExpectInfo(L"1 a  X 0.000  Y 0.000");
+  Exit();
+}
+
+TEST_F(TraceTool, FinishClosedLeavesABoundary) {
+  Start();
+  TapAToC();
+  Command(ID_TOOL_FINISH);
+  ExpectInfo(L"Line drawn: 3 corners  200.000 m");
+  ExpectColour(kFigure, 600);
+  const int open_line = CountPixels(Shown(), kFigure);
+  Command(ID_FIGURE_DELETE_BOUNDARY);
+  ExpectInfo(L"The last boundary is deleted.");
+
+  Start();
+  TapAToC();
+  Command(ID_TOOL_FINISH_CLOSED);
+  ExpectInfo(L"Boundary drawn: 3 corners  341.421 m  5000.00 m\u00B2");
+  ExpectColour(kFigure, open_line + 200);
+  Exit();
+}
+
+TEST_F(TraceTool, BoundaryTracedBackToItsStartCountsThatCornerOnce) {
+  Start();
+  TapAToC();
+  Tap(0, 0);
+  ExpectInfo(L"4 corners  341.421 m  5000.00 m\u00B2  Tap the next; Enter finishes.");
+  Command(ID_TOOL_FINISH_CLOSED);
+  ExpectInfo(L"Boundary drawn: 3 corners  341.421 m  5000.00 m\u00B2");
+  Exit();
+}
+
+TEST_F(TraceTool, FinishWaitsForEnoughCorners) {
+  Start();
+  Command(ID_TOOL_FINISH);
+  ExpectInfo(L"0 corners: a line takes two. Tap the next.");
+  TapA();
+  Command(ID_TOOL_FINISH);
+  ExpectInfo(L"1 corner: a line takes two. Tap the next.");
+  Tap(100, 0);
+  ExpectInfo(kTwoCorners);
+  Command(ID_TOOL_FINISH_CLOSED);
+  ExpectInfo(L"2 corners: a closed boundary takes three. Tap the next.");
+  Tap(100, 100);
+  ExpectInfo(kThreeCorners);
+  Exit();
+}
+
+TEST_F(TraceTool, CancelLeavesNothing) {
+  const Picture before = Shown();
+  Start();
+  TapAToC();
+  ExpectColour(kTraced, 150);
+  Command(ID_TOOL_CANCEL);
+  ExpectInfo(kSummary);
+  ExpectShown(before);
+  // Nor does a new trace begin with the old corners.
+  Start();
+  TapAToB();
+  Exit();
+}
+
+TEST_F(TraceTool, DeletedBoundaryLeavesNothing) {
+  const Picture before = Shown();
+  Start();
+  TapAToC();
+  Command(ID_TOOL_FINISH_CLOSED);
+  ExpectColour(kFigure, 600);
+  Command(ID_FIGURE_DELETE_BOUNDARY);
+  ExpectShown(before);
+  Command(ID_FIGURE_DELETE_BOUNDARY);
+  ExpectInfo(L"There is no boundary to delete.");
+  Exit();
+}
+
+TEST_F(TraceTool, CornersSurviveAResizedWindow) {
+  Start();
+  TapAToB();
+  Widen(420);
+  ExpectColour(kTraced, 150);
+  ExpectInfo(kTwoCorners);
+  Tap(100, 100);
+  ExpectInfo(kThreeCorners);
+  Command(ID_TOOL_UNDO);
+  ExpectInfo(kTwoCorners);
+  Exit();
+}
+
+}  // namespace
+}  // namespace fieldhost
