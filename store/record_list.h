@@ -67,7 +67,7 @@ class RecordList {
     const auto position = static_cast<Position>(records_.size());
     if (FirstWithKey(record.key)) ++repeated_keys_;
     records_.push_back(record);
-    index_.Insert(record.key, position, KeyAt());
+    index_.Insert(record.key, position);
     ++live_;
     return records_.back();
   }
@@ -75,7 +75,7 @@ class RecordList {
   // Removes the current record, of which there must be one; then there is no cursor.
   void RemoveCurrent() {
     Record& record = records_[*cursor_];
-    index_.Erase(record.key, *cursor_, KeyAt());
+    index_.Erase(record.key, *cursor_);
     record.removed = true;
     --live_;
     if (FirstWithKey(record.key)) --repeated_keys_;
@@ -127,10 +127,6 @@ class RecordList {
  private:
   static constexpr std::size_t kFewHoles = 64;
 
-  [[nodiscard]] auto KeyAt() const {
-    return [this](Position position) { return records_[position].key; };
-  }
-
   [[nodiscard]] std::optional<Position> NextLive(Position from) const {
     for (Position at = from; at < records_.size(); ++at) {
       if (!records_[at].removed) return at;
@@ -140,7 +136,7 @@ class RecordList {
 
   [[nodiscard]] std::optional<Position> FirstWithKey(std::int32_t key) const {
     Position first = KeyIndex::kNone;
-    index_.ForEach(key, KeyAt(), [&](Position position) {
+    index_.ForEach(key, [&](Position position) {
       first = std::min(first, position);
       return repeated_keys_ != 0;
     });
@@ -167,7 +163,7 @@ class RecordList {
   void CloseHoles() {
     std::erase_if(records_, [](const Record& record) { return record.removed; });
     index_.Clear();
-    for (Position at = 0; at < records_.size(); ++at) index_.Insert(records_[at].key, at, KeyAt());
+    for (Position at = 0; at < records_.size(); ++at) index_.Insert(records_[at].key, at);
   }
 
   std::vector<Record> records_;
