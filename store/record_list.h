@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "store/key_index.h"
@@ -89,6 +90,7 @@ class RecordList {
     index_.Clear();
     live_ = 0;
     repeated_keys_ = 0;
+    ++numbering_;
     cursor_.reset();
   }
 
@@ -110,13 +112,14 @@ class RecordList {
     }
   }
 
-  // Until `visit` returns false.
-  template <class Visit>
-  void ForEachWhile(Visit visit) const {
-    for (const Record& record : records_) {
-      if (!record.removed && !visit(record)) return;
-    }
-  }
+  // ---- Positions, which rise in list order, removed records among them
+
+  // All records by their positions.
+  [[nodiscard]] std::span<const Record> ByPosition() const { return records_; }
+  // Changes whenever records get other positions.
+  [[nodiscard]] std::uint64_t Numbering() const { return numbering_; }
+  // Of the current record, of which there must be one.
+  [[nodiscard]] Position CurrentPosition() const { return *cursor_; }
 
   // The first record with the key, or null; leaves the cursor alone.
   [[nodiscard]] const Record* Peek(std::int32_t key) const {
@@ -161,6 +164,7 @@ class RecordList {
   }
 
   void CloseHoles() {
+    ++numbering_;
     std::erase_if(records_, [](const Record& record) { return record.removed; });
     index_.Clear();
     for (Position at = 0; at < records_.size(); ++at) index_.Insert(records_[at].key, at);
@@ -170,6 +174,7 @@ class RecordList {
   KeyIndex index_;
   std::size_t live_ = 0;
   std::size_t repeated_keys_ = 0;  // records whose key an earlier record has too
+  std::uint64_t numbering_ = 0;
   std::optional<Position> cursor_;
 };
 
