@@ -28,7 +28,7 @@ class FaultyFile : public CFile {
   UINT Read(void* buffer, UINT count) override {
     ++reads_;
     const auto left = bytes_.size() - std::min<std::uint64_t>(place_, bytes_.size());
-    const auto given = std::min<std::uint64_t>({count, most_, left});
+    const auto given = static_cast<std::size_t>(std::min<std::uint64_t>({count, most_, left}));
     for (const std::uint64_t spoilt : spoilt_) {
       if (spoilt >= place_ && spoilt < place_ + given) {
         AfxThrowFileException(CFileException::hardIO, ERROR_CRC, L"faulty");
