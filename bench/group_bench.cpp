@@ -20,14 +20,17 @@
 #include <string>
 #include <vector>
 
+#include "bench/median_time.h"
+
 namespace {
+
+using tavix::MedianMilliseconds;
 
 constexpr int kWidth = 2000;
 constexpr int kHeight = 2800;
 constexpr int kWindow = 240;       // pixels, both ways
 constexpr double kSide = 10000.0;  // metres
 constexpr int kMostLines = 32000;  // a line keeps 16 bits of a key
-constexpr int kRounds = 5;
 
 struct Place {
   double x;
@@ -123,26 +126,6 @@ void DrawFloor(HDC dc, const std::vector<Place>& places) {
   ::GdiFlush();
   ::SelectObject(dc, old_font);
   ::DeleteObject(label);
-}
-
-double Now() {
-  LARGE_INTEGER frequency;
-  LARGE_INTEGER now;
-  ::QueryPerformanceFrequency(&frequency);
-  ::QueryPerformanceCounter(&now);
-  return 1e3 * static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
-template <class Work>
-double MedianMilliseconds(Work work) {
-  std::vector<double> times;
-  for (int round = 0; round < kRounds; ++round) {
-    const double start = Now();
-    work();
-    times.push_back(Now() - start);
-  }
-  std::sort(times.begin(), times.end());
-  return times[times.size() / 2];
 }
 
 void EnterScene(const std::vector<Place>& places) {

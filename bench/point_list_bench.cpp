@@ -2,12 +2,16 @@
 //   Enter       entering n new points, keys in any order, per point
 //   Find        a random key among n, per lookup
 //   FindAbsent  a key that is not there, per lookup
-//   FindNearest the point within ten metres of a random place among n, per search
+//   FindNearest the point within some reach of a random place among n, per search; one metre holds
+//               a hundredth of a point at 10^6
+//   FloorWalk   the same by a walk over a plain row of points, up to the tenth candidate
 // Linear in n means the time per item stays the same from 10^4 to 10^6 but for the cache.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <cmath>
 #include <random>
+#include <utility>
 #include <vector>
 
 #include "store/point_list.h"
@@ -15,6 +19,7 @@
 namespace {
 
 using tavix::CPntList;
+using tavix::GroundPoint;
 
 std::vector<std::int32_t> ShuffledKeys(std::int64_t count) {
   std::vector<std::int32_t> keys(static_cast<std::size_t>(count));
@@ -64,21 +69,72 @@ void FindAbsent(benchmark::State& state) {
   }
 }
 
+std::vector<GroundPoint> SomePlaces() {
+  std::mt19937 random(4);
+  std::uniform_real_distribution<double> place(0.0, 10000.0);
+  std::vector<GroundPoint> places(1000);
+  for (GroundPoint& at : places) at = {place(random), place(random)};
+  return places;
+}
+
+// Arguments: points, reach in centimetres.
 void FindNearest(benchmark::State& state) {
   CPntList points(0);
   EnterAll(points, ShuffledKeys(state.range(0)));
-  std::mt19937 random(4);
-  std::uniform_real_distribution<double> place(0.0, 10000.0);
+  const double reach = static_cast<double>(state.range(1)) / 100.0;
+  const auto places = SomePlaces();
+  std::int32_t key = 0;
+  for (int walk = 0; walk < 50; ++walk) points.FindNearest(0.0, {-1.0, -1.0}, &key);  // made ready
+  std::size_t i = 0;
   for (auto _ : state) {
-    std::int32_t key = 0;
-    benchmark::DoNotOptimize(points.FindNearest(10.0, {place(random), place(random)}, &key));
+    benchmark::DoNotOptimize(points.FindNearest(reach, places[i], &key));
+    if (++i == places.size()) i = 0;
   }
+}
+
+void FloorWalk(benchmark::State& state) {
+  CPntList points(0);
+  EnterAll(points, ShuffledKeys(state.range(0)));
+  std::vector<std::pair<GroundPoint, std::int32_t>> plain;
+  points.ForEach([&](const tavix::Point& point) { plain.emplace_back(point.at, point.key); });
+  const double reach = static_cast<double>(state.range(1)) / 100.0;
+  const auto places = SomePlaces();
+  std::size_t i = 0;
+  for (auto _ : state) {
+    int candidates = 0;
+    double nearest = 0.0;
+    std::int32_t key = 0;
+    for (const auto& [place, its_key] : plain) {
+      const double dx = places[i].x - place.x;
+      if (!(std::fabs(dx) <= reach)) continue;
+      const double dy = places[i].y - place.y;
+      if (!(std::fabs(dy) <= reach)) continue;
+      const double distance = dx * dx + dy * dy;
+      if (candidates == 0 || distance < nearest) {
+        nearest = distance;
+        key = its_key;
+      }
+      if (++candidates == 10) break;
+    }
+    benchmark::DoNotOptimize(key);
+    if (++i == places.size()) i = 0;
+  }
+}
+
+void Densities(benchmark::internal::Benchmark* bench) {
+  for (const int points : {10000, 1000000}) {
+    for (const int reach : {10, 100, 1000, 3000, 10000, 30000, 100000, 1000000}) {
+      bench->Args({points, reach});
+    }
+  }
+  bench->Unit(benchmark::kMicrosecond);
 }
 
 BENCHMARK(Enter)->RangeMultiplier(10)->Range(10000, 1000000)->Unit(benchmark::kMillisecond);
 BENCHMARK(Find)->RangeMultiplier(10)->Range(10000, 1000000);
 BENCHMARK(FindAbsent)->RangeMultiplier(10)->Range(10000, 1000000);
-BENCHMARK(FindNearest)->RangeMultiplier(10)->Range(10000, 1000000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(FindNearest)->Apply(Densities);
+BENCHMARK(FloorWalk)->Apply(Densities);
 
 }  // namespace
 

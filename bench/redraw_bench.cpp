@@ -19,14 +19,17 @@
 #include <string>
 #include <vector>
 
+#include "bench/median_time.h"
+
 namespace {
+
+using tavix::MedianMilliseconds;
 
 constexpr int kWidth = 240;
 constexpr int kHeight = 320;
 constexpr double kSide = 10000.0;  // metres
 constexpr int kAngle = 15;         // degrees
 constexpr int kMostLines = 20000;
-constexpr int kRounds = 7;
 constexpr COLORREF kMarkColor = RGB(0, 0, 255);
 constexpr COLORREF kLineColor = RGB(0, 128, 0);
 
@@ -110,24 +113,6 @@ int DrawFloor(HDC dc, const View& view, const std::vector<Place>& places) {
   ::DeleteObject(line_pen);
   ::DeleteObject(mark_pen);
   return drawn;
-}
-
-template <class Work>
-double MedianMilliseconds(Work work) {
-  LARGE_INTEGER frequency;
-  ::QueryPerformanceFrequency(&frequency);
-  std::vector<double> times;
-  for (int round = 0; round < kRounds; ++round) {
-    LARGE_INTEGER start;
-    LARGE_INTEGER end;
-    ::QueryPerformanceCounter(&start);
-    work();
-    ::QueryPerformanceCounter(&end);
-    times.push_back(1e3 * static_cast<double>(end.QuadPart - start.QuadPart) /
-                    static_cast<double>(frequency.QuadPart));
-  }
-  std::sort(times.begin(), times.end());
-  return times[times.size() / 2];
 }
 
 void Measure(const char* name, HDC floor_dc, const std::vector<Place>& places, double ground_side) {

@@ -1,6 +1,7 @@
 #include "figure/figure_codec.h"
 
 #include <bit>
+#include <utility>
 
 namespace tavix {
 namespace {
@@ -12,11 +13,15 @@ void Put(unsigned char* bytes, Word word) {
   }
 }
 
+template <class Word, std::size_t... i>
+Word Join(const unsigned char* bytes, std::index_sequence<i...> /*places*/) {
+  return ((static_cast<Word>(bytes[i]) << (8 * i)) | ...);
+}
+
+// Written out byte by byte, for the compiler makes one load of that and a loop of a loop.
 template <class Word>
 Word Take(const unsigned char* bytes) {
-  Word word = 0;
-  for (std::size_t i = 0; i < sizeof(Word); ++i) word |= static_cast<Word>(bytes[i]) << (8 * i);
-  return word;
+  return Join<Word>(bytes, std::make_index_sequence<sizeof(Word)>());
 }
 
 std::int32_t TakeSigned(const unsigned char* bytes) {
@@ -52,9 +57,12 @@ FigurePointBytes EncodeFigurePoint(GroundPoint point) {
   return bytes;
 }
 
-GroundPoint DecodeFigurePoint(const unsigned char* bytes) {
-  return {std::bit_cast<double>(Take<std::uint64_t>(bytes)),
-          std::bit_cast<double>(Take<std::uint64_t>(bytes + 8))};
+void DecodeFigurePoints(const unsigned char* bytes, std::span<GroundPoint> points) {
+  for (GroundPoint& point : points) {
+    point = {std::bit_cast<double>(Take<std::uint64_t>(bytes)),
+             std::bit_cast<double>(Take<std::uint64_t>(bytes + 8))};
+    bytes += kFigurePointSize;
+  }
 }
 
 }  // namespace tavix

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 #include "view/coordinates.h"
 
@@ -31,6 +32,8 @@ using FigurePointBytes = std::array<unsigned char, kFigurePointSize>;
 [[nodiscard]] FigureRecordBytes EncodeFigureRecord(const FigureRecord& record);
 [[nodiscard]] FigureRecord DecodeFigureRecord(const unsigned char* bytes);
 [[nodiscard]] FigurePointBytes EncodeFigurePoint(GroundPoint point);
-[[nodiscard]] GroundPoint DecodeFigurePoint(const unsigned char* bytes);
+
+// As many points as there is room for, from as many times kFigurePointSize bytes.
+void DecodeFigurePoints(const unsigned char* bytes, std::span<GroundPoint> points);
 
 }  // namespace tavix

@@ -71,11 +71,8 @@ int ReadFigure(FileWindow& index_file, FileWindow& coordinate_file, std::int32_t
   const auto size = static_cast<std::uint64_t>(record->point_count) * kFigurePointSize;
   const unsigned char* bytes = coordinate_file.Bytes(record->first_point, size);
   if (!bytes) return -3;
-  const auto count = static_cast<std::size_t>(record->point_count);
-  figure->points.reserve(count);
-  for (std::size_t i = 0; i < count; ++i) {
-    figure->points.push_back(DecodeFigurePoint(bytes + i * kFigurePointSize));
-  }
+  figure->points.resize(static_cast<std::size_t>(record->point_count));
+  DecodeFigurePoints(bytes, figure->points);
   return 0;
 }
 

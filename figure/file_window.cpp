@@ -12,15 +12,27 @@ const unsigned char* FileWindow::Bytes(std::uint64_t offset, std::uint64_t size)
 
 bool FileWindow::MoveTo(std::uint64_t offset, std::uint64_t size) {
   constexpr std::uint64_t kWindow = 64 * 1024;
+  return Holds(offset, size) &&
+         (Fill(offset, std::max(size, kWindow), size) || Fill(offset, size, size));
+}
+
+bool FileWindow::Holds(std::uint64_t offset, std::uint64_t size) const {
   try {
-    // A damaged size is found out before room is made for it.
     const std::uint64_t length = file_.GetLength();
-    if (offset > length || size > length - offset) return false;
+    return offset <= length && size <= length - offset;
+  } catch (CFileException* error) {
+    error->Delete();
+    return false;
+  }
+}
+
+bool FileWindow::Fill(std::uint64_t offset, std::uint64_t room, std::uint64_t wanted) {
+  try {
     start_ = offset;
-    bytes_.resize(static_cast<std::size_t>(std::max(size, kWindow)));
+    bytes_.resize(static_cast<std::size_t>(room));
     file_.Seek(static_cast<LONGLONG>(offset), CFile::begin);
     bytes_.resize(file_.Read(bytes_.data(), static_cast<UINT>(bytes_.size())));
-    return bytes_.size() >= size;
+    return bytes_.size() >= wanted;
   } catch (CFileException* error) {
     error->Delete();
     bytes_.clear();

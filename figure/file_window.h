@@ -20,7 +20,13 @@ class FileWindow {
   const unsigned char* Bytes(std::uint64_t offset, std::uint64_t size);
 
  private:
+  // A place that cannot be read must not cost what lies before it: a window that fails is tried
+  // again with no more than was asked for.
   bool MoveTo(std::uint64_t offset, std::uint64_t size);
+
+  // A damaged size is found out before room is made for it.
+  [[nodiscard]] bool Holds(std::uint64_t offset, std::uint64_t size) const;
+  bool Fill(std::uint64_t offset, std::uint64_t room, std::uint64_t wanted);
 
   CFile& file_;
   std::uint64_t start_ = 0;

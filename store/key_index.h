@@ -9,46 +9,44 @@
 namespace tavix {
 
 // A hash table from keys to positions in a record array. Two records may have one key (a store does
-// not forbid it): each has its own entry. The keys stay in the records; the table holds positions
-// only and asks its caller for the key at a position.
+// not forbid it): each has its own entry. The keys stand in the table too, so that a search does
+// not touch the records.
 //
 // Open addressing with linear probing, at most half full.
 class KeyIndex {
  public:
-  static constexpr std::uint32_t kNone = 0xFFFFFFFF;
+  static constexpr std::uint32_t kNone = 0xFFFFFFFF;  // no position
 
-  template <class KeyAt>
-  void Insert(std::int32_t key, std::uint32_t position, KeyAt key_at) {
-    if ((count_ + 1) * 2 > slots_.size()) Grow(key_at);
-    Place(key, position);
+  void Insert(std::int32_t key, std::uint32_t position) {
+    if ((count_ + 1) * 2 > slots_.size()) Grow();
+    Place({key, position});
     ++count_;
   }
 
   // Calls `visit(position)` for every record with this key, in no order, until it returns false.
-  template <class KeyAt, class Visit>
-  void ForEach(std::int32_t key, KeyAt key_at, Visit visit) const {
+  template <class Visit>
+  void ForEach(std::int32_t key, Visit visit) const {
     if (slots_.empty()) return;
-    for (std::size_t slot = Home(key); slots_[slot] != kNone; slot = After(slot)) {
-      if (key_at(slots_[slot]) == key && !visit(slots_[slot])) return;
+    for (std::size_t at = Home(key); !slots_[at].IsEmpty(); at = After(at)) {
+      if (slots_[at].key == key && !visit(slots_[at].position)) return;
     }
   }
 
   // Removes the entry of one record, which must be in the table.
-  template <class KeyAt>
-  void Erase(std::int32_t key, std::uint32_t position, KeyAt key_at) {
+  void Erase(std::int32_t key, std::uint32_t position) {
     std::size_t gap = Home(key);
-    while (slots_[gap] != position) gap = After(gap);
+    while (slots_[gap].position != position) gap = After(gap);
     // Entries behind the gap move up, so that no probe ends too early.
-    for (std::size_t slot = After(gap); slots_[slot] != kNone; slot = After(slot)) {
-      const std::size_t home = Home(key_at(slots_[slot]));
+    for (std::size_t at = After(gap); !slots_[at].IsEmpty(); at = After(at)) {
+      const std::size_t home = Home(slots_[at].key);
       const bool reachable_past_gap =
-          gap <= slot ? gap < home && home <= slot : gap < home || home <= slot;
+          gap <= at ? gap < home && home <= at : gap < home || home <= at;
       if (!reachable_past_gap) {
-        slots_[gap] = slots_[slot];
-        gap = slot;
+        slots_[gap] = slots_[at];
+        gap = at;
       }
     }
-    slots_[gap] = kNone;
+    slots_[gap] = Slot();
     --count_;
   }
 
@@ -59,34 +57,38 @@ class KeyIndex {
   }
 
  private:
+  struct Slot {
+    std::int32_t key = 0;
+    std::uint32_t position = kNone;
+
+    [[nodiscard]] bool IsEmpty() const { return position == kNone; }
+  };
+
   [[nodiscard]] std::size_t Home(std::int32_t key) const {
     // Multiplication spreads runs of neighbouring keys; the high bits choose the slot.
     const std::uint64_t spread = static_cast<std::uint32_t>(key) * 0x9E3779B97F4A7C15ULL;
     return static_cast<std::size_t>(spread >> shift_);
   }
-  [[nodiscard]] std::size_t After(std::size_t slot) const {
-    return (slot + 1) & (slots_.size() - 1);
+  [[nodiscard]] std::size_t After(std::size_t at) const { return (at + 1) & (slots_.size() - 1); }
+
+  void Place(Slot slot) {
+    std::size_t at = Home(slot.key);
+    while (!slots_[at].IsEmpty()) at = After(at);
+    slots_[at] = slot;
   }
 
-  void Place(std::int32_t key, std::uint32_t position) {
-    std::size_t slot = Home(key);
-    while (slots_[slot] != kNone) slot = After(slot);
-    slots_[slot] = position;
-  }
-
-  template <class KeyAt>
-  void Grow(KeyAt key_at) {
+  void Grow() {
     constexpr std::size_t kFirst = 64;
-    std::vector<std::uint32_t> old = std::move(slots_);
-    slots_.assign(old.empty() ? kFirst : old.size() * 2, kNone);
+    const std::vector<Slot> old = std::move(slots_);
+    slots_.assign(old.empty() ? kFirst : old.size() * 2, Slot());
     shift_ = 64;
     for (std::size_t size = slots_.size(); size > 1; size /= 2) --shift_;
-    for (const std::uint32_t position : old) {
-      if (position != kNone) Place(key_at(position), position);
+    for (const Slot slot : old) {
+      if (!slot.IsEmpty()) Place(slot);
     }
   }
 
-  std::vector<std::uint32_t> slots_;
+  std::vector<Slot> slots_;
   std::size_t count_ = 0;
   int shift_ = 64;
 };

@@ -2,15 +2,12 @@
 
 #include <array>
 
+#include "store/line_record.h"
+
 namespace tavix {
 namespace {
 
-// Properties of a line record; do not change.
-constexpr WORD kId = 111;
-constexpr WORD kSmallerKey = 112;
-constexpr WORD kLargerKey = 113;
-constexpr WORD kLargerFirst = 114;
-constexpr WORD kLegend = 115;
+using namespace line_record;
 
 DWORD IdentOf(int instance) { return static_cast<DWORD>(10002 + 10 * instance); }
 
@@ -20,18 +17,12 @@ std::span<CCeDBProp> SortProperties() {
   return properties;
 }
 
-// The value of a 16-bit property of a record; false when it is missing.
-bool Get(const CCeDBRecord& record, WORD ident, std::int16_t* value) {
-  const CCeDBProp* property = record.GetPropFromIdent(ident);
-  if (!property) return false;
-  *value = property->GetShort();
-  return true;
-}
-
 }  // namespace
 
 CLinDb::CLinDb(int instance)
-    : database_(L"QZLinDB", instance, IdentOf(instance), SortProperties()), instance_(instance) {}
+    : database_(L"QZLinDB", instance, IdentOf(instance), SortProperties()),
+      lookup_(database_.Records()),
+      instance_(instance) {}
 
 int CLinDb::Open() {
   if (state_ != State::kClosed) return -2;
@@ -46,7 +37,11 @@ int CLinDb::Close() {
 
 bool CLinDb::Reopen(State state) {
   if (state_ == state) return true;
-  if (state_ != State::kClosed) Close();
+  if (state_ == State::kClosed) {
+    lookup_.Forget();
+  } else {
+    Close();
+  }
   CCeDBProp& order = SortProperties()[state == State::kOpenById ? 0 : 1];
   if (!database_.Open(&order)) return false;
   state_ = state;
@@ -58,24 +53,7 @@ int CLinDb::Find(LineKeys keys) {
   CCeDBDatabase& records = database_.Records();
   if (records.GetNumRecords() == 0) return -3;
   if (records.SeekFirst() == 0) return -4;
-  if (records.SeekFirstEqual(CCeDBProp(keys.Smaller(), kSmallerKey)) == 0) return -1;
-  return Match(keys);
-}
-
-// From the first record with the smaller key on, the one that has the larger key too.
-int CLinDb::Match(LineKeys keys) {
-  CCeDBDatabase& records = database_.Records();
-  do {
-    CCeDBRecord record;
-    std::int16_t smaller = 0;
-    std::int16_t larger = 0;
-    if (!records.ReadCurrRecord(&record)) return -5;
-    if (!Get(record, kSmallerKey, &smaller)) return -6;
-    if (smaller != keys.Smaller()) return -1;
-    if (!Get(record, kLargerKey, &larger)) return -7;
-    if (larger == keys.Larger()) return 0;
-  } while (records.SeekNext() != 0);
-  return -1;
+  return lookup_.Find(keys);
 }
 
 int CLinDb::Add(LineKeys keys, std::int16_t legend, std::int32_t* id) {
@@ -84,9 +62,13 @@ int CLinDb::Add(LineKeys keys, std::int16_t legend, std::int32_t* id) {
       CCeDBProp(keys.Larger(), kLargerKey),
       CCeDBProp(static_cast<short>(keys.LargerFirst() ? 1 : 0), kLargerFirst),
       CCeDBProp(legend, kLegend)};
-  CCeDBRecord record;
-  record.AddProps(properties.data(), static_cast<int>(properties.size()));
-  if (state_ == State::kClosed || database_.Records().AddRecord(&record) == 0) return -1;
+  if (state_ == State::kClosed) return -1;
+  record_.DeleteAllProps();
+  record_.AddProps(properties.data(), static_cast<int>(properties.size()));
+  const CEOID added = database_.Records().AddRecord(&record_);
+  record_.DeleteAllProps();
+  if (added == 0) return -1;
+  lookup_.Added(keys, added);
   *id = next_id_;
   changed_ = true;
   ++next_id_;
@@ -96,20 +78,21 @@ int CLinDb::Add(LineKeys keys, std::int16_t legend, std::int32_t* id) {
 int CLinDb::Remove(LineKeys keys) {
   changed_ = true;
   if (const int code = Find(keys); code != 0) return code;
-  return database_.DeleteCurrent() ? 0 : -7;
+  if (!database_.DeleteCurrent()) return -7;
+  lookup_.Deleted(keys);
+  return 0;
 }
 
 int CLinDb::ReadCur(Line* line) {
   if (state_ == State::kClosed) return -2;
-  CCeDBRecord record;
   std::int16_t id = 0;
   std::int16_t smaller = 0;
   std::int16_t larger = 0;
   std::int16_t larger_first = 0;
   std::int16_t legend = 0;
-  if (!database_.Records().ReadCurrRecord(&record) || !Get(record, kId, &id) ||
-      !Get(record, kSmallerKey, &smaller) || !Get(record, kLargerKey, &larger) ||
-      !Get(record, kLargerFirst, &larger_first) || !Get(record, kLegend, &legend)) {
+  if (!database_.Records().ReadCurrRecord(&record_) || !Get(record_, kId, &id) ||
+      !Get(record_, kSmallerKey, &smaller) || !Get(record_, kLargerKey, &larger) ||
+      !Get(record_, kLargerFirst, &larger_first) || !Get(record_, kLegend, &legend)) {
     return -1;
   }
   const LineKeys keys = larger_first != 0 ? LineKeys{larger, smaller} : LineKeys{smaller, larger};
@@ -125,6 +108,7 @@ int CLinDb::SetCurHan(std::int16_t legend) {
   if (!property) return -4;
   property->SetShort(legend);
   if (!database_.Records().WriteCurrRecord(&record)) return -1;
+  lookup_.Changed();
   changed_ = true;
   return 0;
 }

@@ -5,6 +5,7 @@
 
 #include "store/device_database.h"
 #include "store/line_key.h"
+#include "store/line_lookup.h"
 
 namespace tavix {
 
@@ -70,9 +71,10 @@ class CLinDb {
   enum class State : std::uint16_t { kOpenById = 0, kOpenBySmallerKey = 1, kClosed = 2 };
 
   bool Reopen(State state);
-  int Match(LineKeys keys);
 
   DeviceDatabase database_;
+  LineLookup lookup_;
+  CCeDBRecord record_;  // on its way to or from the database; keeps its memory
   State state_ = State::kClosed;
   std::int32_t next_id_ = 1;
   bool changed_ = false;

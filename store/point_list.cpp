@@ -1,5 +1,6 @@
 #include "store/point_list.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tavix {
@@ -22,6 +23,7 @@ int CPntList::SetCurCrd(GroundPoint at) {
   if (!current) return -2;
   current->x = at.x;
   current->y = at.y;
+  finder_.Moved(Records().CurrentPosition());
   SetChanged(true);
   return 0;
 }
@@ -37,9 +39,19 @@ int CPntList::FindNearest(double tolerance, GroundPoint at, std::int32_t* key) c
   *key = 0;
   if (Records().IsEmpty()) return -3;
 
+  if (!(tolerance >= 0.0) || std::isnan(at.x) || std::isnan(at.y)) return -1;  // nothing is near
+
+  // Differences fall as the coordinate rises, rounded or not: those of the borders bound the
+  // others.
+  const auto too_far = [&](double centre, double low, double high) {
+    return std::max(low - centre, centre - high) > tolerance;  // one branch, mostly foreseen
+  };
+  const auto touches = [&](const GroundExtent& box) {
+    return !too_far(at.x, box.min.x, box.max.x) && !too_far(at.y, box.min.y, box.max.y);
+  };
   int candidates = 0;
   double nearest = 0.0;
-  Records().ForEachWhile([&](const PntRec& record) {
+  finder_.ForEach(Records(), touches, [&](const PntRec& record) {
     const double dx = at.x - record.x;
     if (!(std::fabs(dx) <= tolerance)) return true;
     const double dy = at.y - record.y;

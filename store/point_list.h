@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "store/keyed_points.h"
+#include "store/point_finder.h"
 #include "view/coordinates.h"
 #include "view/extent.h"
 
@@ -59,6 +60,8 @@ class CPntList : public KeyedPoints<CPntList, PntRec, Point> {
   friend class KeyedPoints<CPntList, PntRec, Point>;
 
   [[nodiscard]] Point View(const PntRec& record) const;
+
+  mutable PointFinder<PntRec> finder_;  // no state of the list: it only shortens searches
 };
 
 }  // namespace tavix

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "store/key_index.h"
@@ -67,7 +68,7 @@ class RecordList {
     const auto position = static_cast<Position>(records_.size());
     if (FirstWithKey(record.key)) ++repeated_keys_;
     records_.push_back(record);
-    index_.Insert(record.key, position, KeyAt());
+    index_.Insert(record.key, position);
     ++live_;
     return records_.back();
   }
@@ -75,7 +76,7 @@ class RecordList {
   // Removes the current record, of which there must be one; then there is no cursor.
   void RemoveCurrent() {
     Record& record = records_[*cursor_];
-    index_.Erase(record.key, *cursor_, KeyAt());
+    index_.Erase(record.key, *cursor_);
     record.removed = true;
     --live_;
     if (FirstWithKey(record.key)) --repeated_keys_;
@@ -89,6 +90,7 @@ class RecordList {
     index_.Clear();
     live_ = 0;
     repeated_keys_ = 0;
+    ++numbering_;
     cursor_.reset();
   }
 
@@ -110,13 +112,14 @@ class RecordList {
     }
   }
 
-  // Until `visit` returns false.
-  template <class Visit>
-  void ForEachWhile(Visit visit) const {
-    for (const Record& record : records_) {
-      if (!record.removed && !visit(record)) return;
-    }
-  }
+  // ---- Positions, which rise in list order, removed records among them
+
+  // All records by their positions.
+  [[nodiscard]] std::span<const Record> ByPosition() const { return records_; }
+  // Changes whenever records get other positions.
+  [[nodiscard]] std::uint64_t Numbering() const { return numbering_; }
+  // Of the current record, of which there must be one.
+  [[nodiscard]] Position CurrentPosition() const { return *cursor_; }
 
   // The first record with the key, or null; leaves the cursor alone.
   [[nodiscard]] const Record* Peek(std::int32_t key) const {
@@ -127,10 +130,6 @@ class RecordList {
  private:
   static constexpr std::size_t kFewHoles = 64;
 
-  [[nodiscard]] auto KeyAt() const {
-    return [this](Position position) { return records_[position].key; };
-  }
-
   [[nodiscard]] std::optional<Position> NextLive(Position from) const {
     for (Position at = from; at < records_.size(); ++at) {
       if (!records_[at].removed) return at;
@@ -140,7 +139,7 @@ class RecordList {
 
   [[nodiscard]] std::optional<Position> FirstWithKey(std::int32_t key) const {
     Position first = KeyIndex::kNone;
-    index_.ForEach(key, KeyAt(), [&](Position position) {
+    index_.ForEach(key, [&](Position position) {
       first = std::min(first, position);
       return repeated_keys_ != 0;
     });
@@ -165,15 +164,17 @@ class RecordList {
   }
 
   void CloseHoles() {
+    ++numbering_;
     std::erase_if(records_, [](const Record& record) { return record.removed; });
     index_.Clear();
-    for (Position at = 0; at < records_.size(); ++at) index_.Insert(records_[at].key, at, KeyAt());
+    for (Position at = 0; at < records_.size(); ++at) index_.Insert(records_[at].key, at);
   }
 
   std::vector<Record> records_;
   KeyIndex index_;
   std::size_t live_ = 0;
   std::size_t repeated_keys_ = 0;  // records whose key an earlier record has too
+  std::uint64_t numbering_ = 0;
   std::optional<Position> cursor_;
 };
 

@@ -71,7 +71,7 @@ void Database::CloseCursor(const Cursor& cursor) { std::erase(cursors_, &cursor)
 Database::Slot Database::AddRecord(ObjectId id, std::span<const Property> properties) {
   const Slot slot = records_.Add(id, properties);
   for (const auto& index : indexes_) index->Add(slot);
-  info_.modified = clock_();
+  CountChange();
   return slot;
 }
 
@@ -88,13 +88,18 @@ void Database::ChangeRecord(Slot slot, std::span<const Property> properties) {
   }
   records_.Replace(slot, properties);
   for (std::size_t i = 0; i < count; ++i) moving[i]->Add(slot);
-  info_.modified = clock_();
+  CountChange();
 }
 
 void Database::DeleteRecord(Slot slot) {
   for (Cursor* cursor : cursors_) cursor->BeforeDelete(slot);
   for (const auto& index : indexes_) index->Remove(slot);
   records_.Remove(slot);
+  CountChange();
+}
+
+void Database::CountChange() {
+  ++info_.changes;
   info_.modified = clock_();
 }
 

@@ -54,6 +54,8 @@ class Database {
   void DeleteRecord(Slot slot);
 
  private:
+  void CountChange();  // of a record
+
   ObjectId id_;
   CaseFold fold_;
   FileTimeClock clock_;

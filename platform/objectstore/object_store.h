@@ -51,6 +51,9 @@ struct DatabaseInfo {
   std::uint32_t record_count = 0;
   std::uint64_t bytes = 0;     // of all values
   std::uint64_t modified = 0;  // 100 ns steps since the start of 1601, UTC
+  // How often a record was added, changed or deleted, one for each call that did: whoever keeps
+  // something beside the database sees whether it still fits.
+  std::uint64_t changes = 0;
 
   [[nodiscard]] std::u16string_view Name() const { return name.data(); }
   [[nodiscard]] std::span<const SortOrder> Orders() const { return {orders.data(), order_count}; }

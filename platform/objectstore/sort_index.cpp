@@ -58,7 +58,9 @@ SortIndex::Position SortIndex::Find(Slot slot) const {
 SortIndex::Position SortIndex::FirstNotBefore(const Property& value) const {
   const std::uint64_t number = SortNumber(value, order_, fold_);
   return entries_.Partition([&](const OrderedEntry& entry) {
-    return entry.unknown ? order_.unknown_first : std::is_lt(Compare(entry, value, number));
+    if (entry.unknown) return order_.unknown_first;
+    if (entry.number != number) return entry.number < number;
+    return std::is_lt(Compare(entry, value, number));
   });
 }
 
@@ -86,9 +88,8 @@ OrderedEntry SortIndex::Entry(Slot slot) const {
   return entry;
 }
 
-bool SortIndex::Before(const OrderedEntry& one, const OrderedEntry& other) const {
+bool SortIndex::BeforeBeyondNumbers(const OrderedEntry& one, const OrderedEntry& other) const {
   if (one.unknown != other.unknown) return (one.unknown != 0) == order_.unknown_first;
-  if (one.number != other.number) return one.number < other.number;
   if (order_.property.Type() == PropertyType::kString && !one.unknown && one.id != other.id) {
     const Property* value = FindProperty(heap_->Properties(other.slot), order_.property);
     const std::strong_ordering compared = Compare(one, *value, other.number);

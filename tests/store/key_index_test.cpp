@@ -13,22 +13,17 @@ namespace {
 
 // An index over keys that lie in a plain array, with a record of what is in it.
 class IndexedKeys {
- private:
-  [[nodiscard]] auto KeyAt() const {
-    return [this](std::uint32_t position) { return keys_[position]; };
-  }
-
  public:
   void Insert(std::int32_t key) {
     keys_.push_back(key);
     const auto position = static_cast<std::uint32_t>(keys_.size() - 1);
-    index_.Insert(key, position, KeyAt());
+    index_.Insert(key, position);
     in_.push_back(position);
   }
 
   // Removes the nth entry that is in the index.
   void Erase(std::size_t nth) {
-    index_.Erase(keys_[in_[nth]], in_[nth], KeyAt());
+    index_.Erase(keys_[in_[nth]], in_[nth]);
     in_.erase(in_.begin() + static_cast<std::ptrdiff_t>(nth));
   }
 
@@ -42,7 +37,7 @@ class IndexedKeys {
 
   [[nodiscard]] std::vector<std::uint32_t> Found(std::int32_t key) const {
     std::vector<std::uint32_t> found;
-    index_.ForEach(key, KeyAt(), [&](std::uint32_t position) {
+    index_.ForEach(key, [&](std::uint32_t position) {
       found.push_back(position);
       return true;
     });
@@ -60,7 +55,7 @@ class IndexedKeys {
 
   [[nodiscard]] int VisitsUntilRefused(std::int32_t key) const {
     int visits = 0;
-    index_.ForEach(key, KeyAt(), [&](std::uint32_t) {
+    index_.ForEach(key, [&](std::uint32_t) {
       ++visits;
       return false;
     });

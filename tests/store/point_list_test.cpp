@@ -288,47 +288,5 @@ TEST(FindNearest, ANegativeToleranceFindsNothing) {
   EXPECT_EQ(points.FindNearest(0, {0, 0}, &key), 0);
 }
 
-// The rule taken literally: gather up to ten candidates, then choose.
-std::int32_t PlainNearest(const std::vector<Point>& points, double tolerance, GroundPoint at) {
-  std::vector<std::pair<std::int32_t, double>> candidates;
-  for (const Point& point : points) {
-    const double dx = at.x - point.at.x;
-    const double dy = at.y - point.at.y;
-    if (dx > tolerance || dx < -tolerance || dy > tolerance || dy < -tolerance) continue;
-    candidates.emplace_back(point.key, dx * dx + dy * dy);
-    if (candidates.size() == 10) break;
-  }
-  std::int32_t nearest = 0;
-  double distance = 1e300;
-  for (const auto& [key, d] : candidates) {
-    if (d < distance) {
-      nearest = key;
-      distance = d;
-    }
-  }
-  return nearest;
-}
-
-TEST(FindNearest, AgreesWithThePlainRule) {
-  std::mt19937 random(52);
-  // Whole coordinates: many ties and many points on the border.
-  const auto coordinate = [&] { return std::uniform_int_distribution<int>(-30, 30)(random); };
-  CPntList points(0);
-  std::vector<Point> plain;
-  for (int key = 1; key <= 300; ++key) {
-    const Point point = PointAt(key, coordinate(), coordinate());
-    points.Add(point);
-    plain.push_back(point);
-  }
-  for (int i = 0; i < 5000; ++i) {
-    const GroundPoint at{static_cast<double>(coordinate()), static_cast<double>(coordinate())};
-    const double tolerance = i % 12;
-    const std::int32_t expected = PlainNearest(plain, tolerance, at);
-    std::int32_t key = 99;
-    ASSERT_EQ(points.FindNearest(tolerance, at, &key), expected == 0 ? -1 : 0);
-    ASSERT_EQ(key, expected) << at.x << ' ' << at.y << ' ' << tolerance;
-  }
-}
-
 }  // namespace
 }  // namespace tavix

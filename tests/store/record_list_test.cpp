@@ -284,18 +284,36 @@ TEST(RecordList, KeepsItsOrderWhileHolesAreClosed) {
   EXPECT_EQ(list.Current()->key, 3);
 }
 
-TEST(RecordList, AWalkMayChangeRecordsAndMayStop) {
+TEST(RecordList, AWalkMayChangeRecords) {
   RecordList<Rec> list;
   for (int i = 0; i < 5; ++i) list.Append({i, false, 0});
   list.ForEach([](Rec& record) { record.serial = record.key * 10; });
-  int visits = 0;
   const RecordList<Rec>& read_only = list;
-  read_only.ForEachWhile([&](const Rec& record) {
-    EXPECT_EQ(record.serial, record.key * 10);
-    return ++visits < 3;
-  });
-  EXPECT_EQ(visits, 3);
+  read_only.ForEach([&](const Rec& record) { EXPECT_EQ(record.serial, record.key * 10); });
   EXPECT_EQ(list.Current(), nullptr);
+}
+
+TEST(RecordList, PositionsRiseInListOrderUntilTheyAreNumberedAnew) {
+  RecordList<Rec> list;
+  for (int i = 0; i < 300; ++i) list.Append({i, false, i});
+  const std::uint64_t numbering = list.Numbering();
+  ASSERT_EQ(list.FindFirst(7), 0);
+  EXPECT_EQ(list.CurrentPosition(), 7U);
+  list.RemoveCurrent();
+  EXPECT_EQ(list.ByPosition().size(), 300U);
+  EXPECT_TRUE(list.ByPosition()[7].removed);
+  EXPECT_EQ(list.ByPosition()[8].serial, 8);
+  EXPECT_EQ(list.Numbering(), numbering);
+  for (int i = 20; i < 250; ++i) {
+    ASSERT_EQ(list.FindFirst(i), 0);
+    list.RemoveCurrent();
+  }
+  EXPECT_LT(list.ByPosition().size(), 300U) << "the holes are closed";
+  EXPECT_NE(list.Numbering(), numbering);
+  const std::uint64_t closed = list.Numbering();
+  list.Clear();
+  EXPECT_EQ(list.ByPosition().size(), 0U);
+  EXPECT_NE(list.Numbering(), closed);
 }
 
 }  // namespace

@@ -117,6 +117,12 @@ DWORD CCeDBDatabase::GetNumRecords() const {
   return info ? info.value.database.record_count : 0;
 }
 
+ULONGLONG CCeDBDatabase::GetNumChanges() const {
+  constexpr ULONGLONG kUnknown = ~ULONGLONG{0};
+  const auto info = DeviceStore().Info(m_oidDatabase);
+  return info ? info.value.database.changes : kUnknown;
+}
+
 DWORD CCeDBDatabase::GetSize() const { return Describe().dwSize; }
 
 DWORD CCeDBDatabase::GetIdent() const { return Describe().dwDbaseType; }

@@ -77,9 +77,8 @@ void CCeDBDatabase::StepAfter() {
 // ---- Records
 
 CEOID CCeDBDatabase::AddRecord(CCeDBRecord* pRec) {
-  std::vector<CEPROPVAL> values;
-  for (const CCeDBProp* prop : pRec->m_props) values.push_back(prop->GetPropVal());
-  return Write(0, values);
+  pRec->GatherValues([](const CCeDBProp&) { return true; });
+  return Write(0, pRec->m_values);
 }
 
 BOOL CCeDBDatabase::ReadCurrRecord(CCeDBRecord* pRec, int nNumFilterProps,
@@ -88,6 +87,7 @@ BOOL CCeDBDatabase::ReadCurrRecord(CCeDBRecord* pRec, int nNumFilterProps,
   const auto record = DeviceStore().Read(ToStoreHandle(m_hDatabase));
   if (!Worked(record.error)) return FALSE;
   pRec->DeleteAllProps();
+  pRec->Reserve(record.value.properties.size());
   for (const tavix::Property& property : record.value.properties) {
     if (Passes(property.Id().Tag(), nNumFilterProps, PropFilterArray)) {
       pRec->TakeRead(ToPropVal(property));
@@ -100,13 +100,10 @@ BOOL CCeDBDatabase::ReadCurrRecord(CCeDBRecord* pRec, int nNumFilterProps,
 
 BOOL CCeDBDatabase::WriteCurrRecord(CCeDBRecord* pRec, int nNumFilterProps,
                                     CCeDBProp* PropFilterArray) {
-  std::vector<CEPROPVAL> values;
-  for (const CCeDBProp* prop : pRec->m_props) {
-    if (Passes(prop->GetIdent(), nNumFilterProps, PropFilterArray)) {
-      values.push_back(prop->GetPropVal());
-    }
-  }
-  return WriteCurrent(values);
+  pRec->GatherValues([&](const CCeDBProp& prop) {
+    return Passes(prop.GetIdent(), nNumFilterProps, PropFilterArray);
+  });
+  return WriteCurrent(pRec->m_values);
 }
 
 BOOL CCeDBDatabase::DeleteCurrProps(CCeDBProp* pPropArray, int nNumProps) {

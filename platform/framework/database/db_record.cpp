@@ -14,6 +14,7 @@ BOOL CCeDBRecord::AddProp(CCeDBProp* pProp) {
 
 BOOL CCeDBRecord::AddProps(CCeDBProp* pPropArray, int nNumProps) {
   if (!pPropArray || nNumProps < 0) return FALSE;
+  m_props.reserve(m_props.size() + static_cast<size_t>(nNumProps));
   for (int i = 0; i < nNumProps; ++i) m_props.push_back(pPropArray + i);
   return TRUE;
 }
@@ -50,6 +51,11 @@ void CCeDBRecord::DeleteProp(WORD wPropIdent) {
 void CCeDBRecord::DeleteAllProps() {
   m_props.clear();
   m_read.clear();
+}
+
+void CCeDBRecord::Reserve(size_t count) {
+  m_props.reserve(count);
+  m_read.reserve(count);
 }
 
 void CCeDBRecord::ListRead() {

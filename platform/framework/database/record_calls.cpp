@@ -1,6 +1,9 @@
 // The calls on the records of an open database.
 #include <windbase.h>
 
+#include <algorithm>
+#include <array>
+#include <span>
 #include <vector>
 
 #include "platform/framework/database/conversion.h"
@@ -103,9 +106,12 @@ CEOID WINAPI CeWriteRecordProps(HANDLE hDbase, CEOID oidRecord, WORD cPropID,
     SetLastError(ERROR_INVALID_PARAMETER);
     return 0;
   }
-  std::vector<Property> properties;
-  properties.reserve(cPropID);
-  for (WORD i = 0; i < cPropID; ++i) properties.push_back(ToProperty(rgPropVal[i]));
+  constexpr std::size_t kUsual = 16;  // as many take no memory of their own
+  std::array<Property, kUsual> few;
+  std::vector<Property> many(cPropID > kUsual ? cPropID : 0);
+  const std::span<Property> properties =
+      many.empty() ? std::span<Property>(few).first(cPropID) : std::span<Property>(many);
+  std::transform(rgPropVal, rgPropVal + cPropID, properties.begin(), ToProperty);
   const Outcome<tavix::ObjectId> record =
       DeviceStore().Write(ToStoreHandle(hDbase), oidRecord, properties);
   return Worked(record.error) ? record.value : 0;

@@ -45,6 +45,16 @@ TEST_F(DatabaseClass, CreatingDoesNotOpenAndTellsTheTruth) {
   ExpectError(ERROR_INVALID_PARAMETER, other.Create(L"more", 0, 1, nullptr), CEOID{0});
 }
 
+TEST_F(DatabaseClass, TheOpenDatabaseTellsHowOftenItsRecordsChanged) {
+  const ULONGLONG before = database_.GetNumChanges();
+  Add(1, 1);
+  Add(2, 2);
+  EXPECT_TRUE(database_.DeleteCurrRecord());
+  EXPECT_EQ(before + 3, database_.GetNumChanges());
+  store_.Fail(tavix::FailingStore::Operation::kInfo, tavix::StoreError::kNotFound);
+  EXPECT_EQ(~ULONGLONG{0}, database_.GetNumChanges());
+}
+
 TEST_F(DatabaseClass, TheOpenDatabaseTellsWhatItIs) {
   Add(1, 1);
   EXPECT_EQ(database_.GetName(), CString(L"lines"));

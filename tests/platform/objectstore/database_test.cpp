@@ -95,6 +95,29 @@ TEST_P(DatabaseTest, AChangeThatFailsChangesNothing) {
   EXPECT_EQ(Store().ChangeDatabase(AddKey(handle, 1), {.type = 2}), StoreError::kInvalidParameter);
 }
 
+TEST(Database, ChangesOfRecordsAreCounted) {
+  MemoryStore store;
+  const ObjectId database = store.CreateDatabase(u"counted", 0, {}).value;
+  const auto changes = [&] { return store.Info(database).value.database.changes; };
+  EXPECT_EQ(changes(), 0U);
+  const StoreHandle handle = store.Open(database, kNoSort, false).value;
+  const StoreHandle other = store.Open(database, kNoSort, false).value;
+  const ObjectId record = store.Write(handle, 0, Values({Property::I2(1, 1)})).value;
+  EXPECT_EQ(changes(), 1U);
+  store.Write(other, record, Values({Property::I2(1, 2), Property::I2(2, 3)}));
+  EXPECT_EQ(changes(), 2U) << "one for a call";
+  store.Write(other, record, Values({Property::I2(1, 2)}));
+  EXPECT_EQ(changes(), 3U) << "of the same value, too";
+  store.Read(handle);
+  store.Write(handle, 0, {});
+  store.Write(handle, record + 9, Values({Property::I2(1, 1)}));
+  store.DeleteRecord(handle, record + 9);
+  store.ChangeDatabase(database, {.type = 2});
+  EXPECT_EQ(changes(), 3U) << "none for what changes no record";
+  store.DeleteRecord(other, record);
+  EXPECT_EQ(changes(), 4U);
+}
+
 TEST(Database, ChangesAreTimed) {
   static std::uint64_t now = 0;
   MemoryStore store(

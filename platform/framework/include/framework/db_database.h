@@ -4,7 +4,7 @@
 //
 // Differs from the published class: windows are not notified, so pParent is taken and ignored and
 // there are no OnRecord... calls; the number of records and the last modification come as DWORD and
-// FILETIME.
+// FILETIME; GetNumChanges is an addition, for the sake of what is kept beside a database.
 #pragma once
 
 #include "framework/db_record.h"
@@ -47,6 +47,9 @@ class AFX_FRAMEWORK CCeDBDatabase {
   DWORD GetIdent() const;
   CString GetName() const;
   FILETIME GetLastModified() const;
+  // How often a record of it was added, changed or deleted, by whomsoever; one for each call that
+  // did. 0xFFFFFFFFFFFFFFFF when that cannot be told.
+  ULONGLONG GetNumChanges() const;
   BOOL SetIdent(DWORD dwIdent);
   BOOL SetName(LPCWSTR lpszName);
   WORD GetNumSortProps() const;

@@ -33,10 +33,21 @@ class AFX_FRAMEWORK CCeDBRecord {
  private:
   friend class CCeDBDatabase;
 
+  // A record that is read into again and again takes memory the first time only.
+  void Reserve(size_t count);
   // Copies a value that was read; its place among all properties follows when all are there.
   void TakeRead(const CEPROPVAL& value) { m_read.emplace_back(value); }
   void ListRead();
+  // Puts the values of the properties that take part into m_values.
+  template <class TakesPart>
+  void GatherValues(TakesPart takesPart) {
+    m_values.clear();
+    for (const CCeDBProp* prop : m_props) {
+      if (takesPart(*prop)) m_values.push_back(prop->GetPropVal());
+    }
+  }
 
   std::vector<CCeDBProp*> m_props;  // all, in order
   std::vector<CCeDBProp> m_read;    // those of the record's own
+  std::vector<CEPROPVAL> m_values;  // on their way into the database
 };

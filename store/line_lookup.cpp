@@ -1,0 +1,93 @@
+#include "store/line_lookup.h"
+
+#include "store/line_record.h"
+
+namespace tavix {
+namespace {
+
+using line_record::Get;
+using line_record::kLargerKey;
+using line_record::kSmallerKey;
+
+}  // namespace
+
+int LineLookup::Find(LineKeys keys) {
+  const bool indexed = IsIndexed();
+  if (records_.SeekFirstEqual(CCeDBProp(keys.Smaller(), kSmallerKey)) == 0) return -1;
+  return indexed ? MatchIndexed(keys) : MatchReading(keys);
+}
+
+void LineLookup::Added(LineKeys keys, CEOID record) {
+  ++indexed_changes_;
+  index_.Enter(keys, record);
+}
+
+void LineLookup::Deleted(LineKeys keys) {
+  ++indexed_changes_;
+  index_.Remove(keys);
+}
+
+void LineLookup::Forget() {
+  index_.Clear();
+  indexed_changes_ = 0;
+  records_read_ = 0;
+}
+
+bool LineLookup::IsIndexed() {
+  const ULONGLONG changes = records_.GetNumChanges();
+  if (changes == indexed_changes_) return true;
+  if (records_read_ < records_.GetNumRecords()) return false;
+  records_read_ = 0;
+  if (!IndexAll()) return false;
+  indexed_changes_ = changes;
+  return true;
+}
+
+// False when a record is not one of ours or not to be read: what a search makes of it is left to
+// reading.
+bool LineLookup::IndexAll() {
+  index_.Clear();
+  DWORD seen = 0;
+  for (CEOID at = records_.SeekFirst(); at != 0; at = records_.SeekNext()) {
+    if (!records_.ReadCurrRecord(&record_)) return false;
+    const CCeDBProp* smaller = record_.GetPropFromIdent(kSmallerKey);
+    const CCeDBProp* larger = record_.GetPropFromIdent(kLargerKey);
+    if (!smaller || smaller->GetType() != CCeDBProp::Type_Short || !larger) return false;
+    // No search has its keys the wrong way round, so none finds such a record.
+    if (smaller->GetShort() <= larger->GetShort()) {
+      index_.Enter({smaller->GetShort(), larger->GetShort()}, at);
+    }
+    ++seen;
+  }
+  return seen == records_.GetNumRecords();
+}
+
+// From the first record with the smaller key to the very one that has the larger key too. It is
+// read although nothing of it is used: a record that cannot be read is not found.
+int LineLookup::MatchIndexed(LineKeys keys) {
+  const CEOID found = index_.Find(keys);
+  if (found != LineIndex::kNoRecord && found != records_.GetCurrRecord() &&
+      records_.SeekToRecord(found) == 0) {
+    return -1;
+  }
+  CCeDBProp filter(CCeDBProp::Type_Short, kSmallerKey);
+  if (!records_.ReadCurrRecord(&record_, 1, &filter)) return -5;
+  return found != LineIndex::kNoRecord ? 0 : -1;
+}
+
+// From the first record with the smaller key on, the one that has the larger key too.
+int LineLookup::MatchReading(LineKeys keys) {
+  do {
+    std::int16_t smaller = 0;
+    std::int16_t larger = 0;
+    ++records_read_;
+    if (!records_.ReadCurrRecord(&record_)) return -5;
+    if (!Get(record_, kSmallerKey, &smaller)) return -6;
+    if (smaller != keys.Smaller()) return -1;
+    if (!Get(record_, kLargerKey, &larger)) return -7;
+    if (larger == keys.Larger()) return 0;
+  } while (records_.SeekNext() != 0);
+  return -1;
+}
+
+}  // namespace tavix

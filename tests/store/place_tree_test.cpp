@@ -1,0 +1,150 @@
+#include "store/place_tree.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <random>
+#include <vector>
+
+namespace tavix {
+namespace {
+
+using Positions = std::vector<std::uint32_t>;
+
+bool Overlap(const GroundExtent& a, const GroundExtent& b) {
+  return a.min.x <= b.max.x && b.min.x <= a.max.x && a.min.y <= b.max.y && b.min.y <= a.max.y;
+}
+
+Positions InTree(PlaceTree& tree, const GroundExtent& box, std::size_t most) {
+  Positions found;
+  tree.ForEachInOrder([&](const GroundExtent& part) { return Overlap(part, box); },
+                      [&](std::uint32_t position) {
+                        found.push_back(position);
+                        return found.size() < most;
+                      });
+  return found;
+}
+
+// The walk over all places, which have been put in the order of their positions.
+Positions InWalk(const std::vector<ListedPlace>& places, const GroundExtent& box,
+                 std::size_t most) {
+  Positions found;
+  for (const ListedPlace& place : places) {
+    if (!Overlap({place.at, place.at}, box)) continue;
+    found.push_back(place.position);
+    if (found.size() == most) break;
+  }
+  return found;
+}
+
+struct Spread {
+  const char* name;
+  std::function<GroundPoint(std::mt19937&)> place;
+};
+
+double Uniform(std::mt19937& random, double low, double high) {
+  return std::uniform_real_distribution<double>(low, high)(random);
+}
+
+const Spread kSpreads[] = {
+    {"even",
+     [](std::mt19937& r) {
+       return GroundPoint{Uniform(r, 0, 1e4), Uniform(r, 0, 1e4)};
+     }},
+    {"round the origin",
+     [](std::mt19937& r) {
+       return GroundPoint{Uniform(r, -5, 5), Uniform(r, -5, 5)};
+     }},
+    {"a grid with repeated places",
+     [](std::mt19937& r) {
+       return GroundPoint{std::floor(Uniform(r, 0, 20)), std::floor(Uniform(r, 0, 20))};
+     }},
+    {"one place",
+     [](std::mt19937&) {
+       return GroundPoint{-7.0, 3e5};
+     }},
+    {"a line",
+     [](std::mt19937& r) {
+       return GroundPoint{12.5, Uniform(r, -1e3, 1e3)};
+     }},
+    {"towns far apart",
+     [](std::mt19937& r) {
+       const double town = std::floor(Uniform(r, 0, 4)) * 1e5;
+       return GroundPoint{town + Uniform(r, 0, 30), -town + Uniform(r, 0, 30)};
+     }},
+    {"a few beyond all measure",
+     [](std::mt19937& r) {
+       const double far = Uniform(r, 0, 100) < 1 ? 1e300 : 1.0;
+       return GroundPoint{far * Uniform(r, -1e3, 1e3), far * Uniform(r, -1e3, 1e3)};
+     }},
+    {"tiny",
+     [](std::mt19937& r) {
+       return GroundPoint{Uniform(r, 0, 1) * 1e-310, 0.0};
+     }},
+};
+
+TEST(PlaceTree, GivesTheWalkOverAllPlaces) {
+  for (const Spread& spread : kSpreads) {
+    for (const std::size_t count : {1U, 16U, 17U, 129U, 2500U}) {
+      SCOPED_TRACE(testing::Message() << spread.name << ", " << count);
+      std::mt19937 random(61);
+      std::vector<ListedPlace> places;
+      std::uint32_t position = 0;
+      for (std::size_t i = 0; i < count; ++i) {
+        position += 1 + static_cast<std::uint32_t>(random() % 3);
+        places.push_back({spread.place(random), position});
+      }
+      PlaceTree tree;
+      tree.Build(places);
+      for (int i = 0; i < 300; ++i) {
+        // A box at one of the places or between two: from nothing to all.
+        ExtentBuilder box;
+        const GroundPoint at = places[random() % count].at;
+        box.Include(at);
+        const double reach = std::ldexp(1.0, static_cast<int>(random() % 40) - 20);
+        box.Include(GroundPoint{at.x + reach * Uniform(random, -1, 1),
+                                at.y + reach * Uniform(random, -1, 1)});
+        if (i % 50 == 0) box.Include(places[random() % count].at);
+        const std::size_t most = i % 3 == 0 ? count : 1 + random() % 12;
+        ASSERT_EQ(InWalk(places, box.Extent(), most), InTree(tree, box.Extent(), most)) << i;
+      }
+    }
+  }
+}
+
+TEST(PlaceTree, WithoutPlacesVisitsNothing) {
+  PlaceTree tree;
+  EXPECT_TRUE(tree.IsEmpty());
+  EXPECT_TRUE(InTree(tree, {{1, 1}, {-1, -1}}, 10).empty());
+  tree.Build({{{0, 0}, 5}});
+  EXPECT_EQ(InTree(tree, {{1, 1}, {-1, -1}}, 10), Positions{5});
+  tree.Build({});
+  EXPECT_TRUE(tree.IsEmpty());
+  EXPECT_TRUE(InTree(tree, {{1, 1}, {-1, -1}}, 10).empty());
+}
+
+TEST(PlaceTree, LooksAtFewOfManyPlaces) {
+  std::mt19937 random(62);
+  for (const Spread& spread : {kSpreads[0], kSpreads[5], kSpreads[6]}) {
+    std::vector<ListedPlace> places;
+    for (std::uint32_t i = 0; i < 100000; ++i) places.push_back({spread.place(random), i});
+    PlaceTree tree;
+    tree.Build(places);
+    int looks = 0;
+    for (std::size_t i = 0; i < 100; ++i) {
+      const GroundPoint at = places[i * 997].at;
+      const GroundExtent box{{at.x + 0.1, at.y + 0.1}, {at.x - 0.1, at.y - 0.1}};
+      tree.ForEachInOrder(
+          [&](const GroundExtent& part) {
+            ++looks;
+            return Overlap(part, box);
+          },
+          [](std::uint32_t) { return true; });
+    }
+    EXPECT_LT(looks / 100, 400) << spread.name;
+  }
+}
+
+}  // namespace
+}  // namespace tavix
