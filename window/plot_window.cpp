@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "draw/label_font.h"
+#include "draw/plain_canvas.h"
 #include "draw/side_view.h"
 #include "view/scale_bar.h"
 #include "window/client_surface.h"
@@ -127,7 +128,8 @@ int CPlotWnd::Redraw() {
     DrawSide();
     traced_.ForgetSegments();
   } else {
-    DrawPlanView(buffer_.Dc(), Data());
+    PlainCanvas canvas(buffer_.Dc());
+    DrawPlanView(canvas, Data());
     traced_.Redraw(buffer_.Dc(), *links_.view);
   }
   InvalidateRect(&buffer_.Rect(), TRUE);
@@ -164,18 +166,22 @@ void CPlotWnd::DrawAtOnce(Draw draw) {
   if (IsWindowVisible()) {
     const RubberBand::Hidden hidden(band_, *this);
     ClientSurface screen(*this);
-    draw(screen.Dc());
+    PlainCanvas canvas(screen.Dc());
+    draw(canvas);
   }
-  draw(buffer_.Dc());
+  {
+    PlainCanvas canvas(buffer_.Dc());
+    draw(canvas);
+  }
   FlipOverlays();
 }
 
 void CPlotWnd::DrawNewPoint(const Point& point) {
-  DrawAtOnce([&](CDC& dc) { DrawSinglePoint(dc, Data(), point); });
+  DrawAtOnce([&](PlanCanvas& canvas) { DrawSinglePoint(canvas, Data(), point); });
 }
 
 void CPlotWnd::DrawNewLine(const Line& line) {
-  DrawAtOnce([&](CDC& dc) { DrawSingleLine(dc, Data(), line); });
+  DrawAtOnce([&](PlanCanvas& canvas) { DrawSingleLine(canvas, Data(), line); });
 }
 
 void CPlotWnd::BuildGroup(int height, int width) {
