@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "draw/bits/bits_canvas.h"
 #include "draw/label_font.h"
 #include "draw/plain_canvas.h"
 #include "draw/side_view.h"
@@ -128,12 +129,21 @@ int CPlotWnd::Redraw() {
     DrawSide();
     traced_.ForgetSegments();
   } else {
-    PlainCanvas canvas(buffer_.Dc());
-    DrawPlanView(canvas, Data());
+    DrawPlan();
     traced_.Redraw(buffer_.Dc(), *links_.view);
   }
   InvalidateRect(&buffer_.Rect(), TRUE);
   return 0;
+}
+
+void CPlotWnd::DrawPlan() {
+  if (buffer_.Pixels().pixels) {
+    BitsCanvas canvas(buffer_.Dc(), buffer_.Pixels(), learnt_);
+    DrawPlanView(canvas, Data());
+  } else {
+    PlainCanvas canvas(buffer_.Dc());
+    DrawPlanView(canvas, Data());
+  }
 }
 
 void CPlotWnd::DrawSide() {

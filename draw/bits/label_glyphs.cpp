@@ -1,0 +1,70 @@
+#include "draw/bits/label_glyphs.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "draw/bits/label_sample.h"
+
+namespace tavix {
+namespace {
+
+constexpr std::size_t kLongest = 40;  // characters
+constexpr int kHighest = 48;          // pixels; above, a label is drawn seldom
+
+}  // namespace
+
+bool LabelGlyphs::Draw(const PixelBlock& block, ScreenPoint at, NameView text) {
+  if (refused_) return false;
+  if (!HasAll(text) && !Seek(text)) return false;
+  DrawGlyphs(block, at, text);
+  return true;
+}
+
+bool LabelGlyphs::HasAll(NameView text) const {
+  for (const char16_t character : text) {
+    if (character < kFirst || character > kLast || !Of(character).glyph) return false;
+  }
+  return text.size() <= kLongest;
+}
+
+bool LabelGlyphs::Seek(NameView text) {
+  if (height_ > kHighest || text.size() > kLongest) return false;
+  const auto none = [this](char16_t character) {
+    if (character < kFirst || character > kLast || character == u'&') return true;
+    return Of(character).sought && !Of(character).glyph;
+  };
+  if (std::any_of(text.begin(), text.end(), none)) return false;
+
+  LabelSample sample(height_, static_cast<int>(text.size()));
+  if (!sample.IsMade()) return false;
+  std::u16string readable;  // the others stay with the system
+  for (const char16_t character : text) {
+    if (FindGlyph(sample, character)) readable += character;
+  }
+  refused_ = !sample.IsSystemsLabel(
+      readable, [&](const PixelBlock& block, ScreenPoint at) { DrawGlyphs(block, at, readable); });
+  return !refused_ && readable == text;
+}
+
+bool LabelGlyphs::FindGlyph(LabelSample& sample, char16_t character) {
+  Entry& entry = entries_[static_cast<std::size_t>(character - kFirst)];
+  if (!entry.sought) {
+    entry.sought = true;
+    if (const std::optional<Glyph> glyph = sample.ReadGlyph(character)) {
+      sample.LearnLevels(character, *glyph, blend_);
+      entry.glyph = std::make_unique<const Glyph>(*glyph);
+    }
+  }
+  return entry.glyph != nullptr;
+}
+
+void LabelGlyphs::DrawGlyphs(const PixelBlock& block, ScreenPoint at, NameView text) const {
+  for (const char16_t character : text) {
+    const Glyph& glyph = *Of(character).glyph;
+    glyph.Draw(block, blend_, at);
+    at.x += glyph.Advance();
+  }
+}
+
+}  // namespace tavix
