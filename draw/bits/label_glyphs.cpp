@@ -1,8 +1,8 @@
 #include "draw/bits/label_glyphs.h"
 
 #include <algorithm>
-#include <optional>
 #include <string>
+#include <vector>
 
 #include "draw/bits/label_sample.h"
 
@@ -39,24 +39,24 @@ bool LabelGlyphs::Seek(NameView text) {
   LabelSample sample(height_, static_cast<int>(text.size()));
   if (!sample.IsMade()) return false;
   std::u16string readable;  // the others stay with the system
+  std::vector<const Glyph*> glyphs;
   for (const char16_t character : text) {
-    if (FindGlyph(sample, character)) readable += character;
+    if (const Glyph* glyph = FindGlyph(sample, character)) {
+      readable += character;
+      glyphs.push_back(glyph);
+    }
   }
+  sample.LearnLevels(readable, glyphs, blend_);
   refused_ = !sample.IsSystemsLabel(
       readable, [&](const PixelBlock& block, ScreenPoint at) { DrawGlyphs(block, at, readable); });
   return !refused_ && readable == text;
 }
 
-bool LabelGlyphs::FindGlyph(LabelSample& sample, char16_t character) {
+const Glyph* LabelGlyphs::FindGlyph(LabelSample& sample, char16_t character) {
   Entry& entry = entries_[static_cast<std::size_t>(character - kFirst)];
-  if (!entry.sought) {
-    entry.sought = true;
-    if (const std::optional<Glyph> glyph = sample.ReadGlyph(character)) {
-      sample.LearnLevels(character, *glyph, blend_);
-      entry.glyph = std::make_unique<const Glyph>(*glyph);
-    }
-  }
-  return entry.glyph != nullptr;
+  if (!entry.sought) entry.glyph = sample.ReadGlyph(character);
+  entry.sought = true;
+  return entry.glyph ? &*entry.glyph : nullptr;
 }
 
 void LabelGlyphs::DrawGlyphs(const PixelBlock& block, ScreenPoint at, NameView text) const {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <array>
-#include <memory>
+#include <optional>
 
 #include "draw/bits/glyph.h"
 #include "draw/bits/smooth_blend.h"
@@ -35,12 +35,12 @@ class LabelGlyphs {
   // A glyph that was sought and may be missing.
   struct Entry {
     bool sought = false;
-    std::unique_ptr<const Glyph> glyph;
+    std::optional<Glyph> glyph;
   };
 
   [[nodiscard]] bool HasAll(NameView text) const;
   [[nodiscard]] bool Seek(NameView text);
-  bool FindGlyph(LabelSample& sample, char16_t character);
+  const Glyph* FindGlyph(LabelSample& sample, char16_t character);
   void DrawGlyphs(const PixelBlock& block, ScreenPoint at, NameView text) const;
 
   [[nodiscard]] const Entry& Of(char16_t character) const {

@@ -1,6 +1,6 @@
 #include "draw/bits/label_sample.h"
 
-#include <algorithm>
+#include <bitset>
 #include <vector>
 
 #include "platform/wide_text.h"
@@ -12,6 +12,28 @@ LegendStyle LabelStyle(int height) {
   LegendStyle style;
   style.prm2 = height;
   return style;
+}
+
+// Where a level shows.
+struct LevelPlace {
+  std::uint8_t level;
+  ScreenPoint at;
+};
+
+// One place for each level that is not known, of glyphs drawn side by side from `at` on.
+std::vector<LevelPlace> UnknownLevels(std::span<const Glyph* const> glyphs, ScreenPoint at,
+                                      const SmoothBlend& blend) {
+  std::vector<LevelPlace> places;
+  std::bitset<256> found;
+  for (const Glyph* glyph : glyphs) {
+    for (const Glyph::Pixel& pixel : glyph->Pixels()) {
+      if (blend.Knows(pixel.level) || found[pixel.level]) continue;
+      found.set(pixel.level);
+      places.push_back({pixel.level, {at.x + pixel.x, at.y + pixel.y}});
+    }
+    at.x += glyph->Advance();
+  }
+  return places;
 }
 
 }  // namespace
@@ -33,27 +55,21 @@ std::optional<Glyph> LabelSample::ReadGlyph(char16_t character) {
   return Glyph::FromPicture(sample_.Pixels(), inside_, advance);
 }
 
-// Once over each grey: what becomes of it is the ramp's value there.
-void LabelSample::LearnLevels(char16_t character, const Glyph& glyph, SmoothBlend& blend) {
-  std::vector<Glyph::Pixel> unknown;
-  for (const Glyph::Pixel& pixel : glyph.Pixels()) {
-    const auto same = [&](const Glyph::Pixel& other) { return other.level == pixel.level; };
-    if (!blend.Knows(pixel.level) && std::none_of(unknown.begin(), unknown.end(), same)) {
-      unknown.push_back(pixel);
-    }
-  }
-  if (unknown.empty()) return;
-  std::vector<BlendRamp> ramps(unknown.size());
+// The text is drawn once over each grey: what becomes of it is the ramp's value there.
+void LabelSample::LearnLevels(NameView text, std::span<const Glyph* const> glyphs,
+                              SmoothBlend& blend) {
+  const std::vector<LevelPlace> places = UnknownLevels(glyphs, inside_, blend);
+  if (places.empty()) return;
+  std::vector<BlendRamp> ramps(places.size());
   for (std::uint32_t grey = 0; grey < 256; ++grey) {
     sample_.Fill(grey << 16 | grey << 8 | grey);
-    plain_.Label(inside_, {&character, 1});
+    plain_.Label(inside_, text);
     const PixelBlock& shown = sample_.Pixels();
-    for (std::size_t i = 0; i < unknown.size(); ++i) {
-      ramps[i][grey] =
-          static_cast<std::uint8_t>(*shown.At(inside_.x + unknown[i].x, inside_.y + unknown[i].y));
+    for (std::size_t i = 0; i < places.size(); ++i) {
+      ramps[i][grey] = static_cast<std::uint8_t>(*shown.At(places[i].at.x, places[i].at.y));
     }
   }
-  for (std::size_t i = 0; i < unknown.size(); ++i) blend.Learn(unknown[i].level, ramps[i]);
+  for (std::size_t i = 0; i < places.size(); ++i) blend.Learn(places[i].level, ramps[i]);
 }
 
 }  // namespace tavix

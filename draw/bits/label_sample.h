@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 
 #include "draw/bits/glyph.h"
 #include "draw/bits/smooth_blend.h"
@@ -22,8 +23,9 @@ class LabelSample {
   // A character as the system draws it; none where it is not to be had, see Glyph.
   [[nodiscard]] std::optional<Glyph> ReadGlyph(char16_t character);
 
-  // Teaches `blend` those levels of the character's glyph that it does not know.
-  void LearnLevels(char16_t character, const Glyph& glyph, SmoothBlend& blend);
+  // Teaches `blend` those levels that it does not know of the glyphs a text is made of, one for
+  // each of its characters.
+  void LearnLevels(NameView text, std::span<const Glyph* const> glyphs, SmoothBlend& blend);
 
   // Whether the system's label is what `draw(block, at)` draws: with its top left corner at `at`,
   // over any picture, and cut by its edges.

@@ -44,7 +44,7 @@ class BothWays {
 
 // Every step of up to kReach pixels both ways, each line in a field of its own.
 bool ShortLinesAreSame(const LineRule& rule) {
-  constexpr int kReach = 8;
+  constexpr int kReach = 6;
   constexpr int kField = 2 * kReach + 1;
   SystemSample sample(kField * kField, kField * kField);
   if (!sample.IsMade()) return false;
@@ -64,7 +64,7 @@ bool LongLinesAreSame(const LineRule& rule) {
   constexpr int kWidth = 240;
   constexpr int kHeight = 160;
   constexpr int kOutside = 60;
-  constexpr std::uint32_t kLines = 200;
+  constexpr std::uint32_t kLines = 100;
   SystemSample sample(kWidth, kHeight);
   if (!sample.IsMade()) return false;
   sample.Fill(0);
