@@ -1,7 +1,8 @@
 // Solid lines one pixel wide, by integer stepping.
 #pragma once
 
-#include <array>
+#include <bitset>
+#include <cstddef>
 #include <cstdint>
 
 #include "draw/bits/pixel_block.h"
@@ -19,11 +20,13 @@ class LineRule {
   // one nearer to vertical. 0..7.
   [[nodiscard]] static int OctantOf(int dx, int dy);
 
-  void SetStepsAtOnce(int octant, bool at_once) { at_once_.at(octant) = at_once; }
-  [[nodiscard]] bool StepsAtOnce(int octant) const { return at_once_.at(octant); }
+  void SetStepsAtOnce(int octant, bool at_once) { at_once_.set(Index(octant), at_once); }
+  [[nodiscard]] bool StepsAtOnce(int octant) const { return at_once_[Index(octant)]; }
 
  private:
-  std::array<bool, kOctants> at_once_{};
+  static std::size_t Index(int octant) { return static_cast<std::size_t>(octant); }
+
+  std::bitset<kOctants> at_once_;
 };
 
 // Coordinates up to which lines may be stepped, on either side of zero.
