@@ -34,13 +34,26 @@ void Glyph::Add(Pixel pixel) {
 }
 
 void Glyph::Draw(const PixelBlock& block, const SmoothBlend& blend, ScreenPoint at) const {
-  const bool fits = box_.Fits(block, at.x, at.y);
+  if (!box_.Fits(block, at.x, at.y)) {
+    DrawCut(block, blend, at);
+    return;
+  }
+  std::uint32_t* const corner = block.At(at.x, at.y);
+  const std::ptrdiff_t width = block.width;
+  const BlendRamp* const ramps = blend.Ramps();
+  for (const Pixel& pixel : pixels_) {
+    std::uint32_t* const shown = corner + (pixel.y * width + pixel.x);
+    *shown = Blended(ramps[pixel.level], *shown);
+  }
+}
+
+void Glyph::DrawCut(const PixelBlock& block, const SmoothBlend& blend, ScreenPoint at) const {
   for (const Pixel& pixel : pixels_) {
     const int x = at.x + pixel.x;
     const int y = at.y + pixel.y;
-    if (!fits && !block.Holds(x, y)) continue;
-    std::uint32_t* shown = block.At(x, y);
-    *shown = Blended(blend.Ramp(pixel.level), *shown);
+    if (!block.Holds(x, y)) continue;
+    std::uint32_t* const shown = block.At(x, y);
+    *shown = Blended(blend.Ramps()[pixel.level], *shown);
   }
 }
 

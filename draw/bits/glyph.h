@@ -35,6 +35,7 @@ class Glyph {
 
  private:
   void Add(Pixel pixel);
+  void DrawCut(const PixelBlock& block, const SmoothBlend& blend, ScreenPoint at) const;
 
   int advance_ = 0;
   PixelBox box_;

@@ -23,8 +23,8 @@ class SmoothBlend {
     known_[level] = true;
   }
 
-  // The ramp of a level that is known.
-  [[nodiscard]] const BlendRamp& Ramp(std::uint8_t level) const { return ramps_[level]; }
+  // The ramps by level; those of levels that are not known mean nothing. Null while none is.
+  [[nodiscard]] const BlendRamp* Ramps() const { return ramps_.data(); }
 
   void Forget() { known_.reset(); }
 

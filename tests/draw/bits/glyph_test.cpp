@@ -40,7 +40,7 @@ TEST(SmoothBlendLevels, AreKnownOnceLearnt) {
 }
 
 TEST(SmoothBlendLevels, TakeEachColourByItself) {
-  EXPECT_EQ(0x00804020u, Blended(Blend().Ramp(0x80), 0x00FF8040));
+  EXPECT_EQ(0x00804020u, Blended(Blend().Ramps()[0x80], 0x00FF8040));
 }
 
 TEST(Glyphs, RememberTheirPixelsAndTheWayToTheNext) {

@@ -58,7 +58,7 @@ TEST_F(LabelProof, RefusesAnotherCharacter) {
 TEST_F(LabelProof, RefusesAFalseBlend) {
   for (const Glyph& glyph : glyphs_) {
     for (const Glyph::Pixel& pixel : glyph.Pixels()) {
-      BlendRamp ramp = blend_.Ramp(pixel.level);
+      BlendRamp ramp = blend_.Ramps()[pixel.level];
       for (std::uint8_t& value : ramp) value = static_cast<std::uint8_t>(value ^ 1);
       SmoothBlend wrong = blend_;
       wrong.Learn(pixel.level, ramp);
