@@ -20,6 +20,7 @@
 #include <cstdlib>
 #include <vector>
 
+#include "bench/median_time.h"
 #include "bench/redraw_scene.h"
 #include "draw/bits/bits_canvas.h"
 #include "draw/bits/pixel_section.h"
@@ -31,7 +32,6 @@
 namespace tavix {
 namespace {
 
-constexpr int kRounds = 7;
 constexpr int kInstance = 4;  // apart from the exported calls' own
 
 // A bitmap section as the back buffer is one.
@@ -160,25 +160,6 @@ class Plot {
   std::int16_t figure_ = 0;
 };
 
-template <class Work>
-double MedianMilliseconds(Work work) {
-  LARGE_INTEGER frequency;
-  ::QueryPerformanceFrequency(&frequency);
-  std::vector<double> times;
-  for (int round = 0; round < kRounds; ++round) {
-    LARGE_INTEGER start;
-    LARGE_INTEGER end;
-    ::QueryPerformanceCounter(&start);
-    work();
-    ::GdiFlush();
-    ::QueryPerformanceCounter(&end);
-    times.push_back(1e3 * static_cast<double>(end.QuadPart - start.QuadPart) /
-                    static_cast<double>(frequency.QuadPart));
-  }
-  std::sort(times.begin(), times.end());
-  return times[times.size() / 2];
-}
-
 void Measure(SIZE size, Plot& plot, const RedrawScene& scene, bool whole) {
   plot.Show(whole ? kSceneSide : kSceneSide / 10);
   Surface floor(size);
@@ -193,13 +174,18 @@ void Measure(SIZE size, Plot& plot, const RedrawScene& scene, bool whole) {
     plain.Fill();
     PlainCanvas canvas(plain.Dc());
     DrawPlanView(canvas, plot.Data());
+    ::GdiFlush();
   });
   const double fast_ms = MedianMilliseconds([&] {
     fast.Fill();
     BitsCanvas canvas(fast.Dc(), fast.Pixels(), learnt);
     DrawPlanView(canvas, plot.Data());
+    ::GdiFlush();
   });
-  const double redraw_ms = MedianMilliseconds([] { Tavix_Drw(1); });
+  const double redraw_ms = MedianMilliseconds([] {
+    Tavix_Drw(1);
+    ::GdiFlush();
+  });
   const int different = fast.Differences(plain) + (whole ? fast.Differences(floor) : 0);
   std::printf(
       "%4ldx%-4ld %7zu %-5s floor %7.2f ms  plain %7.2f (%.2f)  fast %7.3f (%.3f)  redraw %7.3f "
