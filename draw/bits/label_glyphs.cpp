@@ -47,13 +47,17 @@ bool LabelGlyphs::Seek(NameView text) {
     }
   }
   sample.LearnLevels(readable, glyphs, blend_);
+  for (const char16_t character : readable) {
+    Entry& entry = Of(character);
+    if (!entry.blocks) entry.blocks = GlyphBlocks::From(*entry.glyph, blend_);
+  }
   refused_ = !sample.IsSystemsLabel(
       readable, [&](const PixelBlock& block, ScreenPoint at) { DrawGlyphs(block, at, readable); });
   return !refused_ && readable == text;
 }
 
 const Glyph* LabelGlyphs::FindGlyph(LabelSample& sample, char16_t character) {
-  Entry& entry = entries_[static_cast<std::size_t>(character - kFirst)];
+  Entry& entry = Of(character);
   if (!entry.sought) entry.glyph = sample.ReadGlyph(character);
   entry.sought = true;
   return entry.glyph ? &*entry.glyph : nullptr;
@@ -61,9 +65,13 @@ const Glyph* LabelGlyphs::FindGlyph(LabelSample& sample, char16_t character) {
 
 void LabelGlyphs::DrawGlyphs(const PixelBlock& block, ScreenPoint at, NameView text) const {
   for (const char16_t character : text) {
-    const Glyph& glyph = *Of(character).glyph;
-    glyph.Draw(block, blend_, at);
-    at.x += glyph.Advance();
+    const Entry& entry = Of(character);
+    if (entry.blocks && entry.blocks->Fits(block, at)) {
+      entry.blocks->Draw(block, at);
+    } else {
+      entry.glyph->Draw(block, blend_, at);
+    }
+    at.x += entry.glyph->Advance();
   }
 }
 

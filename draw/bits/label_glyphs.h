@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "draw/bits/glyph.h"
+#include "draw/bits/glyph_blocks.h"
 #include "draw/bits/smooth_blend.h"
 #include "store/name_pool.h"
 
@@ -36,6 +37,7 @@ class LabelGlyphs {
   struct Entry {
     bool sought = false;
     std::optional<Glyph> glyph;
+    std::optional<GlyphBlocks> blocks;
   };
 
   [[nodiscard]] bool HasAll(NameView text) const;
@@ -43,6 +45,10 @@ class LabelGlyphs {
   const Glyph* FindGlyph(LabelSample& sample, char16_t character);
   void DrawGlyphs(const PixelBlock& block, ScreenPoint at, NameView text) const;
 
+  // Of a printable character.
+  [[nodiscard]] Entry& Of(char16_t character) {
+    return entries_[static_cast<std::size_t>(character - kFirst)];
+  }
   [[nodiscard]] const Entry& Of(char16_t character) const {
     return entries_[static_cast<std::size_t>(character - kFirst)];
   }

@@ -30,19 +30,6 @@ BlockPicture CharacterPicture() {
   return picture;
 }
 
-TEST(SmoothBlendLevels, AreKnownOnceLearnt) {
-  SmoothBlend blend = Blend();
-  EXPECT_TRUE(blend.Knows(0));
-  EXPECT_TRUE(blend.Knows(0x80));
-  EXPECT_FALSE(blend.Knows(0x81));
-  blend.Forget();
-  EXPECT_FALSE(blend.Knows(0));
-}
-
-TEST(SmoothBlendLevels, TakeEachColourByItself) {
-  EXPECT_EQ(0x00804020u, Blended(Blend().Ramps()[0x80], 0x00FF8040));
-}
-
 TEST(Glyphs, RememberTheirPixelsAndTheWayToTheNext) {
   const auto glyph = Glyph::FromPicture(CharacterPicture().Block(), {2, 2}, 2);
   ASSERT_TRUE(glyph);
