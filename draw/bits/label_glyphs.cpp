@@ -2,15 +2,14 @@
 
 #include <algorithm>
 #include <string>
-#include <vector>
 
 #include "draw/bits/label_sample.h"
 
 namespace tavix {
 namespace {
 
-constexpr std::size_t kLongest = 40;  // characters
-constexpr int kHighest = 48;          // pixels; above, a label is drawn seldom
+constexpr std::size_t kLongest = 32;  // characters
+constexpr int kHighest = 40;          // pixels; above, a label is drawn seldom
 
 }  // namespace
 
@@ -36,31 +35,29 @@ bool LabelGlyphs::Seek(NameView text) {
   };
   if (std::any_of(text.begin(), text.end(), none)) return false;
 
-  LabelSample sample(height_, static_cast<int>(text.size()));
-  if (!sample.IsMade()) return false;
+  LabelSample single(height_, 1);
+  LabelSample whole(height_, static_cast<int>(text.size()));
+  if (!single.IsMade() || !whole.IsMade()) return false;
   std::u16string readable;  // the others stay with the system
-  std::vector<const Glyph*> glyphs;
   for (const char16_t character : text) {
-    if (const Glyph* glyph = FindGlyph(sample, character)) {
-      readable += character;
-      glyphs.push_back(glyph);
-    }
+    if (Read(single, character)) readable += character;
   }
-  sample.LearnLevels(readable, glyphs, blend_);
-  for (const char16_t character : readable) {
-    Entry& entry = Of(character);
-    if (!entry.blocks) entry.blocks = GlyphBlocks::From(*entry.glyph, blend_);
-  }
-  refused_ = !sample.IsSystemsLabel(
+  refused_ = !whole.IsSystemsLabel(
       readable, [&](const PixelBlock& block, ScreenPoint at) { DrawGlyphs(block, at, readable); });
   return !refused_ && readable == text;
 }
 
-const Glyph* LabelGlyphs::FindGlyph(LabelSample& sample, char16_t character) {
+bool LabelGlyphs::Read(LabelSample& sample, char16_t character) {
   Entry& entry = Of(character);
-  if (!entry.sought) entry.glyph = sample.ReadGlyph(character);
-  entry.sought = true;
-  return entry.glyph ? &*entry.glyph : nullptr;
+  if (!entry.sought) {
+    entry.sought = true;
+    entry.glyph = sample.ReadGlyph(character);
+    if (entry.glyph) {
+      sample.LearnLevels(character, *entry.glyph, blend_);
+      entry.blocks = GlyphBlocks::From(*entry.glyph, blend_);
+    }
+  }
+  return entry.glyph.has_value();
 }
 
 void LabelGlyphs::DrawGlyphs(const PixelBlock& block, ScreenPoint at, NameView text) const {

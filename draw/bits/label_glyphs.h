@@ -42,7 +42,7 @@ class LabelGlyphs {
 
   [[nodiscard]] bool HasAll(NameView text) const;
   [[nodiscard]] bool Seek(NameView text);
-  const Glyph* FindGlyph(LabelSample& sample, char16_t character);
+  [[nodiscard]] bool Read(LabelSample& sample, char16_t character);
   void DrawGlyphs(const PixelBlock& block, ScreenPoint at, NameView text) const;
 
   // Of a printable character.

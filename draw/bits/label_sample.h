@@ -2,7 +2,6 @@
 #pragma once
 
 #include <optional>
-#include <span>
 
 #include "draw/bits/glyph.h"
 #include "draw/bits/smooth_blend.h"
@@ -23,9 +22,8 @@ class LabelSample {
   // A character as the system draws it; none where it is not to be had, see Glyph.
   [[nodiscard]] std::optional<Glyph> ReadGlyph(char16_t character);
 
-  // Teaches `blend` those levels that it does not know of the glyphs a text is made of, one for
-  // each of its characters.
-  void LearnLevels(NameView text, std::span<const Glyph* const> glyphs, SmoothBlend& blend);
+  // Teaches `blend` those levels of the character's glyph that it does not know.
+  void LearnLevels(char16_t character, const Glyph& glyph, SmoothBlend& blend);
 
   // Whether the system's label is what `draw(block, at)` draws: with its top left corner at `at`,
   // over any picture, and cut by its edges.
@@ -43,6 +41,7 @@ class LabelSample {
   }
 
  private:
+  int widest_;          // what a character may take of the row, in pixels
   ScreenPoint inside_;  // far enough from the edges
   int right_;
   SystemSample sample_;

@@ -8,8 +8,10 @@
 namespace tavix {
 namespace {
 
-constexpr std::size_t kMostLooks =
-    64;  // a host that makes legends without end costs no more memory
+// A host that makes legends without end costs no more memory than this, and no time to learn what
+// was forgotten.
+constexpr std::size_t kMostMarks = 256;
+constexpr std::size_t kMostFonts = 64;
 
 // Whether, and how, text is smoothed, as one number.
 UINT TextSmoothing() {
@@ -50,7 +52,7 @@ const Stamp* LearntDrawing::Mark(const LegendStyle& style) {
   const auto same = [&](const LearntMark& learnt) { return learnt.style == mark; };
   auto found = std::find_if(marks_.begin(), marks_.end(), same);
   if (found == marks_.end()) {
-    if (marks_.size() >= kMostLooks) marks_.pop_front();
+    if (marks_.size() >= kMostMarks) return nullptr;
     found = marks_.insert(marks_.end(), {mark, MakeMarkStamp(mark)});
   }
   return found->stamp ? &*found->stamp : nullptr;
@@ -60,7 +62,7 @@ LabelGlyphs* LearntDrawing::Labels(int height) {
   const auto same = [=](const LabelGlyphs& labels) { return labels.Height() == height; };
   auto found = std::find_if(labels_.begin(), labels_.end(), same);
   if (found == labels_.end()) {
-    if (labels_.size() >= kMostLooks) labels_.pop_front();
+    if (labels_.size() >= kMostFonts) return nullptr;
     found = labels_.emplace(labels_.end(), height, blend_);
   }
   return &*found;

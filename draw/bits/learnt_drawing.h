@@ -16,7 +16,9 @@ namespace tavix {
 
 // Learns from the system how it draws as that is needed, each thing once, and keeps it for the
 // redraws to come. Whatever it hands out has been compared with the system's own drawing; null
-// stands for what is to be left to the system. A pointer is valid until the next call.
+// stands for what is to be left to the system: what is not the same everywhere, and what comes
+// after very many others. A pointer is valid until FollowSettings is called or the object
+// destroyed.
 class LearntDrawing {
  public:
   LearntDrawing() = default;

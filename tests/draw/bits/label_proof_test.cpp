@@ -19,11 +19,9 @@ class LabelProof : public testing::Test {
     for (const char16_t character : text_) {
       const auto glyph = sample_.ReadGlyph(character);
       if (!glyph) GTEST_SKIP() << "the system smooths text in colours: labels are left to it";
+      sample_.LearnLevels(character, *glyph, blend_);
       glyphs_.push_back(*glyph);
     }
-    std::vector<const Glyph*> glyphs;
-    for (const Glyph& glyph : glyphs_) glyphs.push_back(&glyph);
-    sample_.LearnLevels(text_, glyphs, blend_);
   }
 
   // `too_far` pixels are added after each glyph.
