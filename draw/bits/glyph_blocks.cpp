@@ -26,7 +26,7 @@ void GlyphBlocks::Add(const Glyph::Pixel& pixel, std::uint16_t share) {
             std::max(box_.right, pixel.x + kPixels), std::max(box_.bottom, pixel.y + 1)};
   }
   Four& four = fours_.back();
-  const auto first = static_cast<std::size_t>((pixel.x - four.x) * kChannels);
+  const auto first = static_cast<std::size_t>(pixel.x - four.x) * kChannels;
   for (std::size_t channel = 0; channel < 3; ++channel) four.shares[first + channel] = share;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -30,8 +31,8 @@ class GlyphBlocks {
 
  private:
   static constexpr int kPixels = 4;
-  static constexpr int kChannels = 4;  // the fourth byte of a pixel shows nothing and stays
-  static constexpr std::size_t kBytes = kPixels * kChannels;
+  static constexpr std::size_t kChannels = 4;  // the fourth byte of a pixel shows nothing and stays
+  static constexpr std::size_t kBytes = std::size_t{kPixels} * kChannels;
 
   struct Four {
     std::int16_t x;
