@@ -1,185 +1,226 @@
-// Measures a full redraw through the exported calls against its floor: the same picture by the
-// plainest sequence of drawing calls from flat arrays, in the same process and the same kind of
-// bitmap.
+// Measures a full redraw against its floor, in one process and on bitmaps of one kind.
 //
-//   redraw_bench [POINTS]      21479 without an argument
+//   redraw_bench [POINTS]      1000, 10000 and 100000 one after another without an argument
 //
 // The scene: POINTS points on a jittered grid, each a hollow circle of 10 pixels with the label
-// "P<number>"; 20,000 lines between neighbours at most (a line keeps 16 bits of a key); a view
-// turned by 15 degrees of 240 x 320 pixels. "whole" has all of it in view, "1 %" a hundredth of the
-// ground. Prints the median of several rounds, the ratio to the floor, and the entities drawn a
-// second.
+// "P<number>"; 20,000 lines between neighbours at most; 100 figures of 100 points; a view turned by
+// 15 degrees. "whole" has all of it in view, "1 %" a hundredth of the ground. Medians of
+//
+//   floor     the same picture by the plainest sequence of drawing calls from flat arrays
+//   plain     the plan view's passes by the system's own calls
+//   fast      the same passes into the bits
+//   redraw    the exported call
+//
+// with their ratios to the floor, and how many pixels of `fast` differ from `plain` and, where no
+// line is cut, from the floor.
 #include <tavix/tavix.h>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <random>
-#include <string>
 #include <vector>
 
 #include "bench/median_time.h"
+#include "bench/redraw_scene.h"
+#include "draw/bits/bits_canvas.h"
+#include "draw/bits/pixel_section.h"
+#include "draw/label_font.h"
+#include "draw/plain_canvas.h"
+#include "draw/plan_view.h"
+#include "platform/wide_text.h"
 
+namespace tavix {
 namespace {
 
-using tavix::MedianMilliseconds;
+constexpr int kInstance = 4;  // apart from the exported calls' own
 
-constexpr int kWidth = 240;
-constexpr int kHeight = 320;
-constexpr double kSide = 10000.0;  // metres
-constexpr int kAngle = 15;         // degrees
-constexpr int kMostLines = 20000;
-constexpr COLORREF kMarkColor = RGB(0, 0, 255);
-constexpr COLORREF kLineColor = RGB(0, 128, 0);
+// A bitmap section as the back buffer is one.
+class Surface {
+ public:
+  explicit Surface(SIZE size) {
+    CClientDC screen(nullptr);
+    dc_.CreateCompatibleDC(&screen);
+    pixels_ = CreatePixelSection(screen, size.cx, size.cy, bitmap_);
+    if (!pixels_.pixels) std::exit(1);
+    ::SelectObject(dc_.m_hDC, bitmap_.m_hObject);
+    const LOGFONTW font = LabelFont(10);
+    font_.CreateFontIndirect(&font);
+  }
 
-struct Place {
-  double x;
-  double y;
+  [[nodiscard]] CDC& Dc() { return dc_; }
+  [[nodiscard]] const PixelBlock& Pixels() const { return pixels_; }
+
+  void Fill() {
+    const RECT all{0, 0, pixels_.width, pixels_.height};
+    ::FillRect(dc_.m_hDC, &all, ::GetSysColorBrush(COLOR_WINDOW));
+  }
+
+  void SelectFloorObjects() {
+    ::SelectObject(dc_.m_hDC, font_.m_hObject);
+    ::SelectObject(dc_.m_hDC, ::GetStockObject(NULL_BRUSH));
+    ::SetBkMode(dc_.m_hDC, TRANSPARENT);
+  }
+
+  [[nodiscard]] int Differences(const Surface& other) const {
+    ::GdiFlush();
+    int count = 0;
+    for (std::size_t i = 0; i < pixels_.Count(); ++i) {
+      count += pixels_.pixels[i] != other.pixels_.pixels[i] ? 1 : 0;
+    }
+    return count;
+  }
+
+ private:
+  CFont font_;
+  CBitmap bitmap_;
+  CDC dc_;
+  PixelBlock pixels_;
 };
 
-std::vector<Place> MakePlaces(int count) {
-  std::vector<Place> places;
-  std::mt19937 random(1);
-  std::uniform_real_distribution<double> jitter(-0.3, 0.3);
-  const int columns = std::max(1, static_cast<int>(std::ceil(std::sqrt(count))));
-  const double cell = kSide / columns;
-  for (int i = 0; i < count; ++i) {
-    const int row = i / columns;
-    const int column = row % 2 == 0 ? i % columns : columns - 1 - i % columns;
-    places.push_back(
-        {kSide - (row + 0.5 + jitter(random)) * cell, (column + 0.5 + jitter(random)) * cell});
+// The library's own stores with the scene in them, and the exported calls' instance with the same.
+class Plot {
+ public:
+  Plot(SIZE size, const RedrawScene& scene) : lines_(kInstance), figures_(kInstance) {
+    view_.SetScreenSize(size.cx, size.cy);
+    view_.SetAngle(kSceneAngle);
+    figures_.Open();
+    lines_.Open();
+    legend_.Add(true, {2, 10, 10, 0, 1, static_cast<int>(kMarkColor)}, &mark_);
+    legend_.Add(false, {101, 0, 0, 0, 1, static_cast<int>(kLineColor)}, &line_);
+    legend_.Add(false, {101, 0, 0, 0, 1, static_cast<int>(kFigureColor)}, &figure_);
+    short unused = 0;
+    Tavix_AddPntHan(2, 1, static_cast<int>(kMarkColor), 10, 10, 0, &unused);
+    Tavix_SelPntHan(unused);
+    Tavix_AddLinHan(101, 0, 0, 0, 1, static_cast<int>(kLineColor), &unused);
+    Tavix_SelLinHan(unused);
+    Tavix_AddLinHan(101, 0, 0, 0, 1, static_cast<int>(kFigureColor), &unused);
+    EnterPoints(scene);
+    EnterFigures(scene, unused);
+    Tavix_SetAng(kSceneAngle);
   }
-  return places;
-}
-
-int LineCount(const std::vector<Place>& places) {
-  return std::min(static_cast<int>(places.size()) - 1, kMostLines);
-}
-
-// The floor's own view: rotation, scale, truncation.
-struct View {
-  double scale;
-  double cos_a = std::cos(kAngle * 0.017453292519943295);
-  double sin_a = std::sin(kAngle * 0.017453292519943295);
-
-  [[nodiscard]] POINT ToPixel(Place at) const {
-    const double dx = (at.y - kSide / 2) * scale;
-    const double dy = (kSide / 2 - at.x) * scale;
-    return {static_cast<LONG>(dx * cos_a - dy * sin_a + kWidth / 2),
-            static_cast<LONG>(dy * cos_a + dx * sin_a + kHeight / 2)};
+  ~Plot() {
+    lines_.Close();
+    figures_.Close();
   }
+  Plot(const Plot&) = delete;
+  Plot& operator=(const Plot&) = delete;
+
+  void Show(double ground_side) {
+    const double low = kSceneSide / 2 - ground_side / 2;
+    const double high = kSceneSide / 2 + ground_side / 2;
+    Tavix_Zom(low, low, high, high);
+    const GroundSize box = view_.RotatedExtent({ground_side, ground_side});
+    static_cast<void>(view_.ZoomToArea(box, {kSceneSide / 2, kSceneSide / 2}));
+  }
+
+  [[nodiscard]] const CViewState& View() const { return view_; }
+  [[nodiscard]] PlotData Data() { return {view_, legend_, points_, lines_, figures_, true}; }
+
+ private:
+  void EnterPoints(const RedrawScene& scene) {
+    int key = 0;
+    for (const GroundPoint& at : scene.points) {
+      const std::wstring& name = scene.names[static_cast<std::size_t>(key++)];
+      points_.Add({key, key, NameView(reinterpret_cast<const char16_t*>(name.data()), name.size()),
+                   at, mark_});
+      Tavix_EntPnt(key, key, name.c_str(), at.x, at.y);
+    }
+    for (int i = 1; i <= scene.lines; ++i) {
+      std::int32_t id = 0;
+      lines_.Add(LineKeys::Of(i, i + 1), line_, &id);
+      Tavix_EntLin(i, i + 1);
+    }
+  }
+
+  void EnterFigures(const RedrawScene& scene, short exported_legend) {
+    int number = 0;
+    for (const std::vector<GroundPoint>& figure : scene.figures) {
+      figures_.SetPending(++number, figure_);
+      const auto count = static_cast<int>(figure.size());
+      figures_.AddPolyline(figure, count);
+      std::vector<double> x;
+      std::vector<double> y;
+      for (const GroundPoint& at : figure) {
+        x.push_back(at.x);
+        y.push_back(at.y);
+      }
+      Tavix_FigStt(number, exported_legend);
+      Tavix_FigMdlPly(count, x.data(), y.data());
+      Tavix_FigEnd();
+    }
+  }
+
+  CViewState view_;
+  LegendTable legend_;
+  CPntList points_{kInstance};
+  CLinDb lines_;
+  CFigList figures_;
+  std::int16_t mark_ = 0;
+  std::int16_t line_ = 0;
+  std::int16_t figure_ = 0;
 };
 
-bool Touches(POINT p, LONG reach) {
-  return p.x + reach >= 0 && p.y + reach >= 0 && p.x - reach <= kWidth && p.y - reach <= kHeight;
-}
-
-bool MayTouch(POINT a, POINT b) {
-  return !((a.x < 0 && b.x < 0) || (a.y < 0 && b.y < 0) || (a.x > kWidth && b.x > kWidth) ||
-           (a.y > kHeight && b.y > kHeight));
-}
-
-// Draws the scene by raw calls and returns how many entities showed.
-int DrawFloor(HDC dc, const View& view, const std::vector<Place>& places) {
-  const RECT all{0, 0, kWidth, kHeight};
-  ::FillRect(dc, &all, ::GetSysColorBrush(COLOR_WINDOW));
-  int drawn = 0;
-  const HPEN line_pen = ::CreatePen(PS_SOLID, 1, kLineColor);
-  const HGDIOBJ old_pen = ::SelectObject(dc, line_pen);
-  for (int i = 0; i < LineCount(places); ++i) {
-    const POINT a = view.ToPixel(places[static_cast<std::size_t>(i)]);
-    const POINT b = view.ToPixel(places[static_cast<std::size_t>(i) + 1]);
-    if (!MayTouch(a, b)) continue;
-    ::MoveToEx(dc, a.x, a.y, nullptr);
-    ::LineTo(dc, b.x, b.y);
-    ++drawn;
-  }
-  const HPEN mark_pen = ::CreatePen(PS_SOLID, 1, kMarkColor);
-  ::SelectObject(dc, mark_pen);
-  int number = 0;
-  for (const Place& place : places) {
-    ++number;
-    const POINT p = view.ToPixel(place);
-    if (!Touches(p, 10)) continue;
-    ::Ellipse(dc, p.x - 5, p.y - 5, p.x + 5, p.y + 5);
-    const std::wstring label = L"P" + std::to_wstring(number);
-    RECT box{p.x, p.y + 2, p.x + 200, p.y - 8};
-    ::DrawTextW(dc, label.c_str(), static_cast<int>(label.size()), &box, DT_NOCLIP);
-    ++drawn;
-  }
-  ::GdiFlush();
-  ::SelectObject(dc, old_pen);
-  ::DeleteObject(line_pen);
-  ::DeleteObject(mark_pen);
-  return drawn;
-}
-
-void Measure(const char* name, HDC floor_dc, const std::vector<Place>& places, double ground_side) {
-  Tavix_Zom(kSide / 2 - ground_side / 2, kSide / 2 - ground_side / 2, kSide / 2 + ground_side / 2,
-            kSide / 2 + ground_side / 2);
-  // The window shows the turned square in its narrower side; the floor takes the same scale.
-  const View view{kWidth / (ground_side * (std::cos(kAngle * 0.017453292519943295) +
-                                           std::sin(kAngle * 0.017453292519943295)))};
-  int drawn = 0;
-  const double floor_ms = MedianMilliseconds([&] { drawn = DrawFloor(floor_dc, view, places); });
+void Measure(SIZE size, Plot& plot, const RedrawScene& scene, bool whole) {
+  plot.Show(whole ? kSceneSide : kSceneSide / 10);
+  Surface floor(size);
+  Surface plain(size);
+  Surface fast(size);
+  LearntDrawing learnt;
+  floor.SelectFloorObjects();
+  int shown = 0;
+  const double floor_ms = MedianMilliseconds(
+      [&] { shown = DrawRedrawFloor(floor.Dc().m_hDC, size, plot.View(), scene); });
+  const double plain_ms = MedianMilliseconds([&] {
+    plain.Fill();
+    PlainCanvas canvas(plain.Dc());
+    DrawPlanView(canvas, plot.Data());
+    ::GdiFlush();
+  });
+  const double fast_ms = MedianMilliseconds([&] {
+    fast.Fill();
+    BitsCanvas canvas(fast.Dc(), fast.Pixels(), learnt);
+    DrawPlanView(canvas, plot.Data());
+    ::GdiFlush();
+  });
   const double redraw_ms = MedianMilliseconds([] {
     Tavix_Drw(1);
     ::GdiFlush();
   });
-  std::printf("%-6s floor %8.2f ms   redraw %8.2f ms   ratio %.2f   %d entities, %.0f a second\n",
-              name, floor_ms, redraw_ms, redraw_ms / floor_ms, drawn, drawn / redraw_ms * 1e3);
+  const int different = fast.Differences(plain) + (whole ? fast.Differences(floor) : 0);
+  std::printf(
+      "%4ldx%-4ld %7zu %-5s floor %7.2f ms  plain %7.2f (%.2f)  fast %7.3f (%.3f)  redraw %7.3f "
+      "(%.3f)  %d shown, pixels different %d\n",
+      size.cx, size.cy, scene.points.size(), whole ? "whole" : "1 %", floor_ms, plain_ms,
+      plain_ms / floor_ms, fast_ms, fast_ms / floor_ms, redraw_ms, redraw_ms / floor_ms, shown,
+      different);
+  std::fflush(stdout);
 }
 
-HDC MakeFloorSurface(HWND window) {
-  const HDC screen = ::GetDC(window);
-  const HDC dc = ::CreateCompatibleDC(screen);
-  ::SelectObject(dc, ::CreateCompatibleBitmap(screen, kWidth, kHeight));
-  ::ReleaseDC(window, screen);
-  LOGFONTW font{};
-  font.lfHeight = 10;
-  font.lfWeight = FW_NORMAL;
-  font.lfCharSet = SHIFTJIS_CHARSET;
-  ::SelectObject(dc, ::CreateFontIndirectW(&font));
-  ::SelectObject(dc, ::GetStockObject(NULL_BRUSH));
-  ::SetBkMode(dc, TRANSPARENT);
-  return dc;
-}
-
-void EnterScene(const std::vector<Place>& places) {
-  short mark = 0;
-  short line = 0;
-  Tavix_AddPntHan(2, 1, static_cast<int>(kMarkColor), 10, 10, 0, &mark);
-  Tavix_AddLinHan(101, 0, 0, 0, 1, static_cast<int>(kLineColor), &line);
-  Tavix_SelPntHan(mark);
-  Tavix_SelLinHan(line);
-  int key = 0;
-  for (const Place& place : places) {
-    ++key;
-    CString name;
-    name.Format(L"P%d", key);
-    Tavix_EntPnt(key, key, name, place.x, place.y);
+void Run(HWND host, SIZE size, int points) {
+  Tavix_Crt();
+  // Three pixels of frame on each side: border and edge.
+  Tavix_LnkRct(CWnd::FromHandle(host), 0, 0, size.cx + 6, size.cy + 6, 1);
+  Tavix_SetBtn(0);
+  Tavix_Dsp(1);
+  {
+    const RedrawScene scene = MakeRedrawScene(points);
+    Plot plot(size, scene);
+    Measure(size, plot, scene, true);
+    Measure(size, plot, scene, false);
   }
-  for (int i = 1; i <= LineCount(places); ++i) Tavix_EntLin(i, i + 1);
+  Tavix_Del();
 }
 
 }  // namespace
+}  // namespace tavix
 
 int main(int argc, char** argv) {
-  const int count = argc > 1 ? std::max(2, std::atoi(argv[1])) : 21479;
-  const HWND host = ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 400, 400,
+  const HWND host = ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 1300, 1100,
                                       nullptr, nullptr, nullptr, nullptr);
-  Tavix_Crt();
-  // Three pixels of frame on each side: border and edge.
-  Tavix_LnkRct(CWnd::FromHandle(host), 0, 0, kWidth + 6, kHeight + 6, 1);
-  Tavix_SetBtn(0);
-  Tavix_Dsp(1);
-  const std::vector<Place> places = MakePlaces(count);
-  EnterScene(places);
-  Tavix_SetAng(kAngle);
-  const HDC floor_dc = MakeFloorSurface(Tavix_Wnd()->m_hWnd);
-  Measure("whole", floor_dc, places, kSide);
-  Measure("1 %", floor_dc, places, kSide / 10);
-  Tavix_Del();
+  std::vector<int> counts{1000, 10000, 100000};
+  if (argc > 1) counts = {std::max(2, std::atoi(argv[1]))};
+  for (const SIZE& size : {SIZE{240, 320}, SIZE{1280, 1024}}) {
+    for (const int points : counts) tavix::Run(host, size, points);
+  }
   return 0;
 }

@@ -7,6 +7,7 @@
 
 #include "draw/ink_legend.h"
 #include "draw/one_bit_canvas.h"
+#include "draw/plain_canvas.h"
 #include "view/truncate.h"
 
 namespace tavix {
@@ -54,8 +55,10 @@ bool GroupPicture::Build(const PlotData& data, const PaperFrame& frame, int heig
   OneBitCanvas canvas(width, height);
   if (!canvas.IsMade()) return cut;
   const LegendTable legend = InkLegend(data.legend);
-  DrawPlanView(canvas.Dc(),
-               {view, legend, data.points, data.lines, data.figures, data.draws_lines});
+  {
+    PlainCanvas plain(canvas.Dc());
+    DrawPlanView(plain, {view, legend, data.points, data.lines, data.figures, data.draws_lines});
+  }
 
   height_ = height;
   width_ = width;

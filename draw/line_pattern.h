@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 
+#include "draw/screen_box.h"
 #include "store/legend_table.h"
 #include "view/coordinates.h"
 #include "view/view_state.h"
@@ -22,14 +23,6 @@ struct LinePattern {
 
 // The pattern of style kinds 102 to 105; none for any other kind.
 [[nodiscard]] std::optional<LinePattern> PatternOf(const LegendStyle& style);
-
-// A rectangle of the screen in pixels, borders included.
-struct ScreenBox {
-  int left = 0;
-  int top = 0;
-  int right = 0;
-  int bottom = 0;
-};
 
 // One piece of a segment, on the ground.
 struct LinePiece {

@@ -1,11 +1,8 @@
 #include "draw/plan_view.h"
 
-#include <afxwin.h>
-#include <framework/scoped_select.h>
-
 #include "draw/line_painter.h"
+#include "draw/plan_canvas.h"
 #include "draw/point_painter.h"
-#include "draw/transparent_background.h"
 
 namespace tavix {
 namespace {
@@ -22,8 +19,8 @@ void DrawFigure(LinePainter& painter, const Figure& figure) {
   }
 }
 
-void DrawFigures(CDC& dc, const PlotData& data) {
-  LinePainter painter(dc, data.view, data.legend);
+void DrawFigures(PlanCanvas& canvas, const PlotData& data) {
+  LinePainter painter(canvas, data.view, data.legend);
   data.figures.ForEach([&](const Figure& figure) { DrawFigure(painter, figure); });
 }
 
@@ -37,41 +34,36 @@ void DrawLine(LinePainter& painter, const PlotData& data, const Line& line) {
 }
 
 // In the order of entry, so that later lines cover earlier ones as later points do.
-void DrawLines(CDC& dc, const PlotData& data) {
-  LinePainter painter(dc, data.view, data.legend);
+void DrawLines(PlanCanvas& canvas, const PlotData& data) {
+  LinePainter painter(canvas, data.view, data.legend);
   for (int code = data.lines.First(CLinDb::Order::kById); code == 0; code = data.lines.Next()) {
     Line line;
     if (data.lines.ReadCur(&line) == 0) DrawLine(painter, data, line);
   }
 }
 
-void DrawPoints(CDC& dc, const PlotData& data) {
-  PointLook look(dc, data.view, data.legend);
-  data.points.ForEach([&](const Point& point) { DrawPlanPoint(dc, data.view, look, point); });
+void DrawPoints(PlanCanvas& canvas, const PlotData& data) {
+  PointPainter painter(canvas, data.view, data.legend);
+  data.points.ForEach([&](const Point& point) { painter.Draw(point); });
 }
 
 }  // namespace
 
-void DrawPlanView(CDC& dc, const PlotData& data) {
-  const TransparentBackground transparent(dc);
+void DrawPlanView(PlanCanvas& canvas, const PlotData& data) {
   if (data.draws_lines) {
-    const CScopedSelect hollow(dc, NULL_BRUSH);
-    DrawFigures(dc, data);
-    DrawLines(dc, data);
+    DrawFigures(canvas, data);
+    DrawLines(canvas, data);
   }
-  DrawPoints(dc, data);
+  DrawPoints(canvas, data);
 }
 
-void DrawSinglePoint(CDC& dc, const PlotData& data, const Point& point) {
-  const TransparentBackground transparent(dc);
-  PointLook look(dc, data.view, data.legend);
-  DrawPlanPoint(dc, data.view, look, point);
+void DrawSinglePoint(PlanCanvas& canvas, const PlotData& data, const Point& point) {
+  PointPainter(canvas, data.view, data.legend).Draw(point);
 }
 
-void DrawSingleLine(CDC& dc, const PlotData& data, const Line& line) {
+void DrawSingleLine(PlanCanvas& canvas, const PlotData& data, const Line& line) {
   if (!data.draws_lines) return;
-  const TransparentBackground transparent(dc);
-  LinePainter painter(dc, data.view, data.legend);
+  LinePainter painter(canvas, data.view, data.legend);
   DrawLine(painter, data, line);
 }
 

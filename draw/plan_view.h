@@ -7,9 +7,9 @@
 #include "store/point_list.h"
 #include "view/view_state.h"
 
-class CDC;
-
 namespace tavix {
+
+class PlanCanvas;
 
 // What a drawing pass reads. All of it belongs to the instance and outlives the pass. The line
 // store is walked, which moves its current record.
@@ -22,12 +22,12 @@ struct PlotData {
   bool draws_lines;  // lines and figures are drawn only while this is set
 };
 
-// Draws the plan view's layers into `dc`, bottom to top: figures, lines, points with their marks
+// Draws the plan view's layers on `canvas`, bottom to top: figures, lines, points with their marks
 // and labels.
-void DrawPlanView(CDC& dc, const PlotData& data);
+void DrawPlanView(PlanCanvas& canvas, const PlotData& data);
 
 // Draw a single entity as the plan view would.
-void DrawSinglePoint(CDC& dc, const PlotData& data, const Point& point);
-void DrawSingleLine(CDC& dc, const PlotData& data, const Line& line);
+void DrawSinglePoint(PlanCanvas& canvas, const PlotData& data, const Point& point);
+void DrawSingleLine(PlanCanvas& canvas, const PlotData& data, const Line& line);
 
 }  // namespace tavix

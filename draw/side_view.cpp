@@ -6,8 +6,9 @@
 #include <optional>
 
 #include "draw/point_label.h"
+#include "draw/point_look.h"
 #include "draw/point_mark.h"
-#include "draw/point_painter.h"
+#include "draw/style_objects.h"
 #include "draw/transparent_background.h"
 #include "platform/wide_text.h"
 #include "view/truncate.h"
@@ -40,12 +41,10 @@ void DrawFootCross(CDC& dc, ScreenPoint at) {
 
 void DrawFeet(CDC& dc, const SideData& data, const SideProjection& projection) {
   const CScopedSelect black(dc, BLACK_PEN);
-  HanRec entry{-1, true, {}};
+  LegendLookup entry(data.legend);
   data.points.ForEach([&](const Point3& point) {
-    if (point.legend != entry.number && data.legend.Get(point.legend, &entry) != 0) {
-      entry = {point.legend, true, {}};
-    }
-    const int size = entry.style.prm1;
+    entry.Use(point.legend);
+    const int size = entry.Style().prm1;
     ScreenPoint at;
     if (size > 0 && data.view.CircleOnScreen(point.at, data.view.PixelsToLength(size), at)) {
       DrawFootCross(dc, projection.Project(at));
@@ -85,9 +84,8 @@ void DrawSideLabel(CDC& dc, const LegendStyle& style, ScreenPoint at, int raise,
   dc.DrawText(AsWide(text.data()), length, &rect, DT_NOCLIP);
 }
 
-void DrawSidePoint(CDC& dc, const SideData& data, const SideProjection& projection, PointLook& look,
-                   const Point3& point) {
-  look.Use(point.legend);
+void DrawSidePoint(CDC& dc, const SideData& data, const SideProjection& projection,
+                   const PointLook& look, const Point3& point) {
   ScreenPoint plan;
   if (!data.view.CircleOnScreen(point.at, look.Margin(), plan)) return;
   const ScreenPoint foot = projection.Project(plan);
@@ -106,10 +104,12 @@ void DrawSidePoint(CDC& dc, const SideData& data, const SideProjection& projecti
 }
 
 void DrawPoints(CDC& dc, const SideData& data, const SideProjection& projection) {
-  const CScopedSelect hollow(dc, NULL_BRUSH);
-  PointLook look(dc, data.view, data.legend);
-  data.points.ForEach(
-      [&](const Point3& point) { DrawSidePoint(dc, data, projection, look, point); });
+  PointLook look(data.view, data.legend);
+  StyleObjects objects(dc);
+  data.points.ForEach([&](const Point3& point) {
+    if (look.Use(point.legend)) objects.UseForPoints(look.Style());
+    DrawSidePoint(dc, data, projection, look, point);
+  });
 }
 
 void DrawHeightBase(CDC& dc, const SideData& data) {

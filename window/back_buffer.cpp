@@ -1,5 +1,7 @@
 #include "window/back_buffer.h"
 
+#include "draw/bits/pixel_section.h"
+
 namespace tavix {
 
 BackBuffer::~BackBuffer() {
@@ -12,7 +14,8 @@ void BackBuffer::Create(CWnd& window) {
   window.GetClientRect(&rect_);
   CClientDC client(&window);
   dc_.CreateCompatibleDC(&client);
-  bitmap_.CreateCompatibleBitmap(&client, rect_.right, rect_.bottom);
+  pixels_ = CreatePixelSection(client, rect_.right, rect_.bottom, bitmap_);
+  if (!pixels_.pixels) bitmap_.CreateCompatibleBitmap(&client, rect_.right, rect_.bottom);
   old_bitmap_ = dc_.SelectObject(&bitmap_);
   Fill();
 }

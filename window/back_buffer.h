@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include "draw/bits/pixel_block.h"
+
 namespace tavix {
 
 // A memory device context with a bitmap of the size of a window's client area, made once.
@@ -21,6 +23,9 @@ class BackBuffer {
 
   [[nodiscard]] CDC& Dc() { return dc_; }
 
+  // The pixels that Dc() draws into; null where the screen's colours are not of 32 bits.
+  [[nodiscard]] const PixelBlock& Pixels() const { return pixels_; }
+
   // The client area at creation: left and top are 0.
   [[nodiscard]] const CRect& Rect() const { return rect_; }
 
@@ -28,6 +33,7 @@ class BackBuffer {
   CDC dc_;
   CBitmap bitmap_;
   CBitmap* old_bitmap_ = nullptr;
+  PixelBlock pixels_;
   CRect rect_{0, 0, 0, 0};
 };
 

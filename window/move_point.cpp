@@ -2,8 +2,8 @@
 
 #include <framework/scoped_select.h>
 
-#include "draw/line_painter.h"
 #include "draw/point_mark.h"
+#include "draw/screen_line.h"
 #include "draw/xor_drawing.h"
 #include "window/client_surface.h"
 
@@ -63,7 +63,11 @@ void MovePoint::FlipOn(CDC& dc, const CViewState& view) const {
     DrawMark(dc, mark_, mark_size_, at);
   }
   ScreenSegment line;
-  if (has_line_ && view.ClipGroundSegment(anchor_, position_, line)) DrawScreenLine(dc, line);
+  if (has_line_ && view.ClipGroundSegment(anchor_, position_, line)) {
+    line = WithDot(line);
+    dc.MoveTo(line.start.x, line.start.y);
+    dc.LineTo(line.end.x, line.end.y);
+  }
 }
 
 }  // namespace tavix

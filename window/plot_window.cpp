@@ -2,7 +2,9 @@
 
 #include <cmath>
 
+#include "draw/bits/bits_canvas.h"
 #include "draw/label_font.h"
+#include "draw/plain_canvas.h"
 #include "draw/side_view.h"
 #include "view/scale_bar.h"
 #include "window/client_surface.h"
@@ -127,11 +129,21 @@ int CPlotWnd::Redraw() {
     DrawSide();
     traced_.ForgetSegments();
   } else {
-    DrawPlanView(buffer_.Dc(), Data());
+    DrawPlan();
     traced_.Redraw(buffer_.Dc(), *links_.view);
   }
   InvalidateRect(&buffer_.Rect(), TRUE);
   return 0;
+}
+
+void CPlotWnd::DrawPlan() {
+  if (buffer_.Pixels().pixels) {
+    BitsCanvas canvas(buffer_.Dc(), buffer_.Pixels(), learnt_);
+    DrawPlanView(canvas, Data());
+  } else {
+    PlainCanvas canvas(buffer_.Dc());
+    DrawPlanView(canvas, Data());
+  }
 }
 
 void CPlotWnd::DrawSide() {
@@ -164,18 +176,22 @@ void CPlotWnd::DrawAtOnce(Draw draw) {
   if (IsWindowVisible()) {
     const RubberBand::Hidden hidden(band_, *this);
     ClientSurface screen(*this);
-    draw(screen.Dc());
+    PlainCanvas canvas(screen.Dc());
+    draw(canvas);
   }
-  draw(buffer_.Dc());
+  {
+    PlainCanvas canvas(buffer_.Dc());
+    draw(canvas);
+  }
   FlipOverlays();
 }
 
 void CPlotWnd::DrawNewPoint(const Point& point) {
-  DrawAtOnce([&](CDC& dc) { DrawSinglePoint(dc, Data(), point); });
+  DrawAtOnce([&](PlanCanvas& canvas) { DrawSinglePoint(canvas, Data(), point); });
 }
 
 void CPlotWnd::DrawNewLine(const Line& line) {
-  DrawAtOnce([&](CDC& dc) { DrawSingleLine(dc, Data(), line); });
+  DrawAtOnce([&](PlanCanvas& canvas) { DrawSingleLine(canvas, Data(), line); });
 }
 
 void CPlotWnd::BuildGroup(int height, int width) {

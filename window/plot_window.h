@@ -3,6 +3,7 @@
 
 #include <afxwin.h>
 
+#include "draw/bits/learnt_drawing.h"
 #include "draw/group_picture.h"
 #include "draw/plan_view.h"
 #include "draw/side_projection.h"
@@ -167,6 +168,7 @@ class CPlotWnd : public CWnd {
   [[nodiscard]] PlotData Data() const;
   [[nodiscard]] TracedLine::Surfaces Surfaces() { return {*this, buffer_.Dc()}; }
   int FitSideView();
+  void DrawPlan();
   void DrawSide();
   void DrawOverlays(CDC& paint);
   void FlipOverlays();
@@ -178,6 +180,7 @@ class CPlotWnd : public CWnd {
   UINT notify_id_;
   PlotLinks links_;
   BackBuffer buffer_;
+  LearntDrawing learnt_;
   ButtonColumn buttons_;
   Stylus stylus_;
   RubberBand band_;

@@ -1,0 +1,53 @@
+// The plan view drawn straight into the bits of a bitmap section.
+#pragma once
+
+#include <afxwin.h>
+
+#include <cstdint>
+
+#include "draw/bits/learnt_drawing.h"
+#include "draw/bits/pixel_block.h"
+#include "draw/plain_canvas.h"
+#include "draw/plan_canvas.h"
+
+namespace tavix {
+
+// The pixels of PlainCanvas in a fraction of its time. What has been learnt of the system's drawing
+// is drawn here; all else goes through a plain canvas, in the order it comes.
+class BitsCanvas : public PlanCanvas {
+ public:
+  // `block` is what `dc` draws into, with neither clipping nor a mapping of its own. All outlive
+  // the canvas.
+  BitsCanvas(CDC& dc, const PixelBlock& block, LearntDrawing& learnt);
+
+  [[nodiscard]] ScreenBox Visible() const override { return plain_.Visible(); }
+  void UseLineStyle(const LegendStyle& style) override;
+  void Line(const ScreenSegment& segment) override;
+  void Circle(ScreenPoint centre, int radius) override;
+  void UsePointStyle(const LegendStyle& style) override;
+  void Mark(ScreenPoint at) override;
+  void Label(ScreenPoint at, NameView text) override;
+
+ private:
+  // Which objects the plain canvas still has to make before it is drawn on.
+  enum class Pending { kNothing, kLineStyle, kPointStyle };
+
+  // The plain canvas with the style in use, and the bits with all that has been drawn on it.
+  [[nodiscard]] PlanCanvas& Plain();
+  [[nodiscard]] const PixelBlock& Bits();
+
+  PlainCanvas plain_;
+  PixelBlock block_;
+  LearntDrawing& learnt_;
+  LegendStyle style_;
+  Pending pending_ = Pending::kNothing;
+  bool may_lag_ = true;  // the system may hold back what it has been told to draw
+
+  // Null: the system draws it.
+  const LineRule* lines_ = nullptr;
+  const Stamp* mark_ = nullptr;
+  LabelGlyphs* labels_ = nullptr;
+  std::uint32_t line_color_ = 0;
+};
+
+}  // namespace tavix

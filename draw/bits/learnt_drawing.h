@@ -1,0 +1,55 @@
+// What is known of the system's own drawing.
+#pragma once
+
+#include <windows.h>
+
+#include <list>
+#include <optional>
+
+#include "draw/bits/label_glyphs.h"
+#include "draw/bits/line_rule.h"
+#include "draw/bits/smooth_blend.h"
+#include "draw/bits/stamp.h"
+#include "store/legend_table.h"
+
+namespace tavix {
+
+// Learns from the system how it draws as that is needed, each thing once, and keeps it for the
+// redraws to come. Whatever it hands out has been compared with the system's own drawing; null
+// stands for what is to be left to the system: what is not the same everywhere, and what comes
+// after very many others. A pointer is valid until FollowSettings is called or the object
+// destroyed.
+class LearntDrawing {
+ public:
+  LearntDrawing() = default;
+  LearntDrawing(const LearntDrawing&) = delete;
+  LearntDrawing& operator=(const LearntDrawing&) = delete;
+
+  // To be called before a redraw: forgets how text looks when the user has changed the system's
+  // smoothing of it.
+  void FollowSettings();
+
+  // Solid lines of one pixel.
+  [[nodiscard]] const LineRule* Lines();
+
+  // The mark of a style.
+  [[nodiscard]] const Stamp* Mark(const LegendStyle& style);
+
+  // Labels of this height in pixels.
+  [[nodiscard]] LabelGlyphs* Labels(int height);
+
+ private:
+  struct LearntMark {
+    LegendStyle style;
+    std::optional<Stamp> stamp;
+  };
+
+  bool lines_learnt_ = false;
+  std::optional<LineRule> lines_;
+  std::list<LearntMark> marks_;
+  SmoothBlend blend_;
+  std::list<LabelGlyphs> labels_;
+  UINT smoothing_ = 0;
+};
+
+}  // namespace tavix

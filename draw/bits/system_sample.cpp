@@ -1,0 +1,44 @@
+#include "draw/bits/system_sample.h"
+
+#include <algorithm>
+#include <random>
+
+#include "draw/bits/pixel_section.h"
+
+namespace tavix {
+
+SystemSample::SystemSample(int width, int height) {
+  CClientDC screen(nullptr);
+  dc_.CreateCompatibleDC(&screen);
+  block_ = CreatePixelSection(screen, width, height, bitmap_);
+  if (IsMade()) old_bitmap_ = dc_.SelectObject(&bitmap_);
+}
+
+SystemSample::~SystemSample() {
+  if (old_bitmap_) dc_.SelectObject(old_bitmap_);
+}
+
+void SystemSample::Fill(std::uint32_t color) {
+  std::fill_n(Pixels().pixels, block_.Count(), color);
+}
+
+void SystemSample::FillUnevenly() {
+  std::minstd_rand random;
+  std::generate_n(Pixels().pixels, block_.Count(),
+                  [&] { return static_cast<std::uint32_t>(random()) & 0x00FFFFFF; });
+}
+
+const PixelBlock& SystemSample::Pixels() const {
+  ::GdiFlush();
+  return block_;
+}
+
+OwnSample::OwnSample(const SystemSample& sample)
+    : pixels_(sample.Pixels().pixels, sample.Pixels().pixels + sample.Pixels().Count()),
+      block_{pixels_.data(), sample.Pixels().width, sample.Pixels().height} {}
+
+bool OwnSample::Equals(const SystemSample& sample) const {
+  return std::equal(pixels_.begin(), pixels_.end(), sample.Pixels().pixels);
+}
+
+}  // namespace tavix

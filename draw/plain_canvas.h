@@ -1,0 +1,33 @@
+// The plan view drawn by the system's own calls.
+#pragma once
+
+#include <afxwin.h>
+
+#include "draw/plan_canvas.h"
+#include "draw/style_objects.h"
+#include "draw/transparent_background.h"
+
+namespace tavix {
+
+// Draws into any device context, one call of the system an operation. It is what every other canvas
+// is measured by. What it changes of the device context the destructor puts back.
+class PlainCanvas : public PlanCanvas {
+ public:
+  explicit PlainCanvas(CDC& dc) : dc_(dc), transparent_(dc), objects_(dc) {}
+
+  [[nodiscard]] ScreenBox Visible() const override;
+  void UseLineStyle(const LegendStyle& style) override;
+  void Line(const ScreenSegment& segment) override;
+  void Circle(ScreenPoint centre, int radius) override;
+  void UsePointStyle(const LegendStyle& style) override;
+  void Mark(ScreenPoint at) override;
+  void Label(ScreenPoint at, NameView text) override;
+
+ private:
+  CDC& dc_;
+  TransparentBackground transparent_;
+  StyleObjects objects_;
+  LegendStyle style_;  // of the points
+};
+
+}  // namespace tavix

@@ -1,0 +1,50 @@
+// What the plan view is drawn on.
+#pragma once
+
+#include "draw/screen_box.h"
+#include "store/legend_table.h"
+#include "store/name_pool.h"
+#include "view/coordinates.h"
+
+namespace tavix {
+
+// The few drawing operations the plan view's passes need, in pixels. Whatever implements them gives
+// the pixels of PlainCanvas, which draws each by the system's own call. Later drawings cover
+// earlier ones.
+//
+// A style is in use until the next one is; it is taken as the legend has it, but for sizes, which
+// are at most kMostPixels.
+class PlanCanvas {
+ public:
+  // Larger than any screen, and small enough that no sum of pixels leaves the 32-bit range and that
+  // the system, which walks along an ellipse pixel by pixel, is done with it at once.
+  static constexpr int kMostPixels = 1 << 16;
+
+  PlanCanvas() = default;
+  virtual ~PlanCanvas() = default;
+  PlanCanvas(const PlanCanvas&) = delete;
+  PlanCanvas& operator=(const PlanCanvas&) = delete;
+
+  // What can show: all else is cut off.
+  [[nodiscard]] virtual ScreenBox Visible() const = 0;
+
+  // The look of the lines and circles that follow.
+  virtual void UseLineStyle(const LegendStyle& style) = 0;
+
+  // A solid line from its start up to its end, its end pixel left out.
+  virtual void Line(const ScreenSegment& segment) = 0;
+
+  // A hollow circle; a negative radius is the same as a positive one.
+  virtual void Circle(ScreenPoint centre, int radius) = 0;
+
+  // The look of the marks and labels that follow.
+  virtual void UsePointStyle(const LegendStyle& style) = 0;
+
+  // The mark of the style in use, its size above 0.
+  virtual void Mark(ScreenPoint at) = 0;
+
+  // The label of the point at `at`, the style's text height above 0. The text is not empty.
+  virtual void Label(ScreenPoint at, NameView text) = 0;
+};
+
+}  // namespace tavix

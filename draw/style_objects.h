@@ -1,0 +1,39 @@
+// The system's drawing objects of one style at a time.
+#pragma once
+
+#include <afxwin.h>
+
+#include "store/legend_table.h"
+
+namespace tavix {
+
+// Makes the pen, brush and font of a style and selects them into the device context. The destructor
+// puts back what was selected before. Entities of one legend in a row, as they mostly come, share
+// them.
+class StyleObjects {
+ public:
+  explicit StyleObjects(CDC& dc) : dc_(dc) {}
+  ~StyleObjects() { Drop(); }
+  StyleObjects(const StyleObjects&) = delete;
+  StyleObjects& operator=(const StyleObjects&) = delete;
+
+  // A pen and no brush.
+  void UseForLines(const LegendStyle& style);
+
+  // A pen, a brush for the filled kinds, and a font where there is a text height.
+  void UseForPoints(const LegendStyle& style);
+
+ private:
+  void SelectPen(const LegendStyle& style);
+  void Drop();
+
+  CDC& dc_;
+  CPen pen_;
+  CBrush brush_;
+  CFont font_;
+  CPen* old_pen_ = nullptr;
+  CBrush* old_brush_ = nullptr;
+  CFont* old_font_ = nullptr;
+};
+
+}  // namespace tavix
