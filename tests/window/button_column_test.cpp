@@ -73,11 +73,19 @@ std::vector<Place> Scrolling(int main_buttons) {
 }
 
 const Row kRows[] = {
-    {200, AllNine()},    {180, AllNine()},    {178, AllNine()},  // two pixels too low, and counted
-                                                                 // as fitting
-    {177, Scrolling(7)}, {100, Scrolling(4)}, {98, Scrolling(4)}, {97, Scrolling(3)},
-    {60, Scrolling(2)},  {38, Scrolling(1)},  {37, Scrolling(0)},  // no room for a main button
-    {18, Scrolling(0)},  {15, Scrolling(0)},  // less than none: the count of places is -1
+    {200, AllNine()},
+    {180, AllNine()},
+    {178, AllNine()},  // two pixels too low, and counted
+                       // as fitting
+    {177, Scrolling(7)},
+    {100, Scrolling(4)},
+    {98, Scrolling(4)},
+    {97, Scrolling(3)},
+    {60, Scrolling(2)},
+    {38, Scrolling(1)},
+    {37, Scrolling(0)},  // no room for a main button
+    {18, Scrolling(0)},
+    {15, Scrolling(0)},  // less than none: the count of places is -1
 };
 
 class ButtonColumnOf : public PlotTest, public testing::WithParamInterface<Row> {
