@@ -72,21 +72,12 @@ std::vector<Place> Scrolling(int main_buttons) {
   return shown;
 }
 
-const Row kRows[] = {
-    {200, AllNine()},
-    {180, AllNine()},
-    {178, AllNine()},  // two pixels too low, and counted
-                       // as fitting
-    {177, Scrolling(7)},
-    {100, Scrolling(4)},
-    {98, Scrolling(4)},
-    {97, Scrolling(3)},
-    {60, Scrolling(2)},
-    {38, Scrolling(1)},
-    {37, Scrolling(0)},  // no room for a main button
-    {18, Scrolling(0)},
-    {15, Scrolling(0)},  // less than none: the count of places is -1
-};
+// A client of 178 is two pixels too low for all nine, and counted as fitting them; one of 37 has no
+// room for a main button, and one of 15 less than none: the count of places is -1.
+const Row kRows[] = {{200, AllNine()},    {180, AllNine()},    {178, AllNine()},
+                     {177, Scrolling(7)}, {100, Scrolling(4)}, {98, Scrolling(4)},
+                     {97, Scrolling(3)},  {60, Scrolling(2)},  {38, Scrolling(1)},
+                     {37, Scrolling(0)},  {18, Scrolling(0)},  {15, Scrolling(0)}};
 
 class ButtonColumnOf : public PlotTest, public testing::WithParamInterface<Row> {
  protected:
