@@ -8,7 +8,7 @@
 
 namespace fieldhost {
 
-// Keys and figure numbers are given in the order of entry, from 1.
+// Keys and figure numbers are given in the order of entry, up from 1.
 class SurveyEntry {
  public:
   // Gives the current instance, which must exist, the host's legends.

@@ -7,7 +7,7 @@
 namespace fieldhost {
 
 int DrawnFigures::Start() {
-  Tavix_FigStt(++last_, legend_);
+  Tavix_FigStt(--last_, legend_);
   return last_;
 }
 

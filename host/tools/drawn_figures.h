@@ -31,7 +31,9 @@ class DrawnFigures {
   static bool DeleteLast(std::vector<int>& figures);
 
   short legend_;
-  int last_ = 0;  // the figure number given last
+  // The figure number given last. Those of surveys go up from 1, these down from -1: deleting one
+  // deletes every figure of its number.
+  int last_ = 0;
   std::vector<int> circles_;
   std::vector<int> boundaries_;
 };

@@ -58,6 +58,28 @@ void WindowTest::TapTab(int tab) const {
   Tap(Tabs(), tab * kTabWidth + kTabWidth / 2, 10);
 }
 
+// From the screen: only a process of its own can read what a window shows.
+tavix::test::Picture WindowTest::Shown() const {
+  RECT client = {};
+  ::GetClientRect(Plot(), &client);
+  POINT corner = {0, 0};
+  ::ClientToScreen(Plot(), &corner);
+  const HDC screen = ::GetDC(nullptr);
+  ::SetViewportOrgEx(screen, corner.x, corner.y, nullptr);
+  tavix::test::Picture picture = tavix::test::TakePicture(screen, client.right, client.bottom);
+  ::ReleaseDC(nullptr, screen);
+  return picture;
+}
+
+int WindowTest::CountColour(std::uint32_t colour) const {
+  return tavix::test::CountPixels(Shown(), colour);
+}
+
+void WindowTest::ExpectColour(std::uint32_t colour, int pixels) const {
+  EXPECT_TRUE(WaitUntil([&] { return CountColour(colour) >= pixels; }))
+      << CountColour(colour) << " pixels of colour " << std::hex << colour;
+}
+
 void WindowTest::Widen(int width) const {
   RECT window = {};
   RECT client = {};

@@ -13,6 +13,7 @@
 #include "host/resource.h"
 #include "tests/host/host_process.h"
 #include "tests/host/host_test.h"
+#include "tests/support/window_picture.h"
 
 namespace fieldhost {
 
@@ -51,6 +52,12 @@ class WindowTest : public HostTest {
   // The tab's place: 0 the plan, 1 the side view.
   [[nodiscard]] LRESULT TabOf() const { return ::SendMessageW(Tabs(), TCM_GETCURSEL, 0, 0); }
   void TapTab(int tab) const;
+
+  // What the plot shows at this moment.
+  [[nodiscard]] tavix::test::Picture Shown() const;
+  [[nodiscard]] int CountColour(std::uint32_t colour) const;  // its pixels; 0x00RRGGBB
+  // Waits until it shows at least so many pixels of a colour.
+  void ExpectColour(std::uint32_t colour, int pixels) const;
 
   // Gives the window another client width, and waits for the plot to follow.
   void Widen(int width) const;

@@ -61,25 +61,8 @@ void PlanTest::Tap(double north, double east) const {
   TapPixel(pixel.x, pixel.y);
 }
 
-// From the screen: only a process of its own can read what a window shows.
-tavix::test::Picture PlanTest::Shown() const {
-  const SIZE size = ClientSize(Plot());
-  POINT corner = {0, 0};
-  ::ClientToScreen(Plot(), &corner);
-  const HDC screen = ::GetDC(nullptr);
-  ::SetViewportOrgEx(screen, corner.x, corner.y, nullptr);
-  tavix::test::Picture picture = tavix::test::TakePicture(screen, size.cx, size.cy);
-  ::ReleaseDC(nullptr, screen);
-  return picture;
-}
-
 void PlanTest::ExpectShown(const tavix::test::Picture& picture) const {
   EXPECT_TRUE(WaitUntil([&] { return Shown() == picture; }));
-}
-
-void PlanTest::ExpectColour(std::uint32_t colour, int pixels) const {
-  EXPECT_TRUE(WaitUntil([&] { return tavix::test::CountPixels(Shown(), colour) >= pixels; }))
-      << tavix::test::CountPixels(Shown(), colour) << " pixels of colour " << std::hex << colour;
 }
 
 }  // namespace fieldhost

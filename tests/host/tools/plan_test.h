@@ -4,7 +4,6 @@
 #pragma once
 
 #include "tests/host/window_test.h"
-#include "tests/support/window_picture.h"
 
 namespace fieldhost {
 
@@ -21,12 +20,8 @@ class PlanTest : public WindowTest {
   // For a view that was zoomed about its middle.
   void ZoomedTo(double pixels_per_metre) { pixels_per_metre_ = pixels_per_metre; }
 
-  // What the plot shows at this moment.
-  [[nodiscard]] tavix::test::Picture Shown() const;
   // Waits until the plot shows just this.
   void ExpectShown(const tavix::test::Picture& picture) const;
-  // Waits until it shows at least so many pixels of a colour, 0x00RRGGBB.
-  void ExpectColour(std::uint32_t colour, int pixels) const;
 
  private:
   [[nodiscard]] POINT PixelOf(double north, double east) const;
