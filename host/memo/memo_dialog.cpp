@@ -1,5 +1,6 @@
 #include "host/memo/memo_dialog.h"
 
+#include "host/measure_text.h"
 #include "host/memo/point_memo.h"
 #include "host/resource.h"
 
@@ -18,8 +19,7 @@ BOOL MemoDialog::OnInitDialog() {
   CString line;
   line.Format(L"%d  %s", point_.number, point_.name.GetString());
   SetDlgItemText(IDC_MEMO_POINT, line);
-  line.Format(L"X %.3f  Y %.3f", point_.north, point_.east);
-  SetDlgItemText(IDC_MEMO_PLACE, line);
+  SetDlgItemText(IDC_MEMO_PLACE, PositionText({point_.north, point_.east}));
 
   auto& text = *static_cast<CEdit*>(GetDlgItem(IDC_MEMO_TEXT));
   text.SetLimitText(kLongestMemo);
