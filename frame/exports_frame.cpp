@@ -1,6 +1,7 @@
 // Exported calls on the paper frame and the scale bar.
 #include <tavix/tavix.h>
 
+#include "frame/host_arguments.h"
 #include "frame/slot_table.h"
 #include "window/refusal_beep.h"
 
@@ -46,7 +47,7 @@ int Tavix_SetWakScl(int N) {
 
 int Tavix_GetWakScl(int* N) {
   const PaperFrame* frame = FrameThatIsOn();
-  if (!frame) return -1;
+  if (!frame || !tavix::CanWrite(N)) return -1;
   *N = frame->Scale();
   return 0;
 }
@@ -59,6 +60,7 @@ int Tavix_SetWakGen(double X, double Y) {
 }
 
 int Tavix_GetWakGen(double* X, double* Y) {
+  if (!tavix::CanWrite(X, Y)) return -1;
   const PaperFrame* frame = FrameThatIsOn();
   const tavix::GroundPoint origin = frame ? frame->Origin() : tavix::GroundPoint{};
   *X = origin.x;

@@ -1,6 +1,7 @@
 // Exported calls on the one-bit picture.
 #include <tavix/tavix.h>
 
+#include "frame/host_arguments.h"
 #include "frame/slot_table.h"
 
 using tavix::CPlotWnd;
@@ -21,7 +22,7 @@ int Tavix_GrpStt(int height, int width) {
 
 int Tavix_GrpGet(int row, int column, int* ink) {
   const CPlotWnd* window = Window();
-  if (!window) return -1;
+  if (!window || !tavix::CanWrite(ink)) return -1;
   *ink = window->IsGroupInk(row, column) ? 1 : 0;
   return 0;
 }

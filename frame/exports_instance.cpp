@@ -1,6 +1,7 @@
 // Exported calls on the instance and its window.
 #include <tavix/tavix.h>
 
+#include "frame/host_arguments.h"
 #include "frame/library_entry.h"
 #include "frame/redraw.h"
 #include "frame/slot_table.h"
@@ -30,7 +31,9 @@ int LinkWindow(UINT notify_id, Create create) {
 
 void Tavix_SetIdx(int index) { Slots().SetIndex(index); }
 
-void Tavix_GetIdx(int* index) { *index = Slots().Index(); }
+void Tavix_GetIdx(int* index) {
+  if (tavix::CanWrite(index)) *index = Slots().Index();
+}
 
 int Tavix_Crt() {
   tavix::ChainResources();

@@ -1,7 +1,7 @@
 // Exported calls on the legend.
 #include <tavix/tavix.h>
 
-#include "frame/host_text.h"
+#include "frame/host_arguments.h"
 #include "frame/slot_table.h"
 
 using tavix::HanRec;
@@ -18,7 +18,7 @@ LegendTable* Legend() {
 
 int Add(bool is_point, const tavix::LegendStyle& style, short* number) {
   LegendTable* legend = Legend();
-  return legend ? legend->Add(is_point, style, number) : -1;
+  return legend && tavix::CanWrite(number) ? legend->Add(is_point, style, number) : -1;
 }
 
 int Change(short number, bool is_point, const tavix::LegendStyle& style) {
@@ -44,7 +44,7 @@ int Tavix_ChgPntHan(short number, int kind, int width, int color, int prm1, int 
 int Tavix_GetPntHan(short number, int* kind, int* width, int* color, int* prm1, int* prm2,
                     int* prm3) {
   HanRec entry;
-  if (Get(number, entry) != 0) return -1;
+  if (!tavix::CanWrite(kind, width, color, prm1, prm2, prm3) || Get(number, entry) != 0) return -1;
   *kind = entry.style.kind;
   *width = entry.style.width;
   *color = entry.style.color;
@@ -77,7 +77,7 @@ int Tavix_ChgLinHan(short number, int kind, short prm1, short prm2, short prm3, 
 int Tavix_GetLinHan(short number, int* kind, short* prm1, short* prm2, short* prm3, int* width,
                     int* color) {
   HanRec entry;
-  if (Get(number, entry) != 0) return -1;
+  if (!tavix::CanWrite(kind, prm1, prm2, prm3, width, color) || Get(number, entry) != 0) return -1;
   *kind = entry.style.kind;
   *prm1 = static_cast<short>(entry.style.prm1);
   *prm2 = static_cast<short>(entry.style.prm2);

@@ -1,6 +1,7 @@
 // Exported calls on memos.
 #include <tavix/tavix.h>
 
+#include "frame/host_arguments.h"
 #include "frame/slot_table.h"
 
 using tavix::CMemDb;
@@ -15,6 +16,7 @@ int Tavix_EntPntMem(int key, CString memo) {
 }
 
 int Tavix_GetPntMem(int key, CString* memo) {
+  if (!tavix::CanWrite(memo)) return -1;
   CMemDb* memos = Slots().Current().memos.get();
   if (!memos || memos->Seek(key) != 0 || memos->ReadCur(memo) != 0) memo->Empty();
   return 0;

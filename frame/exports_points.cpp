@@ -1,7 +1,7 @@
 // Exported calls on points.
 #include <tavix/tavix.h>
 
-#include "frame/host_text.h"
+#include "frame/host_arguments.h"
 #include "frame/point_calls.h"
 
 using tavix::Point;
@@ -34,7 +34,9 @@ int Tavix_ChgPntCrd(int key, double x, double y) {
 int Tavix_GetPntNoNam(int key, int* number, CString* name) {
   TavixSlot& slot = Slots().Current();
   Point point;
-  if (!slot.points || slot.points->Find(key) != 0 || slot.points->GetCur(&point) != 0) return -1;
+  if (!tavix::CanWrite(number, name) || !slot.points || slot.points->Find(key) != 0 ||
+      slot.points->GetCur(&point) != 0)
+    return -1;
   *number = point.number;
   *name = ToHostString(point.name);
   return 0;
@@ -43,7 +45,9 @@ int Tavix_GetPntNoNam(int key, int* number, CString* name) {
 int Tavix_GetPntCrd(int key, double* x, double* y) {
   TavixSlot& slot = Slots().Current();
   tavix::GroundPoint at;
-  if (!slot.points || slot.points->Find(key) != 0 || slot.points->GetCurCrd(&at) != 0) return -1;
+  if (!tavix::CanWrite(x, y) || !slot.points || slot.points->Find(key) != 0 ||
+      slot.points->GetCurCrd(&at) != 0)
+    return -1;
   *x = at.x;
   *y = at.y;
   return 0;

@@ -1,7 +1,7 @@
 // Exported calls on 3-D points.
 #include <tavix/tavix.h>
 
-#include "frame/host_text.h"
+#include "frame/host_arguments.h"
 #include "frame/slot_table.h"
 
 using tavix::CPnt3List;
@@ -42,7 +42,7 @@ int Tavix_ChgPnt3NoNam(int key, int number, CString name) {
 int Tavix_GetPnt3NoNam(int key, int* number, CString* name) {
   const CPnt3List* points = Find(key);
   tavix::Point3 point;
-  if (!points || points->GetCur(&point) != 0) return -1;
+  if (!tavix::CanWrite(number, name) || !points || points->GetCur(&point) != 0) return -1;
   *number = point.number;
   *name = tavix::ToHostString(point.name);
   return 0;
@@ -51,7 +51,7 @@ int Tavix_GetPnt3NoNam(int key, int* number, CString* name) {
 int Tavix_GetPnt3Crd(int key, double* x, double* y, double* z) {
   const CPnt3List* points = Find(key);
   tavix::GroundPoint at;
-  if (!points || points->GetCurCrd(&at, z) != 0) return -1;
+  if (!tavix::CanWrite(x, y, z) || !points || points->GetCurCrd(&at, z) != 0) return -1;
   *x = at.x;
   *y = at.y;
   return 0;

@@ -1,6 +1,7 @@
 // Exported calls on the traced polyline.
 #include <tavix/tavix.h>
 
+#include "frame/host_arguments.h"
 #include "frame/slot_table.h"
 
 using tavix::CPlotWnd;
@@ -35,7 +36,7 @@ int Tavix_VoDel() {
 
 int Tavix_VoGet(int* count) {
   const CPlotWnd* window = Window();
-  if (!window) return -1;
+  if (!window || !tavix::CanWrite(count)) return -1;
   *count = static_cast<int>(window->Traced().size());
   return 0;
 }
@@ -43,6 +44,7 @@ int Tavix_VoGet(int* count) {
 int Tavix_VoLst(double* X, double* Y) {
   const CPlotWnd* window = Window();
   if (!window) return -1;
+  if (!window->Traced().empty() && !tavix::CanWrite(X, Y)) return -1;
   for (const tavix::GroundPoint vertex : window->Traced()) {
     *X++ = vertex.x;
     *Y++ = vertex.y;
@@ -52,7 +54,9 @@ int Tavix_VoLst(double* X, double* Y) {
 
 int Tavix_VoIdx(int index, double* X, double* Y) {
   const CPlotWnd* window = Window();
-  if (!window || index < 0 || index >= static_cast<int>(window->Traced().size())) return -1;
+  if (!window || !tavix::CanWrite(X, Y) || index < 0 ||
+      index >= static_cast<int>(window->Traced().size()))
+    return -1;
   const tavix::GroundPoint vertex = window->Traced()[static_cast<std::size_t>(index)];
   *X = vertex.x;
   *Y = vertex.y;

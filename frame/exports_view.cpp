@@ -1,6 +1,7 @@
 // Exported calls on the view: angle and ratio.
 #include <tavix/tavix.h>
 
+#include "frame/host_arguments.h"
 #include "frame/slot_table.h"
 
 using tavix::Slots;
@@ -13,7 +14,7 @@ int Tavix_SetAng(int degrees) {
 
 int Tavix_GetAng(int* degrees) {
   const TavixSlot& slot = Slots().Current();
-  if (!slot.view) return -1;
+  if (!slot.view || !tavix::CanWrite(degrees)) return -1;
   *degrees = slot.view->Angle();
   return 0;
 }
@@ -27,7 +28,7 @@ int Tavix_SetTatYok(int tate, int yoko) {
 
 int Tavix_GetTatYok(int* tate, int* yoko) {
   const TavixSlot& slot = Slots().Current();
-  if (!slot.window) return -1;
+  if (!slot.window || !tavix::CanWrite(tate, yoko)) return -1;
   const tavix::RatioSetting& ratio = slot.window->Ratio();
   *tate = ratio.vertical;
   *yoko = ratio.horizontal;

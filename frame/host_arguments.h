@@ -1,4 +1,4 @@
-// Strings as they cross the exported calls.
+// What hosts pass to the exported calls: strings in and out, and places to write to.
 #pragma once
 
 #include <afxwin.h>
@@ -15,6 +15,12 @@ inline NameView ToNameView(const CString& text) {
 
 inline CString ToHostString(NameView text) {
   return CString(AsWide(text.data()), static_cast<int>(text.size()));
+}
+
+// False when one of a call's outputs is null: the call is then refused and writes none of them.
+template <class... Outputs>
+[[nodiscard]] bool CanWrite(const Outputs*... outputs) {
+  return (... && (outputs != nullptr));
 }
 
 }  // namespace tavix
