@@ -8,11 +8,9 @@ Expects the packages of scripts/setup.sh. Exits with 1 when anything failed.
 
 import os
 import shutil
-import signal
 import sys
 from pathlib import Path
 
-from testrun.display import virtual_display
 from testrun.package import check_hosts
 from testrun.reports import count
 from testrun.script_tests import count_script_tests
@@ -33,8 +31,8 @@ def plan_build(steps, preset):
     )
 
 
-def run_programs(preset, jobs):
-    """All test programs of a preset through CTest."""
+def run_programs(preset):
+    """All test programs of a preset through CTest, side by side."""
     reports = BUILD / preset / "test-results"
     junit = BUILD / preset / "ctest.xml"
     # A report left by an earlier run would speak for a program that died in this one.
@@ -42,7 +40,7 @@ def run_programs(preset, jobs):
     junit.unlink(missing_ok=True)
     _, output = call(
         ["ctest", "--test-dir", BUILD / preset, "--no-tests=error", "--output-junit", junit]
-        + ["--parallel", jobs, "--timeout", TIMEOUT]
+        + ["--parallel", JOBS, "--timeout", TIMEOUT]
         + ["--test-output-size-passed", "100000", "--test-output-size-failed", "100000"]
     )
     if not junit.exists():
@@ -58,16 +56,9 @@ def plan():
     steps.check(title, [ROOT / "scripts/check_call_tests.py"])
     steps.count("testing the scripts", lambda: count_script_tests(ROOT / "tests/scripts"))
     plan_build(steps, "native")
-    steps.count("testing native", lambda: run_programs("native", JOBS))
+    steps.count("testing native", lambda: run_programs("native"))
     plan_build(steps, "win64")
-    # No window manager runs here, and Wine would wait two seconds for one at each window shown.
-    steps.build(
-        "starting Wine",
-        [ROOT / "scripts/wine_run.sh", "reg", "add", r"HKCU\Software\Wine\X11 Driver"]
-        + ["/v", "Managed", "/d", "N", "/f"],
-    )
-    # One at a time: they share a display, and with it the focus and the pointer.
-    steps.count("testing win64", lambda: run_programs("win64", "1"))
+    steps.count("testing win64", lambda: run_programs("win64"))
     plan_build(steps, "win32")
     for preset, runs in (("win64", True), ("win32", False)):
         library = BUILD / preset / "bin/tavix.dll"
@@ -79,14 +70,11 @@ def plan():
 
 
 def main():
-    # Ended from outside, the run still ends its display.
-    signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
     os.chdir(ROOT)
-    # A prefix of its own: its settings are not those that a user wants.
-    os.environ["TAVIX_WINEPREFIX"] = str(BUILD / "wine-prefix-tests")
+    # Each Windows program gets a Wine prefix and a display of its own: scripts/wine_desk.sh.
+    os.environ["TAVIX_DESKS"] = JOBS
     steps = plan()
-    with virtual_display():
-        steps.run()
+    steps.run()
     for name, reason in steps.tally.skips:
         print(f"skipped {name}: {reason}")
     print(steps.tally.line())

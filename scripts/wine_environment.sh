@@ -24,9 +24,9 @@ tavix_wine_prefix() {
     tavix_display
     trap '[ -z "${TAVIX_XVFB:-}" ] || kill "$TAVIX_XVFB"' EXIT
     # Wine's server outlives the programs it serves: it must not inherit the lock.
-    tavix_prefix_step wineboot -u 9>&-
-    tavix_prefix_step regedit /S "$(tavix_windows_path "$root/scripts/fonts.reg")" 9>&-
-    wineserver_wait
+    tavix_prefix_step wineboot -u 8>&- 9>&-
+    tavix_prefix_step regedit /S "$(tavix_windows_path "$root/scripts/fonts.reg")" 8>&- 9>&-
+    tavix_wineserver -w
     touch "$WINEPREFIX/.ready"
   ) 9>"$WINEPREFIX.lock"
 }
@@ -38,10 +38,11 @@ tavix_prefix_step() {
   }
 }
 
-wineserver_wait() {
+# Waits for the prefix's programs to end (-w), or ends them (-k); fails when none run.
+tavix_wineserver() {
   local server
   server=$(command -v /usr/lib/wine/wineserver64 || command -v wineserver || true)
-  [ -n "$server" ] && "$server" -w || true
+  [ -z "$server" ] || "$server" "$1" || true
 }
 
 # A path as a Windows program sees it: the whole Linux tree stands under drive Z.
@@ -55,7 +56,7 @@ tavix_display() {
   local number_file
   number_file=$(mktemp)
   Xvfb -displayfd 7 -screen 0 "${TAVIX_SCREEN:-1280x1024x24}" -nolisten tcp \
-    7>"$number_file" >/dev/null 2>&1 9>&- &
+    7>"$number_file" >/dev/null 2>&1 8>&- 9>&- &
   TAVIX_XVFB=$!
   for _ in $(seq 200); do
     [ -s "$number_file" ] && break
