@@ -1,5 +1,7 @@
 #include "frame/slot_table.h"
 
+#include <algorithm>
+#include <cassert>
 #include <new>
 #include <utility>
 
@@ -89,10 +91,18 @@ void SlotTable::SelectHighestInUse() {
   }
 }
 
+bool SlotTable::IsOnItsThread() {
+  const bool in_use =
+      std::any_of(slots_.begin(), slots_.end(), [](const TavixSlot& slot) { return slot.in_use; });
+  if (!in_use) thread_ = ::GetCurrentThreadId();
+  return thread_ == ::GetCurrentThreadId();
+}
+
 SlotTable& Slots() {
   // Never destroyed: what an ending process leaves behind is not saved, and at that time neither
   // the framework nor the windows may be called any more.
   static SlotTable& slots = *new SlotTable;
+  assert(slots.IsOnItsThread() && "a call from another thread than the instances'");
   return slots;
 }
 

@@ -59,12 +59,18 @@ class SlotTable {
   // Makes the highest slot in use current; none in use leaves the index.
   void SelectHighestInUse();
 
+  // Whether this thread is the one that made the instances there are. While there are none, any
+  // thread is, and the next to ask becomes the one.
+  [[nodiscard]] bool IsOnItsThread();
+
  private:
   std::array<TavixSlot, kSlots> slots_;
   int index_ = 0;
+  DWORD thread_ = 0;
 };
 
-// The library's table.
+// The library's table. To be asked on one thread as long as instances exist; builds with assertions
+// stop at a call from another.
 [[nodiscard]] SlotTable& Slots();
 
 }  // namespace tavix

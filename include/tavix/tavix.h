@@ -14,10 +14,12 @@
 //  5. A legend number names the look of a point or a line: 1 to 11 are the built-in point marks,
 //     101 to 105 the built-in line styles, from 201 up the entries the host adds.
 //  6. Strings are CString objects, by value on the way in, by pointer on the way out. Every pointer
-//     is the caller's: the library writes through it during the call and keeps nothing of it. No
-//     output may be null unless the call says so. A refused call leaves its outputs untouched
-//     unless the call says otherwise.
+//     is the caller's: the library writes through it during the call and keeps nothing of it. A
+//     call with a null output is refused (-1). A refused call leaves its outputs untouched unless
+//     the call says otherwise.
 //  7. All calls and all window messages run on one thread, the host's user-interface thread.
+//     Nothing is locked: what a call from another thread does is undefined. Builds with assertions
+//     stop at one.
 //  8. Calls return 0 for success. Refusals are negative:
 //
 //         -1   refused: unknown key or legend number, slot in use, no instance, no window, or the
@@ -43,7 +45,7 @@ extern "C" {
 // Makes instance `index` current. An index outside 0..4 changes nothing.
 TAVIX_CALL void Tavix_SetIdx(int index);
 
-// Writes the current instance's index, 0 to 4.
+// Writes the current instance's index, 0 to 4; nothing when `index` is null.
 TAVIX_CALL void Tavix_GetIdx(int* index);
 
 // Creates the current instance with empty stores. The legend comes from the file HANREI.DAT in the
@@ -253,7 +255,7 @@ TAVIX_CALL int Tavix_ClrEntLin(void);
 // -3 it could not be read or deleted.
 TAVIX_CALL int Tavix_EntPntMem(int key, CString memo);
 
-// Writes the memo of a key; empty when there is none, whatever the reason. Always returns 0.
+// Writes the memo of a key; an empty one when there is none or it cannot be read. Returns 0.
 TAVIX_CALL int Tavix_GetPntMem(int key, CString* memo);
 
 // ---- 3-D points --------------------------------------------------------------------------------
@@ -374,7 +376,8 @@ TAVIX_CALL int Tavix_VoDel(void);
 // Writes the number of vertices. Returns 0.
 TAVIX_CALL int Tavix_VoGet(int* count);
 
-// Writes every vertex in order into two arrays of at least that many places. Returns 0.
+// Writes every vertex in order into two arrays of at least that many places, which may be null when
+// there are none. Returns 0.
 TAVIX_CALL int Tavix_VoLst(double* X, double* Y);
 
 // Writes one vertex, counted from 0. Returns -1 when there is none of that index.
