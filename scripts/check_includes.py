@@ -5,7 +5,8 @@
     scripts/check_includes.py FOLDER    another tree laid out the same way
 
 Reports an include that the table does not allow, an include in quotes that does not start from
-the project's root, and circles of includes. Exits with 1 when it found any.
+the project's root, circles of includes, and patterns of the table that match no file. Exits with 1
+when it found any.
 """
 
 import re
@@ -22,7 +23,6 @@ LAYERS = {
         "figure/clothoid.*",
         "figure/direction.*",
         "figure/figure_codec.*",
-        "draw/line_style_walker.*",
         "store/legend_codec.*",
         "store/legend_table.*",
     ),
@@ -33,7 +33,7 @@ LAYERS = {
     "draw": ("draw/*",),
     "window": ("window/*",),
     "frame": ("frame/*",),
-    "host": ("host/*",),
+    "host": ("host/*", "samples/*"),
     "tests": ("tests/*", "bench/*", "fuzz/*"),
 }
 
@@ -113,6 +113,13 @@ def circle(graph):
     return next(filter(None, (walk(path, []) for path in sorted(graph))), [])
 
 
+def dead_patterns(root):
+    """The patterns of the table that no file of the tree matches."""
+    files = sources(root)
+    patterns = (pattern for layer in LAYERS.values() for pattern in layer)
+    return [pattern for pattern in patterns if not any(fnmatch(path, pattern) for path in files)]
+
+
 def problems(root):
     """One line for each finding, in the order of the files."""
     found = []
@@ -138,6 +145,7 @@ def problems(root):
 def main():
     root = Path(sys.argv[1]) if len(sys.argv) > 1 else Path(__file__).resolve().parent.parent
     found = problems(root)
+    found += [f"no file matches the pattern {pattern}" for pattern in dead_patterns(root)]
     print("\n".join(found) if found else f"{len(sources(root))} files keep to the include rules.")
     return 1 if found else 0
 

@@ -11,15 +11,15 @@ import check_includes
 
 
 class IncludeRules(unittest.TestCase):
-    def problems(self, files):
-        """The findings in a tree of {path: text}."""
+    def problems(self, files, find=check_includes.problems):
+        """What `find` finds in a tree of {path: text}."""
         with tempfile.TemporaryDirectory() as folder:
             root = Path(folder)
             for name, text in files.items():
                 path = root / name
                 path.parent.mkdir(parents=True, exist_ok=True)
                 path.write_text(text, encoding="utf-8")
-            return check_includes.problems(root)
+            return find(root)
 
     def test_what_each_folder_may_know(self):
         allowed = (
@@ -81,6 +81,15 @@ class IncludeRules(unittest.TestCase):
         self.assertEqual(
             ["circle of includes: store/a.h -> store/b.h -> store/c.h -> store/a.h"],
             self.problems(files),
+        )
+
+    def test_a_pattern_that_matches_nothing_is_reported(self):
+        named = [pattern for layer in check_includes.LAYERS.values() for pattern in layer]
+        tree = {pattern.replace("*", "a") + ".h": "" for pattern in named}
+        self.assertEqual([], self.problems(tree, check_includes.dead_patterns))
+        del tree["store/legend_codec.a.h"]
+        self.assertEqual(
+            ["store/legend_codec.*"], self.problems(tree, check_includes.dead_patterns)
         )
 
     def test_two_ways_to_one_header_are_no_circle(self):

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "framework/string.h"
+#include "platform/framework/base/modules.h"
 
 namespace {
 
@@ -212,4 +213,37 @@ void CString::FormatV(LPCWSTR format, va_list arguments) {
     Empty();
   }
   va_end(again);
+}
+
+// ---- Resources
+
+namespace {
+
+struct ResourceText {
+  const wchar_t* text = nullptr;
+  int length = 0;
+};
+
+// The system hands out the string in place, not ended by a zero, when asked with a size of 0.
+ResourceText FindText(HINSTANCE module, UINT id) {
+  ResourceText found;
+  found.length = ::LoadStringW(module, id, reinterpret_cast<LPWSTR>(&found.text), 0);
+  return found;
+}
+
+}  // namespace
+
+BOOL CString::LoadStringW(UINT id) {
+  ResourceText found;
+  // A block of sixteen strings may hold the id's place and no text there: the next module may.
+  afx::FindInModules([&](HINSTANCE module) {
+    found = FindText(module, id);
+    return found.length > 0;
+  });
+  if (found.length <= 0) {
+    Empty();
+    return FALSE;
+  }
+  *this = CString(found.text, found.length);
+  return TRUE;
 }

@@ -6,9 +6,9 @@
 #include "framework/exception.h"
 #include "framework/extension_module.h"
 #include "framework/win_app.h"
-#include "platform/framework/window/creation_hook.h"
-#include "platform/framework/window/exception_report.h"
-#include "platform/framework/window/modal_loop.h"
+#include "platform/framework/window/message_box.h"
+#include "platform/framework/window/message_loop.h"
+#include "platform/framework/window/wnd_binding.h"
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
 ON_COMMAND(IDOK, &CDialog::OnOK)

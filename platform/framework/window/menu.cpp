@@ -2,7 +2,7 @@
 
 #include "framework/extension_module.h"
 #include "framework/wnd.h"
-#include "platform/framework/window/handle_map.h"
+#include "platform/framework/gdi/handle_map.h"
 
 namespace {
 

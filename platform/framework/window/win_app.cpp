@@ -2,14 +2,9 @@
 
 #include "framework/command_handlers.h"
 #include "framework/extension_module.h"
-#include "platform/framework/window/module_state.h"
+#include "platform/framework/base/modules.h"
 
 namespace afx {
-
-ModuleState& ProcessState() {
-  static ModuleState state;
-  return state;
-}
 
 namespace {
 

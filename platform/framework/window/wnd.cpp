@@ -1,10 +1,57 @@
+// CWnd: from its class to its end, and the members that are more than one call of the system.
+
 #include "framework/wnd.h"
 
+#include <algorithm>
+#include <cwchar>
+#include <set>
+#include <string>
+
+#include "framework/dc.h"
+#include "framework/exception.h"
 #include "framework/extension_module.h"
+#include "framework/menu.h"
+#include "framework/win_app.h"
 #include "framework/window_handlers.h"
-#include "platform/framework/window/creation_hook.h"
-#include "platform/framework/window/window_binding.h"
-#include "platform/framework/window/window_map.h"
+#include "platform/framework/window/wnd_binding.h"
+
+// ---- Window classes
+
+namespace {
+
+// The names handed out; they stay where they are.
+LPCWSTR KeepName(const std::wstring& name) {
+  static auto& names = *new std::set<std::wstring>;
+  return names.insert(name).first->c_str();
+}
+
+}  // namespace
+
+BOOL AfxRegisterClass(WNDCLASSW* windowClass) {
+  WNDCLASSW known;
+  if (::GetClassInfoW(windowClass->hInstance, windowClass->lpszClassName, &known)) return TRUE;
+  return ::RegisterClassW(windowClass) != 0;
+}
+
+LPCWSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor, HBRUSH background, HICON icon) {
+  // The name tells the combination, so that the same one finds its class again.
+  wchar_t text[96];
+  std::swprintf(text, std::size(text), L"Afx:%x:%p:%p:%p", classStyle, static_cast<void*>(cursor),
+                static_cast<void*>(background), static_cast<void*>(icon));
+  const LPCWSTR name = KeepName(text);
+  WNDCLASSW windowClass = {};
+  windowClass.style = classStyle;
+  windowClass.lpfnWndProc = &AfxWndProc;
+  windowClass.hInstance = AfxGetInstanceHandle();
+  windowClass.hCursor = cursor;
+  windowClass.hbrBackground = background;
+  windowClass.hIcon = icon;
+  windowClass.lpszClassName = name;
+  if (!AfxRegisterClass(&windowClass)) AfxThrowResourceException();
+  return name;
+}
+
+// ---- Life of a window
 
 const CWnd CWnd::wndTop(HWND_TOP);
 const CWnd CWnd::wndBottom(HWND_BOTTOM);
@@ -97,3 +144,142 @@ BOOL CWnd::DestroyWindow() {
 }
 
 BOOL CWnd::PreTranslateMessage(MSG*) { return FALSE; }
+
+// ---- Calls
+
+BOOL CWnd::ScreenToClient(RECT* rect) const {
+  return ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<POINT*>(rect), 2) != 0 ||
+         ::IsWindow(m_hWnd);
+}
+
+BOOL CWnd::ClientToScreen(RECT* rect) const {
+  return ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<POINT*>(rect), 2) != 0 ||
+         ::IsWindow(m_hWnd);
+}
+
+void CWnd::MapWindowPoints(CWnd* to, POINT* points, UINT count) const {
+  ::MapWindowPoints(m_hWnd, to ? to->m_hWnd : nullptr, points, count);
+}
+
+void CWnd::MapWindowPoints(CWnd* to, RECT* rect) const {
+  MapWindowPoints(to, reinterpret_cast<POINT*>(rect), 2);
+}
+
+BOOL CWnd::SetWindowPos(const CWnd* insertAfter, int x, int y, int width, int height, UINT flags) {
+  return ::SetWindowPos(m_hWnd, insertAfter ? insertAfter->m_hWnd : nullptr, x, y, width, height,
+                        flags);
+}
+
+void CWnd::CenterWindow(CWnd* over) {
+  RECT own;
+  GetWindowRect(&own);
+  RECT work;
+  ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+  RECT around = work;
+  HWND parent = over ? over->m_hWnd : ::GetParent(m_hWnd);
+  if (parent && ::IsWindowVisible(parent)) ::GetWindowRect(parent, &around);
+  const int width = own.right - own.left;
+  const int height = own.bottom - own.top;
+  const int x = (around.left + around.right - width) / 2;
+  const int y = (around.top + around.bottom - height) / 2;
+  POINT place = {std::max(std::min<int>(x, work.right - width), int{work.left}),
+                 std::max(std::min<int>(y, work.bottom - height), int{work.top})};
+  if (GetStyle() & WS_CHILD) ::ScreenToClient(::GetParent(m_hWnd), &place);
+  SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void CWnd::CalcWindowRect(RECT* clientRect) const {
+  ::AdjustWindowRectEx(clientRect, GetStyle(), ::GetMenu(m_hWnd) != nullptr, GetExStyle());
+}
+
+namespace {
+
+BOOL ModifyWindowStyle(CWnd& window, int which, DWORD remove, DWORD add, UINT setPosFlags) {
+  const auto before = static_cast<DWORD>(::GetWindowLongW(window.m_hWnd, which));
+  const DWORD after = (before & ~remove) | add;
+  if (before == after) return FALSE;
+  ::SetWindowLongW(window.m_hWnd, which, static_cast<LONG>(after));
+  if (setPosFlags) {
+    window.SetWindowPos(nullptr, 0, 0, 0, 0,
+                        setPosFlags | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+  return TRUE;
+}
+
+}  // namespace
+
+BOOL CWnd::ModifyStyle(DWORD remove, DWORD add, UINT setPosFlags) {
+  return ModifyWindowStyle(*this, GWL_STYLE, remove, add, setPosFlags);
+}
+
+BOOL CWnd::ModifyStyleEx(DWORD remove, DWORD add, UINT setPosFlags) {
+  return ModifyWindowStyle(*this, GWL_EXSTYLE, remove, add, setPosFlags);
+}
+
+void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam) {
+  for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+    ::SendMessageW(child, message, wParam, lParam);
+    FromHandle(child)->SendMessageToDescendants(message, wParam, lParam);
+  }
+}
+
+CWnd* CWnd::GetOwner() const {
+  const HWND owner = ::GetWindow(m_hWnd, GW_OWNER);
+  return owner ? FromHandle(owner) : GetParent();
+}
+
+CMenu* CWnd::GetMenu() const { return CMenu::FromHandle(::GetMenu(m_hWnd)); }
+
+BOOL CWnd::SetMenu(CMenu* menu) { return ::SetMenu(m_hWnd, menu ? menu->m_hMenu : nullptr); }
+
+CMenu* CWnd::GetSystemMenu(BOOL revert) const {
+  return CMenu::FromHandle(::GetSystemMenu(m_hWnd, revert));
+}
+
+void CWnd::GetWindowTextW(CString& text) const {
+  const int length = GetWindowTextLengthW();
+  GetWindowTextW(text.GetBufferSetLength(length), length + 1);
+  text.ReleaseBuffer();
+}
+
+int CWnd::GetDlgItemTextW(int id, CString& text) const {
+  const HWND item = ::GetDlgItem(m_hWnd, id);
+  if (!item) {
+    text.Empty();
+    return 0;
+  }
+  FromHandle(item)->GetWindowTextW(text);
+  return text.GetLength();
+}
+
+CFont* CWnd::GetFont() const {
+  return CFont::FromHandle(reinterpret_cast<HFONT>(SendMessageW(WM_GETFONT)));
+}
+
+void CWnd::SetFont(CFont* font, BOOL redraw) {
+  SendMessageW(WM_SETFONT, reinterpret_cast<WPARAM>(font ? static_cast<HFONT>(*font) : nullptr),
+               redraw);
+}
+
+int CWnd::MessageBoxW(LPCWSTR text, LPCWSTR caption, UINT type) {
+  return ::MessageBoxW(m_hWnd, text, caption ? caption : AfxGetAppName(), type);
+}
+
+CDC* CWnd::GetDC() { return CDC::FromHandle(::GetDC(m_hWnd)); }
+
+CDC* CWnd::GetWindowDC() { return CDC::FromHandle(::GetWindowDC(m_hWnd)); }
+
+int CWnd::ReleaseDC(CDC* dc) { return ::ReleaseDC(m_hWnd, dc->m_hDC); }
+
+CDC* CWnd::BeginPaint(PAINTSTRUCT* paint) { return CDC::FromHandle(::BeginPaint(m_hWnd, paint)); }
+
+BOOL CWnd::RedrawWindow(const RECT* rect, CRgn* region, UINT flags) {
+  return ::RedrawWindow(m_hWnd, rect, region ? static_cast<HRGN>(*region) : nullptr, flags);
+}
+
+int CWnd::GetCheckedRadioButton(int firstId, int lastId) const {
+  for (int id = firstId; id <= lastId; ++id) {
+    if (IsDlgButtonChecked(id)) return id;
+  }
+  return 0;
+}

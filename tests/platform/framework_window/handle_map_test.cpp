@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/framework/window/handle_map.h"
+#include "platform/framework/gdi/handle_map.h"
 #include "tests/platform/framework_window/support.h"
 
 namespace {

@@ -1,14 +1,21 @@
 // The members of the controls that are more than one message. Classes whose members are all inline
 // are exported by being included here.
 
+#include "framework/button.h"
 #include "framework/combo_box.h"
 #include "framework/edit.h"
 #include "framework/list_box.h"
 #include "framework/scroll_bar.h"
 #include "framework/spin_button.h"
 #include "framework/static_control.h"
-#include "platform/framework/window/handle_map.h"
-#include "platform/framework/window/window_map.h"
+#include "platform/framework/gdi/handle_map.h"
+#include "platform/framework/window/wnd_binding.h"
+
+BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
+  if (message != WM_DRAWITEM) return CWnd::OnChildNotify(message, wParam, lParam, result);
+  DrawItem(reinterpret_cast<DRAWITEMSTRUCT*>(lParam));
+  return TRUE;
+}
 
 void CEdit::GetSel(int& start, int& end) const {
   SendMessageW(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
@@ -45,4 +52,23 @@ CScrollBar* CScrollBar::FromHandle(HWND window) {
   static auto& temporary =
       *new afx::TemporaryMap<CScrollBar, HWND, &CWnd::m_hWnd, &afx::IsLiveWindow>;
   return temporary.Get(window);
+}
+
+BOOL CSpinButtonCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
+  const INITCOMMONCONTROLSEX controls = {sizeof(controls), ICC_UPDOWN_CLASS};
+  ::InitCommonControlsEx(&controls);
+  return CWnd::Create(UPDOWN_CLASSW, nullptr, style, rect, parent, id);
+}
+
+void CSpinButtonCtrl::GetRange(int& lower, int& upper) const {
+  SendMessageW(UDM_GETRANGE32, reinterpret_cast<WPARAM>(&lower), reinterpret_cast<LPARAM>(&upper));
+}
+
+CWnd* CSpinButtonCtrl::SetBuddy(CWnd* buddy) {
+  return FromHandle(
+      reinterpret_cast<HWND>(SendMessageW(UDM_SETBUDDY, reinterpret_cast<WPARAM>(buddy->m_hWnd))));
+}
+
+CWnd* CSpinButtonCtrl::GetBuddy() const {
+  return FromHandle(reinterpret_cast<HWND>(SendMessageW(UDM_GETBUDDY)));
 }

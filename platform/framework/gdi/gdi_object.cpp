@@ -1,6 +1,6 @@
 #include "framework/gdi_object.h"
 
-#include "platform/framework/window/gdi_map.h"
+#include "platform/framework/gdi/gdi_map.h"
 
 namespace afx {
 

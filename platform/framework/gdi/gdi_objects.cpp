@@ -4,7 +4,7 @@
 #include "framework/exception.h"
 #include "framework/extension_module.h"
 #include "framework/window_dc.h"
-#include "platform/framework/window/gdi_map.h"
+#include "platform/framework/gdi/gdi_map.h"
 
 // ---- CPen
 

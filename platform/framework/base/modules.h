@@ -1,9 +1,19 @@
-// The modules that resources are looked for in.
+// What the framework knows about the process, and the modules that resources are looked for in.
 #pragma once
 
 #include "framework/extension_module.h"
 
+class CWinApp;
+
 namespace afx {
+
+struct ModuleState {
+  CWinApp* app = nullptr;
+  HINSTANCE instance = nullptr;   // null: the executable
+  HINSTANCE resources = nullptr;  // null: the instance's
+};
+
+ModuleState& ProcessState();
 
 // The module the framework itself is in.
 HINSTANCE FrameworkModule();

@@ -1,6 +1,6 @@
 #include "framework/dc.h"
 
-#include "platform/framework/window/handle_map.h"
+#include "platform/framework/gdi/handle_map.h"
 
 namespace {
 

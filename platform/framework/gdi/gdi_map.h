@@ -1,7 +1,7 @@
 // The process's map of drawing objects.
 #pragma once
 
-#include "platform/framework/window/handle_map.h"
+#include "platform/framework/gdi/handle_map.h"
 
 #include "framework/gdi_object.h"
 

@@ -1,7 +1,7 @@
 // AfxMessageBox, and what the user is told of an exception.
 
+#include "platform/framework/window/message_box.h"
 #include "framework/win_app.h"
-#include "platform/framework/window/exception_report.h"
 
 namespace {
 

@@ -1,3 +1,4 @@
+// What the user is told in a message box.
 #pragma once
 
 #include "framework/exception.h"

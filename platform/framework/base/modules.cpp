@@ -1,4 +1,4 @@
-// Extension modules, and the chain of resources they make.
+// Extension modules, and where resources are looked for.
 
 #include "framework/extension_module.h"
 
@@ -6,7 +6,7 @@
 #include <new>
 #include <vector>
 
-#include "platform/framework/window/resource_chain.h"
+#include "platform/framework/base/modules.h"
 
 namespace {
 
@@ -46,8 +46,42 @@ void CDynLinkLibrary::operator delete(void* memory) { ::operator delete(memory);
 
 namespace afx {
 
+ModuleState& ProcessState() {
+  static ModuleState state;
+  return state;
+}
+
+HINSTANCE FrameworkModule() {
+  static const HINSTANCE module = [] {
+    HMODULE found = nullptr;
+    ::GetModuleHandleExW(
+        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+        reinterpret_cast<LPCWSTR>(&FrameworkModule), &found);
+    return found;
+  }();
+  return module;
+}
+
 HINSTANCE ChainModule(std::size_t index) {
   return index < Chain().size() ? Chain()[index]->m_hResource : nullptr;
 }
 
 }  // namespace afx
+
+HINSTANCE AfxGetInstanceHandle() {
+  const HINSTANCE given = afx::ProcessState().instance;
+  return given ? given : ::GetModuleHandleW(nullptr);
+}
+
+HINSTANCE AfxGetResourceHandle() {
+  const HINSTANCE given = afx::ProcessState().resources;
+  return given ? given : AfxGetInstanceHandle();
+}
+
+void AfxSetResourceHandle(HINSTANCE resources) { afx::ProcessState().resources = resources; }
+
+HINSTANCE AfxFindResourceHandle(LPCWSTR name, LPCWSTR type) {
+  const HINSTANCE found = afx::FindInModules(
+      [&](HINSTANCE module) { return ::FindResourceW(module, name, type) != nullptr; });
+  return found ? found : AfxGetResourceHandle();
+}

@@ -1,0 +1,129 @@
+#include "platform/framework/window/wnd_binding.h"
+
+#include <utility>
+
+#include "framework/win_app.h"
+#include "platform/framework/gdi/handle_map.h"
+
+namespace afx {
+namespace {
+
+// The maps are never destroyed: windows of global objects still ask for them at the process's end.
+auto& PermanentWindows() {
+  static auto& map = *new PermanentMap<CWnd, HWND>;
+  return map;
+}
+
+auto& TemporaryWindows() {
+  static auto& map = *new TemporaryMap<CWnd, HWND, &CWnd::m_hWnd, &IsLiveWindow>;
+  return map;
+}
+
+}  // namespace
+
+CWnd* FindPermanentWindow(HWND window) { return PermanentWindows().Find(window); }
+
+void SetPermanentWindow(HWND window, CWnd* object) {
+  if (CWnd* before = FindPermanentWindow(window); before && before != object) {
+    before->m_hWnd = nullptr;
+  }
+  PermanentWindows().Set(window, object);
+}
+
+void RemovePermanentWindow(HWND window, const CWnd* object) {
+  PermanentWindows().Remove(window, object);
+}
+
+CWnd* TemporaryWindow(HWND window) { return TemporaryWindows().Get(window); }
+
+}  // namespace afx
+
+namespace {
+
+WNDPROC ProcedureOf(HWND window) {
+  return reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(window, GWLP_WNDPROC));
+}
+
+WNDPROC SetProcedure(HWND window, WNDPROC procedure) {
+  return reinterpret_cast<WNDPROC>(
+      ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+}
+
+}  // namespace
+
+void CWindowBinding::Subclass(CWnd& object, HWND window) {
+  object.m_hWnd = window;
+  object.m_pfnSuper = nullptr;
+  afx::SetPermanentWindow(window, &object);
+  object.PreSubclassWindow();
+  if (ProcedureOf(window) != &AfxWndProc) object.m_pfnSuper = SetProcedure(window, &AfxWndProc);
+}
+
+HWND CWindowBinding::Release(CWnd& object) {
+  const HWND window = object.m_hWnd;
+  if (!window) return nullptr;
+  afx::RemovePermanentWindow(window, &object);
+  // Somebody who subclassed after us holds our procedure, which then stays.
+  if (object.m_pfnSuper && ProcedureOf(window) == &AfxWndProc) {
+    SetProcedure(window, object.m_pfnSuper);
+  }
+  object.m_pfnSuper = nullptr;
+  object.m_hWnd = nullptr;
+  return window;
+}
+
+void CWindowBinding::WindowIsGone(CWnd& object) {
+  Release(object);
+  if (CWinThread* thread = AfxGetThread()) {
+    if (thread->m_pActiveWnd == &object) thread->m_pActiveWnd = nullptr;
+    if (thread->m_pMainWnd == &object) {
+      thread->m_pMainWnd = nullptr;
+      AfxPostQuitMessage(0);
+    }
+  }
+  object.PostNcDestroy();
+}
+
+namespace afx {
+namespace {
+
+thread_local CreationHook* innermost = nullptr;
+
+// The system makes a hidden helper window for text input with a thread's first window; it is not
+// the one that was asked for.
+bool IsInputMethodWindow(HWND window) {
+  wchar_t name[8] = {};
+  ::GetClassNameW(window, name, ARRAYSIZE(name));
+  return ::lstrcmpiW(name, L"ime") == 0;
+}
+
+}  // namespace
+
+CreationHook::CreationHook(CWnd& object)
+    : object_(&object),
+      enclosing_(innermost),
+      hook_(::SetWindowsHookExW(WH_CBT, &CreationHook::OnHook, nullptr, ::GetCurrentThreadId())) {
+  innermost = this;
+}
+
+CreationHook::~CreationHook() {
+  if (hook_) ::UnhookWindowsHookEx(hook_);
+  innermost = enclosing_;
+}
+
+LRESULT CALLBACK CreationHook::OnHook(int code, WPARAM wParam, LPARAM lParam) {
+  CWnd* bound = nullptr;
+  if (code == HCBT_CREATEWND && innermost && innermost->object_) {
+    const HWND window = reinterpret_cast<HWND>(wParam);
+    if (!IsInputMethodWindow(window)) {
+      bound = std::exchange(innermost->object_, nullptr);
+      CWindowBinding::Subclass(*bound, window);
+    }
+  }
+  const LRESULT refused = ::CallNextHookEx(nullptr, code, wParam, lParam);
+  // A window that another hook refuses ends without a message.
+  if (bound && refused != 0) CWindowBinding::WindowIsGone(*bound);
+  return refused;
+}
+
+}  // namespace afx
