@@ -53,8 +53,8 @@ TEST_F(LinePainterOn, WithoutAnEntryBeforeOnlyCirclesAreDrawnAndNoPenIsMade) {
   EXPECT_EQ(canvas_.Take(), (Notes{"circle 120,90 7", "circle 120,80 8"}));
 }
 
-// The one that is drawn last decides: a segment out of view is not looked up.
-TEST_F(LinePainterOn, ASegmentOutOfViewLendsItsStyleToNone) {
+// A segment is clipped first; the legend is looked up for what is in view.
+TEST_F(LinePainterOn, AnUnknownNumberHasNoStyleFromASegmentOutOfView) {
   const std::int16_t wide = Add({kSolidLine, 0, 0, 0, 5, 0});
   LinePainter painter(canvas_, view_, legend_);
   painter.DrawSegment(wide, {5000, 0}, {5000, 10});
@@ -78,13 +78,38 @@ TEST_F(LinePainterOn, ASegmentOfOnePixelIsADot) {
   EXPECT_EQ(canvas_.Take(), (Notes{"pen 1", "line 120,90 121,90"}));
 }
 
-// At the end of the range of pixels there is no next one, and nobody to see it.
+// A second pixel, counted up from there, would be at the other end of the range.
 TEST_F(LinePainterOn, ADotAtTheEndOfTheRangeOfPixelsStaysThere) {
   const std::int16_t zeros = Add({102, 0, 0, 0, 1, 0});
   LinePainter painter(canvas_, view_, legend_);
   painter.DrawSegment(zeros, {0, 3e9}, {0, -50});
   const std::string end = std::to_string(std::numeric_limits<int>::max());
   EXPECT_EQ(canvas_.Take(), (Notes{"pen 1", "line " + end + ",90 " + end + ",90"}));
+}
+
+// The sanitizers look at the arithmetic on the way.
+TEST_F(LinePainterOn, NumbersOutOfAllProportionStayInRange) {
+  constexpr int kMost = std::numeric_limits<int>::max();
+  constexpr int kLeast = std::numeric_limits<int>::min();
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+  const double places[] = {0, 50, -3e9, 3e9, 1e300, -kInfinity, kNoNumber};
+  LinePainter painter(canvas_, view_, legend_);
+  for (const int length : {0, 1, kMost, kLeast}) {
+    for (int kind = kSolidLine; kind <= 105; ++kind) {
+      const std::int16_t legend = Add({kind, length, length, length, 1, 0});
+      for (const double x : places) {
+        for (const double y : places) {
+          for (const GroundPoint end : {GroundPoint{x, -y}, {y, x}, {0, y}, {x, 0}}) {
+            painter.DrawSegment(legend, {x, y}, end);
+            EXPECT_LT(canvas_.Take().size(), 500U) << kind << ' ' << length << ' ' << x << ' ' << y;
+          }
+          for (const double radius : places) painter.DrawCircle(legend, {x, y}, radius);
+          EXPECT_LT(canvas_.Take().size(), 2000U) << x << ' ' << y;
+        }
+      }
+    }
+  }
 }
 
 }  // namespace

@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 #include "tests/draw/recorded_canvas.h"
 
 namespace tavix::test {
@@ -56,7 +60,7 @@ TEST_F(PointPainterOn, AnUnknownNumberKeepsTheReachOfTheMark) {
   EXPECT_EQ(canvas_.Take(), (Notes{"look 4", "mark -40,90", "mark -40,90"}));
 }
 
-// A legend that was added after all others had their turn may have the number -1.
+// The numbers of added legends go round the 16 bits, so that one of them may be -1.
 TEST_F(PointPainterOn, TheNumberOfNoLegendIsLookedUpAfterAnotherOnly) {
   std::int16_t number = 0;
   while (number != kNone) number = Add({6, 10, 0, 0, 1, 0});
@@ -66,6 +70,29 @@ TEST_F(PointPainterOn, TheNumberOfNoLegendIsLookedUpAfterAnotherOnly) {
   painter.Draw({2, 0, u"", {0, 0}, 4});
   painter.Draw({3, 0, u"", {0, 0}, kNone});
   EXPECT_EQ(canvas_.Take(), (Notes{"look 4", "mark 120,90", "look 6", "mark 120,90"}));
+}
+
+// The sanitizers look at the arithmetic on the way.
+TEST_F(PointPainterOn, NumbersOutOfAllProportionStayInRange) {
+  constexpr int kMost = std::numeric_limits<int>::max();
+  constexpr int kLeast = std::numeric_limits<int>::min();
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  const double places[] = {0, 33000, -33000, 3e9, 1e300, -kInfinity};
+  PointPainter painter(canvas_, view_, legend_);
+  for (const int size : {1, kMost, kLeast}) {
+    const std::int16_t legend = Add({3, size, size, 1, size, 0});
+    for (const double x : places) {
+      for (const double y : places) {
+        painter.Draw({1, kMost, u"A", {x, y}, legend});
+        const bool near = std::fabs(x) < 1e5 && std::fabs(y) < 1e5;
+        const bool reaches = size == kMost ? near : size == 1 && x == 0 && y == 0;
+        EXPECT_EQ(reaches ? 1 : 0,
+                  std::ranges::count_if(canvas_.Take(),
+                                        [](const auto& note) { return note.starts_with("mark"); }))
+            << size << ' ' << x << ' ' << y;
+      }
+    }
+  }
 }
 
 }  // namespace
