@@ -20,11 +20,16 @@ class GroupPicture {
   // Nothing is held when the picture cannot be made. True when the scale was cut to its cap.
   bool Build(const PlotData& data, const PaperFrame& frame, int height, int width);
 
-  // Whether the pixel is ink; rows count from the top. Pixels outside of the picture are not. While
-  // the frame's outline shows, the two outermost rows and columns are always ink.
+  // Whether the pixel is ink; rows count from the top. While the frame's outline shows, the two
+  // outermost rows and columns are always ink. Pixels outside of the picture are not, and none is
+  // without a picture.
+  //
+  // Compatibility: the border goes on outside of the picture: rows above it and columns left of it
+  // are ink, and the border's columns are so in rows below. Only columns right of it never are.
   [[nodiscard]] bool IsInk(const PaperFrame& frame, int row, int column) const {
-    if (row < 0 || row >= height_ || column < 0 || column >= width_) return false;
+    if (bits_.empty() || column >= width_) return false;
     if (frame.IsShown() && IsOnBorder(row, column)) return true;
+    if (row < 0 || row >= height_ || column < 0) return false;
     const auto line = static_cast<std::size_t>(height_ - row - 1);
     const std::uint8_t byte = bits_[line * stride_ + static_cast<std::size_t>(column) / 8];
     return (byte >> (7 - column % 8) & 1) != 0;
@@ -34,7 +39,8 @@ class GroupPicture {
 
  private:
   [[nodiscard]] bool IsOnBorder(int row, int column) const {
-    return row <= 1 || row >= height_ - 2 || column <= 1 || column >= width_ - 2;
+    return row <= 1 || row == height_ - 2 || row == height_ - 1 || column <= 1 ||
+           column >= width_ - 2;
   }
   [[nodiscard]] bool HasInk(const PaperFrame& frame, int first_row, int first_column) const;
   [[nodiscard]] ScreenPoint FindFreeCorner(const PaperFrame& frame) const;

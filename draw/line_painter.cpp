@@ -52,7 +52,6 @@ void LinePainter::DrawCircle(std::int16_t legend, GroundPoint centre, double rad
   ScreenPoint at;
   if (!view_.CircleOnScreen(centre, radius, at)) return;
   Use(legend);
-  if (entry_.Style() == LegendStyle{}) return;
   const int r = view_.LengthToPixels(radius);
   if (r < -kLargestRadius) return;
   if (r > kLargestRadius) {

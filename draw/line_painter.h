@@ -11,7 +11,8 @@
 namespace tavix {
 
 // Draws segments and circles on the ground on one canvas. A legend without a line style (kinds 101
-// to 105) draws no segment.
+// to 105) draws no segment, but circles. Where no entry has been found yet, a circle is drawn with
+// the pen that the canvas has.
 class LinePainter {
  public:
   LinePainter(PlanCanvas& canvas, const CViewState& view, const LegendTable& legend);

@@ -13,7 +13,8 @@ namespace tavix {
 // earlier ones.
 //
 // A style is in use until the next one is; it is taken as the legend has it, but for sizes, which
-// are at most kMostPixels.
+// are at most kMostPixels. Before the first one lines and circles are drawn with the pen that is
+// there, the black one of a bitmap's device context.
 class PlanCanvas {
  public:
   // Larger than any screen, and small enough that no sum of pixels leaves the 32-bit range and that

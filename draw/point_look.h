@@ -15,7 +15,7 @@ class PointLook {
  public:
   PointLook(const CViewState& view, const LegendTable& legend) : view_(view), entry_(legend) {}
 
-  // Makes `legend` the current entry. True when it has changed.
+  // Makes `legend` the current entry, if there is one. True when the look has changed.
   bool Use(std::int16_t legend) {
     if (!entry_.Use(legend)) return false;
     style_ = entry_.Style();

@@ -41,12 +41,11 @@ void DrawFootCross(CDC& dc, ScreenPoint at) {
 
 void DrawFeet(CDC& dc, const SideData& data, const SideProjection& projection) {
   const CScopedSelect black(dc, BLACK_PEN);
-  LegendLookup entry(data.legend);
+  PointLook look(data.view, data.legend);
   data.points.ForEach([&](const Point3& point) {
-    entry.Use(point.legend);
-    const int size = entry.Style().prm1;
+    look.Use(point.legend);
     ScreenPoint at;
-    if (size > 0 && data.view.CircleOnScreen(point.at, data.view.PixelsToLength(size), at)) {
+    if (look.Style().prm1 > 0 && data.view.CircleOnScreen(point.at, look.Margin(), at)) {
       DrawFootCross(dc, projection.Project(at));
     }
   });

@@ -8,15 +8,12 @@ namespace tavix {
 void StyleObjects::UseForLines(const LegendStyle& style) {
   Drop();
   SelectPen(style);
-  old_brush_ = static_cast<CBrush*>(dc_.SelectStockObject(NULL_BRUSH));
 }
 
 void StyleObjects::UseForPoints(const LegendStyle& style) {
   Drop();
   SelectPen(style);
-  if (style.kind < kFirstFilledMark) {
-    old_brush_ = static_cast<CBrush*>(dc_.SelectStockObject(NULL_BRUSH));
-  } else {
+  if (style.kind >= kFirstFilledMark) {
     brush_.CreateSolidBrush(static_cast<COLORREF>(style.color));
     old_brush_ = dc_.SelectObject(&brush_);
   }

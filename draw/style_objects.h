@@ -2,17 +2,18 @@
 #pragma once
 
 #include <afxwin.h>
+#include <framework/scoped_select.h>
 
 #include "store/legend_table.h"
 
 namespace tavix {
 
-// Makes the pen, brush and font of a style and selects them into the device context. The destructor
-// puts back what was selected before. Entities of one legend in a row, as they mostly come, share
-// them.
+// Makes the pen, brush and font of a style and selects them into the device context. Until the
+// first style its own pen draws, and shapes are hollow. The destructor puts back what was selected
+// before. Entities of one legend in a row, as they mostly come, share the objects.
 class StyleObjects {
  public:
-  explicit StyleObjects(CDC& dc) : dc_(dc) {}
+  explicit StyleObjects(CDC& dc) : dc_(dc), hollow_(dc, NULL_BRUSH) {}
   ~StyleObjects() { Drop(); }
   StyleObjects(const StyleObjects&) = delete;
   StyleObjects& operator=(const StyleObjects&) = delete;
@@ -28,6 +29,7 @@ class StyleObjects {
   void Drop();
 
   CDC& dc_;
+  CScopedSelect hollow_;
   CPen pen_;
   CBrush brush_;
   CFont font_;

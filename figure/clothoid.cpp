@@ -9,7 +9,7 @@ namespace tavix {
 namespace {
 
 constexpr double kStep = 0.017453292519943295;  // 1 degree
-constexpr double kMostTau = 2000.0;             // radians; over three hundred turns
+constexpr double kMostPoints = 1e7;
 
 // tau = A^2 / 2 R^2 is the tangent's angle at radius R, measured from the straight end. A straight
 // end itself has R = 0 here, and then an angle that is practically 0.
@@ -41,6 +41,11 @@ class Placement {
   double sin_;
   GroundPoint shift_;
 };
+
+template <class... Numbers>
+bool AreFinite(Numbers... numbers) {
+  return (std::isfinite(numbers) && ...);
+}
 
 bool StartsAtTheWrongEnd(double r1, double r2) {
   const bool one_end_is_straight = std::fabs(r1 * r2) < kGeometryZero;
@@ -74,6 +79,7 @@ GroundPoint ClothoidPoint(double tau, double a) {
 }
 
 Polyline BuildClothoid(GroundPoint start, GroundPoint end, double r1, double a, double r2) {
+  if (!AreFinite(start.x, start.y, end.x, end.y, r1, a, r2)) return {};
   if (StartsAtTheWrongEnd(r1, r2)) {
     std::swap(start, end);
     std::swap(r1, r2);
@@ -82,7 +88,8 @@ Polyline BuildClothoid(GroundPoint start, GroundPoint end, double r1, double a, 
   }
   const double tau1 = TangentAngle(a, r1);
   const double tau2 = TangentAngle(a, r2);
-  if (tau2 > kMostTau) return {};
+  const double steps = (tau2 - tau1) / kStep;  // not a number where both angles overflow
+  if (!(steps <= kMostPoints - 1)) return {};
 
   const double side = r2 < 0 ? -1.0 : 1.0;
   const auto local = [=](double tau) {
@@ -94,10 +101,13 @@ Polyline BuildClothoid(GroundPoint start, GroundPoint end, double r1, double a, 
   const Placement placement(turn, first, start);
 
   Polyline points{start};
+  if (steps > 1) points.reserve(static_cast<std::size_t>(steps) + 2);
   for (int k = 1;; ++k) {
     const double tau = tau1 + k * kStep;
     if (!(tau < tau2)) break;
-    points.push_back(placement.ToGround(local(tau)));
+    const GroundPoint point = placement.ToGround(local(tau));
+    if (!AreFinite(point.x, point.y)) return {};
+    points.push_back(point);
   }
   points.push_back(end);
   return points;

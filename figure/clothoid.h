@@ -17,7 +17,9 @@ namespace tavix {
 // `end` is given as it is, even where the parameters do not quite reach it.
 //
 // Between two radii the second must be the smaller; otherwise only the two ends come out. Meant so.
-// Empty when the curve would wind more than a few hundred times.
+// Empty when a number is not finite, or when the curve turns so far that it would have more than
+// ten million points. Far out, where the series of ClothoidPoint no longer is the curve, the points
+// are the series' all the same.
 [[nodiscard]] Polyline BuildClothoid(GroundPoint start, GroundPoint end, double r1, double a,
                                      double r2);
 

@@ -2,6 +2,9 @@
 
 #include <framework/scoped_select.h>
 
+#include <algorithm>
+
+#include "draw/plan_canvas.h"
 #include "draw/point_mark.h"
 #include "draw/screen_line.h"
 #include "draw/xor_drawing.h"
@@ -11,11 +14,10 @@ namespace tavix {
 
 void MovePoint::Start(CWnd& window, const CViewState& view, const LegendStyle& style) {
   End(window, view);
-  constexpr COLORREF kWhite = 0x00FFFFFF;
   color_ = static_cast<COLORREF>(style.color) ^ kWhite;
   pen_width_ = style.width;
   mark_ = style.kind;
-  mark_size_ = style.prm1;
+  mark_size_ = std::min(style.prm1, PlanCanvas::kMostPixels);
   position_ = {};
 }
 

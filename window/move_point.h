@@ -12,7 +12,8 @@ namespace tavix {
 // takes it off. A position off the screen is remembered and not drawn.
 class MovePoint {
  public:
-  // Takes the look of a point mark; what was on the screen is taken off.
+  // Takes the look of a point mark; what was on the screen is taken off. Without a start the mark
+  // is a black circle of 10 pixels.
   void Start(CWnd& window, const CViewState& view, const LegendStyle& style);
 
   // From the next move on a line runs from `anchor` to the mark. A mark that is on the screen is
@@ -37,14 +38,16 @@ class MovePoint {
   [[nodiscard]] GroundPoint Position() const { return position_; }
 
  private:
+  static constexpr COLORREF kWhite = 0x00FFFFFF;
+
   void FlipOn(CDC& dc, const CViewState& view) const;
 
   bool drawn_ = false;
   bool on_screen_ = false;
-  COLORREF color_ = 0;  // the legend's, inverted: by exclusive-or it shows true on white
-  int pen_width_ = 0;
-  int mark_ = 0;
-  int mark_size_ = 0;  // pixels
+  COLORREF color_ = kWhite;  // the legend's, inverted: by exclusive-or it shows true on white
+  int pen_width_ = 1;
+  int mark_ = 2;
+  int mark_size_ = 10;  // pixels
   GroundPoint position_;
   bool has_line_ = false;
   GroundPoint anchor_;

@@ -75,6 +75,22 @@ TEST_F(ImmediateDrawing, InATurnedAndStretchedView) {
   ExpectOnePicture();
 }
 
+// Nothing is before it: a full redraw shows it with the look of the point before.
+TEST_F(ImmediateDrawing, OfAPointWithoutALegendEntryIsNone) {
+  MakePlot(200, 160);
+  const PointLegend square{6, 15, 0, 0, 1, RGB(255, 0, 0)};
+  Tavix_DrwFlg(1);
+  EXPECT_EQ(0, Enter(1, GroundAt({60, 60}), AddLegend(square)));
+  EXPECT_EQ(0, Enter(2, GroundAt({120, 60}), 999));
+  RawCanvas canvas(Window());
+  DrawRawPoint(canvas.Dc(), square, {60, 60});
+  EXPECT_TRUE(SamePicture(canvas.Take(), TakeClientPicture(Window())));
+  ::InvalidateRect(Window(), nullptr, TRUE);
+  EXPECT_TRUE(SamePicture(canvas.Take(), Shown()));
+  DrawRawPoint(canvas.Dc(), square, {120, 60});
+  EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn()));
+}
+
 TEST_F(ImmediateDrawing, SparesTheButtons) {
   MakePlot(200, 180);
   Tavix_SetBtn(1);

@@ -86,15 +86,37 @@ TEST_F(PointOrder, AlternatingLooksDoNotMix) {
   ExpectDrawn(drawn);
 }
 
-TEST_F(PointOrder, PointsWithoutALegendEntryAreNotDrawnAndDisturbNoOther) {
+// Mark, label, pen and brush are those of the point before; the first has none before it.
+TEST_F(PointOrder, APointWithoutALegendEntryLooksLikeTheOneBefore) {
+  const PointLegend named{5, 15, 12, 0, 2, RGB(0, 128, 0)};
+  const PointLegend numbered{10, 11, 14, 1, 1, RGB(255, 0, 255)};
   const short red = AddLegend(kRedSquare);
+  const short name = AddLegend(named);
+  const short number = AddLegend(numbered);
   for (const short unknown : {short{-1}, short{0}, short{999}}) {
-    Enter(1, GroundAt({40, 40}), unknown, L"A", 1);
+    Enter(1, GroundAt({20, 40}), unknown, L"A", 1);
     Enter(2, GroundAt({100, 80}), red, L"B", 2);
     Enter(3, GroundAt({160, 120}), unknown, L"C", 3);
-    Enter(4, GroundAt({200, 40}), red, L"D", 4);
-    ExpectDrawn({{kRedSquare, {100, 80}, {}}, {kRedSquare, {200, 40}, {}}});
+    Enter(4, GroundAt({30, 120}), name, L"D", 4);
+    Enter(5, GroundAt({60, 30}), unknown, L"E", 5);
+    Enter(6, GroundAt({80, 140}), short{-1}, L"F", 6);
+    Enter(7, GroundAt({140, 30}), number, L"G", 7);
+    Enter(8, GroundAt({180, 60}), unknown, L"H", 8);
+    ExpectDrawn({{kRedSquare, {100, 80}, {}},
+                 {kRedSquare, {160, 120}, {}},
+                 {named, {30, 120}, L"D"},
+                 {named, {60, 30}, L"E"},
+                 {named, {80, 140}, L"F"},
+                 {numbered, {140, 30}, L"7"},
+                 {numbered, {180, 60}, L"8"}});
   }
+}
+
+// The point before counts where it is out of view, too.
+TEST_F(PointOrder, APointWithoutALegendEntryLooksLikeOneOutOfView) {
+  Enter(1, {5000.0, 5000.0}, AddLegend(kBlueSquare));
+  Enter(2, GroundAt({100, 80}), 999);
+  ExpectDrawn({{kBlueSquare, {100, 80}, {}}});
 }
 
 TEST_F(PointOrder, APointEnteredBeforeAnySelectionHasNoLook) {

@@ -125,22 +125,58 @@ TEST(BuildClothoid, TwoStraightEndsAreAStraightLine) {
 }
 
 TEST(BuildClothoid, NumbersOutOfAllProportionEnd) {
-  constexpr double kInfinity = std::numeric_limits<double>::infinity();
-  constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-  const double numbers[] = {0, 1e-300, 1e-4, 1, -1, 1e300, kInfinity, -kInfinity, kNone};
-  constexpr std::size_t kMost = 120'000;  // some three hundred turns
+  const double numbers[] = {0, 1e-300, 1e-4, 1, -1, 1e100, 1e300};
   for (const double r1 : numbers) {
     for (const double a : numbers) {
       for (const double r2 : numbers) {
-        EXPECT_LE(BuildClothoid({0, 0}, {10, 10}, r1, a, r2).size(), kMost) << r1 << a << r2;
+        for (const GroundPoint end : {GroundPoint{10, 10}, {1e300, -1e300}, {-1.7e308, 1.7e308}}) {
+          for (const GroundPoint point : BuildClothoid({1.7e308, -1.7e308}, end, r1, a, r2)) {
+            EXPECT_TRUE(std::isfinite(point.x) && std::isfinite(point.y)) << r1 << a << r2;
+          }
+        }
       }
     }
   }
 }
 
-TEST(BuildClothoid, IsEmptyWhereItWouldWindHundredsOfTimes) {
-  EXPECT_TRUE(BuildClothoid({0, 0}, {10, 10}, 0, 1000, 1).empty());
-  EXPECT_FALSE(BuildClothoid({0, 0}, {10, 10}, 0, 50, 1).empty());  // two hundred turns
+TEST(BuildClothoid, IsEmptyForANumberThatIsNotFinite) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+  for (const double number : {kInfinity, -kInfinity, kNone}) {
+    EXPECT_TRUE(BuildClothoid({number, 0}, {10, 10}, 0, 150, 200).empty());
+    EXPECT_TRUE(BuildClothoid({0, number}, {10, 10}, 0, 150, 200).empty());
+    EXPECT_TRUE(BuildClothoid({0, 0}, {number, 10}, 0, 150, 200).empty());
+    EXPECT_TRUE(BuildClothoid({0, 0}, {10, number}, 0, 150, 200).empty());
+    EXPECT_TRUE(BuildClothoid({0, 0}, {10, 10}, number, 150, 200).empty());
+    EXPECT_TRUE(BuildClothoid({0, 0}, {10, 10}, 0, number, 200).empty());
+    EXPECT_TRUE(BuildClothoid({0, 0}, {10, 10}, 0, 150, number).empty());
+  }
+  EXPECT_TRUE(BuildClothoid({0, 0}, {10, 10}, 0, 1e200, 1e10).empty());  // its tangent's angle is
+}
+
+// However far it turns: its points are those of the series, which far out leaves the true curve.
+TEST(BuildClothoid, TurnsAsFarAsItsRadiusAsksFor) {
+  constexpr double kA = 100;
+  const double tau = kA * kA / 2;  // 5000 radians, nearly eight hundred turns
+  const Polyline curve = BuildClothoid({0, 0}, {10, 10}, 0, kA, 1);
+  ASSERT_EQ(curve.size(), 2 + static_cast<std::size_t>(tau / kDegree));
+  for (std::size_t i = 1000; i + 1 < curve.size(); i += 1000) {
+    const double t = kDegree * static_cast<double>(i);
+    const double length = std::sqrt(2 * t) * kA;
+    const double x = 1 - t * t / 10 + std::pow(t, 4) / 216 - std::pow(t, 6) / 9360;
+    const double y = 1.0 / 3 - t * t / 42 + std::pow(t, 4) / 1320 - std::pow(t, 6) / 75600;
+    const double distance = length * std::hypot(x, t * y);
+    EXPECT_NEAR(DistanceOf(curve[i], curve[0]) / distance, 1, 1e-7) << i;
+  }
+}
+
+TEST(BuildClothoid, HasAtMostTenMillionPoints) {
+  constexpr double kMost = 1e7;
+  // The parameter that turns through so many degrees up to a radius of 1 m.
+  const auto a = [](double degrees) { return std::sqrt(2 * degrees * kDegree); };
+  EXPECT_EQ(BuildClothoid({0, 0}, {10, 10}, 0, a(kMost - 1.5), 1).size(), kMost);
+  EXPECT_TRUE(BuildClothoid({0, 0}, {10, 10}, 0, a(kMost - 0.5), 1).empty());
+  EXPECT_TRUE(BuildClothoid({0, 0}, {10, 10}, 0, 1e100, 1).empty());
 }
 
 }  // namespace

@@ -77,6 +77,31 @@ TEST_P(BitsPainters, DrawPointsOfEveryKind) {
   EXPECT_TRUE(twins_.AreSame());
 }
 
+// The first of each pass has no look before it; all others have that of the one before.
+TEST_P(BitsPainters, DrawWhatHasNoLegendEntry) {
+  constexpr std::int16_t kUnknown = 999;
+  constexpr std::int16_t kNone = -1;
+  LinePainter lines(twins_, view_, legend_);
+  lines.DrawCircle(kNone, {5, 5}, 30);
+  lines.DrawSegment(kUnknown, {-50, -50}, {50, 50});
+  lines.DrawCircle(kUnknown, {8, 5}, 30);
+  const std::int16_t zeros = Add(false, {});
+  for (const std::int16_t legend : {std::int16_t{105}, zeros, std::int16_t{103}}) {
+    lines.DrawSegment(legend, Ground(), Ground());
+    lines.DrawSegment(kUnknown, Ground(), Ground());
+    lines.DrawCircle(kNone, Ground(), 20);
+    lines.DrawCircle(legend, Ground(), 25);
+  }
+  PointPainter points(twins_, view_, legend_);
+  points.Draw({1, 1, u"A", Ground(), kUnknown});
+  for (std::int16_t legend = 1; legend <= LegendTable::kPointLegends; ++legend) {
+    points.Draw({1, 1, u"A", {legend * 8.0 - 50, -20.0}, legend});
+    points.Draw({2, 2, u"B", {legend * 8.0 - 50, 20.0}, kUnknown});
+    points.Draw({3, 3, u"C", {legend * 8.0 - 50, 60.0}, kNone});
+  }
+  EXPECT_TRUE(twins_.AreSame());
+}
+
 INSTANTIATE_TEST_SUITE_P(Degrees, BitsPainters, testing::Values(0, 15, 90, 133, 180, 270, 359));
 
 }  // namespace

@@ -97,6 +97,19 @@ TEST_F(GroupPictureOf, LinesAndFiguresAreInkButWhite) {
   EXPECT_TRUE(SamePicture(canvas.Take(), Build(kHeight, kWidth)));
 }
 
+TEST_F(GroupPictureOf, ACircleWithoutALegendEntryIsInkAndHollow) {
+  const Ground centre = GroundAt({180, 120});
+  ASSERT_EQ(0, Tavix_FigStt(1, -1));
+  ASSERT_EQ(0, Tavix_FigMdlCir(centre.x, centre.y, 40.0));
+  ASSERT_EQ(0, Tavix_FigMdlCir(centre.x, centre.y - 5.0, 40.0));
+  ASSERT_EQ(0, Tavix_FigEnd());
+  const InkCanvas canvas(kHeight, kWidth);
+  ::Ellipse(canvas.Dc(), 220, 160, 140, 80);
+  ::Ellipse(canvas.Dc(), 215, 160, 135, 80);
+  canvas.Arrow({70, 70});
+  EXPECT_TRUE(SamePicture(canvas.Take(), Build(kHeight, kWidth)));
+}
+
 TEST_F(GroupPictureOf, TheGroundWidthOfTheWindowFillsThePicture) {
   const PointLegend cross{4, 9, 0, 0, 1, kCyan};
   ASSERT_EQ(0, Enter(1, {-30.0, 50.0}, AddLegend(cross)));

@@ -9,6 +9,7 @@ namespace {
 
 class GroupReading : public GroupTest {
  protected:
+  // Without the frame's outline.
   static void ExpectNoInkAround(int height, int width) {
     for (const int row : {-1000000, -1, height, height + 1, 1000000}) {
       for (const int column : {-1, 0, 1, width / 2}) EXPECT_EQ(0, Ink(row, column)) << row;
@@ -49,9 +50,46 @@ TEST_F(GroupReading, TheFramesOutlineIsABorderOfTwoPixels) {
   ASSERT_FALSE(plain == bordered);
   ASSERT_EQ(0, Tavix_WakDsp(1));
   EXPECT_TRUE(SamePicture(bordered, Read(kRows, kColumns)));
-  ExpectNoInkAround(kRows, kColumns);
   ASSERT_EQ(0, Tavix_SetWak(0, 254, 2970, 254, 2100));  // the outline shows in frame mode only
   EXPECT_TRUE(SamePicture(plain, Read(kRows, kColumns)));
+  ExpectNoInkAround(kRows, kColumns);
+}
+
+// A column at the width or beyond it is settled first, then the border, then what is no pixel.
+TEST_F(GroupReading, TheBorderGoesOnAboveBelowAndLeftOfThePicture) {
+  constexpr int kRows = 150;
+  constexpr int kColumns = 170;
+  ASSERT_EQ(0, Tavix_SetWak(1, 254, 2970, 254, 2100));
+  ASSERT_EQ(0, Tavix_WakDsp(1));
+  ASSERT_EQ(0, Tavix_GrpStt(kRows, kColumns));
+  const struct {
+    int row;
+    int column;
+    int ink;
+  } rows[] = {{0, kColumns - 1, 1},
+              {0, kColumns, 0},
+              {kRows - 1, kColumns, 0},
+              {-1, kColumns, 0},
+              {kRows, kColumns, 0},
+              {-1, 80, 1},
+              {-1000000, 80, 1},
+              {kRows, 80, 0},
+              {1000000, 80, 0},
+              {kRows, 1, 1},
+              {kRows, 2, 0},
+              {kRows, -1, 1},
+              {kRows, kColumns - 3, 0},
+              {kRows, kColumns - 2, 1},
+              {1000000, kColumns - 1, 1},
+              {75, -1, 1},
+              {75, -1000000, 1}};
+  for (const auto& [row, column, ink] : rows) {
+    int given = 7;
+    EXPECT_EQ(0, Tavix_GrpGet(row, column, &given));
+    EXPECT_EQ(ink, given) << row << ", " << column;
+  }
+  EXPECT_EQ(0, Tavix_GrpEnd());
+  for (const auto& [row, column, ink] : rows) EXPECT_EQ(0, Ink(row, column)) << row << column;
 }
 
 TEST_F(GroupReading, ASizeOfNoneOrLessIsNoPicture) {

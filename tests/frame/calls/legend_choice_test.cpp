@@ -23,11 +23,12 @@ TEST_F(LegendChoice, IsWhatAPointTakesWhenItIsEntered) {
   ASSERT_EQ(0, Tavix_EntPnt(1, 0, L"", 0.0, -50.0));
   EXPECT_EQ(0, Tavix_SelPntHan(square_number));
   ASSERT_EQ(0, Tavix_EntPnt(2, 0, L"", 0.0, 50.0));
-  EXPECT_EQ(0, Tavix_SelPntHan(999));  // there is none: not drawn
+  EXPECT_EQ(0, Tavix_SelPntHan(999));  // there is none: drawn like the point before
   ASSERT_EQ(0, Tavix_EntPnt(3, 0, L"", 30.0, 0.0));
   const RawCanvas canvas(Window());
   DrawRawPoint(canvas.Dc(), circle, {70, 90});
   DrawRawPoint(canvas.Dc(), square, {170, 90});
+  DrawRawPoint(canvas.Dc(), square, {120, 60});
   EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn()));
 }
 

@@ -99,12 +99,39 @@ TEST_F(LineDrawing, LooksForTheShortKeys) {
   EXPECT_TRUE(SamePicture(PictureOf({{2, 1, kRed}}), Redrawn()));
 }
 
-TEST_F(LineDrawing, OfAnUnknownLegendIsNone) {
+TEST_F(LineDrawing, OfAnUnknownLegendIsLikeTheLineBefore) {
+  const short dashes = AddLineLegend(kDashes);
   for (const short legend : {short{-1}, short{100}, short{106}, short{9999}}) {
     Tavix_ClrEntLin();
     EnterLine(1, 2, legend);
-    EXPECT_TRUE(SamePicture(PictureOf({}), Redrawn())) << legend;
+    EXPECT_TRUE(SamePicture(PictureOf({}), Redrawn())) << legend << ": none is before it";
+    EnterLine(3, 4, dashes);
+    EnterLine(2, 3, legend);
+    EnterLine(1, 4, blue_);
+    EnterLine(2, 4, legend);
+    EXPECT_TRUE(SamePicture(
+        PictureOf({{3, 4, kDashes}, {2, 3, kDashes}, {1, 4, kBlue}, {2, 4, kBlue}}), Redrawn()))
+        << legend;
   }
+}
+
+// Figures and lines are drawn in passes of their own.
+TEST_F(LineDrawing, OfAnUnknownLegendIsNotLikeAFigure) {
+  ASSERT_EQ(0, Tavix_FigStt(1, blue_));
+  ASSERT_EQ(0, Tavix_FigMdlLin(kAt[3].x, kAt[3].y, kAt[4].x, kAt[4].y));
+  ASSERT_EQ(0, Tavix_FigEnd());
+  EnterLine(1, 2, 9999);
+  EXPECT_TRUE(SamePicture(PictureOf({{3, 4, kBlue}}), Redrawn()));
+}
+
+// What is drawn at once has no line before it.
+TEST_F(LineDrawing, AtOnceIsNoneForAnUnknownLegend) {
+  EnterLine(3, 4, red_);
+  Redrawn();
+  Tavix_DrwFlg(1);
+  EnterLine(1, 2, 9999);
+  EXPECT_TRUE(SamePicture(PictureOf({{3, 4, kRed}}), TakeClientPicture(Window())));
+  EXPECT_TRUE(SamePicture(PictureOf({{3, 4, kRed}, {1, 2, kRed}}), Redrawn()));
 }
 
 TEST_F(LineDrawing, IsUnderThePoints) {

@@ -102,5 +102,17 @@ TEST_F(LongLines, WithoutAnyLengthInThePatternEnd) {
   }
 }
 
+// Its only dot lies beyond the 32-bit range of pixels. The dot's second pixel, counted up from the
+// end of the range, was at its other end, with the window between them.
+TEST_F(LongLines, WithoutAnyLengthInThePatternLeaveNoTraceOfADotFarAway) {
+  for (const int kind : {102, 104, 105}) {
+    Tavix_DrwClr();
+    Tavix_SelLinHan(AddLineLegend({kind, 0, 0, 0, 3, RGB(255, 0, 0)}));
+    Join({0.0, 3e9}, {0.0, -50.0});
+    const RawCanvas canvas(Window());
+    EXPECT_TRUE(SamePicture(canvas.Take(), DrawnAtOnce())) << kind;
+  }
+}
+
 }  // namespace
 }  // namespace tavix::test

@@ -112,6 +112,7 @@ TEST_F(SideViewKeys, WholeTogglesOnceItsPointsAreFitted) {
 
 TEST_F(SideViewKeys, WholeFitsAnewAfterTheseChangesOnly) {
   const short legend = AddLegend(kSquare);
+  const short no_mark = AddLegend({4, 0, 0, 0, 1, 0});
   const struct {
     const char* what;
     void (*change)(short legend);
@@ -144,7 +145,7 @@ TEST_F(SideViewKeys, WholeFitsAnewAfterTheseChangesOnly) {
     Tavix_DrwClr();
     EnterSide(1, {0.0, 0.0}, 20.5, legend);
     EnterSide(2, {50.0, 60.0}, 30.0, legend);
-    EnterSide(3, {25.0, 30.0}, 25.0, 9999);  // not to be seen
+    EnterSide(3, {25.0, 30.0}, 25.0, no_mark);  // not to be seen
     Press(kWhole);
     const Picture home = Area();
     Press(kZoomIn);

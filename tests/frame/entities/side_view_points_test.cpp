@@ -1,4 +1,6 @@
 // Points in the 3-D side view: feet, raised marks, labels, and the grey ones below the ground.
+#include <limits>
+
 #include "tests/frame/entities/side_plot_test.h"
 
 namespace tavix::test {
@@ -82,8 +84,27 @@ TEST_F(SideViewPoints, OfNoSizeHaveNoFoot) {
   ExpectAllDrawn({{{100, 100}, 10, {6, 0, 12, 0, 1, RGB(255, 0, 0)}, L"label"}});
 }
 
-TEST_F(SideViewPoints, OfAnUnknownLegendAreNotShown) {
+// The feet too, which are drawn before all marks.
+TEST_F(SideViewPoints, OfAnUnknownLegendAreLikeThePointBefore) {
+  const PointLegend label{6, 0, 12, 0, 1, RGB(0, 0, 255)};
   EnterSide(1, {0.0, 0.0}, 5.0, 9999, L"none");
+  EXPECT_TRUE(SamePicture(SideView({}), Redrawn())) << "none is before it";
+  EnterSide(2, GroundAt({60, 90}), 10.0, AddLegend(kSquare));
+  EnterSide(3, GroundAt({90, 130}), 20.0, 9999, L"C");
+  EnterSide(4, GroundAt({120, 60}), 10.0, AddLegend(label), L"D");
+  EnterSide(5, GroundAt({150, 100}), 10.0, -1, L"E");
+  EXPECT_TRUE(SamePicture(SideView({{{60, 90}, 10, kSquare, L""},
+                                    {{90, 130}, 20, kSquare, L""},
+                                    {{120, 60}, 10, label, L"D"},
+                                    {{150, 100}, 10, label, L"E"}}),
+                          Redrawn()));
+}
+
+// At the level of the window, and so far to its right that the next pixels of a foot are beyond the
+// 32-bit range.
+TEST_F(SideViewPoints, OfAnySizeAndFarAwayLeaveNoFootInView) {
+  const short legend = AddLegend({4, std::numeric_limits<int>::max(), 0, 0, 1, 0});
+  EnterSide(1, {1.8e9 - 90.0, 1.4e9 - 120.0}, 0.0, legend);
   EXPECT_TRUE(SamePicture(SideView({}), Redrawn()));
 }
 

@@ -72,6 +72,66 @@ TEST_F(FigureDrawing, AFigureOfFewerThanTwoPointsDrawsNothing) {
   EXPECT_TRUE(SamePicture(Nothing(), Redrawn()));
 }
 
+// A kind that draws no segment, a pattern, and an entry of zeros draw the circle all the same.
+TEST_F(FigureDrawing, ACircleIsDrawnWhateverItsStyle) {
+  ASSERT_NO_FATAL_FAILURE(MakePlotAndLegend());
+  const struct {
+    int kind;
+    int width;
+    COLORREF color;
+  } rows[] = {{0, 0, 0}, {0, 3, kGreen}, {103, 1, kGreen}, {55, 2, RGB(255, 0, 255)}};
+  for (const auto& [kind, width, color] : rows) {
+    Tavix_DrwClr();
+    short legend = 0;
+    ASSERT_EQ(0, Tavix_AddLinHan(kind, 0, 0, 0, width, static_cast<int>(color), &legend));
+    Tavix_FigStt(1, legend);
+    Tavix_FigMdlCir(10, 20, 40);
+    const RawCanvas canvas(Window());
+    {
+      const RawSelection pen(canvas.Dc(), ::CreatePen(PS_SOLID, width, color));
+      ::Ellipse(canvas.Dc(), 180, 120, 100, 40);
+    }
+    EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn())) << kind << ", " << width;
+  }
+}
+
+// A device context begins with the black pen; what is under the circle shows through.
+TEST_F(FigureDrawing, ACircleWithoutALegendEntryIsDrawnWithThePenThatIsThere) {
+  ASSERT_NO_FATAL_FAILURE(MakePlotAndLegend());
+  for (const int legend : {-1, 999}) {
+    Tavix_DrwClr();
+    Tavix_FigStt(1, legend);
+    Tavix_FigMdlCir(10, 20, 40);
+    Tavix_FigMdlLin(0, -50, 20, 60);  // draws nothing
+    Tavix_FigMdlCir(10, 30, 40);
+    const RawCanvas canvas(Window());
+    ::Ellipse(canvas.Dc(), 180, 120, 100, 40);
+    ::Ellipse(canvas.Dc(), 190, 120, 110, 40);
+    EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn())) << legend;
+  }
+}
+
+TEST_F(FigureDrawing, AFigureWithoutALegendEntryLooksLikeTheOneBefore) {
+  ASSERT_NO_FATAL_FAILURE(MakePlotAndLegend());
+  for (const int unknown : {-1, 999}) {
+    Tavix_DrwClr();
+    Tavix_FigStt(1, legend_);
+    Tavix_FigMdlLin(0, -50, 20, 60);
+    Tavix_FigStt(2, unknown);
+    Tavix_FigMdlCir(10, 20, 40);
+    Tavix_FigMdlLin(40, -50, 20, 70);
+    EXPECT_TRUE(SamePicture(Raw([](HDC dc) {
+                              ::MoveToEx(dc, 70, 90, nullptr);
+                              ::LineTo(dc, 180, 70);
+                              ::Ellipse(dc, 180, 120, 100, 40);
+                              ::MoveToEx(dc, 70, 50, nullptr);
+                              ::LineTo(dc, 190, 70);
+                            }),
+                            Redrawn()))
+        << unknown;
+  }
+}
+
 // A box 80 m wide in 240 x 180 pixels less the margin: 160 / 80 = 2 pixels per metre.
 TEST_F(FigureDrawing, ACircleCountsWithItsRadiusInTheFit) {
   ASSERT_NO_FATAL_FAILURE(MakePlotAndLegend());

@@ -1,6 +1,8 @@
 // The two files in which an instance keeps its figures.
 #include <tavix/tavix.h>
 
+#include <limits>
+
 #include "tests/support/legend_bytes.h"
 #include "tests/support/library_test.h"
 #include "tests/window/overlays/figure_bytes.h"
@@ -102,9 +104,19 @@ TEST_F(FigureFiles, ACurveIsKeptAsAPolyline) {
 TEST_F(FigureFiles, ACurveThatIsNoneWritesNothing) {
   EXPECT_EQ(-1, Tavix_FigMdlArc(0, 0, 101, 0, 50));
   EXPECT_EQ(-1, Tavix_FigMdlArc(5, 5, 5, 5, 50));
-  EXPECT_EQ(-1, Tavix_FigMdlClo(0, 0, 10, 10, 0, 1000, 1));
+  EXPECT_EQ(-1, Tavix_FigMdlClo(0, 0, 10, 10, 0, 1000, 1));  // of more than ten million points
+  EXPECT_EQ(-1, Tavix_FigMdlClo(0, 0, 10, 10, 0, std::numeric_limits<double>::infinity(), 1));
   EXPECT_EQ("", Index());
   EXPECT_EQ("", Coordinates());
+}
+
+// 5000 radians at a degree each.
+TEST_F(FigureFiles, AClothoidThatTurnsFarIsKept) {
+  Tavix_FigStt(1, 101);
+  EXPECT_EQ(0, Tavix_FigMdlClo(0, 0, 10, 10, 0, 100, 1));
+  constexpr int kPoints = 286480;
+  EXPECT_EQ(WordBytes(1, 101, kPoints, 0, 0, 0), Index());
+  EXPECT_EQ(std::size_t{kPoints} * 16, Coordinates().size());
 }
 
 TEST_F(FigureFiles, ARecordNamesThePlaceOfItsFirstPoint) {

@@ -1,5 +1,7 @@
 #include <tavix/tavix.h>
 
+#include <limits>
+
 #include "tests/support/message_pump.h"
 #include "tests/support/picture_compare.h"
 #include "tests/support/raw_canvas.h"
@@ -74,6 +76,32 @@ TEST_F(MovePoint, ShowsInTheLegendsColourOnWhite) {
   EXPECT_TRUE(ShowsCross({60, 50}));
   EXPECT_EQ(0xFF0000U, TakeClientPicture(Window()).At(55, 50));
   EXPECT_FALSE(AwaitsPaint());
+}
+
+TEST_F(MovePoint, WithoutAStartIsABlackCircleOfTenPixels) {
+  ASSERT_NO_FATAL_FAILURE(MakePlot(200, 160));
+  EXPECT_EQ(-1, Tavix_MvPntStt(999));
+  for (const POINT at : {POINT{60, 50}, POINT{120, 70}}) {
+    MoveToPixel(at);
+    RawCanvas canvas(Window());
+    {
+      const RawXor drawing(canvas.Dc(), 0xFFFFFF, 1);
+      ::Ellipse(canvas.Dc(), at.x - 5, at.y - 5, at.x + 5, at.y + 5);
+    }
+    EXPECT_TRUE(SamePicture(canvas.Take(), TakeClientPicture(Window()))) << at.x;
+    EXPECT_EQ(0U, TakeClientPicture(Window()).At(at.x, at.y - 5));
+  }
+  EXPECT_EQ(0, Tavix_MvPntEnd());
+  EXPECT_TRUE(ShowsNothing());
+}
+
+// A mark is at most 65536 pixels large, as a point's is: it does not reach the window from here.
+TEST_F(MovePoint, AHugeMarkFarAwayLeavesNoLineInView) {
+  ASSERT_NO_FATAL_FAILURE(MakePlot(200, 160));
+  const int most = std::numeric_limits<int>::max();
+  ASSERT_EQ(0, Tavix_MvPntStt(AddLegend({.kind = 4, .size = most, .width = 1, .color = kRed})));
+  EXPECT_EQ(0, Tavix_MvPntMov(0.0, most / 2 + 50.0));
+  EXPECT_TRUE(ShowsNothing());
 }
 
 TEST_F(MovePoint, EachMoveTakesTheOldPlaceOff) {

@@ -1,0 +1,116 @@
+// What lines and circles on the ground ask of a canvas, natively too: the arithmetic is under
+// sanitizers here.
+#include "draw/line_painter.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "tests/draw/recorded_canvas.h"
+
+namespace tavix::test {
+namespace {
+
+using Notes = std::vector<std::string>;
+
+constexpr std::int16_t kNone = -1;
+constexpr std::int16_t kUnknown = 999;
+
+// One pixel a metre, the ground point (0, 0) at the pixel (120, 90).
+class LinePainterOn : public testing::Test {
+ protected:
+  LinePainterOn() { view_.SetScreenSize(240, 180); }
+
+  std::int16_t Add(const LegendStyle& style) {
+    std::int16_t number = 0;
+    legend_.Add(false, style, &number);
+    return number;
+  }
+
+  CViewState view_;
+  LegendTable legend_;
+  RecordedCanvas canvas_;
+};
+
+TEST_F(LinePainterOn, AnUnknownNumberKeepsTheStyleOfTheEntityBefore) {
+  const std::int16_t wide = Add({kSolidLine, 0, 0, 0, 5, 0});
+  LinePainter painter(canvas_, view_, legend_);
+  painter.DrawSegment(wide, {0, 0}, {0, 10});
+  painter.DrawSegment(kUnknown, {0, 0}, {0, 20});
+  painter.DrawSegment(kNone, {0, 0}, {0, 30});
+  painter.DrawCircle(kUnknown, {0, 0}, 7);
+  painter.DrawSegment(kNone, {0, 0}, {0, 40});
+  EXPECT_EQ(canvas_.Take(), (Notes{"pen 5", "line 120,90 130,90", "line 120,90 140,90",
+                                   "line 120,90 150,90", "circle 120,90 7", "line 120,90 160,90"}));
+}
+
+TEST_F(LinePainterOn, WithoutAnEntryBeforeOnlyCirclesAreDrawnAndNoPenIsMade) {
+  LinePainter painter(canvas_, view_, legend_);
+  painter.DrawSegment(kNone, {0, 0}, {0, 10});
+  painter.DrawCircle(kNone, {0, 0}, 7);
+  painter.DrawSegment(kUnknown, {0, 0}, {0, 10});
+  painter.DrawCircle(kUnknown, {10, 0}, 8);
+  EXPECT_EQ(canvas_.Take(), (Notes{"circle 120,90 7", "circle 120,80 8"}));
+}
+
+// A segment is clipped first; the legend is looked up for what is in view.
+TEST_F(LinePainterOn, AnUnknownNumberHasNoStyleFromASegmentOutOfView) {
+  const std::int16_t wide = Add({kSolidLine, 0, 0, 0, 5, 0});
+  LinePainter painter(canvas_, view_, legend_);
+  painter.DrawSegment(wide, {5000, 0}, {5000, 10});
+  painter.DrawSegment(kUnknown, {0, 0}, {0, 10});
+  EXPECT_EQ(canvas_.Take(), Notes{});
+}
+
+TEST_F(LinePainterOn, ACircleIsDrawnWhateverTheStyle) {
+  const std::int16_t zeros = Add({});
+  const std::int16_t other = Add({55, 1, 1, 1, 3, 0});
+  LinePainter painter(canvas_, view_, legend_);
+  painter.DrawCircle(zeros, {0, 0}, 7);
+  painter.DrawSegment(zeros, {0, 0}, {0, 10});
+  painter.DrawCircle(other, {0, 0}, 8);
+  EXPECT_EQ(canvas_.Take(), (Notes{"pen 0", "circle 120,90 7", "pen 3", "circle 120,90 8"}));
+}
+
+TEST_F(LinePainterOn, ASegmentOfOnePixelIsADot) {
+  LinePainter painter(canvas_, view_, legend_);
+  painter.DrawSegment(101, {0, 0}, {0, 0});
+  EXPECT_EQ(canvas_.Take(), (Notes{"pen 1", "line 120,90 121,90"}));
+}
+
+// A second pixel, counted up from there, would be at the other end of the range.
+TEST_F(LinePainterOn, ADotAtTheEndOfTheRangeOfPixelsStaysThere) {
+  const std::int16_t zeros = Add({102, 0, 0, 0, 1, 0});
+  LinePainter painter(canvas_, view_, legend_);
+  painter.DrawSegment(zeros, {0, 3e9}, {0, -50});
+  const std::string end = std::to_string(std::numeric_limits<int>::max());
+  EXPECT_EQ(canvas_.Take(), (Notes{"pen 1", "line " + end + ",90 " + end + ",90"}));
+}
+
+// The sanitizers look at the arithmetic on the way.
+TEST_F(LinePainterOn, NumbersOutOfAllProportionStayInRange) {
+  constexpr int kMost = std::numeric_limits<int>::max();
+  constexpr int kLeast = std::numeric_limits<int>::min();
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+  const double places[] = {0, 50, -3e9, 3e9, 1e300, -kInfinity, kNoNumber};
+  LinePainter painter(canvas_, view_, legend_);
+  for (const int length : {0, 1, kMost, kLeast}) {
+    for (int kind = kSolidLine; kind <= 105; ++kind) {
+      const std::int16_t legend = Add({kind, length, length, length, 1, 0});
+      for (const double x : places) {
+        for (const double y : places) {
+          for (const GroundPoint end : {GroundPoint{x, -y}, {y, x}, {0, y}, {x, 0}}) {
+            painter.DrawSegment(legend, {x, y}, end);
+            EXPECT_LT(canvas_.Take().size(), 500U) << kind << ' ' << length << ' ' << x << ' ' << y;
+          }
+          for (const double radius : places) painter.DrawCircle(legend, {x, y}, radius);
+          EXPECT_LT(canvas_.Take().size(), 2000U) << x << ' ' << y;
+        }
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tavix::test

@@ -1,0 +1,99 @@
+// What points on the ground ask of a canvas, natively too.
+#include "draw/point_painter.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "tests/draw/recorded_canvas.h"
+
+namespace tavix::test {
+namespace {
+
+using Notes = std::vector<std::string>;
+
+constexpr std::int16_t kNone = -1;
+constexpr std::int16_t kUnknown = 999;
+
+// One pixel a metre, the ground point (0, 0) at the pixel (120, 90).
+class PointPainterOn : public testing::Test {
+ protected:
+  PointPainterOn() { view_.SetScreenSize(240, 180); }
+
+  std::int16_t Add(const LegendStyle& style) {
+    std::int16_t number = 0;
+    legend_.Add(true, style, &number);
+    return number;
+  }
+
+  CViewState view_;
+  LegendTable legend_;
+  RecordedCanvas canvas_;
+};
+
+TEST_F(PointPainterOn, AnUnknownNumberKeepsTheLookOfThePointBefore) {
+  const std::int16_t label = Add({4, 0, 12, 1, 1, 0});
+  PointPainter painter(canvas_, view_, legend_);
+  for (const std::int16_t legend : {kNone, kUnknown}) {
+    painter.Draw({1, 7, u"A", {0, 0}, legend});
+    EXPECT_EQ(canvas_.Take(), Notes{});
+  }
+  painter.Draw({2, 7, u"A", {0, 10}, label});
+  EXPECT_EQ(canvas_.Take(), (Notes{"look 4", "label 130,90"}));
+  for (const std::int16_t legend : {kNone, kUnknown}) {
+    painter.Draw({3, 7, u"A", {0, 20}, legend});
+    EXPECT_EQ(canvas_.Take(), Notes{"label 140,90"});
+  }
+  painter.Draw({4, 0, u"A", {0, 30}, kUnknown});  // the label is the number, and there is none
+  EXPECT_EQ(canvas_.Take(), Notes{});
+}
+
+// How far a mark reaches is part of its look.
+TEST_F(PointPainterOn, AnUnknownNumberKeepsTheReachOfTheMark) {
+  const std::int16_t large = Add({4, 40, 0, 0, 1, 0});
+  PointPainter painter(canvas_, view_, legend_);
+  painter.Draw({1, 0, u"", {0, -160}, large});
+  painter.Draw({2, 0, u"", {0, -160}, kUnknown});
+  painter.Draw({3, 0, u"", {0, -161}, kUnknown});
+  EXPECT_EQ(canvas_.Take(), (Notes{"look 4", "mark -40,90", "mark -40,90"}));
+}
+
+// The numbers of added legends go round the 16 bits, so that one of them may be -1.
+TEST_F(PointPainterOn, TheNumberOfNoLegendIsLookedUpAfterAnotherOnly) {
+  std::int16_t number = 0;
+  while (number != kNone) number = Add({6, 10, 0, 0, 1, 0});
+  PointPainter painter(canvas_, view_, legend_);
+  painter.Draw({1, 0, u"", {0, 0}, kNone});
+  EXPECT_EQ(canvas_.Take(), Notes{});
+  painter.Draw({2, 0, u"", {0, 0}, 4});
+  painter.Draw({3, 0, u"", {0, 0}, kNone});
+  EXPECT_EQ(canvas_.Take(), (Notes{"look 4", "mark 120,90", "look 6", "mark 120,90"}));
+}
+
+// The sanitizers look at the arithmetic on the way.
+TEST_F(PointPainterOn, NumbersOutOfAllProportionStayInRange) {
+  constexpr int kMost = std::numeric_limits<int>::max();
+  constexpr int kLeast = std::numeric_limits<int>::min();
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  const double places[] = {0, 33000, -33000, 3e9, 1e300, -kInfinity};
+  PointPainter painter(canvas_, view_, legend_);
+  for (const int size : {1, kMost, kLeast}) {
+    const std::int16_t legend = Add({3, size, size, 1, size, 0});
+    for (const double x : places) {
+      for (const double y : places) {
+        painter.Draw({1, kMost, u"A", {x, y}, legend});
+        const bool near = std::fabs(x) < 1e5 && std::fabs(y) < 1e5;
+        const bool reaches = size == kMost ? near : size == 1 && x == 0 && y == 0;
+        EXPECT_EQ(reaches ? 1 : 0,
+                  std::ranges::count_if(canvas_.Take(),
+                                        [](const auto& note) { return note.starts_with("mark"); }))
+            << size << ' ' << x << ' ' << y;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tavix::test
