@@ -189,6 +189,9 @@ TAVIX_CALL int Tavix_DelEntPnt(int key);
 // short dashes; prm1 dash, prm2 gap and prm3 short dash in pixels.
 // Width is the pen's in pixels, colour a COLORREF. The point calls take width and colour before the
 // three parameters, the line calls after them. None of these calls redraws.
+// Compatibility: an entity whose legend number has no entry looks like the entity before it in the
+// same drawing pass (points, lines or figures). The first of a pass draws nothing, but for a circle,
+// which is then black.
 
 // Adds a point legend and writes its number, from 201 up. Such entries are not saved. Returns 0.
 TAVIX_CALL int Tavix_AddPntHan(int kind, int width, int color, int prm1, int prm2, int prm3,
@@ -288,7 +291,8 @@ TAVIX_CALL int Tavix_FigStt(int figure, int legend);
 // A straight line. Returns 0.
 TAVIX_CALL int Tavix_FigMdlLin(double x1, double y1, double x2, double y2);
 
-// A circle; radius in metres. Returns 0.
+// A circle; radius in metres. It is drawn as a solid line, whatever the kind of its legend. Returns
+// 0.
 TAVIX_CALL int Tavix_FigMdlCir(double x, double y, double radius);
 
 // A polyline of `count` vertices; one of none is kept and draws nothing. Returns 0, or -1 when
@@ -301,8 +305,9 @@ TAVIX_CALL int Tavix_FigMdlArc(double startX, double startY, double endX, double
                                double radius);
 
 // A clothoid of parameter A between two radii, signed as for arcs, 0 for a straight end. Between
-// two radii the second must be the smaller, otherwise a straight line is drawn. Returns -1 when
-// there is no such curve.
+// two radii the second must be the smaller, otherwise a straight line is drawn. Returns -1 when a
+// number is not finite, or when the curve would have more than ten million points (one for each
+// degree of its tangent).
 TAVIX_CALL int Tavix_FigMdlClo(double startX, double startY, double endX, double endY,
                                double startRadius, double A, double endRadius);
 
@@ -354,7 +359,7 @@ TAVIX_CALL int Tavix_MvPntStt(int legend);
 // 0.
 TAVIX_CALL int Tavix_MvPntRub(double X, double Y);
 
-// Moves the mark. Returns 0.
+// Moves the mark. Without a start it is a circle of 10 pixels, black on white. Returns 0.
 TAVIX_CALL int Tavix_MvPntMov(double X, double Y);
 
 // Takes the mark and the line off. Returns 0.
@@ -393,8 +398,10 @@ TAVIX_CALL int Tavix_VoEnd(void);
 // Needs a linked window (-1 without); returns 0.
 TAVIX_CALL int Tavix_GrpStt(int height, int width);
 
-// Writes 1 when the pixel is ink, else 0; rows count from the top. Outside of the picture, and
-// without one, there is no ink. Returns 0; needs a linked window (-1 without).
+// Writes 1 when the pixel is ink, else 0; rows count from the top. While the paper frame's outline
+// shows, the two outermost rows and columns are ink, and so is any row above the picture and any
+// column left of it. Everything else outside of the picture, and everything without a picture, is
+// no ink; a column at or beyond the width never is. Returns 0; needs a linked window (-1 without).
 TAVIX_CALL int Tavix_GrpGet(int row, int column, int* ink);
 
 // Frees the picture. Returns 0; needs a linked window (-1 without).
