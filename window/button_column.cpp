@@ -1,15 +1,19 @@
 #include "window/button_column.h"
 
-#include "window/resource.h"
+#include <algorithm>
 
 namespace tavix {
 namespace {
 
 constexpr DWORD kButtonStyle = WS_CHILD | BS_OWNERDRAW;
 
-UINT FirstId(int k) { return IDC_SCROLL_UP + 4 * static_cast<UINT>(k); }
+const ButtonRow& RowOf(int k) { return kButtonTable[static_cast<std::size_t>(k)]; }
 
-int IndexOf(UINT id) { return static_cast<int>((id - IDC_SCROLL_UP) / 4); }
+int IndexOf(ButtonId id) {
+  const auto row = std::find_if(kButtonTable.begin(), kButtonTable.end(),
+                                [id](const ButtonRow& candidate) { return candidate.id == id; });
+  return static_cast<int>(row - kButtonTable.begin());
+}
 
 // Whether the button would be on the screen if its parents were.
 bool HasVisibleStyle(const CWnd& button) {
@@ -25,7 +29,7 @@ bool ButtonColumn::Create(CWnd& parent) {
   const int left = client.right - ButtonColumnLayout::kWidth;
   for (int k = 0; k < ButtonColumnLayout::kButtons; ++k) {
     CBitmapButton& button = Button(k);
-    const UINT id = FirstId(k);
+    const UINT id = RowOf(k).id;
     const int top = layout_.Top(k);
     const CRect place(left, top, client.right, top + ButtonColumnLayout::kWidth);
     if (!button.Create(L"", kButtonStyle, place, &parent, id) ||
@@ -72,20 +76,19 @@ void ButtonColumn::Arrange() {
   }
 }
 
-void ButtonColumn::SetPressed(UINT id, bool pressed) {
+void ButtonColumn::SetPressed(ButtonId id, bool pressed) {
   CBitmapButton& button = Button(IndexOf(id));
   if (!button.m_hWnd) return;
-  if (!pressed) {
-    button.LoadBitmaps(id, id + 1, id + 2, id + 3);
-  } else if (id == IDC_BAND_ZOOM) {
-    button.LoadBitmaps(id + 1, id, IDB_BAND_ZOOM_ON_FOCUSED, IDB_BAND_ZOOM_ON_DISABLED);
+  if (pressed) {
+    const UINT pressed_in = RowOf(IndexOf(id)).pressed_in;
+    button.LoadBitmaps(id + 1, id, pressed_in, pressed_in + 1);
   } else {
-    button.LoadBitmaps(id + 1, id, IDB_PAN_ON_FOCUSED, IDB_PAN_ON_DISABLED);
+    button.LoadBitmaps(id, id + 1, id + 2, id + 3);
   }
   button.Invalidate();
 }
 
-void ButtonColumn::DisableAllBut(UINT id) {
+void ButtonColumn::DisableAllBut(ButtonId id) {
   for (int k = 0; k < ButtonColumnLayout::kButtons; ++k) {
     if (k != IndexOf(id) && HasVisibleStyle(Button(k))) Button(k).EnableWindow(FALSE);
   }

@@ -13,8 +13,8 @@ namespace tavix {
 
 class ButtonColumn {
  public:
-  // Makes the eleven buttons, hidden, at the right edge of `parent`'s client area. False when one
-  // of them or a bitmap of it could not be made.
+  // Makes the buttons of the table, hidden, at the right edge of `parent`'s client area. False when
+  // one of them or a bitmap of it could not be made.
   bool Create(CWnd& parent);
 
   // Destroys the buttons' windows.
@@ -27,11 +27,11 @@ class ButtonColumn {
   bool ScrollUp();
   bool ScrollDown();
 
-  // Gives a toggle button (IDC_BAND_ZOOM or IDC_PAN) its pressed or its normal faces.
-  void SetPressed(UINT id, bool pressed);
+  // Gives a button that stays pressed in its pressed or its normal faces.
+  void SetPressed(ButtonId id, bool pressed);
 
   // Disables every button that shows but the one, or enables them all again.
-  void DisableAllBut(UINT id);
+  void DisableAllBut(ButtonId id);
   void EnableAll();
 
   // Whether button k is on the screen, and whether a button that is covers this client position.

@@ -7,7 +7,8 @@ namespace {
 
 constexpr int kHeight = 20;
 constexpr int kScrollHeight = 10;
-constexpr int kPlacesThatFitAll = 8;  // the ninth then has the room of the two scroll buttons
+// The last main button then has the room of the two scroll buttons.
+constexpr int kPlacesThatFitAll = ButtonColumnLayout::kLastMain - ButtonColumnLayout::kFirstMain;
 
 }  // namespace
 

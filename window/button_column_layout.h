@@ -1,19 +1,22 @@
 // Where the on-screen buttons stand and which of them show.
 #pragma once
 
+#include "window/button_table.h"
+
 namespace tavix {
 
-// A column of eleven buttons, 20 pixels wide, along the right edge of the client area. Buttons 1 to
-// 9 are the main ones, 20 pixels high; buttons 0 and 10, half as high, scroll the column where the
-// nine do not all fit the height. Positions are pixels from the top of the client area.
+// The column of the table's buttons, 20 pixels wide, along the right edge of the client area. The
+// main buttons are 20 pixels high; the first and the last, half as high, scroll the column where
+// the main ones do not all fit the height. Buttons are counted from 0, positions are pixels from
+// the top of the client area.
 class ButtonColumnLayout {
  public:
-  static constexpr int kButtons = 11;
+  static constexpr int kButtons = static_cast<int>(kButtonTable.size());
   static constexpr int kWidth = 20;
   static constexpr int kScrollUp = 0;
   static constexpr int kFirstMain = 1;
-  static constexpr int kLastMain = 9;
-  static constexpr int kScrollDown = 10;
+  static constexpr int kLastMain = kButtons - 2;
+  static constexpr int kScrollDown = kButtons - 1;
 
   // The layout for a client area of this height, the first main button at the top.
   explicit ButtonColumnLayout(int client_height);
@@ -23,7 +26,7 @@ class ButtonColumnLayout {
   // How many main buttons show between the scroll buttons; -1 below a height of 18.
   [[nodiscard]] int Places() const { return places_; }
 
-  // The topmost main button that shows, 1..9.
+  // The topmost main button that shows.
   [[nodiscard]] int FirstVisible() const { return first_visible_; }
 
   // The top edge of a button. Hidden main buttons stand where their visible neighbour does, so that

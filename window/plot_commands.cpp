@@ -4,7 +4,6 @@
 
 #include "window/plot_window.h"
 #include "window/refusal_beep.h"
-#include "window/resource.h"
 
 namespace tavix {
 namespace {
@@ -16,39 +15,19 @@ constexpr double kZoomFactor = 1.5;
 BOOL CPlotWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
   const UINT command = LOWORD(wParam);
   band_.Erase(*this);
-  if (command < IDC_SCROLL_UP || command > IDC_SCROLL_DOWN) return CWnd::OnCommand(wParam, lParam);
-  RunCommand(command);
-  return TRUE;
-}
-
-void CPlotWnd::RunCommand(UINT command) {
   switch (command) {
-    case IDC_SCROLL_UP:
-      return ScrollButtons(true);
-    case IDC_BAND_ZOOM:
-      return ToggleBandZoom();
-    case IDC_ZOOM_IN:
-      return ZoomByButton(true);
-    case IDC_ZOOM_OUT:
-      return ZoomByButton(false);
-    case IDC_WHOLE:
-      return ShowWhole();
-    case IDC_PAN:
-      return TogglePan();
-    case IDC_REFRESH:
-      ViewChanged();
-      return;
-    case IDC_SETTINGS:
-      return EditSettings();
-    case IDC_ROTATE:
-      return RotateBy(RotationStep());
-    case IDC_ROTATE_BACK:
-      return RotateBy(-RotationStep());
-    case IDC_SCROLL_DOWN:
-      return ScrollButtons(false);
+#define TAVIX_BUTTON_COMMAND(id, name, pressed_in) \
+  case id:                                         \
+    On##name();                                    \
+    return TRUE;
+    TAVIX_BUTTONS(TAVIX_BUTTON_COMMAND)
+#undef TAVIX_BUTTON_COMMAND
     default:
-      return;
+      break;
   }
+  // Compatibility: the ids between the buttons are taken and do nothing.
+  if (kScrollUpButton < command && command < kScrollDownButton) return TRUE;
+  return CWnd::OnCommand(wParam, lParam);
 }
 
 // In whole degrees. Whatever the file has carried, its negative is a number too.
@@ -56,59 +35,73 @@ int CPlotWnd::RotationStep() const {
   return std::max(links_.legend->Table().RotationStep(), -std::numeric_limits<int>::max());
 }
 
-void CPlotWnd::ScrollButtons(bool up) {
-  if (!(up ? buttons_.ScrollUp() : buttons_.ScrollDown())) BeepOnRefusal();
+void CPlotWnd::OnScrollUp() {
+  if (!buttons_.ScrollUp()) BeepOnRefusal();
 }
 
-void CPlotWnd::ToggleBandZoom() {
+void CPlotWnd::OnScrollDown() {
+  if (!buttons_.ScrollDown()) BeepOnRefusal();
+}
+
+void CPlotWnd::OnBandZoom() {
   if (band_zoom_.IsOn()) return EndBandZoom();
   EndPan();
   band_zoom_.TurnOn();
-  buttons_.SetPressed(IDC_BAND_ZOOM, true);
-  buttons_.DisableAllBut(IDC_BAND_ZOOM);
+  buttons_.SetPressed(kBandZoomButton, true);
+  buttons_.DisableAllBut(kBandZoomButton);
 }
 
 void CPlotWnd::EndBandZoom() {
   if (!band_zoom_.IsOn()) return;
   band_zoom_.TurnOff();
-  buttons_.SetPressed(IDC_BAND_ZOOM, false);
+  buttons_.SetPressed(kBandZoomButton, false);
   buttons_.EnableAll();
 }
 
-void CPlotWnd::TogglePan() {
+void CPlotWnd::OnPan() {
   if (pan_mode_) return EndPan();
   EndBandZoom();  // only one of the two modes is on at a time
   pan_mode_ = true;
-  buttons_.SetPressed(IDC_PAN, true);
+  buttons_.SetPressed(kPanButton, true);
 }
 
 void CPlotWnd::EndPan() {
   if (!pan_mode_) return;
   pan_mode_ = false;
-  buttons_.SetPressed(IDC_PAN, false);
+  buttons_.SetPressed(kPanButton, false);
 }
 
-void CPlotWnd::ZoomByButton(bool in) {
-  if (in) {
-    BeepIfCut(links_.view->ZoomIn(kZoomFactor));
-  } else {
-    links_.view->ZoomOut(kZoomFactor);
-  }
+void CPlotWnd::OnZoomIn() {
+  BeepIfCut(links_.view->ZoomIn(kZoomFactor));
+  ZoomedByButton();
+}
+
+void CPlotWnd::OnZoomOut() {
+  links_.view->ZoomOut(kZoomFactor);
+  ZoomedByButton();
+}
+
+void CPlotWnd::ZoomedByButton() {
   frame_.MarkScaleStale();
   ViewChanged();
 }
 
 // Fits to data that have changed since the last fit; with none that have, the whole view and the
 // view before it take turns.
-void CPlotWnd::ShowWhole() {
+void CPlotWnd::OnWholeView() {
   if (TakeStale()) {
     FitView();
   } else {
     links_.view->ToggleHome();
   }
-  frame_.MarkScaleStale();
-  ViewChanged();
+  ZoomedByButton();
 }
+
+void CPlotWnd::OnRefresh() { ViewChanged(); }
+
+void CPlotWnd::OnRotate() { RotateBy(RotationStep()); }
+
+void CPlotWnd::OnRotateBack() { RotateBy(-RotationStep()); }
 
 // A turned view has another extent: the whole view is to be fitted anew.
 void CPlotWnd::RotateBy(int degrees) {

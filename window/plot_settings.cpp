@@ -4,7 +4,7 @@
 
 namespace tavix {
 
-void CPlotWnd::EditSettings() {
+void CPlotWnd::OnSettings() {
   LegendTable& legend = links_.legend->Table();
   PlotSettings settings{draws_lines_, legend.RotationStep(), ratio_};
   EnableWindow(FALSE);

@@ -17,6 +17,7 @@
 #include "window/back_buffer.h"
 #include "window/band_zoom.h"
 #include "window/button_column.h"
+#include "window/button_table.h"
 #include "window/coordinate_capture.h"
 #include "window/move_point.h"
 #include "window/rubber_band.h"
@@ -145,19 +146,16 @@ class CPlotWnd : public CWnd {
 
   // ---- Buttons (plot_commands.cpp) and keys (plot_keys.cpp)
 
-  void RunCommand(UINT command);
-  void ScrollButtons(bool up);
-  void ToggleBandZoom();
-  void TogglePan();
+#define TAVIX_BUTTON_HANDLER(id, name, pressed_in) void On##name();
+  TAVIX_BUTTONS(TAVIX_BUTTON_HANDLER)
+#undef TAVIX_BUTTON_HANDLER
   void EndBandZoom();
   void EndPan();
-  void ZoomByButton(bool in);
-  void ShowWhole();
+  void ZoomedByButton();
   void RotateBy(int degrees);
   [[nodiscard]] int RotationStep() const;
   void PanByKey(WPARAM key);
   void TurnByKey(WPARAM key);
-  void EditSettings();
 
   // The refit flags of the stores that are shown: set, or read and cleared.
   void MarkStale();

@@ -190,8 +190,8 @@ TAVIX_CALL int Tavix_DelEntPnt(int key);
 // Width is the pen's in pixels, colour a COLORREF. The point calls take width and colour before the
 // three parameters, the line calls after them. None of these calls redraws.
 // Compatibility: an entity whose legend number has no entry looks like the entity before it in the
-// same drawing pass (points, lines or figures). The first of a pass draws nothing, but for a circle,
-// which is then black.
+// same drawing pass (points, lines or figures). The first of a pass draws nothing, but for a
+// circle, which is then black.
 
 // Adds a point legend and writes its number, from 201 up. Such entries are not saved. Returns 0.
 TAVIX_CALL int Tavix_AddPntHan(int kind, int width, int color, int prm1, int prm2, int prm3,

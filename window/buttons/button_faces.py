@@ -9,7 +9,6 @@ FACE, LIGHT, SHADE, DARK = "f", "w", "d", "k"
 
 # The order of the four bitmap ids each button has.
 STATES = ("normal", "pressed", "focused", "disabled")
-FIRST_ID = 401
 
 
 def _edge(width, height, sunken):
@@ -86,16 +85,15 @@ def faces(buttons):
             raise SourceError(f"two pictures with the id {identifier}")
         result[identifier] = (name, face)
 
-    for index, button in enumerate(buttons):
+    for button in buttons:
         drawn = (
             _compose(button, sunken=False),
             _compose(button, sunken=True),
             _compose(button, sunken=False, focused=True),
             _compose(button, sunken=False, disabled=True),
         )
-        first = FIRST_ID + len(STATES) * index
         for offset, (state, face) in enumerate(zip(STATES, drawn)):
-            add(first + offset, f"{button.name}_{state}", face)
+            add(button.identifier + offset, f"{button.name}_{state}", face)
         if button.pressed_in_ids:
             focused, disabled = button.pressed_in_ids
             name = f"{button.name}_in"

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the pictures of the plot window's button column from buttons.txt.
+"""Makes the pictures of the plot window's button column from buttons.txt and ../button_table.h.
 
     window/buttons/make_buttons.py FOLDER          writes the BMP files and buttons.rc into FOLDER
     window/buttons/make_buttons.py --sheet X.png   writes one enlarged picture of all of them
@@ -32,8 +32,8 @@ def write_resources(folder, pictures, palette):
 def write_sheet(path, buttons, pictures, palette, scale):
     states = len(button_faces.STATES)
     columns = []
-    for index, button in enumerate(buttons):
-        first = button_faces.FIRST_ID + states * index
+    for button in buttons:
+        first = button.identifier
         identifiers = (*range(first, first + states), *button.pressed_in_ids)
         columns.append([pictures[identifier][1] for identifier in identifiers])
     path.write_bytes(picture_files.png_bytes(picture_files.sheet(columns, palette, scale)))
@@ -48,7 +48,8 @@ def main():
     if not arguments.folder and not arguments.sheet:
         parser.error("say a folder, or --sheet")
 
-    source = picture_source.read(Path(__file__).with_name("buttons.txt"))
+    folder = Path(__file__).resolve().parent
+    source = picture_source.read(folder / "buttons.txt", folder.parent / "button_table.h")
     pictures = button_faces.faces(source.buttons)
     if arguments.folder:
         write_resources(arguments.folder, pictures, source.palette)

@@ -1,5 +1,6 @@
-"""Reads buttons.txt: the palette, the glyphs, and the buttons in the order of the column."""
+"""Reads buttons.txt, the palette and the glyphs, and the table of buttons in the order of the column."""
 
+import re
 from dataclasses import dataclass
 
 TRANSPARENT = "."
@@ -11,11 +12,12 @@ class SourceError(Exception):
 
 @dataclass(frozen=True)
 class Button:
+    identifier: int  # the first of its bitmaps
     name: str
     width: int
     height: int
     layers: tuple  # glyphs as lists of rows, the lowest first
-    pressed_in_ids: tuple = ()  # (focused, disabled) of a button that stays pressed in
+    pressed_in_ids: tuple  # (focused, disabled) of a button that stays pressed in, else empty
 
 
 @dataclass(frozen=True)
@@ -62,9 +64,18 @@ def _blocks(text):
     return blocks
 
 
-def read(path):
-    """The picture source at `path`; raises SourceError on a statement that cannot be meant."""
-    palette, glyphs, buttons, toggles = {}, {}, [], {}
+def _table(path):
+    """(id, name in small letters, ids of the pressed-in faces) of every row of the table."""
+    rows = re.findall(r"BUTTON\((\d+), (\w+), (\d+)\)", path.read_text(encoding="utf-8"))
+    for identifier, name, pressed_in in rows:
+        small = re.sub(r"(?<=[a-z])(?=[A-Z])", "_", name).lower()
+        first = int(pressed_in)
+        yield int(identifier), small, (first, first + 1) if first else ()
+
+
+def read(path, table):
+    """The pictures at `path` of the buttons in `table`; raises SourceError where they disagree."""
+    palette, glyphs, drawn = {}, {}, {}
     for words, rows in _blocks(path.read_text(encoding="utf-8")):
         match words:
             case ["colour", character, *channels] if len(channels) == 3:
@@ -74,15 +85,14 @@ def read(path):
                 glyphs[name] = rows
             case ["button", name, size, *layers] if layers:
                 width, height = (int(side) for side in size.split("x"))
-                drawn = tuple(_layer(word, glyphs) for word in layers)
-                buttons.append((name, width, height, drawn))
-            case ["toggle", name, focused, disabled]:
-                toggles[name] = (int(focused), int(disabled))
+                drawn[name] = (width, height, tuple(_layer(word, glyphs) for word in layers))
             case _:
                 raise SourceError(f"cannot read: {' '.join(words)}")
     if len(palette) > 16:
         raise SourceError("a 4-bit picture has sixteen colours at most")
-    lost = set(toggles) - {button[0] for button in buttons}
-    if lost:
-        raise SourceError(f"toggle without a button: {' '.join(sorted(lost))}")
-    return Source(palette, tuple(Button(*button, toggles.get(button[0], ())) for button in buttons))
+    rows = list(_table(table))
+    disagreeing = {name for _, name, _ in rows} ^ set(drawn)
+    if disagreeing:
+        names = " ".join(sorted(disagreeing))
+        raise SourceError(f"in the table or in the pictures, but not in both: {names}")
+    return Source(palette, tuple(Button(first, name, *drawn[name], ids) for first, name, ids in rows))
