@@ -112,6 +112,16 @@ int CPlotWnd::FitSideView() {
   return 0;
 }
 
+int CPlotWnd::ZoomToBox(GroundPoint south_west, GroundPoint north_east) {
+  const auto [x1, y1] = south_west;
+  const auto [x2, y2] = north_east;
+  return ZoomTo({y2 - y1, x2 - x1}, {(x1 + x2) * 0.5, (y1 + y2) * 0.5});
+}
+
+int CPlotWnd::ZoomToCircle(GroundPoint centre, double radius) {
+  return ZoomTo({radius * 2.0, radius * 2.0}, centre);
+}
+
 int CPlotWnd::ZoomTo(GroundSize size, GroundPoint centre) {
   BeepIfCut(links_.view->ZoomToArea(size, centre));
   return ViewChanged();
@@ -150,6 +160,23 @@ void CPlotWnd::DrawSide() {
   DrawSideView(buffer_.Dc(),
                {*links_.view, links_.legend->Table(), *links_.points3, buffer_.Rect().Size(),
                 height_base_, label_font_, grey_brush_, grey_pen_});
+}
+
+void CPlotWnd::TurnFrameOn(int height_per_inch, int height_units, int width_per_inch,
+                           int width_units) {
+  frame_.TurnOn(*links_.view, height_per_inch, height_units, width_per_inch, width_units);
+}
+
+bool CPlotWnd::SetFrameScale(int n) {
+  if (!frame_.IsOn() || n < 1) return false;
+  BeepIfCut(frame_.SetScale(*links_.view, n));
+  return true;
+}
+
+bool CPlotWnd::SetFrameOrigin(GroundPoint origin) {
+  if (!frame_.IsOn()) return false;
+  frame_.SetOrigin(*links_.view, origin);
+  return true;
 }
 
 int CPlotWnd::ViewChanged() {
