@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -24,10 +25,13 @@ struct Figure {
 
 // Figures live in two files in the root folder of the device, "\FIG<instance>.DAT" (index) and
 // "\FIG<instance>.XY" (coordinates), and nowhere else: nothing is kept in memory that could differ
-// from them. Arcs and clothoids are stored as polylines. Errors of writing are not reported.
+// from them. Arcs and clothoids are stored as polylines. Errors of writing are not reported: a
+// figure for which there is no room is not kept, and the files are as they were before it.
 class CFigList {
  public:
   explicit CFigList(int instance);
+  // With files of another kind, closed as yet: index and coordinates.
+  CFigList(int instance, std::unique_ptr<CFile> index, std::unique_ptr<CFile> coordinates);
 
   // Makes both files anew and empty. 0, or -1 when one of them cannot be made.
   int Open();
@@ -71,9 +75,9 @@ class CFigList {
  private:
   void Append(std::int32_t point_count, bool is_circle, std::span<const GroundPoint> points);
 
-  // Read through a window even by const calls: the file's place is no state of ours.
-  mutable CFile index_;
-  mutable CFile coordinates_;
+  // Never null. Read through a window even by const calls: a file's place is no state of ours.
+  std::unique_ptr<CFile> index_;
+  std::unique_ptr<CFile> coordinates_;
   FigureRecord pending_;
   bool changed_ = false;
   int instance_;
