@@ -9,14 +9,9 @@
 namespace tavix {
 namespace {
 
-// Others may look at the files while they are open.
-constexpr UINT kOpenFlags = CFile::modeCreate | CFile::modeReadWrite | CFile::shareDenyNone;
-
-CString PathOf(LPCWSTR format, int instance) {
-  CString path;
-  path.Format(format, instance);
-  return path;
-}
+// Locked by the instance that has the file: a byte far behind the end of any. Everybody else may
+// read and write all that is in it.
+constexpr std::uint64_t kOwnersByte = std::uint64_t{1} << 62;
 
 // Runs a step on the files. False when it failed, of which hosts are not told.
 template <class Step>
@@ -28,6 +23,21 @@ bool Quietly(Step step) {
     error->Delete();
     return false;
   }
+}
+
+// Opens a file and empties it. One that an instance of another process has is left as it is.
+bool OpenEmpty(CFile& file, LPCWSTR name_format, int instance) {
+  constexpr UINT kKeepContents = CFile::modeCreate | CFile::modeNoTruncate;
+  constexpr UINT kForThisProcessOnly = CFile::modeReadWrite | CFile::modeNoInherit;
+  CString path;
+  path.Format(name_format, instance);
+  if (!file.Open(path, kKeepContents | kForThisProcessOnly | CFile::shareDenyNone)) return false;
+  const bool own = Quietly([&] {
+    file.LockRange(kOwnersByte, 1);
+    file.SetLength(0);
+  });
+  if (!own) file.Abort();
+  return own;
 }
 
 void CloseAndDelete(CFile& file) {
@@ -99,9 +109,12 @@ CFigList::CFigList(int instance, std::unique_ptr<CFile> index, std::unique_ptr<C
 
 int CFigList::Open() {
   changed_ = false;
-  const bool opened = index_->Open(PathOf(L"\\FIG%d.DAT", instance_), kOpenFlags) &&
-                      coordinates_->Open(PathOf(L"\\FIG%d.XY", instance_), kOpenFlags);
-  return opened ? 0 : -1;
+  if (OpenEmpty(*index_, L"\\FIG%d.DAT", instance_) &&
+      OpenEmpty(*coordinates_, L"\\FIG%d.XY", instance_)) {
+    return 0;
+  }
+  Close();
+  return -1;
 }
 
 int CFigList::Close() {
@@ -115,6 +128,8 @@ int CFigList::Clear() {
   pending_ = {};
   return Open();
 }
+
+bool CFigList::IsOpen() const { return index_->m_hFile != CFile::hFileNull; }
 
 void CFigList::SetPending(std::int32_t number, std::int32_t legend) {
   pending_.number = number;

@@ -12,12 +12,15 @@
 using tavix::CFigList;
 using tavix::GroundPoint;
 using tavix::Slots;
-using tavix::TavixSlot;
 
 namespace {
 
-// The current instance's figures, or null.
-CFigList* Figures() { return Slots().Current().figures.get(); }
+// The current instance's figures; null when there can be none, without an instance or without the
+// files in which figures live.
+CFigList* Figures() {
+  CFigList* figures = Slots().Current().figures.get();
+  return figures && figures->IsOpen() ? figures : nullptr;
+}
 
 }  // namespace
 
@@ -65,16 +68,16 @@ int Tavix_FigMdlClo(double startX, double startY, double endX, double endY, doub
 }
 
 int Tavix_FigEnd() {
-  TavixSlot& slot = Slots().Current();
-  if (!slot.figures) return -1;
-  slot.figures->SetChanged(true);
-  tavix::RedrawAfterChange(slot, 0);
+  CFigList* figures = Figures();
+  if (!figures) return -1;
+  figures->SetChanged(true);
+  tavix::RedrawAfterChange(Slots().Current(), 0);
   return 0;
 }
 
 int Tavix_DelFig(int figure) {
-  TavixSlot& slot = Slots().Current();
-  if (!slot.figures || slot.figures->Delete(figure) != 0) return -1;
-  tavix::RedrawAfterChange(slot, 0);
+  CFigList* figures = Figures();
+  if (!figures || figures->Delete(figure) != 0) return -1;
+  tavix::RedrawAfterChange(Slots().Current(), 0);
   return 0;
 }
