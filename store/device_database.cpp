@@ -24,10 +24,10 @@ bool DeviceDatabase::Close() {
   return true;
 }
 
-bool DeviceDatabase::Recreate() {
+void DeviceDatabase::Recreate() {
   DeleteFromDevice();
-  return database_.Create(name_, ident_, static_cast<WORD>(sort_properties_.size()),
-                          sort_properties_.data()) != 0;
+  database_.Create(name_, ident_, static_cast<WORD>(sort_properties_.size()),
+                   sort_properties_.data());
 }
 
 bool DeviceDatabase::DeleteCurrent() {

@@ -26,8 +26,9 @@ class DeviceDatabase {
   // False when it could not be closed.
   bool Close();
 
-  // Deletes it with all records and makes it anew, closed.
-  bool Recreate();
+  // Deletes it with all records and makes it anew, closed. One that cannot be deleted is left as it
+  // is: a second one of its name cannot be made.
+  void Recreate();
 
   // Deletes the current record.
   bool DeleteCurrent();

@@ -126,11 +126,11 @@ int CLinDb::Next() {
 
 int CLinDb::Clear() {
   state_ = State::kClosed;
-  if (!database_.Recreate()) return -1;
+  database_.Recreate();
   next_id_ = 1;
-  if (!Reopen(State::kOpenBySmallerKey)) return -1;
+  const bool opened = Reopen(State::kOpenBySmallerKey);
   changed_ = false;
-  return 0;
+  return opened ? 0 : -1;
 }
 
 }  // namespace tavix

@@ -74,7 +74,8 @@ int CMemDb::Remove(std::int32_t key) {
 
 int CMemDb::Clear() {
   state_ = State::kClosed;
-  if (database_.Recreate() && database_.Open(nullptr)) state_ = State::kOpen;
+  database_.Recreate();
+  Open();
   return static_cast<int>(state_);
 }
 
