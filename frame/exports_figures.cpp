@@ -17,8 +17,8 @@ using tavix::OnInstance;
 
 namespace {
 
-// Has `call` answer for the current instance's figures, and refuses where there can be none: without
-// an instance, or without the files in which figures live.
+// Has `call` answer for the current instance's figures, and refuses where there can be none:
+// without an instance, or without the files in which figures live.
 template <class Call>
 int OnFigures(Call call) {
   return OnInstance([&](Instance& instance) {

@@ -30,8 +30,9 @@ int Tavix_ChgPntNoNam(int key, int number, CString name) {
 }
 
 int Tavix_ChgPntCrd(int key, double x, double y) {
-  return OnInstance(
-      [=](Instance& instance) { return instance.ChangePointPosition({key, 0, {}, {x, y}, 0}); });
+  return OnInstance([=](Instance& instance) {
+    return instance.ChangePointPosition({key, 0, {}, {x, y}, 0});
+  });
 }
 
 int Tavix_GetPntNoNam(int key, int* number, CString* name) {
@@ -73,6 +74,7 @@ int Tavix_EntPntMem(int key, CString memo) {
 int Tavix_GetPntMem(int key, CString* memo) {
   if (!tavix::CanWrite(memo)) return kRefused;
   memo->Empty();
+  // Why there is none is not said.
   OnInstance([=](Instance& instance) { return instance.Memos().Read(key, memo); });
   return 0;
 }

@@ -46,8 +46,8 @@ int Instance::Clear() {
 int Instance::LinkWindow(unsigned notify_id, const std::function<bool(CPlotWnd&)>& create) {
   if (window_) window_->DestroyWindow();
   window_ = std::make_unique<CPlotWnd>(notify_id);
-  window_->Link({&parts_->view, &parts_->points, &parts_->points3, &parts_->lines,
-                 &parts_->figures, &parts_->legend});
+  window_->Link({&parts_->view, &parts_->points, &parts_->points3, &parts_->lines, &parts_->figures,
+                 &parts_->legend});
   const bool created = create(*window_);
   // Compatibility: the button flag is applied to a window that could not be made, too.
   window_->ApplyButtonFlag(show_buttons_);

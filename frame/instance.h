@@ -101,8 +101,8 @@ class Instance {
   // could not be added.
   int EnterLine(LineKeys keys);
 
-  // End a figure, or delete every piece of a figure number, and redraw with auto-redraw on. 0, or -1
-  // where there can be no figures or, to delete, where there is none of any number.
+  // End a figure, or delete every piece of a figure number, and redraw with auto-redraw on. 0, or
+  // -1 where there can be no figures or, to delete, where there is none of any number.
   int EndFigure();
   int DeleteFigure(std::int32_t number);
 

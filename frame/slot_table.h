@@ -59,9 +59,8 @@ int OnInstance(Call call) {
 // The same for the current instance's window, which has to be linked.
 template <class Call>
 int OnWindow(Call call) {
-  return OnInstance([&](Instance& instance) {
-    return instance.Window() ? call(*instance.Window()) : kRefused;
-  });
+  return OnInstance(
+      [&](Instance& instance) { return instance.Window() ? call(*instance.Window()) : kRefused; });
 }
 
 }  // namespace tavix

@@ -30,14 +30,15 @@ class DeviceDatabase {
   // is: a second one of its name cannot be made.
   void Recreate();
 
+  // Deletes it from the device, as its destructor does.
+  void Discard();
+
   // Deletes the current record.
   bool DeleteCurrent();
 
   [[nodiscard]] CCeDBDatabase& Records() { return database_; }
 
  private:
-  void DeleteFromDevice();
-
   CString name_;  // the base name and the instance
   DWORD ident_;
   std::span<CCeDBProp> sort_properties_;

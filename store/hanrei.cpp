@@ -25,7 +25,7 @@ CHanrei::CHanrei() {
   }
 }
 
-CHanrei::~CHanrei() {
+void CHanrei::Save() const {
   const std::string bytes = EncodeLegend(table_);
   if (bytes != unread_) SharedFile().Save(bytes);
 }

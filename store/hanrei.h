@@ -7,8 +7,8 @@
 
 namespace tavix {
 
-// Loads the legend from "\HANREI.DAT" in the host's current data folder when it is made, and saves
-// it there when it is destroyed. A missing or bad file gives the built-in legend; a bad one is
+// Loads the legend from "\HANREI.DAT" in the host's current data folder when it is made; its owner
+// has it saved there at the end. A missing or bad file gives the built-in legend; a bad one is
 // deleted. So does a file that cannot be read now, as when another program holds it; that one is
 // left alone, and saved over only when the legend has been changed since. Nothing is reported.
 //
@@ -17,9 +17,8 @@ namespace tavix {
 class CHanrei {
  public:
   CHanrei();
-  ~CHanrei();
-  CHanrei(const CHanrei&) = delete;
-  CHanrei& operator=(const CHanrei&) = delete;
+
+  void Save() const;
 
   [[nodiscard]] LegendTable& Table() { return table_; }
   [[nodiscard]] const LegendTable& Table() const { return table_; }

@@ -35,6 +35,11 @@ int CLinDb::Close() {
   return was_open && database_.Close() ? 0 : -1;
 }
 
+void CLinDb::Discard() {
+  Close();
+  database_.Discard();
+}
+
 bool CLinDb::Reopen(State state) {
   if (state_ == state) return true;
   if (state_ == State::kClosed) {

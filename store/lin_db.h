@@ -33,6 +33,9 @@ class CLinDb {
   // 0, or -1 when it is closed already or cannot be closed.
   int Close();
 
+  // Closes it and deletes it from the device. Nothing may be asked of the store any more.
+  void Discard();
+
   // Makes the line between two keys, in either order, current. -1 there is none, -2 the database
   // cannot be opened, -3 it has no records, -4 no first record, -5 a record cannot be read, -6 and
   // -7 its smaller or larger key is missing.
