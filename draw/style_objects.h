@@ -9,11 +9,14 @@ namespace tavix {
 
 // Makes the pen, brush and font of a style and selects them into the device context. The destructor
 // puts back what was selected before. Entities of one legend in a row, as they mostly come, share
-// them.
+// them; a font, the dearest of the three, stays until another text height is asked for.
 class StyleObjects {
  public:
   explicit StyleObjects(CDC& dc) : dc_(dc) {}
-  ~StyleObjects() { Drop(); }
+  ~StyleObjects() {
+    DropPenAndBrush();
+    DropFont();
+  }
   StyleObjects(const StyleObjects&) = delete;
   StyleObjects& operator=(const StyleObjects&) = delete;
 
@@ -25,12 +28,15 @@ class StyleObjects {
 
  private:
   void SelectPen(const LegendStyle& style);
-  void Drop();
+  void SelectFont(int height);
+  void DropPenAndBrush();
+  void DropFont();
 
   CDC& dc_;
   CPen pen_;
   CBrush brush_;
   CFont font_;
+  int font_height_ = 0;  // pixels; 0 while there is none
   CPen* old_pen_ = nullptr;
   CBrush* old_brush_ = nullptr;
   CFont* old_font_ = nullptr;

@@ -30,11 +30,8 @@ END_MESSAGE_MAP()
 
 CPlotWnd::CPlotWnd(UINT notify_id) : notify_id_(notify_id) {
   constexpr int kLabelHeight = 10;  // pixels
-  constexpr COLORREF kGrey = RGB(128, 128, 128);
   const LOGFONTW font = LabelFont(kLabelHeight);
   label_font_.CreateFontIndirect(&font);
-  grey_brush_.CreateSolidBrush(kGrey);
-  grey_pen_.CreatePen(PS_SOLID, 1, kGrey);
 }
 
 CPlotWnd::~CPlotWnd() { CPlotWnd::DestroyWindow(); }
@@ -125,31 +122,30 @@ int CPlotWnd::PanTo(GroundPoint centre) {
 int CPlotWnd::Redraw() {
   if (!m_hWnd) return 0;
   buffer_.Fill();
+  if (buffer_.Pixels().pixels) {
+    BitsCanvas canvas(buffer_.Dc(), buffer_.Pixels(), learnt_);
+    DrawEntities(canvas);
+  } else {
+    PlainCanvas canvas(buffer_.Dc());
+    DrawEntities(canvas);
+  }
   if (display_3d_) {
-    DrawSide();
     traced_.ForgetSegments();
   } else {
-    DrawPlan();
     traced_.Redraw(buffer_.Dc(), *links_.view);
   }
   InvalidateRect(&buffer_.Rect(), TRUE);
   return 0;
 }
 
-void CPlotWnd::DrawPlan() {
-  if (buffer_.Pixels().pixels) {
-    BitsCanvas canvas(buffer_.Dc(), buffer_.Pixels(), learnt_);
+void CPlotWnd::DrawEntities(PlanCanvas& canvas) {
+  if (!display_3d_) {
     DrawPlanView(canvas, Data());
-  } else {
-    PlainCanvas canvas(buffer_.Dc());
-    DrawPlanView(canvas, Data());
+    return;
   }
-}
-
-void CPlotWnd::DrawSide() {
-  DrawSideView(buffer_.Dc(),
-               {*links_.view, links_.legend->Table(), *links_.points3, buffer_.Rect().Size(),
-                height_base_, label_font_, grey_brush_, grey_pen_});
+  const CRect& buffer = buffer_.Rect();
+  DrawSideView(canvas, {*links_.view, links_.legend->Table(), *links_.points3, buffer.Width(),
+                        buffer.Height(), height_base_});
 }
 
 int CPlotWnd::ViewChanged() {

@@ -168,8 +168,7 @@ class CPlotWnd : public CWnd {
   [[nodiscard]] PlotData Data() const;
   [[nodiscard]] TracedLine::Surfaces Surfaces() { return {*this, buffer_.Dc()}; }
   int FitSideView();
-  void DrawPlan();
-  void DrawSide();
+  void DrawEntities(PlanCanvas& canvas);
   void DrawOverlays(CDC& paint);
   void FlipOverlays();
 
@@ -197,8 +196,6 @@ class CPlotWnd : public CWnd {
   TracedLine traced_;
   GroupPicture group_;
   CFont label_font_;
-  CBrush grey_brush_;
-  CPen grey_pen_;
 };
 
 }  // namespace tavix

@@ -24,7 +24,7 @@ bool IsNear(ScreenPoint at) {
 }  // namespace
 
 BitsCanvas::BitsCanvas(CDC& dc, const PixelBlock& block, LearntDrawing& learnt)
-    : plain_(dc), block_(block), learnt_(learnt) {
+    : plain_(dc), block_(block), learnt_(learnt), text_color_(dc.GetTextColor()) {
   learnt_.FollowSettings();
 }
 
@@ -50,7 +50,18 @@ void BitsCanvas::UsePointStyle(const LegendStyle& style) {
   style_ = style;
   pending_ = Pending::kPointStyle;
   mark_ = style.prm1 > 0 ? learnt_.Mark(style) : nullptr;
-  labels_ = style.prm2 > 0 ? learnt_.Labels(style.prm2) : nullptr;
+  LookUpLabels();
+}
+
+void BitsCanvas::UseTextColor(std::uint32_t color) {
+  if (color == text_color_) return;
+  text_color_ = color;
+  plain_.UseTextColor(color);
+  LookUpLabels();
+}
+
+void BitsCanvas::LookUpLabels() {
+  labels_ = style_.prm2 > 0 ? learnt_.Labels(style_.prm2, text_color_) : nullptr;
 }
 
 void BitsCanvas::Mark(ScreenPoint at) {

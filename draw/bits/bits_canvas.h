@@ -26,11 +26,14 @@ class BitsCanvas : public PlanCanvas {
   void Circle(ScreenPoint centre, int radius) override;
   void UsePointStyle(const LegendStyle& style) override;
   void Mark(ScreenPoint at) override;
+  void UseTextColor(std::uint32_t color) override;
   void Label(ScreenPoint at, NameView text) override;
 
  private:
   // Which objects the plain canvas still has to make before it is drawn on.
   enum class Pending { kNothing, kLineStyle, kPointStyle };
+
+  void LookUpLabels();
 
   // The plain canvas with the style in use, and the bits with all that has been drawn on it.
   [[nodiscard]] PlanCanvas& Plain();
@@ -48,6 +51,7 @@ class BitsCanvas : public PlanCanvas {
   const Stamp* mark_ = nullptr;
   LabelGlyphs* labels_ = nullptr;
   std::uint32_t line_color_ = 0;
+  std::uint32_t text_color_;
 };
 
 }  // namespace tavix

@@ -35,8 +35,8 @@ bool LabelGlyphs::Seek(NameView text) {
   };
   if (std::any_of(text.begin(), text.end(), none)) return false;
 
-  LabelSample single(height_, 1);
-  LabelSample whole(height_, static_cast<int>(text.size()));
+  LabelSample single(height_, 1, color_);
+  LabelSample whole(height_, static_cast<int>(text.size()), color_);
   if (!single.IsMade() || !whole.IsMade()) return false;
   std::u16string readable;  // the others stay with the system
   for (const char16_t character : text) {

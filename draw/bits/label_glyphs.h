@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <optional>
 
 #include "draw/bits/glyph.h"
@@ -17,8 +18,10 @@ class LabelSample;
 // drawn both ways and compared: when they differ, all labels of the font are left to the system.
 class LabelGlyphs {
  public:
-  // A font of `height` pixels. `blend` is shared with other fonts and outlives this.
-  LabelGlyphs(int height, SmoothBlend& blend) : height_(height), blend_(blend) {}
+  // A font of `height` pixels in a colour. `blend` is that colour's, is shared with other fonts and
+  // outlives this.
+  LabelGlyphs(int height, std::uint32_t color, SmoothBlend& blend)
+      : height_(height), color_(color), blend_(blend) {}
   LabelGlyphs(const LabelGlyphs&) = delete;
   LabelGlyphs& operator=(const LabelGlyphs&) = delete;
 
@@ -28,6 +31,7 @@ class LabelGlyphs {
   [[nodiscard]] bool Draw(const PixelBlock& block, ScreenPoint at, NameView text);
 
   [[nodiscard]] int Height() const { return height_; }
+  [[nodiscard]] std::uint32_t Color() const { return color_; }
 
  private:
   static constexpr char16_t kFirst = u' ';
@@ -54,6 +58,7 @@ class LabelGlyphs {
   }
 
   int height_;
+  std::uint32_t color_;
   SmoothBlend& blend_;
   bool refused_ = false;
   std::array<Entry, kLast - kFirst + 1> entries_;

@@ -28,13 +28,14 @@ std::vector<Glyph::Pixel> UnknownLevels(const Glyph& glyph, const SmoothBlend& b
 
 }  // namespace
 
-LabelSample::LabelSample(int height, int length)
+LabelSample::LabelSample(int height, int length, std::uint32_t color)
     : widest_(height * 2),
       inside_{height, height},
       right_(height * 2 + widest_ * length),
       sample_(right_, height * 3),
       plain_(sample_.Dc()) {
   plain_.UsePointStyle(LabelStyle(height));
+  plain_.UseTextColor(color);
 }
 
 std::optional<Glyph> LabelSample::ReadGlyph(char16_t character) {

@@ -11,10 +11,11 @@
 
 namespace tavix {
 
-// A picture with room for labels of up to `length` characters of a font of `height` pixels.
+// A picture with room for labels of up to `length` characters of a font of `height` pixels, drawn
+// in `color`.
 class LabelSample {
  public:
-  LabelSample(int height, int length);
+  LabelSample(int height, int length, std::uint32_t color = 0);
 
   // False when there was no memory; nothing else may be called then.
   [[nodiscard]] bool IsMade() const { return sample_.IsMade(); }

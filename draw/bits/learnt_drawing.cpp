@@ -38,7 +38,7 @@ void LearntDrawing::FollowSettings() {
   if (smoothing == smoothing_) return;
   smoothing_ = smoothing;
   labels_.clear();
-  blend_.Forget();
+  blends_.clear();
 }
 
 const LineRule* LearntDrawing::Lines() {
@@ -58,12 +58,14 @@ const Stamp* LearntDrawing::Mark(const LegendStyle& style) {
   return found->stamp ? &*found->stamp : nullptr;
 }
 
-LabelGlyphs* LearntDrawing::Labels(int height) {
-  const auto same = [=](const LabelGlyphs& labels) { return labels.Height() == height; };
+LabelGlyphs* LearntDrawing::Labels(int height, std::uint32_t color) {
+  const auto same = [=](const LabelGlyphs& labels) {
+    return labels.Height() == height && labels.Color() == color;
+  };
   auto found = std::find_if(labels_.begin(), labels_.end(), same);
   if (found == labels_.end()) {
     if (labels_.size() >= kMostFonts) return nullptr;
-    found = labels_.emplace(labels_.end(), height, blend_);
+    found = labels_.emplace(labels_.end(), height, color, blends_[color]);
   }
   return &*found;
 }

@@ -3,7 +3,9 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <list>
+#include <map>
 #include <optional>
 
 #include "draw/bits/label_glyphs.h"
@@ -35,8 +37,8 @@ class LearntDrawing {
   // The mark of a style.
   [[nodiscard]] const Stamp* Mark(const LegendStyle& style);
 
-  // Labels of this height in pixels.
-  [[nodiscard]] LabelGlyphs* Labels(int height);
+  // Labels of this height in pixels and this colour.
+  [[nodiscard]] LabelGlyphs* Labels(int height, std::uint32_t color = 0);
 
  private:
   struct LearntMark {
@@ -47,7 +49,7 @@ class LearntDrawing {
   bool lines_learnt_ = false;
   std::optional<LineRule> lines_;
   std::list<LearntMark> marks_;
-  SmoothBlend blend_;
+  std::map<std::uint32_t, SmoothBlend> blends_;  // by the text's colour
   std::list<LabelGlyphs> labels_;
   UINT smoothing_ = 0;
 };
