@@ -15,9 +15,7 @@ CPlotWnd* Window() { return Slots().Current().window.get(); }
 
 int Tavix_GrpStt(int height, int width) {
   CPlotWnd* window = Window();
-  if (!window) return -1;
-  window->BuildGroup(height, width);
-  return 0;
+  return window ? window->BuildGroup(height, width) : -1;
 }
 
 int Tavix_GrpGet(int row, int column, int* ink) {

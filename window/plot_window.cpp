@@ -1,6 +1,7 @@
 #include "window/plot_window.h"
 
 #include <cmath>
+#include <cstdint>
 
 #include "draw/bits/bits_canvas.h"
 #include "draw/label_font.h"
@@ -16,6 +17,14 @@ namespace {
 
 constexpr const wchar_t* kWindowName = L"確認図";
 constexpr DWORD kStyle = WS_CHILD | WS_BORDER | WS_TABSTOP;  // hidden until the host shows it
+
+// The back buffer of a larger window would take more than 512 MiB.
+bool IsTooLarge(const CRect& rect) {
+  constexpr std::int64_t kMostPixels = std::int64_t{1} << 27;
+  const std::int64_t width = std::int64_t{rect.right} - rect.left;
+  const std::int64_t height = std::int64_t{rect.bottom} - rect.top;
+  return width > 0 && height > 0 && height > kMostPixels / width;
+}
 
 }  // namespace
 
@@ -59,7 +68,7 @@ BOOL CPlotWnd::CreateOverControl(CWnd* parent, UINT control_id) {
 }
 
 BOOL CPlotWnd::CreateChild(CWnd* parent, const CRect& rect, const CString& class_name) {
-  if (!parent || !parent->m_hWnd) return FALSE;
+  if (!parent || !parent->m_hWnd || IsTooLarge(rect)) return FALSE;
   if (!CreateEx(WS_EX_CLIENTEDGE, class_name, kWindowName, kStyle, rect.left, rect.top,
                 rect.Width(), rect.Height(), parent->m_hWnd, nullptr)) {
     return FALSE;
@@ -190,8 +199,11 @@ void CPlotWnd::DrawNewLine(const Line& line) {
   DrawAtOnce([&](PlanCanvas& canvas) { DrawSingleLine(canvas, Data(), line); });
 }
 
-void CPlotWnd::BuildGroup(int height, int width) {
+int CPlotWnd::BuildGroup(int height, int width) {
+  group_.Release();
+  if (GroupPicture::IsTooLarge(height, width)) return -1;
   BeepIfCut(group_.Build(Data(), frame_, height, width));
+  return 0;
 }
 
 void CPlotWnd::SetRatio(int vertical, int horizontal) {

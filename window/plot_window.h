@@ -104,8 +104,8 @@ class CPlotWnd : public CWnd {
   void EndTraced() { traced_.End(Surfaces()); }
   [[nodiscard]] std::span<const GroundPoint> Traced() const { return traced_.Vertices(); }
 
-  // The one-bit picture.
-  void BuildGroup(int height, int width);
+  // The one-bit picture. Build frees the one held before, and refuses with -1 what is too large.
+  int BuildGroup(int height, int width);
   [[nodiscard]] bool IsGroupInk(int row, int column) const {
     return group_.IsInk(frame_, row, column);
   }
