@@ -5,8 +5,8 @@
 
 #include <array>
 
+#include "draw/ink/ink_canvas.h"
 #include "draw/ink_legend.h"
-#include "draw/plain_canvas.h"
 #include "view/truncate.h"
 
 namespace tavix {
@@ -61,8 +61,8 @@ bool GroupPicture::Build(const PlotData& data, const PaperFrame& frame, int heig
   if (!canvas->IsMade()) return cut;
   const LegendTable legend = InkLegend(data.legend);
   {
-    PlainCanvas plain(canvas->Dc());
-    DrawPlanView(plain, {view, legend, data.points, data.lines, data.figures, data.draws_lines});
+    InkCanvas ink(*canvas, width, height);
+    DrawPlanView(ink, {view, legend, data.points, data.lines, data.figures, data.draws_lines});
   }
 
   height_ = height;

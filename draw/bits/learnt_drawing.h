@@ -4,10 +4,10 @@
 #include <windows.h>
 
 #include <cstdint>
-#include <list>
 #include <map>
 #include <optional>
 
+#include "draw/bits/few_looks.h"
 #include "draw/bits/label_glyphs.h"
 #include "draw/bits/line_rule.h"
 #include "draw/bits/smooth_blend.h"
@@ -42,15 +42,18 @@ class LearntDrawing {
 
  private:
   struct LearntMark {
-    LegendStyle style;
+    explicit LearntMark(const LegendStyle& style);
     std::optional<Stamp> stamp;
   };
 
+  // A height and a colour.
+  using LabelKey = std::pair<int, std::uint32_t>;
+
   bool lines_learnt_ = false;
   std::optional<LineRule> lines_;
-  std::list<LearntMark> marks_;
+  FewLooks<LegendStyle, LearntMark, kMostMarks> marks_;
   std::map<std::uint32_t, SmoothBlend> blends_;  // by the text's colour
-  std::list<LabelGlyphs> labels_;
+  FewLooks<LabelKey, LabelGlyphs, kMostFonts> labels_;
   UINT smoothing_ = 0;
 };
 
