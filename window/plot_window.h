@@ -112,8 +112,8 @@ class CPlotWnd : public CWnd {
   void EndTraced() { traced_.End(Surfaces()); }
   [[nodiscard]] std::span<const GroundPoint> Traced() const { return traced_.Vertices(); }
 
-  // The one-bit picture.
-  void BuildGroup(int height, int width);
+  // The one-bit picture. Build frees the one held before, and refuses with -1 what is too large.
+  int BuildGroup(int height, int width);
   [[nodiscard]] bool IsGroupInk(int row, int column) const {
     return group_.IsInk(frame_, row, column);
   }
@@ -175,8 +175,7 @@ class CPlotWnd : public CWnd {
   [[nodiscard]] PlotData Data() const;
   [[nodiscard]] TracedLine::Surfaces Surfaces() { return {*this, buffer_.Dc()}; }
   int FitSideView();
-  void DrawPlan();
-  void DrawSide();
+  void DrawEntities(PlanCanvas& canvas);
   void DrawOverlays(CDC& paint);
   void FlipOverlays();
 
@@ -204,8 +203,6 @@ class CPlotWnd : public CWnd {
   TracedLine traced_;
   GroupPicture group_;
   CFont label_font_;
-  CBrush grey_brush_;
-  CPen grey_pen_;
 };
 
 }  // namespace tavix
