@@ -32,7 +32,7 @@ class GroupPicture {
   // Compatibility: the border goes on outside of the picture: rows above it and columns left of it
   // are ink, and the border's columns are so in rows below. Only columns right of it never are.
   [[nodiscard]] bool IsInk(const PaperFrame& frame, int row, int column) const {
-    if (bits_.empty() || column >= width_) return false;
+    if (!bits_ || column >= width_) return false;
     if (frame.IsShown() && IsOnBorder(row, column)) return true;
     if (row < 0 || row >= height_ || column < 0) return false;
     const auto line = static_cast<std::size_t>(height_ - row - 1);
