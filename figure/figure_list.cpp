@@ -25,7 +25,8 @@ bool Quietly(Step step) {
   }
 }
 
-// Opens a file and empties it. One that an instance of another process has is left as it is.
+// Opens a file and empties it. A file that belongs to an instance of another process is not
+// touched.
 bool OpenEmpty(CFile& file, LPCWSTR name_format, int instance) {
   constexpr UINT kKeepContents = CFile::modeCreate | CFile::modeNoTruncate;
   constexpr UINT kForThisProcessOnly = CFile::modeReadWrite | CFile::modeNoInherit;

@@ -35,7 +35,7 @@ class CFigList {
   // With files of another kind, closed as yet: index and coordinates.
   CFigList(int instance, std::unique_ptr<CFile> index, std::unique_ptr<CFile> coordinates);
 
-  // Makes both files anew and empty. 0, or -1 when one of them cannot be made or belongs to another
+  // Opens both files, empty. 0, or -1 when one of them cannot be made or belongs to another
   // process; both are then closed, and there can be no figures.
   int Open();
   [[nodiscard]] bool IsOpen() const;

@@ -26,8 +26,8 @@ class DeviceDatabase {
   // False when it could not be closed.
   bool Close();
 
-  // Deletes it with all records and makes it anew, closed. One that cannot be deleted is left as it
-  // is: a second one of its name cannot be made.
+  // Deletes it with all records and creates it again, closed. One that cannot be deleted stays as
+  // it is: a second one of its name cannot be created.
   void Recreate();
 
   // Deletes it from the device, as its destructor does.

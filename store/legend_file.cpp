@@ -9,8 +9,8 @@ namespace {
 
 constexpr UINT kMostBytes = 1024;  // a good file has 510
 
-// Another file may take the place of this one, or there is none. Moving a file over a read-only one
-// is not refused everywhere, nor is writing into it.
+// False for a folder and for a read-only file: not every system refuses to move a file over a
+// read-only one, or to write into it.
 bool MayBeReplaced(const CString& path) {
   const DWORD attributes = GetFileAttributesW(path);
   return attributes == INVALID_FILE_ATTRIBUTES ||

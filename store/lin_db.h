@@ -60,12 +60,12 @@ class CLinDb {
   // -1 at the end, -2 closed.
   int Next();
 
-  // Makes the database anew, with ids from 1 on, and opens it by smaller key. 0 when it is open, or
-  // -1 with the database closed.
+  // Deletes the database, creates it again with ids from 1 on, and opens it by smaller key. 0 when
+  // it is open, or -1 with the database closed.
   //
-  // Compatibility: every step is taken whatever the one before it came to. A database that could
-  // not be deleted is opened again with all its lines, and that counts as success; new lines then
-  // take ids that old ones have.
+  // Compatibility: every step is taken, also after one that failed. A database that could not be
+  // deleted is opened again with all its lines, and that counts as success; new lines then take ids
+  // that old ones have.
   int Clear();
 
   // The refit flag: set by Add, SetCurHan and Remove, a failed one too.

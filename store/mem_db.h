@@ -48,7 +48,8 @@ class CMemDb {
   // The code of Seek when there is none, -3 when the deletion failed.
   int Remove(std::int32_t key);
 
-  // Makes the database anew and opens it. 0 when it is open, or 1 when it stays closed.
+  // Deletes the database, creates it again and opens it. 0 when it is open, or 1 when it stays
+  // closed.
   //
   // Compatibility: a database that could not be deleted is opened again with all its memos, and
   // that counts as success.

@@ -37,7 +37,7 @@ TEST_F(LineStore, IsOpenAndUnchangedAfterClearingThoughItsDatabaseCouldNotBeDele
   EXPECT_EQ(-2, lines.Open()) << "it is open already";
   EXPECT_EQ(0, lines.Find({1, 3})) << "with what it held";
   EXPECT_EQ(0, lines.Add({1, 4}, 101, &id));
-  EXPECT_EQ(1, id) << "ids begin anew";
+  EXPECT_EQ(1, id) << "ids start at 1 again";
 }
 
 TEST_F(LineStore, IsClosedAndUnchangedAfterClearingWhenItsDatabaseCannotBeOpened) {

@@ -12,8 +12,8 @@ namespace {
 
 constexpr wchar_t kNamePrefix[] = L"process-";
 
-// An open folder. As long as it is open nobody can rename or remove it, and that ends with its
-// owner however the owner ends: nothing has to be known of process ids, which are used again.
+// An open folder. While it is open nobody can rename or remove it. The system closes it with the
+// process, also with one that is killed, so that a process id that is used again does no harm.
 class HeldFolder {
  public:
   HeldFolder() = default;
@@ -70,7 +70,8 @@ void RemoveTree(const std::wstring& folder) {
   RemoveDirectoryW(folder.c_str());
 }
 
-// A folder that nobody holds can be renamed, and then nobody can come to hold it any more.
+// Only a folder that nobody holds can be renamed, and under its new name nobody can begin to hold
+// it.
 void RemoveFoldersWithoutOwner(const std::wstring& parent) {
   for (const WIN32_FIND_DATAW& entry : Entries(parent + L"\\" + kNamePrefix + L"*")) {
     if (!IsFolder(entry)) continue;

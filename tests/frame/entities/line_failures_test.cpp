@@ -124,7 +124,7 @@ TEST_F(LineFailures, ADatabaseThatCannotBeDeletedIsOpenedAgainAsItIs) {
   const std::vector<LineRecord> lines = LinesOnDevice();
   EXPECT_EQ(2, std::count_if(lines.begin(), lines.end(),
                              [](const LineRecord& line) { return line.id == 1; }))
-      << "ids begin anew";
+      << "ids start at 1 again";
   EXPECT_EQ(0, Tavix_ClrEntLin());
   EXPECT_TRUE(LinesOnDevice().empty()) << "deleted by the next attempt";
 }
