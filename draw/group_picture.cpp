@@ -5,9 +5,8 @@
 
 #include <array>
 
+#include "draw/ink/ink_canvas.h"
 #include "draw/ink_legend.h"
-#include "draw/one_bit_canvas.h"
-#include "draw/plain_canvas.h"
 #include "view/truncate.h"
 
 namespace tavix {
@@ -48,32 +47,39 @@ void DrawArrow(CDC& dc, ScreenPoint centre, const CViewState& view) {
 
 }  // namespace
 
+bool GroupPicture::IsTooLarge(int height, int width) {
+  constexpr std::size_t kMostBytes = std::size_t{1} << 28;
+  if (height < 1 || width < 1) return false;
+  return static_cast<std::size_t>(height) > kMostBytes / OneBitCanvas::StrideOf(width);
+}
+
 bool GroupPicture::Build(const PlotData& data, const PaperFrame& frame, int height, int width) {
   Release();
   bool cut = false;
   const CViewState view = PictureView(data.view, frame, height, width, cut);
-  OneBitCanvas canvas(width, height);
-  if (!canvas.IsMade()) return cut;
+  auto canvas = std::make_unique<OneBitCanvas>(width, height);
+  if (!canvas->IsMade()) return cut;
   const LegendTable legend = InkLegend(data.legend);
   {
-    PlainCanvas plain(canvas.Dc());
-    DrawPlanView(plain, {view, legend, data.points, data.lines, data.figures, data.draws_lines});
+    InkCanvas ink(*canvas, width, height);
+    DrawPlanView(ink, {view, legend, data.points, data.lines, data.figures, data.draws_lines});
   }
 
   height_ = height;
   width_ = width;
-  stride_ = canvas.Stride();
-  bits_ = canvas.CopyBits();
-  DrawArrow(canvas.Dc(), FindFreeCorner(frame), view);
-  bits_ = canvas.CopyBits();
+  stride_ = canvas->Stride();
+  bits_ = canvas->Bits();
+  DrawArrow(canvas->Dc(), FindFreeCorner(frame), view);
+  bits_ = canvas->Bits();
+  canvas_ = std::move(canvas);
   return cut;
 }
 
 void GroupPicture::Release() {
   height_ = 0;
   width_ = 0;
-  bits_.clear();
-  bits_.shrink_to_fit();
+  bits_ = nullptr;
+  canvas_.reset();
 }
 
 // The square whose one base comes from the width is scanned with that base as its row, while the

@@ -3,8 +3,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <memory>
 
+#include "draw/one_bit_canvas.h"
 #include "draw/plan_view.h"
 #include "view/paper_frame.h"
 #include "view/view_state.h"
@@ -16,6 +17,10 @@ namespace tavix {
 // the paper frame is on.
 class GroupPicture {
  public:
+  // Whether a picture of this size takes more than 256 MiB, a square of about 46,000 pixels. Such a
+  // one is not to be built.
+  [[nodiscard]] static bool IsTooLarge(int height, int width);
+
   // Draws the picture of `data`, seen through its view brought to this size; one drawn before goes.
   // Nothing is held when the picture cannot be made. True when the scale was cut to its cap.
   bool Build(const PlotData& data, const PaperFrame& frame, int height, int width);
@@ -27,7 +32,7 @@ class GroupPicture {
   // Compatibility: the border goes on outside of the picture: rows above it and columns left of it
   // are ink, and the border's columns are so in rows below. Only columns right of it never are.
   [[nodiscard]] bool IsInk(const PaperFrame& frame, int row, int column) const {
-    if (bits_.empty() || column >= width_) return false;
+    if (!bits_ || column >= width_) return false;
     if (frame.IsShown() && IsOnBorder(row, column)) return true;
     if (row < 0 || row >= height_ || column < 0) return false;
     const auto line = static_cast<std::size_t>(height_ - row - 1);
@@ -47,8 +52,9 @@ class GroupPicture {
 
   int height_ = 0;
   int width_ = 0;
-  std::size_t stride_ = 0;          // bytes a row
-  std::vector<std::uint8_t> bits_;  // rows from the bottom up, most significant bit first
+  std::size_t stride_ = 0;  // bytes a row
+  std::unique_ptr<OneBitCanvas> canvas_;
+  const std::uint8_t* bits_ = nullptr;  // rows from the bottom up, most significant bit first
 };
 
 }  // namespace tavix

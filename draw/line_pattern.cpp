@@ -65,6 +65,11 @@ class PatternWalk {
         end_(end) {}
 
   void Run() {
+    // Shorter than the first dash, as the pieces of a curve seen from afar are.
+    if (!box_.Holds(at_ + steps_[0])) {
+      draw_({at_, end_});
+      return;
+    }
     constexpr std::int64_t kFewRounds = 16;  // not worth passing over
     constexpr std::int64_t kManyRounds = std::int64_t{1} << 60;
     std::int64_t rounds = kFewRounds;

@@ -18,9 +18,8 @@ OneBitCanvas::OneBitCanvas(int width, int height) {
     bits_ = nullptr;
     return;
   }
-  stride_ = (static_cast<std::size_t>(width) + 31) / 32 * 4;
-  rows_ = static_cast<std::size_t>(height);
-  std::memset(bits_, 0, stride_ * rows_);
+  stride_ = StrideOf(width);
+  std::memset(bits_, 0, stride_ * static_cast<std::size_t>(height));
   old_bitmap_ = ::SelectObject(dc_.m_hDC, bitmap_);
 }
 
@@ -29,10 +28,9 @@ OneBitCanvas::~OneBitCanvas() {
   if (bitmap_) ::DeleteObject(bitmap_);
 }
 
-std::vector<std::uint8_t> OneBitCanvas::CopyBits() const {
+std::uint8_t* OneBitCanvas::Bits() const {
   ::GdiFlush();
-  const auto* bytes = static_cast<const std::uint8_t*>(bits_);
-  return {bytes, bytes + stride_ * rows_};
+  return static_cast<std::uint8_t*>(bits_);
 }
 
 }  // namespace tavix

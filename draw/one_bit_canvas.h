@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 namespace tavix {
 
@@ -23,10 +22,14 @@ class OneBitCanvas {
   [[nodiscard]] CDC& Dc() { return dc_; }
 
   // Bytes a row: whole 32-bit words.
+  [[nodiscard]] static std::size_t StrideOf(int width) {
+    return (static_cast<std::size_t>(width) + 31) / 32 * 4;
+  }
   [[nodiscard]] std::size_t Stride() const { return stride_; }
 
-  // What has been drawn so far: rows from the bottom up, most significant bit first.
-  [[nodiscard]] std::vector<std::uint8_t> CopyBits() const;
+  // What has been drawn so far: rows from the bottom up, most significant bit first. It changes
+  // with further drawing.
+  [[nodiscard]] std::uint8_t* Bits() const;
 
  private:
   CDC dc_;
@@ -34,7 +37,6 @@ class OneBitCanvas {
   HGDIOBJ old_bitmap_ = nullptr;
   void* bits_ = nullptr;
   std::size_t stride_ = 0;
-  std::size_t rows_ = 0;
 };
 
 }  // namespace tavix

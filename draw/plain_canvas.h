@@ -13,7 +13,9 @@ namespace tavix {
 // is measured by. What it changes of the device context the destructor puts back.
 class PlainCanvas : public PlanCanvas {
  public:
-  explicit PlainCanvas(CDC& dc) : dc_(dc), transparent_(dc), objects_(dc) {}
+  explicit PlainCanvas(CDC& dc)
+      : dc_(dc), transparent_(dc), objects_(dc), old_text_color_(dc.GetTextColor()) {}
+  ~PlainCanvas() override { dc_.SetTextColor(old_text_color_); }
 
   [[nodiscard]] ScreenBox Visible() const override;
   void UseLineStyle(const LegendStyle& style) override;
@@ -21,12 +23,14 @@ class PlainCanvas : public PlanCanvas {
   void Circle(ScreenPoint centre, int radius) override;
   void UsePointStyle(const LegendStyle& style) override;
   void Mark(ScreenPoint at) override;
+  void UseTextColor(std::uint32_t color) override { dc_.SetTextColor(color); }
   void Label(ScreenPoint at, NameView text) override;
 
  private:
   CDC& dc_;
   TransparentBackground transparent_;
   StyleObjects objects_;
+  COLORREF old_text_color_;
   LegendStyle style_;  // of the points
 };
 

@@ -1,5 +1,7 @@
-// What the plan view is drawn on.
+// What the plan view and the side view are drawn on.
 #pragma once
+
+#include <cstdint>
 
 #include "draw/screen_box.h"
 #include "store/legend_table.h"
@@ -8,7 +10,7 @@
 
 namespace tavix {
 
-// The few drawing operations the plan view's passes need, in pixels. Whatever implements them gives
+// The few drawing operations the views' passes need, in pixels. Whatever implements them gives
 // the pixels of PlainCanvas, which draws each by the system's own call. Later drawings cover
 // earlier ones.
 //
@@ -43,6 +45,9 @@ class PlanCanvas {
 
   // The mark of the style in use, its size above 0.
   virtual void Mark(ScreenPoint at) = 0;
+
+  // The colour of the labels that follow, 0x00BBGGRR; at first that of the device context.
+  virtual void UseTextColor(std::uint32_t color) = 0;
 
   // The label of the point at `at`, the style's text height above 0. The text is not empty.
   virtual void Label(ScreenPoint at, NameView text) = 0;

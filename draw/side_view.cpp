@@ -1,52 +1,50 @@
 #include "draw/side_view.h"
 
-#include <framework/scoped_select.h>
+#include <afxwin.h>
 
 #include <array>
 #include <optional>
 
+#include "draw/line_pattern.h"
 #include "draw/point_label.h"
 #include "draw/point_look.h"
-#include "draw/point_mark.h"
-#include "draw/style_objects.h"
-#include "draw/transparent_background.h"
+#include "draw/side_projection.h"
 #include "platform/wide_text.h"
 #include "view/truncate.h"
 
 namespace tavix {
 namespace {
 
+constexpr COLORREF kBlack = RGB(0, 0, 0);
 constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kGrey = RGB(128, 128, 128);
 constexpr int kColumn = 20;  // the box leaves the button column's room free
 
-void DrawBoxSides(CDC& dc, const SideProjection& projection,
+LegendStyle ThinLine(COLORREF color) {
+  return {kSolidLine, 0, 0, 0, 1, static_cast<std::int32_t>(color)};
+}
+
+void DrawBoxSides(PlanCanvas& canvas, const SideProjection& projection,
                   const std::array<ScreenPoint, 3>& corners) {
-  const CPen red(PS_SOLID, 1, kRed);
-  const CScopedSelect pen(dc, red);
-  std::array<POINT, 3> line;
-  for (std::size_t i = 0; i < corners.size(); ++i) {
-    const ScreenPoint at = projection.Project(corners[i]);
-    line[i] = {at.x, at.y};
+  canvas.UseLineStyle(ThinLine(kRed));
+  for (std::size_t i = 1; i < corners.size(); ++i) {
+    canvas.Line({projection.Project(corners[i - 1]), projection.Project(corners[i])});
   }
-  dc.Polyline(line.data(), static_cast<int>(line.size()));
 }
 
-void DrawFootCross(CDC& dc, ScreenPoint at) {
-  dc.MoveTo(at.x - 1, at.y - 1);
-  dc.LineTo(at.x + 2, at.y + 2);
-  dc.MoveTo(at.x - 1, at.y + 1);
-  dc.LineTo(at.x + 2, at.y - 2);
+void DrawFootCross(PlanCanvas& canvas, ScreenPoint at) {
+  canvas.Line({{at.x - 1, at.y - 1}, {at.x + 2, at.y + 2}});
+  canvas.Line({{at.x - 1, at.y + 1}, {at.x + 2, at.y - 2}});
 }
 
-void DrawFeet(CDC& dc, const SideData& data, const SideProjection& projection) {
-  const CScopedSelect black(dc, BLACK_PEN);
+void DrawFeet(PlanCanvas& canvas, const SideData& data, const SideProjection& projection) {
+  canvas.UseLineStyle(ThinLine(kBlack));
   PointLook look(data.view, data.legend);
   data.points.ForEach([&](const Point3& point) {
     look.Use(point.legend);
     ScreenPoint at;
     if (look.Style().prm1 > 0 && data.view.CircleOnScreen(point.at, look.Margin(), at)) {
-      DrawFootCross(dc, projection.Project(at));
+      DrawFootCross(canvas, projection.Project(at));
     }
   });
 }
@@ -57,81 +55,79 @@ bool IsBehindFrontFace(ScreenPoint at, int buffer_height) {
   return f <= 0 || f * 0.5773502717125849 < buffer_height - at.y;
 }
 
-// The grey look of a hidden point, for as long as it lives.
-class Hidden {
+// A style as it looks where the ground hides its points: the same shapes, thin and grey.
+LegendStyle Hidden(LegendStyle style) {
+  style.width = 1;
+  style.color = static_cast<std::int32_t>(kGrey);
+  return style;
+}
+
+// Draws the marks and labels of the points, one after another.
+class SidePoints {
  public:
-  Hidden(CDC& dc, const SideData& data, int kind)
-      : dc_(dc), pen_(dc, data.grey_pen), old_color_(dc.SetTextColor(kGrey)) {
-    if (kind >= kFirstFilledMark) brush_.emplace(dc, data.grey_brush);
+  SidePoints(PlanCanvas& canvas, const SideData& data, const SideProjection& projection)
+      : canvas_(canvas), data_(data), projection_(projection), look_(data.view, data.legend) {}
+
+  void Draw(const Point3& point) {
+    if (look_.Use(point.legend)) hidden_.reset();
+    ScreenPoint plan;
+    if (!data_.view.CircleOnScreen(point.at, look_.Margin(), plan)) return;
+    const ScreenPoint foot = projection_.Project(plan);
+    const int raise = data_.view.LengthToPixels(point.z - data_.height_base);
+    const ScreenPoint at{foot.x, TruncateToInt(static_cast<double>(foot.y) - raise)};
+    if (at.y < 0 || at.y > projection_.Height()) return;
+
+    UseStyle(raise < 0 && IsBehindFrontFace(at, projection_.Height()));
+    const LegendStyle& style = look_.Style();
+    if (style.prm1 > 0) canvas_.Mark(at);
+    if (style.prm2 > 0) {
+      const LabelText label(style, point.number, point.name);
+      if (!label.Text().empty()) canvas_.Label(at, label.Text());
+    }
   }
-  ~Hidden() { dc_.SetTextColor(old_color_); }
-  Hidden(const Hidden&) = delete;
-  Hidden& operator=(const Hidden&) = delete;
 
  private:
-  CDC& dc_;
-  CScopedSelect pen_;
-  std::optional<CScopedSelect> brush_;
-  COLORREF old_color_;
+  void UseStyle(bool hidden) {
+    if (hidden_ == hidden) return;
+    hidden_ = hidden;
+    canvas_.UsePointStyle(hidden ? Hidden(look_.Style()) : look_.Style());
+    canvas_.UseTextColor(hidden ? kGrey : kBlack);
+  }
+
+  PlanCanvas& canvas_;
+  const SideData& data_;
+  const SideProjection& projection_;
+  PointLook look_;
+  std::optional<bool> hidden_;  // how the canvas has the look; none while it does not have it
 };
 
-void DrawSideLabel(CDC& dc, const LegendStyle& style, ScreenPoint at, int raise, NameView text) {
-  const int length = static_cast<int>(text.size());
-  const LabelBox box = PlaceLabel(at, style.prm1, style.prm2, length);
-  RECT rect{box.left, box.top, box.right,
-            TruncateToInt(static_cast<double>(box.top) - raise - style.prm2)};
-  dc.DrawText(AsWide(text.data()), length, &rect, DT_NOCLIP);
+void DrawPoints(PlanCanvas& canvas, const SideData& data, const SideProjection& projection) {
+  SidePoints points(canvas, data, projection);
+  data.points.ForEach([&](const Point3& point) { points.Draw(point); });
+  canvas.UseTextColor(kBlack);
 }
 
-void DrawSidePoint(CDC& dc, const SideData& data, const SideProjection& projection,
-                   const PointLook& look, const Point3& point) {
-  ScreenPoint plan;
-  if (!data.view.CircleOnScreen(point.at, look.Margin(), plan)) return;
-  const ScreenPoint foot = projection.Project(plan);
-  const int raise = data.view.LengthToPixels(point.z - data.height_base);
-  const ScreenPoint at{foot.x, TruncateToInt(static_cast<double>(foot.y) - raise)};
-  if (at.y < 0 || at.y > projection.Height()) return;
-
-  const LegendStyle& style = look.Style();
-  std::optional<Hidden> hidden;
-  if (raise < 0 && IsBehindFrontFace(at, projection.Height())) hidden.emplace(dc, data, style.kind);
-  if (style.prm1 > 0) DrawMark(dc, style.kind, style.prm1, at);
-  if (style.prm2 > 0) {
-    const LabelText label(style, point.number, point.name);
-    if (!label.Text().empty()) DrawSideLabel(dc, style, at, raise, label.Text());
-  }
-}
-
-void DrawPoints(CDC& dc, const SideData& data, const SideProjection& projection) {
-  PointLook look(data.view, data.legend);
-  StyleObjects objects(dc);
-  data.points.ForEach([&](const Point3& point) {
-    if (look.Use(point.legend)) objects.UseForPoints(look.Style());
-    DrawSidePoint(dc, data, projection, look, point);
-  });
-}
-
-void DrawHeightBase(CDC& dc, const SideData& data) {
-  const CScopedSelect font(dc, data.label_font);
+void DrawHeightBase(PlanCanvas& canvas, const SideData& data) {
+  constexpr int kTextHeight = 10;  // pixels
   CString text;
   text.Format(L"%.2lfm", data.height_base);
-  const int middle = data.buffer.cy / 2;
-  RECT rect{5, middle, 5, middle};
-  dc.DrawText(text, text.GetLength(), &rect, DT_NOCLIP);
+  LegendStyle style;
+  style.prm2 = kTextHeight;
+  canvas.UsePointStyle(style);
+  canvas.Label({5, data.height / 2}, AsUtf16(text, static_cast<std::size_t>(text.GetLength())));
 }
 
 }  // namespace
 
-void DrawSideView(CDC& dc, const SideData& data) {
-  const TransparentBackground transparent(dc);
-  const SideProjection projection(data.buffer.cy);
-  const int right = data.buffer.cx - kColumn;
-  const int bottom = data.buffer.cy;
-  DrawBoxSides(dc, projection, {{{0, bottom}, {0, 0}, {right, 0}}});
-  DrawFeet(dc, data, projection);
-  DrawPoints(dc, data, projection);
-  DrawBoxSides(dc, projection, {{{0, bottom}, {right, bottom}, {right, 0}}});
-  DrawHeightBase(dc, data);
+void DrawSideView(PlanCanvas& canvas, const SideData& data) {
+  const SideProjection projection(data.height);
+  const int right = data.width - kColumn;
+  const int bottom = data.height;
+  DrawBoxSides(canvas, projection, {{{0, bottom}, {0, 0}, {right, 0}}});
+  DrawFeet(canvas, data, projection);
+  DrawPoints(canvas, data, projection);
+  DrawBoxSides(canvas, projection, {{{0, bottom}, {right, bottom}, {right, 0}}});
+  DrawHeightBase(canvas, data);
 }
 
 }  // namespace tavix

@@ -1,10 +1,7 @@
 // The 3-D side view: the points with heights, standing on the plan laid flat.
 #pragma once
 
-#include <afxwin.h>
-
-#include "draw/side_projection.h"
-#include "store/legend_table.h"
+#include "draw/plan_canvas.h"
 #include "store/point3_list.h"
 #include "view/view_state.h"
 
@@ -15,15 +12,13 @@ struct SideData {
   const CViewState& view;
   const LegendTable& legend;
   const CPnt3List& points;
-  CSize buffer;        // pixels
+  int width;  // pixels, of the whole picture
+  int height;
   double height_base;  // metres: a point of this height stands on the ground plane
-  CFont& label_font;
-  CBrush& grey_brush;
-  CPen& grey_pen;
 };
 
 // Draws, bottom to top: the far sides of the box, a foot cross for each point, the points with
 // their marks and labels, the near sides of the box, the height base.
-void DrawSideView(CDC& dc, const SideData& data);
+void DrawSideView(PlanCanvas& canvas, const SideData& data);
 
 }  // namespace tavix

@@ -6,22 +6,18 @@
 namespace tavix {
 
 void StyleObjects::UseForLines(const LegendStyle& style) {
-  Drop();
+  DropPenAndBrush();
   SelectPen(style);
 }
 
 void StyleObjects::UseForPoints(const LegendStyle& style) {
-  Drop();
+  DropPenAndBrush();
   SelectPen(style);
   if (style.kind >= kFirstFilledMark) {
     brush_.CreateSolidBrush(static_cast<COLORREF>(style.color));
     old_brush_ = dc_.SelectObject(&brush_);
   }
-  if (style.prm2 > 0) {
-    const LOGFONTW font = LabelFont(style.prm2);
-    font_.CreateFontIndirect(&font);
-    old_font_ = dc_.SelectObject(&font_);
-  }
+  if (style.prm2 > 0 && style.prm2 != font_height_) SelectFont(style.prm2);
 }
 
 void StyleObjects::SelectPen(const LegendStyle& style) {
@@ -30,16 +26,28 @@ void StyleObjects::SelectPen(const LegendStyle& style) {
   old_pen_ = dc_.SelectObject(&pen_);
 }
 
-void StyleObjects::Drop() {
+void StyleObjects::SelectFont(int height) {
+  DropFont();
+  const LOGFONTW font = LabelFont(height);
+  font_.CreateFontIndirect(&font);
+  old_font_ = dc_.SelectObject(&font_);
+  font_height_ = height;
+}
+
+void StyleObjects::DropPenAndBrush() {
   if (old_pen_) dc_.SelectObject(old_pen_);
   if (old_brush_) dc_.SelectObject(old_brush_);
-  if (old_font_) dc_.SelectObject(old_font_);
   old_pen_ = nullptr;
   old_brush_ = nullptr;
-  old_font_ = nullptr;
   pen_.DeleteObject();
   brush_.DeleteObject();
+}
+
+void StyleObjects::DropFont() {
+  if (old_font_) dc_.SelectObject(old_font_);
+  old_font_ = nullptr;
   font_.DeleteObject();
+  font_height_ = 0;
 }
 
 }  // namespace tavix

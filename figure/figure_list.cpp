@@ -2,29 +2,43 @@
 
 #include <array>
 #include <optional>
+#include <utility>
 
 #include "figure/file_window.h"
 
 namespace tavix {
 namespace {
 
-// Others may look at the files while they are open.
-constexpr UINT kOpenFlags = CFile::modeCreate | CFile::modeReadWrite | CFile::shareDenyNone;
+// Locked by the instance that has the file: a byte far behind the end of any. Everybody else may
+// read and write all that is in it.
+constexpr std::uint64_t kOwnersByte = std::uint64_t{1} << 62;
 
-CString PathOf(LPCWSTR format, int instance) {
-  CString path;
-  path.Format(format, instance);
-  return path;
-}
-
-// Runs a step on the files; a failure is not reported.
+// Runs a step on the files. False when it failed, of which hosts are not told.
 template <class Step>
-void Quietly(Step step) {
+bool Quietly(Step step) {
   try {
     step();
+    return true;
   } catch (CFileException* error) {
     error->Delete();
+    return false;
   }
+}
+
+// Opens a file and empties it. A file that belongs to an instance of another process is not
+// touched.
+bool OpenEmpty(CFile& file, LPCWSTR name_format, int instance) {
+  constexpr UINT kKeepContents = CFile::modeCreate | CFile::modeNoTruncate;
+  constexpr UINT kForThisProcessOnly = CFile::modeReadWrite | CFile::modeNoInherit;
+  CString path;
+  path.Format(name_format, instance);
+  if (!file.Open(path, kKeepContents | kForThisProcessOnly | CFile::shareDenyNone)) return false;
+  const bool own = Quietly([&] {
+    file.LockRange(kOwnersByte, 1);
+    file.SetLength(0);
+  });
+  if (!own) file.Abort();
+  return own;
 }
 
 void CloseAndDelete(CFile& file) {
@@ -35,16 +49,26 @@ void CloseAndDelete(CFile& file) {
 
 std::uint64_t LengthOf(CFile& file) {
   std::uint64_t length = 0;
-  if (file.m_hFile != CFile::hFileNull) Quietly([&] { length = file.GetLength(); });
+  Quietly([&] { length = file.GetLength(); });
   return length;
 }
 
-void WriteAt(CFile& file, std::uint64_t offset, const unsigned char* bytes, std::size_t size) {
-  if (file.m_hFile == CFile::hFileNull) return;
-  Quietly([&] {
+bool WriteAt(CFile& file, std::uint64_t offset, std::span<const unsigned char> bytes) {
+  return Quietly([&] {
     file.Seek(static_cast<LONGLONG>(offset), CFile::begin);
-    file.Write(bytes, static_cast<UINT>(size));
+    file.Write(bytes.data(), static_cast<UINT>(bytes.size()));
   });
+}
+
+void CutTo(CFile& file, std::uint64_t length) {
+  Quietly([&] { file.SetLength(length); });
+}
+
+// All of the bytes from `length` on, or none: a file that cannot take them ends there.
+bool Extend(CFile& file, std::uint64_t length, std::span<const unsigned char> bytes) {
+  if (WriteAt(file, length, bytes)) return true;
+  CutTo(file, length);
+  return false;
 }
 
 std::uint64_t PlaceOf(std::int32_t index) {
@@ -78,18 +102,25 @@ int ReadFigure(FileWindow& index_file, FileWindow& coordinate_file, std::int32_t
 
 }  // namespace
 
-CFigList::CFigList(int instance) : instance_(instance) {}
+CFigList::CFigList(int instance)
+    : CFigList(instance, std::make_unique<CFile>(), std::make_unique<CFile>()) {}
+
+CFigList::CFigList(int instance, std::unique_ptr<CFile> index, std::unique_ptr<CFile> coordinates)
+    : index_(std::move(index)), coordinates_(std::move(coordinates)), instance_(instance) {}
 
 int CFigList::Open() {
   changed_ = false;
-  const bool opened = index_.Open(PathOf(L"\\FIG%d.DAT", instance_), kOpenFlags) &&
-                      coordinates_.Open(PathOf(L"\\FIG%d.XY", instance_), kOpenFlags);
-  return opened ? 0 : -1;
+  if (OpenEmpty(*index_, L"\\FIG%d.DAT", instance_) &&
+      OpenEmpty(*coordinates_, L"\\FIG%d.XY", instance_)) {
+    return 0;
+  }
+  Close();
+  return -1;
 }
 
 int CFigList::Close() {
-  CloseAndDelete(index_);
-  CloseAndDelete(coordinates_);
+  CloseAndDelete(*index_);
+  CloseAndDelete(*coordinates_);
   return 0;
 }
 
@@ -98,6 +129,8 @@ int CFigList::Clear() {
   pending_ = {};
   return Open();
 }
+
+bool CFigList::IsOpen() const { return index_->m_hFile != CFile::hFileNull; }
 
 void CFigList::SetPending(std::int32_t number, std::int32_t legend) {
   pending_.number = number;
@@ -119,57 +152,58 @@ int CFigList::AddCurve(std::span<const GroundPoint> points) {
   return 0;
 }
 
-// Points first and record last, so that a record never names points that are not there yet. The
-// record goes to the first whole place: a record cut short by a full disk is written over.
+// Points first and record last, so that a record never names points that are not there. What does
+// not fit leaves nothing behind: points of later figures would be taken for those of a record whose
+// own are missing. The record goes to the first whole place, over one that was cut short.
 void CFigList::Append(std::int32_t point_count, bool is_circle,
                       std::span<const GroundPoint> points) {
-  const std::uint64_t first_point = LengthOf(coordinates_);
+  const std::uint64_t first_point = LengthOf(*coordinates_);
   std::vector<unsigned char> bytes;
   bytes.reserve(points.size() * kFigurePointSize);
   for (const GroundPoint point : points) {
     const FigurePointBytes encoded = EncodeFigurePoint(point);
     bytes.insert(bytes.end(), encoded.begin(), encoded.end());
   }
-  WriteAt(coordinates_, first_point, bytes.data(), bytes.size());
+  if (!Extend(*coordinates_, first_point, bytes)) return;
 
   pending_.point_count = point_count;
   pending_.is_circle = is_circle ? 1 : 0;
   pending_.first_point = static_cast<std::uint32_t>(first_point);
   pending_.deleted = 0;
   const FigureRecordBytes record = EncodeFigureRecord(pending_);
-  WriteAt(index_, PlaceOf(Count()), record.data(), record.size());
+  if (!Extend(*index_, PlaceOf(Count()), record)) CutTo(*coordinates_, first_point);
 }
 
 int CFigList::Delete(std::int32_t number) {
   const std::int32_t count = Count();
   if (count == 0) return -1;
   std::vector<std::int32_t> found;
-  FileWindow index_file(index_);
+  FileWindow index_file(*index_);
   for (std::int32_t i = 0; i < count; ++i) {
     const std::optional<FigureRecord> record = ReadRecord(index_file, i);
     if (!record) break;
     if (record->deleted == 0 && record->number == number) found.push_back(i);
   }
   const FigureRecordBytes deleted = EncodeFigureRecord({0, 0, 0, 0, 0, 1});
-  for (const std::int32_t i : found) WriteAt(index_, PlaceOf(i), deleted.data(), deleted.size());
+  for (const std::int32_t i : found) WriteAt(*index_, PlaceOf(i), deleted);
   changed_ = true;
   return 0;
 }
 
 std::int32_t CFigList::Count() const {
-  return static_cast<std::int32_t>(LengthOf(index_) / kFigureRecordSize);
+  return static_cast<std::int32_t>(LengthOf(*index_) / kFigureRecordSize);
 }
 
 int CFigList::Get(std::int32_t index, Figure* figure) const {
   if (index < 0) return -2;
-  FileWindow index_file(index_);
-  FileWindow coordinate_file(coordinates_);
+  FileWindow index_file(*index_);
+  FileWindow coordinate_file(*coordinates_);
   return ReadFigure(index_file, coordinate_file, index, figure);
 }
 
 void CFigList::ForEach(const std::function<void(const Figure&)>& visit) const {
-  FileWindow index_file(index_);
-  FileWindow coordinate_file(coordinates_);
+  FileWindow index_file(*index_);
+  FileWindow coordinate_file(*coordinates_);
   Figure figure;
   const std::int32_t count = Count();
   for (std::int32_t i = 0; i < count; ++i) {

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -24,13 +25,20 @@ struct Figure {
 
 // Figures live in two files in the root folder of the device, "\FIG<instance>.DAT" (index) and
 // "\FIG<instance>.XY" (coordinates), and nowhere else: nothing is kept in memory that could differ
-// from them. Arcs and clothoids are stored as polylines. Errors of writing are not reported.
+// from them. Other programs may look at the files; those of an instance of another process that has
+// the same root folder are left alone. Arcs and clothoids are stored as polylines. Errors of
+// writing are not reported: a figure for which there is no room is not kept, and the files are as
+// they were before it.
 class CFigList {
  public:
   explicit CFigList(int instance);
+  // With files of another kind, closed as yet: index and coordinates.
+  CFigList(int instance, std::unique_ptr<CFile> index, std::unique_ptr<CFile> coordinates);
 
-  // Makes both files anew and empty. 0, or -1 when one of them cannot be made.
+  // Opens both files, empty. 0, or -1 when one of them cannot be made or belongs to another
+  // process; both are then closed, and there can be no figures.
   int Open();
+  [[nodiscard]] bool IsOpen() const;
 
   // Closes both files and deletes them. Always 0.
   int Close();
@@ -71,9 +79,9 @@ class CFigList {
  private:
   void Append(std::int32_t point_count, bool is_circle, std::span<const GroundPoint> points);
 
-  // Read through a window even by const calls: the file's place is no state of ours.
-  mutable CFile index_;
-  mutable CFile coordinates_;
+  // Never null. Read through a window even by const calls: a file's place is no state of ours.
+  std::unique_ptr<CFile> index_;
+  std::unique_ptr<CFile> coordinates_;
   FigureRecord pending_;
   bool changed_ = false;
   int instance_;

@@ -3,33 +3,26 @@
 
 #include "frame/host_arguments.h"
 #include "frame/slot_table.h"
+#include "window/plot_window.h"
 
 using tavix::CPlotWnd;
-using tavix::Slots;
-
-namespace {
-
-CPlotWnd* Window() { return Slots().Current().window.get(); }
-
-}  // namespace
+using tavix::OnWindow;
 
 int Tavix_GrpStt(int height, int width) {
-  CPlotWnd* window = Window();
-  if (!window) return -1;
-  window->BuildGroup(height, width);
-  return 0;
+  return OnWindow([=](CPlotWnd& window) { return window.BuildGroup(height, width); });
 }
 
 int Tavix_GrpGet(int row, int column, int* ink) {
-  const CPlotWnd* window = Window();
-  if (!window || !tavix::CanWrite(ink)) return -1;
-  *ink = window->IsGroupInk(row, column) ? 1 : 0;
-  return 0;
+  return OnWindow([=](CPlotWnd& window) {
+    if (!tavix::CanWrite(ink)) return tavix::kRefused;
+    *ink = window.IsGroupInk(row, column) ? 1 : 0;
+    return 0;
+  });
 }
 
 int Tavix_GrpEnd() {
-  CPlotWnd* window = Window();
-  if (!window) return -1;
-  window->ReleaseGroup();
-  return 0;
+  return OnWindow([](CPlotWnd& window) {
+    window.ReleaseGroup();
+    return 0;
+  });
 }

@@ -3,31 +3,14 @@
 
 #include "frame/host_arguments.h"
 #include "frame/library_entry.h"
-#include "frame/redraw.h"
 #include "frame/slot_table.h"
+#include "window/plot_window.h"
 
 using tavix::CPlotWnd;
+using tavix::Instance;
+using tavix::OnInstance;
+using tavix::OnWindow;
 using tavix::Slots;
-using tavix::TavixSlot;
-
-namespace {
-
-// Makes a new window for the current instance and has `create` give it its place. The button flag
-// is applied whatever comes of it.
-template <class Create>
-int LinkWindow(UINT notify_id, Create create) {
-  TavixSlot& slot = Slots().Current();
-  if (!slot.in_use) return -1;
-  if (slot.window) slot.window->DestroyWindow();
-  slot.window = std::make_unique<CPlotWnd>(notify_id);
-  slot.window->Link({slot.view.get(), slot.points.get(), slot.points3.get(), slot.lines.get(),
-                     slot.figures.get(), slot.legend.get()});
-  const bool created = create(*slot.window) != FALSE;
-  slot.window->ApplyButtonFlag(slot.show_buttons);
-  return created ? 0 : -1;
-}
-
-}  // namespace
 
 void Tavix_SetIdx(int index) { Slots().SetIndex(index); }
 
@@ -37,57 +20,63 @@ void Tavix_GetIdx(int* index) {
 
 int Tavix_Crt() {
   tavix::ChainResources();
-  TavixSlot& slot = Slots().Current();
-  if (slot.in_use) return -1;
-  slot.Create(Slots().Index());
-  return 0;
+  return Slots().Create() ? 0 : tavix::kRefused;
 }
 
 int Tavix_Del() {
-  Slots().Current().Destroy();
-  Slots().SelectHighestInUse();
+  Slots().Delete();
   return 0;
 }
 
 int Tavix_Lnk(CWnd* parent, UINT controlId, UINT notifyId) {
-  return LinkWindow(notifyId,
-                    [=](CPlotWnd& window) { return window.CreateOverControl(parent, controlId); });
-}
-
-int Tavix_LnkRct(CWnd* parent, int left, int top, int right, int bottom, UINT notifyId) {
-  return LinkWindow(notifyId, [=](CPlotWnd& window) {
-    return window.CreateInRect(parent, CRect(left, top, right, bottom));
+  return OnInstance([=](Instance& instance) {
+    return instance.LinkWindow(notifyId, [=](CPlotWnd& window) {
+      return window.CreateOverControl(parent, controlId) != FALSE;
+    });
   });
 }
 
-CWnd* Tavix_Wnd() { return Slots().Current().window.get(); }
-
-int Tavix_Dsp(BYTE show) {
-  CPlotWnd* window = Slots().Current().window.get();
-  if (!window) return -1;
-  if (window->m_hWnd) window->ShowWindow(show ? SW_SHOW : SW_HIDE);
-  return 0;
+int Tavix_LnkRct(CWnd* parent, int left, int top, int right, int bottom, UINT notifyId) {
+  return OnInstance([=](Instance& instance) {
+    return instance.LinkWindow(notifyId, [=](CPlotWnd& window) {
+      return window.CreateInRect(parent, CRect(left, top, right, bottom)) != FALSE;
+    });
+  });
 }
 
+CWnd* Tavix_Wnd() {
+  Instance* instance = Slots().Current();
+  return instance ? instance->Window() : nullptr;
+}
+
+int Tavix_Dsp(BYTE show) {
+  return OnWindow([=](CPlotWnd& window) {
+    if (window.m_hWnd) window.ShowWindow(show ? SW_SHOW : SW_HIDE);
+    return 0;
+  });
+}
+
+// The next three have nothing to refuse: without an instance there is nothing to set.
+
 int Tavix_Dsp3D(BYTE on) {
-  TavixSlot& slot = Slots().Current();
-  if (slot.window) slot.window->SetDisplay3D(on != 0);
-  if (slot.view) slot.view->SetAngle(0);
+  if (Instance* instance = Slots().Current()) instance->ShowSideView(on != 0);
   return 0;
 }
 
 int Tavix_SetBtn(BYTE show) {
-  TavixSlot& slot = Slots().Current();
-  slot.show_buttons = show != 0;
-  if (slot.window) slot.window->ApplyButtonFlag(slot.show_buttons);
+  if (Instance* instance = Slots().Current()) instance->ShowButtons(show != 0);
   return 0;
 }
 
 int Tavix_DrwFlg(BYTE on) {
-  Slots().Current().auto_redraw = on != 0;
+  if (Instance* instance = Slots().Current()) instance->SetAutoRedraw(on != 0);
   return 0;
 }
 
-int Tavix_Drw(BYTE keepView) { return tavix::RedrawSlot(Slots().Current(), keepView != 0); }
+int Tavix_Drw(BYTE keepView) {
+  return OnInstance([=](Instance& instance) { return instance.Redraw(keepView != 0); });
+}
 
-int Tavix_DrwClr() { return Slots().Current().Clear(); }
+int Tavix_DrwClr() {
+  return OnInstance([](Instance& instance) { return instance.Clear(); });
+}

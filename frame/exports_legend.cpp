@@ -3,32 +3,30 @@
 
 #include "frame/host_arguments.h"
 #include "frame/slot_table.h"
+#include "store/legend_table.h"
 
 using tavix::HanRec;
-using tavix::LegendTable;
+using tavix::Instance;
+using tavix::LegendStyle;
+using tavix::OnInstance;
 using tavix::Slots;
 
 namespace {
 
-// The current instance's legend, or null.
-LegendTable* Legend() {
-  const auto& legend = Slots().Current().legend;
-  return legend ? &legend->Table() : nullptr;
+int Add(bool is_point, const LegendStyle& style, short* number) {
+  return OnInstance([&](Instance& instance) {
+    return tavix::CanWrite(number) ? instance.Legend().Add(is_point, style, number)
+                                   : tavix::kRefused;
+  });
 }
 
-int Add(bool is_point, const tavix::LegendStyle& style, short* number) {
-  LegendTable* legend = Legend();
-  return legend && tavix::CanWrite(number) ? legend->Add(is_point, style, number) : -1;
-}
-
-int Change(short number, bool is_point, const tavix::LegendStyle& style) {
-  LegendTable* legend = Legend();
-  return legend ? legend->Change(number, is_point, style) : -1;
+int Change(short number, bool is_point, const LegendStyle& style) {
+  return OnInstance(
+      [&](Instance& instance) { return instance.Legend().Change(number, is_point, style); });
 }
 
 int Get(short number, HanRec& entry) {
-  const LegendTable* legend = Legend();
-  return legend ? legend->Get(number, &entry) : -1;
+  return OnInstance([&](Instance& instance) { return instance.Legend().Get(number, &entry); });
 }
 
 }  // namespace
@@ -44,7 +42,9 @@ int Tavix_ChgPntHan(short number, int kind, int width, int color, int prm1, int 
 int Tavix_GetPntHan(short number, int* kind, int* width, int* color, int* prm1, int* prm2,
                     int* prm3) {
   HanRec entry;
-  if (!tavix::CanWrite(kind, width, color, prm1, prm2, prm3) || Get(number, entry) != 0) return -1;
+  if (!tavix::CanWrite(kind, width, color, prm1, prm2, prm3) || Get(number, entry) != 0) {
+    return tavix::kRefused;
+  }
   *kind = entry.style.kind;
   *width = entry.style.width;
   *color = entry.style.color;
@@ -55,13 +55,14 @@ int Tavix_GetPntHan(short number, int* kind, int* width, int* color, int* prm1, 
 }
 
 int Tavix_SelPntHan(short number) {
-  Slots().Current().selected_point_legend = number;
+  if (Instance* instance = Slots().Current()) instance->SelectPointLegend(number);
   return 0;
 }
 
 int Tavix_PntHanTtl(short number, CString title) {
-  LegendTable* legend = Legend();
-  return legend ? legend->SetTitle(number, tavix::ToNameView(title)) : -1;
+  return OnInstance([&](Instance& instance) {
+    return instance.Legend().SetTitle(number, tavix::ToNameView(title));
+  });
 }
 
 int Tavix_AddLinHan(int kind, short prm1, short prm2, short prm3, int width, int color,
@@ -77,7 +78,9 @@ int Tavix_ChgLinHan(short number, int kind, short prm1, short prm2, short prm3, 
 int Tavix_GetLinHan(short number, int* kind, short* prm1, short* prm2, short* prm3, int* width,
                     int* color) {
   HanRec entry;
-  if (!tavix::CanWrite(kind, prm1, prm2, prm3, width, color) || Get(number, entry) != 0) return -1;
+  if (!tavix::CanWrite(kind, prm1, prm2, prm3, width, color) || Get(number, entry) != 0) {
+    return tavix::kRefused;
+  }
   *kind = entry.style.kind;
   *prm1 = static_cast<short>(entry.style.prm1);
   *prm2 = static_cast<short>(entry.style.prm2);
@@ -88,6 +91,6 @@ int Tavix_GetLinHan(short number, int* kind, short* prm1, short* prm2, short* pr
 }
 
 int Tavix_SelLinHan(short number) {
-  Slots().Current().selected_line_legend = number;
+  if (Instance* instance = Slots().Current()) instance->SelectLineLegend(number);
   return 0;
 }

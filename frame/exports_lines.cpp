@@ -1,28 +1,29 @@
 // Exported calls on lines.
 #include <tavix/tavix.h>
 
-#include "frame/line_calls.h"
+#include "frame/slot_table.h"
+#include "store/lin_db.h"
 
+using tavix::Instance;
 using tavix::LineKeys;
-using tavix::Slots;
-using tavix::TavixSlot;
+using tavix::OnInstance;
 
 int Tavix_EntLin(int keyA, int keyB) {
-  TavixSlot& slot = Slots().Current();
-  return slot.lines ? tavix::EnterLine(slot, LineKeys::Of(keyA, keyB)) : -1;
+  return OnInstance(
+      [=](Instance& instance) { return instance.EnterLine(LineKeys::Of(keyA, keyB)); });
 }
 
 int Tavix_ChgLinHid(int keyA, int keyB, short legend) {
-  TavixSlot& slot = Slots().Current();
-  return slot.lines ? tavix::ChangeLineLegend(slot, LineKeys::Of(keyA, keyB), legend) : -1;
+  return OnInstance([=](Instance& instance) {
+    return instance.ChangeLineLegend(LineKeys::Of(keyA, keyB), legend);
+  });
 }
 
 int Tavix_DelEntLin(int keyA, int keyB) {
-  TavixSlot& slot = Slots().Current();
-  return slot.lines ? slot.lines->Remove(LineKeys::Of(keyA, keyB)) : -1;
+  return OnInstance(
+      [=](Instance& instance) { return instance.Lines().Remove(LineKeys::Of(keyA, keyB)); });
 }
 
 int Tavix_ClrEntLin() {
-  TavixSlot& slot = Slots().Current();
-  return slot.lines ? slot.lines->Clear() : -1;
+  return OnInstance([](Instance& instance) { return instance.Lines().Clear(); });
 }

@@ -4,53 +4,59 @@
 #include "frame/host_arguments.h"
 #include "frame/slot_table.h"
 #include "view/in_view.h"
+#include "window/plot_window.h"
 
-using tavix::Slots;
-using tavix::TavixSlot;
+using tavix::CPlotWnd;
+using tavix::Instance;
+using tavix::OnInstance;
+using tavix::OnWindow;
 
 int Tavix_ChkCrd(double X, double Y, int* visible) {
-  const TavixSlot& slot = Slots().Current();
-  if (!slot.view || !tavix::CanWrite(visible)) return -1;
-  *visible = tavix::IsPointInView(*slot.view, {X, Y}) ? 1 : 0;
-  return 0;
+  return OnInstance([=](Instance& instance) {
+    if (!tavix::CanWrite(visible)) return tavix::kRefused;
+    *visible = tavix::IsPointInView(instance.View(), {X, Y}) ? 1 : 0;
+    return 0;
+  });
 }
 
 int Tavix_ChkCir(double X, double Y, double radius, int* visible) {
-  const TavixSlot& slot = Slots().Current();
-  if (!slot.view || !tavix::CanWrite(visible)) return -1;
-  *visible = tavix::IsCircleInView(*slot.view, {X, Y}, radius) ? 1 : 0;
-  return 0;
+  return OnInstance([=](Instance& instance) {
+    if (!tavix::CanWrite(visible)) return tavix::kRefused;
+    *visible = tavix::IsCircleInView(instance.View(), {X, Y}, radius) ? 1 : 0;
+    return 0;
+  });
 }
 
 int Tavix_GetLstPicCrd(int* x, int* y) {
-  const TavixSlot& slot = Slots().Current();
-  if (!slot.window || !tavix::CanWrite(x, y)) return -1;
-  const tavix::ScreenPoint tap = slot.window->LastTap();
-  *x = tap.x;
-  *y = tap.y;
-  return tap.y;
+  return OnWindow([=](CPlotWnd& window) {
+    if (!tavix::CanWrite(x, y)) return tavix::kRefused;
+    const tavix::ScreenPoint tap = window.LastTap();
+    *x = tap.x;
+    *y = tap.y;
+    return tap.y;
+  });
 }
 
 int Tavix_CrdStt(int command) {
-  TavixSlot& slot = Slots().Current();
-  if (!slot.window) return -1;
-  slot.window->Capture().Start(command);
-  return 0;
+  return OnWindow([=](CPlotWnd& window) {
+    window.Capture().Start(command);
+    return 0;
+  });
 }
 
 int Tavix_CrdGet(double* X, double* Y) {
-  const TavixSlot& slot = Slots().Current();
-  if (!slot.window || !tavix::CanWrite(X, Y)) return -1;
-  const auto& captured = slot.window->Capture().Captured();
-  if (!captured) return -1;
-  *X = captured->x;
-  *Y = captured->y;
-  return 0;
+  return OnWindow([=](CPlotWnd& window) {
+    const auto& captured = window.Capture().Captured();
+    if (!tavix::CanWrite(X, Y) || !captured) return tavix::kRefused;
+    *X = captured->x;
+    *Y = captured->y;
+    return 0;
+  });
 }
 
 int Tavix_CrdEnd() {
-  TavixSlot& slot = Slots().Current();
-  if (!slot.window) return -1;
-  slot.window->Capture().End();
-  return 0;
+  return OnWindow([](CPlotWnd& window) {
+    window.Capture().End();
+    return 0;
+  });
 }

@@ -1,36 +1,55 @@
-// Exported calls on the view: angle and ratio.
+// Exported calls on the view: angle, ratio, zoom and pan.
 #include <tavix/tavix.h>
 
 #include "frame/host_arguments.h"
 #include "frame/slot_table.h"
+#include "view/view_state.h"
+#include "window/plot_window.h"
 
-using tavix::Slots;
-using tavix::TavixSlot;
+using tavix::CPlotWnd;
+using tavix::Instance;
+using tavix::OnInstance;
+using tavix::OnWindow;
 
 int Tavix_SetAng(int degrees) {
-  TavixSlot& slot = Slots().Current();
-  return slot.view ? slot.view->SetAngle(degrees) : -1;
+  return OnInstance([=](Instance& instance) { return instance.View().SetAngle(degrees); });
 }
 
 int Tavix_GetAng(int* degrees) {
-  const TavixSlot& slot = Slots().Current();
-  if (!slot.view || !tavix::CanWrite(degrees)) return -1;
-  *degrees = slot.view->Angle();
-  return 0;
+  return OnInstance([=](Instance& instance) {
+    if (!tavix::CanWrite(degrees)) return tavix::kRefused;
+    *degrees = instance.View().Angle();
+    return 0;
+  });
 }
 
 int Tavix_SetTatYok(int tate, int yoko) {
-  TavixSlot& slot = Slots().Current();
-  if (!slot.window) return -1;
-  slot.window->SetRatio(tate, yoko);
-  return 0;
+  return OnWindow([=](CPlotWnd& window) {
+    window.SetRatio(tate, yoko);
+    return 0;
+  });
 }
 
 int Tavix_GetTatYok(int* tate, int* yoko) {
-  const TavixSlot& slot = Slots().Current();
-  if (!slot.window || !tavix::CanWrite(tate, yoko)) return -1;
-  const tavix::RatioSetting& ratio = slot.window->Ratio();
-  *tate = ratio.vertical;
-  *yoko = ratio.horizontal;
-  return ratio.given ? 0 : -1;
+  return OnWindow([=](CPlotWnd& window) {
+    if (!tavix::CanWrite(tate, yoko)) return tavix::kRefused;
+    const tavix::RatioSetting& ratio = window.Ratio();
+    *tate = ratio.vertical;
+    *yoko = ratio.horizontal;
+    return ratio.given ? 0 : tavix::kRefused;
+  });
 }
+
+int Tavix_Zom(double X1, double Y1, double X2, double Y2) {
+  return OnWindow([=](CPlotWnd& window) { return window.ZoomToBox({X1, Y1}, {X2, Y2}); });
+}
+
+int Tavix_Zom1(double X, double Y, double radius) {
+  return OnWindow([=](CPlotWnd& window) { return window.ZoomToCircle({X, Y}, radius); });
+}
+
+int Tavix_Pan(double X, double Y) {
+  return OnWindow([=](CPlotWnd& window) { return window.PanTo({X, Y}); });
+}
+
+int Tavix_Mov() { return 0; }

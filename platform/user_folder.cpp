@@ -15,8 +15,15 @@ std::wstring ValueOf(const wchar_t* variable) {
   return value;
 }
 
-// Made when missing, its parent too.
-std::wstring InLocalApplicationData(const wchar_t* name) {
+}  // namespace
+
+std::wstring FolderFromEnvironment(const wchar_t* variable) {
+  std::wstring folder = ValueOf(variable);
+  folder.erase(folder.find_last_not_of(L"\\/") + 1);
+  return folder;
+}
+
+std::wstring FolderOfUser(const wchar_t* name) {
   WCHAR local[MAX_PATH];
   if (SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA | CSIDL_FLAG_CREATE, nullptr, 0, local) !=
       S_OK) {
@@ -27,14 +34,6 @@ std::wstring InLocalApplicationData(const wchar_t* name) {
   folder.append(L"\\").append(name);
   CreateDirectoryW(folder.c_str(), nullptr);
   return folder;
-}
-
-}  // namespace
-
-std::wstring FolderFromEnvironment(const wchar_t* variable, const wchar_t* name) {
-  std::wstring folder = ValueOf(variable);
-  folder.erase(folder.find_last_not_of(L"\\/") + 1);
-  return folder.empty() ? InLocalApplicationData(name) : folder;
 }
 
 }  // namespace tavix

@@ -12,7 +12,7 @@ DeviceDatabase::DeviceDatabase(LPCWSTR base_name, int instance, DWORD ident,
   Recreate();
 }
 
-DeviceDatabase::~DeviceDatabase() { DeleteFromDevice(); }
+DeviceDatabase::~DeviceDatabase() { Discard(); }
 
 bool DeviceDatabase::Open(CCeDBProp* sort_property) {
   return database_.Open(name_, sort_property) != FALSE;
@@ -24,10 +24,10 @@ bool DeviceDatabase::Close() {
   return true;
 }
 
-bool DeviceDatabase::Recreate() {
-  DeleteFromDevice();
-  return database_.Create(name_, ident_, static_cast<WORD>(sort_properties_.size()),
-                          sort_properties_.data()) != 0;
+void DeviceDatabase::Recreate() {
+  Discard();
+  database_.Create(name_, ident_, static_cast<WORD>(sort_properties_.size()),
+                   sort_properties_.data());
 }
 
 bool DeviceDatabase::DeleteCurrent() {
@@ -35,7 +35,7 @@ bool DeviceDatabase::DeleteCurrent() {
   return record != 0 && CeDeleteRecord(database_.m_hDatabase, record) != FALSE;
 }
 
-void DeviceDatabase::DeleteFromDevice() {
+void DeviceDatabase::Discard() {
   if (database_.IsOpen() || (CCeDBDatabase::Exists(name_) && database_.Open(name_))) {
     database_.Delete();
   }

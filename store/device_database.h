@@ -26,8 +26,12 @@ class DeviceDatabase {
   // False when it could not be closed.
   bool Close();
 
-  // Deletes it with all records and makes it anew, closed.
-  bool Recreate();
+  // Deletes it with all records and creates it again, closed. One that cannot be deleted stays as
+  // it is: a second one of its name cannot be created.
+  void Recreate();
+
+  // Deletes it from the device, as its destructor does.
+  void Discard();
 
   // Deletes the current record.
   bool DeleteCurrent();
@@ -35,8 +39,6 @@ class DeviceDatabase {
   [[nodiscard]] CCeDBDatabase& Records() { return database_; }
 
  private:
-  void DeleteFromDevice();
-
   CString name_;  // the base name and the instance
   DWORD ident_;
   std::span<CCeDBProp> sort_properties_;

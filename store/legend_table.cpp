@@ -72,17 +72,21 @@ int LegendTable::GetTitle(int n, std::u16string* title) const {
 }
 
 void LegendTable::TakeStored(const std::array<LegendStyle, kStoredLegends>& styles) {
-  entries_.clear();
   for (int place = 0; place < kStoredLegends; ++place) {
-    entries_.push_back(
-        {NumberAtPlace(place), place < kPointLegends, styles[static_cast<std::size_t>(place)]});
+    const auto i = static_cast<std::size_t>(place);
+    entries_[i] = {NumberAtPlace(place), place < kPointLegends, styles[i]};
   }
 }
 
+// The entries added at run time are numbered in a row, so a number is a place among them; once the
+// numbers have gone around, it is the first of its places.
 const HanRec* LegendTable::Find(std::int16_t number) const {
-  const auto entry = std::find_if(entries_.begin(), entries_.end(),
-                                  [=](const HanRec& rec) { return rec.number == number; });
-  return entry == entries_.end() ? nullptr : &*entry;
+  const auto added = entries_.begin() + kStoredLegends;
+  const auto stored = std::find_if(entries_.begin(), added,
+                                   [=](const HanRec& rec) { return rec.number == number; });
+  if (stored != added) return &*stored;
+  const std::size_t place = kStoredLegends + static_cast<std::uint16_t>(number - kFirstAdded);
+  return place < entries_.size() ? &entries_[place] : nullptr;
 }
 
 }  // namespace tavix

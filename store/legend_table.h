@@ -33,8 +33,9 @@ struct HanRec {
   friend bool operator==(const HanRec&, const HanRec&) = default;
 };
 
-// The table of legend entries, in list order; the first entry with a number counts. Operations
-// return 0, or -1 when there is no such entry.
+// The table of legend entries, in list order; the first entry with a number counts. Finding one
+// takes the same time however many there are. Operations return 0, or -1 when there is no such
+// entry.
 class LegendTable {
  public:
   static constexpr int kPointLegends = 11;   // numbered 1..11
@@ -80,7 +81,8 @@ class LegendTable {
 
   [[nodiscard]] const HanRec* Find(std::int16_t number) const;
 
-  std::vector<HanRec> entries_;
+  std::vector<HanRec>
+      entries_;  // the stored ones, then the added ones in the order of their numbers
   std::int16_t next_number_ = kFirstAdded;
   std::int32_t rotation_step_ = kDefaultRotationStep;
   std::array<std::u16string, kPointLegends> titles_;

@@ -35,6 +35,11 @@ int CLinDb::Close() {
   return was_open && database_.Close() ? 0 : -1;
 }
 
+void CLinDb::Discard() {
+  Close();
+  database_.Discard();
+}
+
 bool CLinDb::Reopen(State state) {
   if (state_ == state) return true;
   if (state_ == State::kClosed) {
@@ -126,11 +131,11 @@ int CLinDb::Next() {
 
 int CLinDb::Clear() {
   state_ = State::kClosed;
-  if (!database_.Recreate()) return -1;
+  database_.Recreate();
   next_id_ = 1;
-  if (!Reopen(State::kOpenBySmallerKey)) return -1;
+  const bool opened = Reopen(State::kOpenBySmallerKey);
   changed_ = false;
-  return 0;
+  return opened ? 0 : -1;
 }
 
 }  // namespace tavix

@@ -33,6 +33,9 @@ class CLinDb {
   // 0, or -1 when it is closed already or cannot be closed.
   int Close();
 
+  // Closes it and deletes it from the device. Nothing may be asked of the store any more.
+  void Discard();
+
   // Makes the line between two keys, in either order, current. -1 there is none, -2 the database
   // cannot be opened, -3 it has no records, -4 no first record, -5 a record cannot be read, -6 and
   // -7 its smaller or larger key is missing.
@@ -57,7 +60,12 @@ class CLinDb {
   // -1 at the end, -2 closed.
   int Next();
 
-  // Makes the database anew and opens it by smaller key. 0, or -1 with the database closed.
+  // Deletes the database, creates it again with ids from 1 on, and opens it by smaller key. 0 when
+  // it is open, or -1 with the database closed.
+  //
+  // Compatibility: every step is taken, also after one that failed. A database that could not be
+  // deleted is opened again with all its lines, and that counts as success; new lines then take ids
+  // that old ones have.
   int Clear();
 
   // The refit flag: set by Add, SetCurHan and Remove, a failed one too.

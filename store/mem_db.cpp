@@ -35,9 +35,25 @@ int CMemDb::Close() {
   return was_open && database_.Close() ? 0 : -1;
 }
 
+void CMemDb::Discard() {
+  Close();
+  database_.Discard();
+}
+
 int CMemDb::Seek(std::int32_t key) {
   if (state_ == State::kClosed && Open() != 0) return -2;
   return database_.Records().SeekFirstEqual(KeyProperty(key)) != 0 ? 0 : -1;
+}
+
+int CMemDb::Enter(std::int32_t key, const CString& text) {
+  if (Seek(key) != 0) return Add(key, text);
+  return text.IsEmpty() ? Remove(key) : UpdateCur(text);
+}
+
+int CMemDb::Read(std::int32_t key, CString* text) {
+  text->Empty();
+  const int code = Seek(key);
+  return code == 0 ? ReadCur(text) : code;
 }
 
 int CMemDb::Add(std::int32_t key, const CString& text) {
@@ -74,7 +90,8 @@ int CMemDb::Remove(std::int32_t key) {
 
 int CMemDb::Clear() {
   state_ = State::kClosed;
-  if (database_.Recreate() && database_.Open(nullptr)) state_ = State::kOpen;
+  database_.Recreate();
+  Open();
   return static_cast<int>(state_);
 }
 

@@ -22,9 +22,19 @@ class CMemDb {
   // 0, or -1 when it is closed already or cannot be closed.
   int Close();
 
+  // Closes it and deletes it from the device. Nothing may be asked of the store any more.
+  void Discard();
+
   // Makes the memo of a key current, opening the database if it is closed. -1 there is none, -2 the
   // database cannot be opened.
   int Seek(std::int32_t key);
+
+  // Keeps a text for a key, in place of one there is. Compatibility: an empty text removes the memo
+  // of a key that has one, and is kept for a key that has none. The code of the step that failed.
+  int Enter(std::int32_t key, const CString& text);
+
+  // The text of a key. The code of the step that failed; `text` is then empty.
+  int Read(std::int32_t key, CString* text);
 
   // -1 when the record cannot be added.
   int Add(std::int32_t key, const CString& text);
@@ -38,7 +48,11 @@ class CMemDb {
   // The code of Seek when there is none, -3 when the deletion failed.
   int Remove(std::int32_t key);
 
-  // Makes the database anew and opens it. 0, or 1 when it stays closed.
+  // Deletes the database, creates it again and opens it. 0 when it is open, or 1 when it stays
+  // closed.
+  //
+  // Compatibility: a database that could not be deleted is opened again with all its memos, and
+  // that counts as success.
   int Clear();
 
   [[nodiscard]] int Instance() const { return instance_; }

@@ -1,6 +1,7 @@
 #include "window/plot_window.h"
 
 #include <cmath>
+#include <cstdint>
 
 #include "draw/bits/bits_canvas.h"
 #include "draw/label_font.h"
@@ -17,6 +18,14 @@ namespace {
 constexpr const wchar_t* kWindowName = L"確認図";
 constexpr DWORD kStyle = WS_CHILD | WS_BORDER | WS_TABSTOP;  // hidden until the host shows it
 
+// The back buffer of a larger window would take more than 512 MiB.
+bool IsTooLarge(const CRect& rect) {
+  constexpr std::int64_t kMostPixels = std::int64_t{1} << 27;
+  const std::int64_t width = std::int64_t{rect.right} - rect.left;
+  const std::int64_t height = std::int64_t{rect.bottom} - rect.top;
+  return width > 0 && height > 0 && height > kMostPixels / width;
+}
+
 }  // namespace
 
 BEGIN_MESSAGE_MAP(CPlotWnd, CWnd)
@@ -30,11 +39,8 @@ END_MESSAGE_MAP()
 
 CPlotWnd::CPlotWnd(UINT notify_id) : notify_id_(notify_id) {
   constexpr int kLabelHeight = 10;  // pixels
-  constexpr COLORREF kGrey = RGB(128, 128, 128);
   const LOGFONTW font = LabelFont(kLabelHeight);
   label_font_.CreateFontIndirect(&font);
-  grey_brush_.CreateSolidBrush(kGrey);
-  grey_pen_.CreatePen(PS_SOLID, 1, kGrey);
 }
 
 CPlotWnd::~CPlotWnd() { CPlotWnd::DestroyWindow(); }
@@ -62,7 +68,7 @@ BOOL CPlotWnd::CreateOverControl(CWnd* parent, UINT control_id) {
 }
 
 BOOL CPlotWnd::CreateChild(CWnd* parent, const CRect& rect, const CString& class_name) {
-  if (!parent || !parent->m_hWnd) return FALSE;
+  if (!parent || !parent->m_hWnd || IsTooLarge(rect)) return FALSE;
   if (!CreateEx(WS_EX_CLIENTEDGE, class_name, kWindowName, kStyle, rect.left, rect.top,
                 rect.Width(), rect.Height(), parent->m_hWnd, nullptr)) {
     return FALSE;
@@ -112,6 +118,16 @@ int CPlotWnd::FitSideView() {
   return 0;
 }
 
+int CPlotWnd::ZoomToBox(GroundPoint south_west, GroundPoint north_east) {
+  const auto [x1, y1] = south_west;
+  const auto [x2, y2] = north_east;
+  return ZoomTo({y2 - y1, x2 - x1}, {(x1 + x2) * 0.5, (y1 + y2) * 0.5});
+}
+
+int CPlotWnd::ZoomToCircle(GroundPoint centre, double radius) {
+  return ZoomTo({radius * 2.0, radius * 2.0}, centre);
+}
+
 int CPlotWnd::ZoomTo(GroundSize size, GroundPoint centre) {
   BeepIfCut(links_.view->ZoomToArea(size, centre));
   return ViewChanged();
@@ -125,31 +141,47 @@ int CPlotWnd::PanTo(GroundPoint centre) {
 int CPlotWnd::Redraw() {
   if (!m_hWnd) return 0;
   buffer_.Fill();
+  if (buffer_.Pixels().pixels) {
+    BitsCanvas canvas(buffer_.Dc(), buffer_.Pixels(), learnt_);
+    DrawEntities(canvas);
+  } else {
+    PlainCanvas canvas(buffer_.Dc());
+    DrawEntities(canvas);
+  }
   if (display_3d_) {
-    DrawSide();
     traced_.ForgetSegments();
   } else {
-    DrawPlan();
     traced_.Redraw(buffer_.Dc(), *links_.view);
   }
   InvalidateRect(&buffer_.Rect(), TRUE);
   return 0;
 }
 
-void CPlotWnd::DrawPlan() {
-  if (buffer_.Pixels().pixels) {
-    BitsCanvas canvas(buffer_.Dc(), buffer_.Pixels(), learnt_);
+void CPlotWnd::DrawEntities(PlanCanvas& canvas) {
+  if (!display_3d_) {
     DrawPlanView(canvas, Data());
-  } else {
-    PlainCanvas canvas(buffer_.Dc());
-    DrawPlanView(canvas, Data());
+    return;
   }
+  const CRect& buffer = buffer_.Rect();
+  DrawSideView(canvas, {*links_.view, links_.legend->Table(), *links_.points3, buffer.Width(),
+                        buffer.Height(), height_base_});
 }
 
-void CPlotWnd::DrawSide() {
-  DrawSideView(buffer_.Dc(),
-               {*links_.view, links_.legend->Table(), *links_.points3, buffer_.Rect().Size(),
-                height_base_, label_font_, grey_brush_, grey_pen_});
+void CPlotWnd::TurnFrameOn(int height_per_inch, int height_units, int width_per_inch,
+                           int width_units) {
+  frame_.TurnOn(*links_.view, height_per_inch, height_units, width_per_inch, width_units);
+}
+
+bool CPlotWnd::SetFrameScale(int n) {
+  if (!frame_.IsOn() || n < 1) return false;
+  BeepIfCut(frame_.SetScale(*links_.view, n));
+  return true;
+}
+
+bool CPlotWnd::SetFrameOrigin(GroundPoint origin) {
+  if (!frame_.IsOn()) return false;
+  frame_.SetOrigin(*links_.view, origin);
+  return true;
 }
 
 int CPlotWnd::ViewChanged() {
@@ -194,8 +226,11 @@ void CPlotWnd::DrawNewLine(const Line& line) {
   DrawAtOnce([&](PlanCanvas& canvas) { DrawSingleLine(canvas, Data(), line); });
 }
 
-void CPlotWnd::BuildGroup(int height, int width) {
+int CPlotWnd::BuildGroup(int height, int width) {
+  group_.Release();
+  if (GroupPicture::IsTooLarge(height, width)) return -1;
   BeepIfCut(group_.Build(Data(), frame_, height, width));
+  return 0;
 }
 
 void CPlotWnd::SetRatio(int vertical, int horizontal) {

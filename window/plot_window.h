@@ -64,8 +64,10 @@ class CPlotWnd : public CWnd {
   // fit.
   int FitView();
 
-  // Zooms to a ground box, or moves the centre, and redraws. Always 0.
-  int ZoomTo(GroundSize size, GroundPoint centre);
+  // Zoom to the box with these south-west and north-east corners, or to the square around a circle,
+  // or move the centre, and redraw. Always 0.
+  int ZoomToBox(GroundPoint south_west, GroundPoint north_east);
+  int ZoomToCircle(GroundPoint centre, double radius);
   int PanTo(GroundPoint centre);
 
   // Draws everything into the back buffer and has the window repainted. Always 0.
@@ -90,7 +92,12 @@ class CPlotWnd : public CWnd {
 
   [[nodiscard]] CoordinateCapture& Capture() { return capture_; }
 
+  // The paper frame. Its scale and origin move the view; they are refused while the frame is off,
+  // the scale also for an n below 1.
   [[nodiscard]] PaperFrame& Frame() { return frame_; }
+  void TurnFrameOn(int height_per_inch, int height_units, int width_per_inch, int width_units);
+  bool SetFrameScale(int n);
+  bool SetFrameOrigin(GroundPoint origin);
   void ShowScaleBar(bool shown) { scale_bar_shown_ = shown; }
 
   // The move-point band. Start takes the look of a point legend.
@@ -105,8 +112,8 @@ class CPlotWnd : public CWnd {
   void EndTraced() { traced_.End(Surfaces()); }
   [[nodiscard]] std::span<const GroundPoint> Traced() const { return traced_.Vertices(); }
 
-  // The one-bit picture.
-  void BuildGroup(int height, int width);
+  // The one-bit picture. Build frees the one held before, and refuses with -1 what is too large.
+  int BuildGroup(int height, int width);
   [[nodiscard]] bool IsGroupInk(int row, int column) const {
     return group_.IsInk(frame_, row, column);
   }
@@ -131,6 +138,8 @@ class CPlotWnd : public CWnd {
   DECLARE_MESSAGE_MAP()
 
  private:
+  int ZoomTo(GroundSize size, GroundPoint centre);
+
   // ---- Stylus (plot_stylus.cpp)
 
   // The ground under a client pixel.
@@ -166,8 +175,7 @@ class CPlotWnd : public CWnd {
   [[nodiscard]] PlotData Data() const;
   [[nodiscard]] TracedLine::Surfaces Surfaces() { return {*this, buffer_.Dc()}; }
   int FitSideView();
-  void DrawPlan();
-  void DrawSide();
+  void DrawEntities(PlanCanvas& canvas);
   void DrawOverlays(CDC& paint);
   void FlipOverlays();
 
@@ -195,8 +203,6 @@ class CPlotWnd : public CWnd {
   TracedLine traced_;
   GroupPicture group_;
   CFont label_font_;
-  CBrush grey_brush_;
-  CPen grey_pen_;
 };
 
 }  // namespace tavix

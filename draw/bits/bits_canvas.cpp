@@ -24,13 +24,12 @@ bool IsNear(ScreenPoint at) {
 }  // namespace
 
 BitsCanvas::BitsCanvas(CDC& dc, const PixelBlock& block, LearntDrawing& learnt)
-    : plain_(dc), block_(block), learnt_(learnt) {
+    : plain_(dc), block_(block), learnt_(learnt), text_color_(dc.GetTextColor()) {
   learnt_.FollowSettings();
 }
 
 void BitsCanvas::UseLineStyle(const LegendStyle& style) {
-  style_ = style;
-  pending_ = Pending::kLineStyle;
+  plain_.UseLineStyle(style);
   const bool can_step = IsOnePixelPen(style) && IsPlainColor(style.color);
   lines_ = can_step ? learnt_.Lines() : nullptr;
   line_color_ = PixelOf(style.color);
@@ -40,43 +39,47 @@ void BitsCanvas::Line(const ScreenSegment& segment) {
   if (lines_ && IsNear(segment.start) && IsNear(segment.end)) {
     StepLine(Bits(), *lines_, segment, line_color_);
   } else {
-    Plain().Line(segment);
+    plain_.Canvas().Line(segment);
   }
 }
 
-void BitsCanvas::Circle(ScreenPoint centre, int radius) { Plain().Circle(centre, radius); }
+void BitsCanvas::Circle(ScreenPoint centre, int radius) { plain_.Canvas().Circle(centre, radius); }
 
 void BitsCanvas::UsePointStyle(const LegendStyle& style) {
-  style_ = style;
-  pending_ = Pending::kPointStyle;
+  plain_.UsePointStyle(style);
   mark_ = style.prm1 > 0 ? learnt_.Mark(style) : nullptr;
-  labels_ = style.prm2 > 0 ? learnt_.Labels(style.prm2) : nullptr;
+  LookUpLabels();
+}
+
+void BitsCanvas::UseTextColor(std::uint32_t color) {
+  if (color == text_color_) return;
+  text_color_ = color;
+  plain_.UseTextColor(color);
+  LookUpLabels();
+}
+
+void BitsCanvas::LookUpLabels() {
+  const int height = plain_.Style().prm2;
+  labels_ = height > 0 ? learnt_.Labels(height, text_color_) : nullptr;
 }
 
 void BitsCanvas::Mark(ScreenPoint at) {
   if (mark_) {
     mark_->Draw(Bits(), at);
   } else {
-    Plain().Mark(at);
+    plain_.Canvas().Mark(at);
   }
 }
 
 void BitsCanvas::Label(ScreenPoint at, NameView text) {
-  const LabelBox box = PlaceLabel(at, style_.prm1, style_.prm2, static_cast<int>(text.size()));
-  if (!labels_ || !labels_->Draw(Bits(), {box.left, box.top}, text)) Plain().Label(at, text);
-}
-
-PlanCanvas& BitsCanvas::Plain() {
-  if (pending_ == Pending::kLineStyle) plain_.UseLineStyle(style_);
-  if (pending_ == Pending::kPointStyle) plain_.UsePointStyle(style_);
-  pending_ = Pending::kNothing;
-  may_lag_ = true;
-  return plain_;
+  const LegendStyle& style = plain_.Style();
+  const LabelBox box = PlaceLabel(at, style.prm1, style.prm2, static_cast<int>(text.size()));
+  if (!labels_ || !labels_->Draw(Bits(), {box.left, box.top}, text))
+    plain_.Canvas().Label(at, text);
 }
 
 const PixelBlock& BitsCanvas::Bits() {
-  if (may_lag_) ::GdiFlush();
-  may_lag_ = false;
+  plain_.Settle();
   return block_;
 }
 

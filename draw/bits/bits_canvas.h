@@ -5,9 +5,9 @@
 
 #include <cstdint>
 
+#include "draw/bits/lazy_plain.h"
 #include "draw/bits/learnt_drawing.h"
 #include "draw/bits/pixel_block.h"
-#include "draw/plain_canvas.h"
 #include "draw/plan_canvas.h"
 
 namespace tavix {
@@ -26,28 +26,24 @@ class BitsCanvas : public PlanCanvas {
   void Circle(ScreenPoint centre, int radius) override;
   void UsePointStyle(const LegendStyle& style) override;
   void Mark(ScreenPoint at) override;
+  void UseTextColor(std::uint32_t color) override;
   void Label(ScreenPoint at, NameView text) override;
 
  private:
-  // Which objects the plain canvas still has to make before it is drawn on.
-  enum class Pending { kNothing, kLineStyle, kPointStyle };
+  void LookUpLabels();
 
-  // The plain canvas with the style in use, and the bits with all that has been drawn on it.
-  [[nodiscard]] PlanCanvas& Plain();
   [[nodiscard]] const PixelBlock& Bits();
 
-  PlainCanvas plain_;
+  LazyPlain plain_;
   PixelBlock block_;
   LearntDrawing& learnt_;
-  LegendStyle style_;
-  Pending pending_ = Pending::kNothing;
-  bool may_lag_ = true;  // the system may hold back what it has been told to draw
 
   // Null: the system draws it.
   const LineRule* lines_ = nullptr;
   const Stamp* mark_ = nullptr;
   LabelGlyphs* labels_ = nullptr;
   std::uint32_t line_color_ = 0;
+  std::uint32_t text_color_;
 };
 
 }  // namespace tavix

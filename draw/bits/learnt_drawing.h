@@ -3,9 +3,11 @@
 
 #include <windows.h>
 
-#include <list>
+#include <cstdint>
+#include <map>
 #include <optional>
 
+#include "draw/bits/few_looks.h"
 #include "draw/bits/label_glyphs.h"
 #include "draw/bits/line_rule.h"
 #include "draw/bits/smooth_blend.h"
@@ -35,20 +37,23 @@ class LearntDrawing {
   // The mark of a style.
   [[nodiscard]] const Stamp* Mark(const LegendStyle& style);
 
-  // Labels of this height in pixels.
-  [[nodiscard]] LabelGlyphs* Labels(int height);
+  // Labels of this height in pixels and this colour.
+  [[nodiscard]] LabelGlyphs* Labels(int height, std::uint32_t color = 0);
 
  private:
   struct LearntMark {
-    LegendStyle style;
+    explicit LearntMark(const LegendStyle& style);
     std::optional<Stamp> stamp;
   };
 
+  // A height and a colour.
+  using LabelKey = std::pair<int, std::uint32_t>;
+
   bool lines_learnt_ = false;
   std::optional<LineRule> lines_;
-  std::list<LearntMark> marks_;
-  SmoothBlend blend_;
-  std::list<LabelGlyphs> labels_;
+  FewLooks<LegendStyle, LearntMark, kMostMarks> marks_;
+  std::map<std::uint32_t, SmoothBlend> blends_;  // by the text's colour
+  FewLooks<LabelKey, LabelGlyphs, kMostFonts> labels_;
   UINT smoothing_ = 0;
 };
 

@@ -29,7 +29,6 @@ inline std::uint8_t LeftByShare(std::uint8_t value, std::uint16_t share) {
 class SmoothBlend {
  public:
   void Learn(std::uint8_t level, const BlendRamp& ramp);
-  void Forget() { levels_ = {}; }
 
   [[nodiscard]] bool Knows(std::uint8_t level) const { return levels_[level].known; }
 

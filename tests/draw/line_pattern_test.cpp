@@ -308,6 +308,32 @@ TEST(WalkPattern, GivesEveryPieceThatShows) {
   EXPECT_LT(given, all / 4);
 }
 
+// The pieces of a curve seen from afar, down to less than the spacing of its coordinates.
+TEST(WalkPattern, ShortSegmentsAreTheFullWalk) {
+  std::mt19937_64 random(83);
+  const auto in = [&](double low, double high) {
+    return std::uniform_real_distribution<double>(low, high)(random);
+  };
+  std::size_t single = 0;
+  constexpr int kSegments = 20000;
+  for (int i = 0; i < kSegments; ++i) {
+    const double scale = std::pow(10, in(-3, 5));
+    const double far = std::pow(10, in(0, 9));
+    const GroundPoint start{in(-far, far), in(-far, far)};
+    const double pixels = std::pow(10, in(-6, 1.2));
+    const GroundPoint end{start.x + in(-pixels, pixels) / scale,
+                          start.y + (i % 3 == 0 ? 0 : in(-pixels, pixels)) / scale};
+    if (SamePoint(start, end)) continue;
+    const CViewState view = ViewAt(start, scale, i % 360, i % 2 == 0 ? 1 : 3);
+    const LinePattern pattern = Pattern(102 + i % 4, i % 7, 1 + i % 3, i % 2);
+    const Pieces full = FullWalk(view, pattern, start, end);
+    ExpectSamePieces(Walk(view, pattern, start, end, kEverything), full);
+    if (HasFatalFailure()) FAIL() << "segment " << i;
+    single += full.size() == 1 ? 1 : 0;
+  }
+  EXPECT_GT(single, std::size_t{kSegments} / 2);
+}
+
 // Where a step is only a few times the spacing of the numbers it is added to, each addition rounds
 // the same way: the pattern drifts off the line, far over many steps. It shows where it is laid.
 TEST(WalkPattern, FollowsThePatternWhereRoundingCarriesItOffTheLine) {

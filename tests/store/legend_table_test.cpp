@@ -80,6 +80,32 @@ TEST(LegendTable, WhereANumberRepeatsTheFirstEntryCounts) {
   EXPECT_EQ(table.Entries().back().style, kStyle);
 }
 
+// Every number there is, at lengths before and after the added numbers have gone around.
+TEST(LegendTable, FindsTheFirstEntryFromTheHead) {
+  LegendTable table;
+  for (const std::size_t length : {16U, 17U, 400U, 32583U, 65553U, 66000U, 140000U}) {
+    while (table.Entries().size() < length) {
+      std::int16_t number = 0;
+      const auto place = static_cast<std::int32_t>(table.Entries().size());
+      ASSERT_EQ(table.Add(true, {place, 0, 0, 0, 0, 0}, &number), 0);
+    }
+    std::vector<const HanRec*> first(65536, nullptr);
+    for (const HanRec& entry : table.Entries()) {
+      const HanRec*& place = first[static_cast<std::uint16_t>(entry.number)];
+      if (!place) place = &entry;
+    }
+    for (int i = -32768; i <= 32767; ++i) {
+      const auto number = static_cast<std::int16_t>(i);
+      const HanRec* expected = first[static_cast<std::uint16_t>(number)];
+      HanRec entry;
+      ASSERT_EQ(table.Get(number, &entry), expected ? 0 : -1) << i << " of " << length;
+      if (expected) {
+        ASSERT_EQ(entry, *expected) << i << " of " << length;
+      }
+    }
+  }
+}
+
 TEST(LegendTable, UnknownNumbersAreRefusedAndChangeNothing) {
   for (const std::int16_t number : {std::int16_t{0}, std::int16_t{12}, std::int16_t{100},
                                     std::int16_t{106}, std::int16_t{201}, std::int16_t{-1}}) {
@@ -129,6 +155,16 @@ TEST(LegendTable, HasElevenTitles) {
   EXPECT_EQ(title, u"last");
   EXPECT_EQ(table.GetTitle(2, &title), 0);
   EXPECT_EQ(title, u"");
+}
+
+TEST(LegendTable, StoredEntriesLeaveAddedOnesInPlace) {
+  LegendTable table;
+  std::int16_t number = 0;
+  ASSERT_EQ(table.Add(true, kStyle, &number), 0);
+  table.TakeStored({});
+  HanRec entry;
+  ASSERT_EQ(table.Get(number, &entry), 0);
+  EXPECT_EQ(entry, (HanRec{201, true, kStyle}));
 }
 
 TEST(LegendTable, StoredEntriesAreNumberedByPlace) {

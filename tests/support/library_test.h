@@ -21,6 +21,8 @@ class LibraryTest : public testing::Test {
   static int CurrentIndex();
 
   [[nodiscard]] std::filesystem::path LegendFile() const { return data_.Path() / L"HANREI.DAT"; }
+  // What is written first when the legend is saved.
+  [[nodiscard]] std::filesystem::path FileBeside() const { return data_.Path() / L"HANREI.NEW"; }
 
  private:
   PrivateFolder data_{L"ROVCOND_DATA_FOLDER"};

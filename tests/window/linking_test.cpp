@@ -1,6 +1,8 @@
 // Linking an instance to a window: over a control, again, in vain, and to a host that goes first.
 #include <tavix/tavix.h>
 
+#include <limits>
+
 #include "tests/support/picture_compare.h"
 #include "tests/support/plot_test.h"
 #include "tests/support/raw_canvas.h"
@@ -61,6 +63,24 @@ TEST_F(Linking, OverAHiddenControlWorksTheSame) {
   ASSERT_EQ(0, Tavix_Lnk(host_.AsParent(), kControlId, kNotifyId));
   EXPECT_FALSE(::IsWindow(first));
   EXPECT_TRUE(::IsWindow(Window()));
+}
+
+// Refused before anything is made: a back buffer of this size would take gigabytes.
+TEST_F(Linking, OfMorePixelsThanMemoryHoldsIsRefused) {
+  constexpr int kFar = std::numeric_limits<int>::max();
+  const RECT rows[] = {{0, 0, 11586, 11586},
+                       {10, 10, 32779, 32779},
+                       {0, 0, 1, (1 << 27) + 1},
+                       {-kFar, -kFar, kFar, kFar},
+                       {-kFar, 0, kFar, 1}};
+  for (const RECT& rect : rows) {
+    EXPECT_EQ(
+        -1, Tavix_LnkRct(host_.AsParent(), rect.left, rect.top, rect.right, rect.bottom, kNotifyId))
+        << rect.right << " by " << rect.bottom;
+    EXPECT_FALSE(::IsWindow(Window()));
+    ExpectHarmlessCalls();
+  }
+  EXPECT_EQ(0, LinkPlot(200, 160));
 }
 
 TEST_F(Linking, AgainDestroysTheFirstWindowAndKeepsDataAndView) {

@@ -37,6 +37,9 @@ DWORD DispositionOf(UINT flags) {
   return flags & CFile::modeNoTruncate ? OPEN_ALWAYS : CREATE_ALWAYS;
 }
 
+DWORD Low(ULONGLONG number) { return static_cast<DWORD>(number); }
+DWORD High(ULONGLONG number) { return static_cast<DWORD>(number >> 32); }
+
 [[noreturn]] void ThrowLastError(LPCWSTR path) {
   CFileException::ThrowOsError(static_cast<LONG>(GetLastError()), path);
 }
@@ -117,6 +120,18 @@ ULONGLONG CFile::GetLength() const {
 void CFile::SetLength(ULONGLONG length) {
   Seek(static_cast<LONGLONG>(length), begin);
   if (!SetEndOfFile(m_hFile)) ThrowLastError(m_strFileName);
+}
+
+void CFile::LockRange(ULONGLONG position, ULONGLONG count) {
+  if (!LockFile(m_hFile, Low(position), High(position), Low(count), High(count))) {
+    ThrowLastError(m_strFileName);
+  }
+}
+
+void CFile::UnlockRange(ULONGLONG position, ULONGLONG count) {
+  if (!UnlockFile(m_hFile, Low(position), High(position), Low(count), High(count))) {
+    ThrowLastError(m_strFileName);
+  }
 }
 
 void CFile::Flush() {

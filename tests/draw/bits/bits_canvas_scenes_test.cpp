@@ -32,6 +32,8 @@ const char16_t* const kNames[] = {
     u"P1\x7F",
 };
 
+constexpr std::uint32_t kGrey = 0x00808080;  // of labels in the side view
+
 struct Scene {
   unsigned seed;
   int width;
@@ -61,6 +63,7 @@ class BitsScenes : public testing::TestWithParam<Scene> {
                             dice_.Between(0, scene.most_width),
                             dice_.Color()};
     twins.UsePointStyle(style);
+    twins.UseTextColor(dice_.Between(0, 3) == 0 ? kGrey : 0);
     for (int i = dice_.Between(1, 6); i > 0; --i) {
       const ScreenPoint at = dice_.Place(scene.width, scene.height, 20);
       if (style.prm1 > 0) twins.Mark(at);

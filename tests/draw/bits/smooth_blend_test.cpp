@@ -23,9 +23,6 @@ TEST(SmoothBlendLevels, AreKnownOnceLearnt) {
   blend.Learn(0x80, RampOf([](int value) { return value / 2; }));
   EXPECT_TRUE(blend.Knows(0x80));
   EXPECT_FALSE(blend.Knows(0x81));
-  blend.Forget();
-  EXPECT_FALSE(blend.Knows(0x80));
-  EXPECT_FALSE(blend.Share(0x80));
 }
 
 TEST(SmoothBlendLevels, TakeEachColourByItself) {

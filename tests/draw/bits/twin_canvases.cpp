@@ -42,6 +42,11 @@ void TwinCanvases::Mark(ScreenPoint at) {
   bits_.Mark(at);
 }
 
+void TwinCanvases::UseTextColor(std::uint32_t color) {
+  plain_.UseTextColor(color);
+  bits_.UseTextColor(color);
+}
+
 void TwinCanvases::Label(ScreenPoint at, NameView text) {
   plain_.Label(at, text);
   bits_.Label(at, text);

@@ -24,6 +24,7 @@ class TwinCanvases : public PlanCanvas {
   void Circle(ScreenPoint centre, int radius) override;
   void UsePointStyle(const LegendStyle& style) override;
   void Mark(ScreenPoint at) override;
+  void UseTextColor(std::uint32_t color) override;
   void Label(ScreenPoint at, NameView text) override;
 
   // Succeeds when both pictures are the same in every bit.

@@ -55,12 +55,30 @@ TEST_F(GroupCalls, NeedTheWindowOfTheInstance) {
   EXPECT_EQ(1, ink) << "the other instance's picture stays";
 }
 
-TEST_F(GroupCalls, OfASizeBeyondAllMemoryHoldNoPicture) {
+// 256 MiB are 8192 rows of 262144 pixels.
+TEST_F(GroupCalls, OfASizeBeyondMemoryAreRefusedAndHoldNoPicture) {
   constexpr int kMost = std::numeric_limits<int>::max();
-  ASSERT_EQ(0, Tavix_GrpStt(180, 240));
-  EXPECT_EQ(0, Tavix_GrpStt(kMost, kMost));
+  const struct {
+    int height;
+    int width;
+  } rows[] = {{8192, 262145},   {8193, 262144}, {8193, 262113}, {46500, 46500},
+              {131072, 131072}, {kMost, kMost}, {kMost, 1},     {1, kMost}};
+  for (const auto& [height, width] : rows) {
+    ASSERT_EQ(0, Tavix_GrpStt(180, 240));
+    EXPECT_EQ(height == 1 ? 0 : -1, Tavix_GrpStt(height, width)) << height << " by " << width;
+    int ink = 7;
+    EXPECT_EQ(0, Tavix_GrpGet(90, 20, &ink));
+    EXPECT_EQ(0, ink) << height << " by " << width;
+    EXPECT_EQ(0, Tavix_GrpEnd());
+  }
+}
+
+TEST_F(GroupCalls, OfTheLargestSizeHaveAPicture) {
+  ASSERT_EQ(0, Tavix_GrpStt(8192, 262144));
   int ink = 7;
-  EXPECT_EQ(0, Tavix_GrpGet(90, 20, &ink));
+  EXPECT_EQ(0, Tavix_GrpGet(4096, 131072, &ink));
+  EXPECT_EQ(1, ink) << "the thick line's middle";
+  EXPECT_EQ(0, Tavix_GrpGet(8191, 262143, &ink));
   EXPECT_EQ(0, ink);
   EXPECT_EQ(0, Tavix_GrpEnd());
 }

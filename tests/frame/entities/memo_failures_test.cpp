@@ -23,8 +23,9 @@ class MemoFailures : public LibraryTest {
   }
 
   void TearDown() override {
-    for (const Operation each : {Operation::kCreate, Operation::kOpen, Operation::kSeek,
-                                 Operation::kRead, Operation::kWrite, Operation::kDeleteRecord}) {
+    for (const Operation each :
+         {Operation::kCreate, Operation::kDelete, Operation::kOpen, Operation::kSeek,
+          Operation::kRead, Operation::kWrite, Operation::kDeleteRecord}) {
       store_.Pass(each);
     }
     LibraryTest::TearDown();
@@ -75,6 +76,17 @@ TEST_F(MemoFailures, APointGoesThoughItsMemoStays) {
   EXPECT_EQ(0, Tavix_DelEntPnt(1));
   EXPECT_EQ(-1, Tavix_DelEntPnt(1));
   EXPECT_EQ(L"memo", Memo(1));
+}
+
+TEST_F(MemoFailures, ADatabaseThatCannotBeDeletedIsOpenedAgainAsItIs) {
+  ASSERT_EQ(0, Tavix_EntPnt(1, 1, L"P", 0.0, 0.0));
+  ASSERT_EQ(0, Tavix_EntLin(1, 2));
+  store_.Fail(Operation::kDelete, StoreError::kInUse, 0, 1);
+  EXPECT_EQ(0, Tavix_DrwClr()) << "it is open again: the clearing goes on";
+  EXPECT_EQ(L"memo", Memo(1));
+  EXPECT_TRUE(LinesOnDevice().empty());
+  EXPECT_EQ(0, Tavix_DrwClr());
+  EXPECT_TRUE(MemosOnDevice().empty()) << "deleted by the next attempt";
 }
 
 TEST_F(MemoFailures, ADatabaseThatCannotBeOpenedIsOpenedLater) {

@@ -14,10 +14,13 @@ namespace {
 
 constexpr LPCWSTR kVariable = L"CE_DEVICE_ROOT";
 
-CString LocalRoot() {
+// The root that this process has to itself.
+CString OwnRoot() {
   WCHAR folder[MAX_PATH];
   EXPECT_EQ(SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder), S_OK);
-  return CString(folder) + L"\\Tavix\\DeviceRoot";
+  CString root;
+  root.Format(L"%s\\Tavix\\DeviceRoot\\process-%lu", folder, GetCurrentProcessId());
+  return root;
 }
 
 TEST(DeviceRoot, TakesPathsWithExactlyOneLeadingBackslash) {
@@ -58,7 +61,7 @@ TEST(DeviceRoot, IsReadAnewAtEachMapping) {
   variable.Set(L"C:\\Second");
   EXPECT_EQ(AfxMapDevicePath(L"\\a"), L"C:\\Second\\a");
   variable.Set(nullptr);
-  EXPECT_EQ(AfxMapDevicePath(L"\\a"), LocalRoot() + L"\\a");
+  EXPECT_EQ(AfxMapDevicePath(L"\\a"), OwnRoot() + L"\\a");
 }
 
 TEST(DeviceRoot, MayHaveALongName) {
@@ -67,15 +70,30 @@ TEST(DeviceRoot, MayHaveALongName) {
   EXPECT_EQ(AfxMapDevicePath(L"\\a"), CString(root.c_str()) + L"\\a");
 }
 
-TEST(DeviceRoot, LiesInTheLocalDataWhenTheVariableNamesNothing) {
+TEST(DeviceRoot, ThatBeginsWithOneBackslashIsNoPathOfTheDeviceItself) {
+  const EnvironmentVariable variable(kVariable, L"\\Root");
+  const CString mapped = AfxMapDevicePath(L"\\a");
+  EXPECT_EQ(mapped.Mid(1), L":\\Root\\a") << "on the present drive";
+  EXPECT_EQ(AfxMapDevicePath(mapped), mapped) << "mapped once and for all";
+}
+
+TEST(DeviceRoot, IsAFolderOfTheProcessWhenTheVariableNamesNothing) {
   for (LPCWSTR value : {static_cast<LPCWSTR>(nullptr), L"", L"\\"}) {
-    // One with something in it is somebody's own, and shows that nothing is done to it.
-    std::error_code in_use;
-    std::filesystem::remove(LocalRoot().GetString(), in_use);
     const EnvironmentVariable variable(kVariable, value);
-    EXPECT_EQ(AfxMapDevicePath(L"\\a.dat"), LocalRoot() + L"\\a.dat");
-    EXPECT_TRUE(std::filesystem::is_directory(LocalRoot().GetString()));
+    EXPECT_EQ(AfxMapDevicePath(L"\\a.dat"), OwnRoot() + L"\\a.dat");
+    EXPECT_TRUE(std::filesystem::is_directory(OwnRoot().GetString()));
   }
+}
+
+TEST(DeviceRoot, OfTheProcessCannotBeRemovedWhileItRuns) {
+  const EnvironmentVariable variable(kVariable, nullptr);
+  const CString root = AfxMapDevicePath(L"\\");
+  EXPECT_FALSE(RemoveDirectoryW(root));
+  EXPECT_EQ(static_cast<DWORD>(ERROR_SHARING_VIOLATION), GetLastError());
+  CFile file(L"\\a.dat", CFile::modeCreate | CFile::modeWrite);
+  EXPECT_EQ(file.GetFilePath(), OwnRoot() + L"\\a.dat") << "what is in it is as in any folder";
+  file.Close();
+  CFile::Remove(L"\\a.dat");
 }
 
 TEST(DeviceRoot, IsWhereEveryCallOfCFileLooks) {

@@ -50,6 +50,22 @@ TEST_F(File, ReadsNoFurtherThanTheEnd) {
   EXPECT_EQ(file.GetLength(), 3U);
 }
 
+TEST_F(File, LocksARangeThatMayLieBehindTheEnd) {
+  constexpr ULONGLONG kFar = ULONGLONG{1} << 62;
+  CFile file(path_.c_str(), kFresh | CFile::shareDenyNone);
+  CFile other(path_.c_str(), CFile::modeReadWrite | CFile::shareDenyNone);
+  file.LockRange(kFar, 1);
+  EXPECT_EQ(CauseOf([&] { other.LockRange(kFar, 1); }), CFileException::lockViolation);
+  other.LockRange(kFar + 1, 1);
+  other.Write("abc", 3);
+  EXPECT_EQ(ReadAll(file), "abc");
+  file.UnlockRange(kFar, 1);
+  other.LockRange(kFar, 1);
+  EXPECT_NE(CauseOf([&] { file.UnlockRange(kFar, 1); }), CFileException::none);
+  other.Close();
+  file.LockRange(kFar, 2);
+}
+
 TEST_F(File, NoBytesAreNoCall) {
   CFile file(path_.c_str(), CFile::modeCreate | CFile::modeRead);
   EXPECT_EQ(file.Read(nullptr, 0), 0U);

@@ -9,9 +9,10 @@
 #include "framework/string.h"
 
 // The path as the system knows it: of a path that begins with exactly one backslash, the file in
-// the folder that the environment variable CE_DEVICE_ROOT names at this moment, or, when it is
-// unset or empty, in the folder Tavix\DeviceRoot of the user's local application data, made when
-// missing. Any other path comes back unchanged.
+// the folder that the environment variable CE_DEVICE_ROOT names at this moment. When it is unset or
+// empty, the folder is one that this process has to itself and that goes with the process:
+// Tavix\DeviceRoot\process-<id> in the user's local application data. Any other path, a mapped one
+// among them, comes back unchanged.
 AFX_FRAMEWORK CString AfxMapDevicePath(LPCWSTR path);
 
 // Calls that fail throw a CFileException*, but for Open, which returns FALSE.
@@ -56,6 +57,11 @@ class AFX_FRAMEWORK CFile : public CObject {
   virtual ULONGLONG GetPosition() const;
   virtual ULONGLONG GetLength() const;
   virtual void SetLength(ULONGLONG length);
+
+  // Keeps these bytes, which may lie behind the end, from every other handle until they are
+  // unlocked or the file is closed.
+  virtual void LockRange(ULONGLONG position, ULONGLONG count);
+  virtual void UnlockRange(ULONGLONG position, ULONGLONG count);
 
   virtual void Flush();
   virtual void Close();

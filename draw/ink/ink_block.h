@@ -1,0 +1,42 @@
+// A one-bit picture in memory.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace tavix {
+
+// The pixels of a one-bit bitmap section, owned by the bitmap: rows from the bottom up, the most
+// significant bit first. A bit that is set is ink.
+struct InkBlock {
+  std::uint8_t* rows = nullptr;
+  int width = 0;
+  int height = 0;
+  std::size_t stride = 0;  // bytes a row
+
+  // Makes pixels (x, y) to (x + count - 1, y), y from the top, ink or paper. All lie inside, count
+  // is above 0.
+  void Fill(int x, int y, int count, bool ink) const {
+    std::uint8_t* const row = rows + static_cast<std::size_t>(height - 1 - y) * stride;
+    const int last = x + count - 1;
+    auto mask = static_cast<std::uint8_t>(0xFF >> (x & 7));
+    int byte = x >> 3;
+    for (; byte < last >> 3; ++byte) {
+      Set(row[byte], mask, ink);
+      mask = 0xFF;
+    }
+    Set(row[byte], static_cast<std::uint8_t>(mask & 0xFF << (7 - (last & 7))), ink);
+  }
+
+  [[nodiscard]] bool IsInk(int x, int y) const {
+    const std::uint8_t* const row = rows + static_cast<std::size_t>(height - 1 - y) * stride;
+    return (row[x >> 3] >> (7 - (x & 7)) & 1) != 0;
+  }
+
+ private:
+  static void Set(std::uint8_t& byte, std::uint8_t mask, bool ink) {
+    byte = static_cast<std::uint8_t>(ink ? byte | mask : byte & ~mask);
+  }
+};
+
+}  // namespace tavix

@@ -1,0 +1,90 @@
+// Exported calls on what is drawn over the plot: a moved point and a traced polyline.
+#include <tavix/tavix.h>
+
+#include "frame/host_arguments.h"
+#include "frame/slot_table.h"
+#include "window/plot_window.h"
+
+using tavix::CPlotWnd;
+using tavix::Instance;
+using tavix::kRefused;
+using tavix::OnInstance;
+using tavix::OnWindow;
+
+int Tavix_MvPntStt(int legend) {
+  return OnInstance([=](Instance& instance) { return instance.StartMovePoint(legend); });
+}
+
+int Tavix_MvPntRub(double X, double Y) {
+  return OnWindow([=](CPlotWnd& window) {
+    window.SetMoveAnchor({X, Y});
+    return 0;
+  });
+}
+
+int Tavix_MvPntMov(double X, double Y) {
+  return OnWindow([=](CPlotWnd& window) {
+    window.MovePointTo({X, Y});
+    return 0;
+  });
+}
+
+int Tavix_MvPntEnd() {
+  return OnWindow([](CPlotWnd& window) {
+    window.EndMovePoint();
+    return 0;
+  });
+}
+
+// ---- Traced polyline
+
+int Tavix_VoStt() { return Tavix_VoEnd(); }
+
+int Tavix_VoAdd(double X, double Y) {
+  return OnWindow([=](CPlotWnd& window) {
+    window.AddTraced({X, Y});
+    return 0;
+  });
+}
+
+int Tavix_VoDel() {
+  return OnWindow([](CPlotWnd& window) { return window.RemoveTraced() ? 0 : kRefused; });
+}
+
+int Tavix_VoGet(int* count) {
+  return OnWindow([=](CPlotWnd& window) {
+    if (!tavix::CanWrite(count)) return kRefused;
+    *count = static_cast<int>(window.Traced().size());
+    return 0;
+  });
+}
+
+int Tavix_VoLst(double* X, double* Y) {
+  return OnWindow([=](CPlotWnd& window) {
+    const auto vertices = window.Traced();
+    if (!vertices.empty() && !tavix::CanWrite(X, Y)) return kRefused;
+    for (std::size_t i = 0; i < vertices.size(); ++i) {
+      X[i] = vertices[i].x;
+      Y[i] = vertices[i].y;
+    }
+    return 0;
+  });
+}
+
+int Tavix_VoIdx(int index, double* X, double* Y) {
+  return OnWindow([=](CPlotWnd& window) {
+    const auto vertices = window.Traced();
+    const auto place = static_cast<std::size_t>(index);
+    if (!tavix::CanWrite(X, Y) || index < 0 || place >= vertices.size()) return kRefused;
+    *X = vertices[place].x;
+    *Y = vertices[place].y;
+    return 0;
+  });
+}
+
+int Tavix_VoEnd() {
+  return OnWindow([](CPlotWnd& window) {
+    window.EndTraced();
+    return 0;
+  });
+}

@@ -1,0 +1,86 @@
+#include "frame/instance.h"
+
+#include "frame/instance_parts.h"
+#include "window/plot_window.h"
+
+namespace tavix {
+namespace {
+
+constexpr std::int16_t kNoLegend = -1;
+
+}  // namespace
+
+Instance::Instance(int index)
+    : parts_(std::make_unique<Parts>(index)), point_legend_(kNoLegend), line_legend_(kNoLegend) {
+  parts_->memos.Open();
+  parts_->lines.Open();
+  parts_->figures.Open();
+}
+
+Instance::~Instance() {
+  if (window_) window_->DestroyWindow();
+  window_.reset();
+  parts_->memos.Discard();
+  parts_->lines.Discard();
+  parts_->figures.Close();
+  parts_->legend.Save();
+}
+
+CViewState& Instance::View() { return parts_->view; }
+CPntList& Instance::Points() { return parts_->points; }
+CPnt3List& Instance::Points3() { return parts_->points3; }
+CMemDb& Instance::Memos() { return parts_->memos; }
+CLinDb& Instance::Lines() { return parts_->lines; }
+CFigList& Instance::Figures() { return parts_->figures; }
+LegendTable& Instance::Legend() { return parts_->legend.Table(); }
+CPlotWnd* Instance::Window() { return window_.get(); }
+
+int Instance::Clear() {
+  if (const int code = parts_->points.Clear(); code != 0) return code;
+  if (const int code = parts_->points3.Clear(); code != 0) return code;
+  if (const int code = parts_->memos.Clear(); code != 0) return code;
+  if (const int code = parts_->lines.Clear(); code != 0) return code;
+  return parts_->figures.Clear();
+}
+
+int Instance::LinkWindow(unsigned notify_id, const std::function<bool(CPlotWnd&)>& create) {
+  if (window_) window_->DestroyWindow();
+  window_ = std::make_unique<CPlotWnd>(notify_id);
+  window_->Link({&parts_->view, &parts_->points, &parts_->points3, &parts_->lines, &parts_->figures,
+                 &parts_->legend});
+  const bool created = create(*window_);
+  // Compatibility: the button flag is applied to a window that could not be made, too.
+  window_->ApplyButtonFlag(show_buttons_);
+  return created ? 0 : -1;
+}
+
+void Instance::ShowButtons(bool show) {
+  show_buttons_ = show;
+  if (window_) window_->ApplyButtonFlag(show);
+}
+
+void Instance::ShowSideView(bool show) {
+  if (window_) window_->SetDisplay3D(show);
+  parts_->view.SetAngle(0);
+}
+
+int Instance::StartMovePoint(int legend) {
+  const auto number = static_cast<std::int16_t>(legend);
+  HanRec entry;
+  if (!window_ || number != legend || Legend().Get(number, &entry) != 0) return -1;
+  if (!entry.is_point) return -2;
+  window_->StartMovePoint(entry.style);
+  return 0;
+}
+
+int Instance::Redraw(bool keep_view) {
+  if (!window_) return -1;
+  if (!keep_view) window_->FitView();  // with nothing to fit the view stays
+  return window_->ViewChanged();
+}
+
+int Instance::RedrawAfterChange(int code) {
+  return code == 0 && auto_redraw_ ? Redraw(true) : code;
+}
+
+}  // namespace tavix

@@ -1,0 +1,126 @@
+// One plot instance: its stores, its view, and the window that shows it.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+class CString;
+
+namespace tavix {
+
+class CFigList;
+class CLinDb;
+class CMemDb;
+class CPlotWnd;
+class CPnt3List;
+class CPntList;
+class CViewState;
+class LegendTable;
+struct LineKeys;
+struct Point;
+struct Point3;
+
+// Owns what it refers to. Its rules are those of the exported calls that concern more than one of
+// its parts; what concerns one part alone, callers ask of the part.
+class Instance {
+ public:
+  // Makes instance `index`, 0 to 4, with empty stores and the legend of the legend file, in the
+  // order view, points, 3-D points, memos, lines, figures, legend.
+  explicit Instance(int index);
+
+  // Destroys the window, then the parts in the order in which they were made; the legend is saved.
+  ~Instance();
+
+  Instance(const Instance&) = delete;
+  Instance& operator=(const Instance&) = delete;
+
+  [[nodiscard]] CViewState& View();
+  [[nodiscard]] CPntList& Points();
+  [[nodiscard]] CPnt3List& Points3();
+  [[nodiscard]] CMemDb& Memos();
+  [[nodiscard]] CLinDb& Lines();
+  [[nodiscard]] CFigList& Figures();
+  [[nodiscard]] LegendTable& Legend();
+
+  // Null while none is linked.
+  [[nodiscard]] CPlotWnd* Window();
+
+  // Empties the stores, the legend excepted. 0, or the code of the first store that cannot be
+  // emptied; the stores after it are left alone.
+  int Clear();
+
+  // ---- The window
+
+  // Destroys the window there is, makes a new one and has `create` give it its place. -1 when that
+  // fails; the window then stays, without a handle, until the next link.
+  int LinkWindow(unsigned notify_id, const std::function<bool(CPlotWnd&)>& create);
+
+  // Kept for windows to come, and applied to the one that is linked.
+  void ShowButtons(bool show);
+
+  // Switches between plan and side view, and turns the view back to 0 degrees.
+  void ShowSideView(bool show);
+
+  // Gives the moved point the look of a point legend. -1 for an unknown number or without a window,
+  // -2 for an entry that is not a point legend; the look is then as it was.
+  int StartMovePoint(int legend);
+
+  // Redraws everything, with `keep_view` unset after a fit to the data. -1 without a window, else
+  // the redraw's result.
+  int Redraw(bool keep_view);
+
+  // While set, entering something new draws it at once and a change redraws the window.
+  void SetAutoRedraw(bool on) { auto_redraw_ = on; }
+
+  // The answer of a call that changed something with `code`: that code, or where it is 0 and
+  // auto-redraw is on, the redraw's.
+  int RedrawAfterChange(int code);
+
+  // ---- Entities
+
+  // The legends of the points and lines that are entered; they need not exist.
+  void SelectPointLegend(std::int16_t number) { point_legend_ = number; }
+  void SelectLineLegend(std::int16_t number) { line_legend_ = number; }
+
+  // Enter a point with the selected point legend, or replace all but the key of the one that has
+  // this key. 0, or the redraw's result.
+  int EnterPoint(const Point& point);
+  int EnterPoint3(const Point3& point);
+
+  // Change one value of a point. With auto-redraw on a value that is there already is no change,
+  // and nothing is drawn. -1 for an unknown key, else 0 or the redraw's result.
+  int ChangePointLegend(std::int32_t key, std::int16_t legend);
+  int ChangePointNumberAndName(const Point& point);
+  int ChangePointPosition(const Point& point);
+
+  // Removes a point and the memo of its key. -1 for an unknown key; its memo goes all the same.
+  int RemovePoint(std::int32_t key);
+
+  // Enters a line with the selected line legend; one that is there stays as it is. 0, or -1 when it
+  // could not be added.
+  int EnterLine(LineKeys keys);
+
+  // End a figure, or delete every piece of a figure number, and redraw with auto-redraw on. 0, or
+  // -1 where there can be no figures or, to delete, where there is none of any number.
+  int EndFigure();
+  int DeleteFigure(std::int32_t number);
+
+  // The code of a search that found no such line, of a change that failed, or the redraw's result.
+  int ChangeLineLegend(LineKeys keys, std::int16_t legend);
+
+ private:
+  struct Parts;
+
+  template <class IsSame, class Change>
+  int ChangePoint(std::int32_t key, IsSame is_same, Change change);
+
+  std::unique_ptr<Parts> parts_;
+  std::unique_ptr<CPlotWnd> window_;
+  std::int16_t point_legend_;
+  std::int16_t line_legend_;
+  bool show_buttons_ = true;
+  bool auto_redraw_ = false;
+};
+
+}  // namespace tavix

@@ -1,0 +1,100 @@
+// What an instance does when points, lines and figures are entered and changed.
+#include "frame/instance.h"
+#include "frame/instance_parts.h"
+#include "store/point_compare.h"
+#include "window/plot_window.h"
+
+namespace tavix {
+
+// Changes the point with this key unless, with auto-redraw on, `is_same` finds nothing to change.
+template <class IsSame, class Change>
+int Instance::ChangePoint(std::int32_t key, IsSame is_same, Change change) {
+  CPntList& points = parts_->points;
+  if (points.Find(key) != 0) return -1;
+  Point old;
+  if (auto_redraw_ && points.GetCur(&old) == 0 && is_same(old)) return 0;
+  return RedrawAfterChange(change(points));
+}
+
+int Instance::EnterPoint(const Point& entered) {
+  Point point = entered;
+  point.legend = point_legend_;
+  if (parts_->points.Find(point.key) != 0) {
+    const int code = parts_->points.Add(point);
+    if (code == 0 && auto_redraw_ && window_) window_->DrawNewPoint(point);
+    return code;
+  }
+  return ChangePoint(
+      point.key,
+      [&](const Point& old) {
+        return old.number == point.number && old.name == point.name &&
+               IsSamePlace(old.at, point.at) && old.legend == point.legend;
+      },
+      [&](CPntList& points) {
+        return points.SetCur(point.number, point.name, point.at, point.legend);
+      });
+}
+
+int Instance::EnterPoint3(const Point3& entered) {
+  Point3 point = entered;
+  point.legend = point_legend_;
+  CPnt3List& points = parts_->points3;
+  if (points.Find(point.key) != 0) return points.Add(point);
+  return points.SetCur(point.number, point.name, point.at, point.z, point.legend);
+}
+
+int Instance::ChangePointLegend(std::int32_t key, std::int16_t legend) {
+  return ChangePoint(
+      key, [=](const Point& old) { return old.legend == legend; },
+      [=](CPntList& points) { return points.SetCurHan(legend); });
+}
+
+int Instance::ChangePointNumberAndName(const Point& point) {
+  return ChangePoint(
+      point.key,
+      [&](const Point& old) { return old.number == point.number && old.name == point.name; },
+      [&](CPntList& points) { return points.SetCurNoNam(point.number, point.name); });
+}
+
+int Instance::ChangePointPosition(const Point& point) {
+  return ChangePoint(
+      point.key, [&](const Point& old) { return IsSamePlace(old.at, point.at); },
+      [&](CPntList& points) { return points.SetCurCrd(point.at); });
+}
+
+int Instance::RemovePoint(std::int32_t key) {
+  parts_->memos.Remove(key);  // there may be none, or it cannot be removed: the point goes anyway
+  return parts_->points.Remove(key);
+}
+
+int Instance::EnterLine(LineKeys keys) {
+  CLinDb& lines = parts_->lines;
+  if (lines.Find(keys) == 0) return 0;
+  Line line{0, keys, line_legend_};
+  const int code = lines.Add(keys, line.legend, &line.id);
+  if (code == 0 && auto_redraw_ && window_) window_->DrawNewLine(line);
+  return code;
+}
+
+int Instance::ChangeLineLegend(LineKeys keys, std::int16_t legend) {
+  CLinDb& lines = parts_->lines;
+  if (const int code = lines.Find(keys); code != 0) return code;
+  Line old;
+  if (auto_redraw_ && lines.ReadCur(&old) == 0 && old.legend == legend) return 0;
+  return RedrawAfterChange(lines.SetCurHan(legend));
+}
+
+int Instance::EndFigure() {
+  if (!parts_->figures.IsOpen()) return -1;
+  parts_->figures.SetChanged(true);
+  RedrawAfterChange(0);  // Compatibility: without a window too the figure is ended
+  return 0;
+}
+
+int Instance::DeleteFigure(std::int32_t number) {
+  if (!parts_->figures.IsOpen() || parts_->figures.Delete(number) != 0) return -1;
+  RedrawAfterChange(0);
+  return 0;
+}
+
+}  // namespace tavix
