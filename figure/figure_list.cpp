@@ -25,20 +25,27 @@ bool Quietly(Step step) {
   }
 }
 
-// Opens a file and empties it. A file that belongs to an instance of another process is not
-// touched.
-bool OpenEmpty(CFile& file, LPCWSTR name_format, int instance) {
+enum class Opening { kDone, kCannotBeMade, kTaken };
+
+// Opens a file and empties it. A file that belongs to an instance of another process is taken, and
+// is not touched.
+Opening OpenEmpty(CFile& file, LPCWSTR name_format, int instance) {
   constexpr UINT kKeepContents = CFile::modeCreate | CFile::modeNoTruncate;
   constexpr UINT kForThisProcessOnly = CFile::modeReadWrite | CFile::modeNoInherit;
   CString path;
   path.Format(name_format, instance);
-  if (!file.Open(path, kKeepContents | kForThisProcessOnly | CFile::shareDenyNone)) return false;
-  const bool own = Quietly([&] {
+  if (!file.Open(path, kKeepContents | kForThisProcessOnly | CFile::shareDenyNone)) {
+    return Opening::kCannotBeMade;
+  }
+  Opening opening = Opening::kTaken;
+  const bool done = Quietly([&] {
     file.LockRange(kOwnersByte, 1);
+    opening = Opening::kCannotBeMade;
     file.SetLength(0);
   });
-  if (!own) file.Abort();
-  return own;
+  if (done) return Opening::kDone;
+  file.Abort();
+  return opening;
 }
 
 void CloseAndDelete(CFile& file) {
@@ -110,10 +117,10 @@ CFigList::CFigList(int instance, std::unique_ptr<CFile> index, std::unique_ptr<C
 
 int CFigList::Open() {
   changed_ = false;
-  if (OpenEmpty(*index_, L"\\FIG%d.DAT", instance_) &&
-      OpenEmpty(*coordinates_, L"\\FIG%d.XY", instance_)) {
-    return 0;
-  }
+  Opening opening = OpenEmpty(*index_, L"\\FIG%d.DAT", instance_);
+  if (opening == Opening::kDone) opening = OpenEmpty(*coordinates_, L"\\FIG%d.XY", instance_);
+  taken_ = opening == Opening::kTaken;
+  if (opening == Opening::kDone) return 0;
   Close();
   return -1;
 }
@@ -129,8 +136,6 @@ int CFigList::Clear() {
   pending_ = {};
   return Open();
 }
-
-bool CFigList::IsOpen() const { return index_->m_hFile != CFile::hFileNull; }
 
 void CFigList::SetPending(std::int32_t number, std::int32_t legend) {
   pending_.number = number;

@@ -36,9 +36,11 @@ class CFigList {
   CFigList(int instance, std::unique_ptr<CFile> index, std::unique_ptr<CFile> coordinates);
 
   // Opens both files, empty. 0, or -1 when one of them cannot be made or belongs to another
-  // process; both are then closed, and there can be no figures.
+  // process; both are then closed, and no figure is kept.
   int Open();
-  [[nodiscard]] bool IsOpen() const;
+
+  // Whether the last Open found files that belong to another process.
+  [[nodiscard]] bool IsTaken() const { return taken_; }
 
   // Closes both files and deletes them. Always 0.
   int Close();
@@ -84,6 +86,7 @@ class CFigList {
   std::unique_ptr<CFile> coordinates_;
   FigureRecord pending_;
   bool changed_ = false;
+  bool taken_ = false;
   int instance_;
 };
 

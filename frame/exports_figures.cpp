@@ -22,7 +22,7 @@ namespace {
 template <class Call>
 int OnFigures(Call call) {
   return OnInstance([&](Instance& instance) {
-    return instance.Figures().IsOpen() ? call(instance.Figures()) : kRefused;
+    return instance.Figures().IsTaken() ? kRefused : call(instance.Figures());
   });
 }
 

@@ -85,14 +85,14 @@ int Instance::ChangeLineLegend(LineKeys keys, std::int16_t legend) {
 }
 
 int Instance::EndFigure() {
-  if (!parts_->figures.IsOpen()) return -1;
+  if (parts_->figures.IsTaken()) return -1;
   parts_->figures.SetChanged(true);
   RedrawAfterChange(0);  // Compatibility: without a window too the figure is ended
   return 0;
 }
 
 int Instance::DeleteFigure(std::int32_t number) {
-  if (!parts_->figures.IsOpen() || parts_->figures.Delete(number) != 0) return -1;
+  if (parts_->figures.IsTaken() || parts_->figures.Delete(number) != 0) return -1;
   RedrawAfterChange(0);
   return 0;
 }

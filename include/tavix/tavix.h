@@ -27,6 +27,12 @@
 //         other negative codes pass through from the store that failed; the call lists them
 //
 //     With the auto-redraw flag on, a call that redraws returns the redraw's result, which is 0.
+//  9. Files: the legend lies in HANREI.DAT in the folder that the environment variable
+//     ROVCOND_DATA_FOLDER names, else in Tavix\Data of the user's local application data; all
+//     programs that use one folder share it, and the last to save wins. The figures of instance n
+//     lie in FIGn.DAT and FIGn.XY, while it exists, in the folder that CE_DEVICE_ROOT names, else
+//     in one that the process has to itself and that is removed with it. A host that sets these
+//     variables does so before Tavix_Crt.
 //
 #pragma once
 
@@ -49,12 +55,14 @@ TAVIX_CALL void Tavix_SetIdx(int index);
 TAVIX_CALL void Tavix_GetIdx(int* index);
 
 // Creates the current instance with empty stores. The legend comes from the file HANREI.DAT in the
-// current data folder, or from built-in defaults. Returns -1 when the instance exists already.
+// current data folder, or from built-in defaults; a file that another program holds is left alone.
+// When the figure files cannot be made or belong to another process, the instance has no figures.
+// Returns -1 when the instance exists already.
 TAVIX_CALL int Tavix_Crt(void);
 
 // Destroys the current instance, its window included, and saves its legend. Of the instances that
-// remain, the one with the highest index becomes current; when none remains, the index stays.
-// Always returns 0.
+// remain, the one with the highest index becomes current; when none remains, the index stays. A
+// legend whose file could not be read is saved only if it has been changed. Always returns 0.
 TAVIX_CALL int Tavix_Del(void);
 
 // Makes the instance's plot window in the place of the control `controlId` of `parent`, which is
@@ -90,7 +98,9 @@ TAVIX_CALL int Tavix_DrwFlg(BYTE on);
 TAVIX_CALL int Tavix_Drw(BYTE keepView);
 
 // Empties the instance's data; the legend is kept. Does not redraw. Returns 0, or the code of the
-// first store that could not be emptied; the stores after it are then untouched.
+// first store that could not be emptied; the stores after it are then untouched. -1 also when the
+// figure files cannot be made or belong to another process; once they are free it gives the
+// instance its figures.
 TAVIX_CALL int Tavix_DrwClr(void);
 
 // ---- View --------------------------------------------------------------------------------------
@@ -247,7 +257,8 @@ TAVIX_CALL int Tavix_ChgLinHid(int keyA, int keyB, short legend);
 // Removes a line. Never redraws.
 TAVIX_CALL int Tavix_DelEntLin(int keyA, int keyB);
 
-// Removes all lines. Never redraws. Returns -1 when the database could not be made anew.
+// Removes all lines. Never redraws. Returns 0 when the database is open afterwards, else -1. One
+// that could not be deleted is opened again with its lines: 0.
 TAVIX_CALL int Tavix_ClrEntLin(void);
 
 // ---- Memos -------------------------------------------------------------------------------------
@@ -283,7 +294,9 @@ TAVIX_CALL int Tavix_DelEntPnt3(int key);
 //
 // Lines, circles, polylines, arcs and clothoids with a figure number and a line legend. A figure is
 // started, made of one or more pieces, which are there at once, and ended. One number may cover
-// several pieces and several figures.
+// several pieces and several figures. Errors of writing are not reported: a figure for which the
+// disk has no room is not kept, and its call returns 0. All these calls return -1 while another
+// process that uses the same CE_DEVICE_ROOT has the figure files.
 
 // Starts a figure: its number and line legend. Returns 0.
 TAVIX_CALL int Tavix_FigStt(int figure, int legend);
