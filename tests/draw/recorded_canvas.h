@@ -10,7 +10,7 @@
 namespace tavix::test {
 
 // One note an operation, in their order: "pen 3" (its width), "line 1,2 5,6",
-// "circle 1,2 5", "look 8" (the mark's kind), "mark 1,2", "label 1,2".
+// "circle 1,2 5", "look 8" (the mark's kind), "mark 1,2", "colour 255", "label 1,2".
 class RecordedCanvas : public PlanCanvas {
  public:
   [[nodiscard]] ScreenBox Visible() const override { return {0, 0, 240, 180}; }
@@ -19,6 +19,7 @@ class RecordedCanvas : public PlanCanvas {
   void Circle(ScreenPoint centre, int radius) override { Note("circle", centre, radius); }
   void UsePointStyle(const LegendStyle& style) override { Note("look", style.kind); }
   void Mark(ScreenPoint at) override { Note("mark", at); }
+  void UseTextColor(std::uint32_t color) override { Note("colour", static_cast<int>(color)); }
   void Label(ScreenPoint at, NameView) override { Note("label", at); }
 
   // What was noted since the last call.
