@@ -2,9 +2,7 @@
 
 #include <framework/scoped_select.h>
 
-#include <algorithm>
-
-#include "draw/plan_canvas.h"
+#include "draw/drawn_size.h"
 #include "draw/point_mark.h"
 #include "draw/screen_line.h"
 #include "draw/xor_drawing.h"
@@ -15,9 +13,10 @@ namespace tavix {
 void MovePoint::Start(CWnd& window, const CViewState& view, const LegendStyle& style) {
   End(window, view);
   color_ = static_cast<COLORREF>(style.color) ^ kWhite;
-  pen_width_ = style.width;
-  mark_ = style.kind;
-  mark_size_ = std::min(style.prm1, PlanCanvas::kMostPixels);
+  const LegendStyle drawn = DrawnPointStyle(style);
+  pen_width_ = drawn.width;
+  mark_ = drawn.kind;
+  mark_size_ = drawn.prm1;
   position_ = {};
 }
 
