@@ -13,17 +13,6 @@ namespace {
 constexpr std::size_t kMostMarks = 256;
 constexpr std::size_t kMostFonts = 64;
 
-// Whether, and how, text is smoothed, as one number.
-UINT TextSmoothing() {
-  BOOL on = FALSE;
-  UINT type = 0;
-  UINT contrast = 0;
-  ::SystemParametersInfoW(SPI_GETFONTSMOOTHING, 0, &on, 0);
-  ::SystemParametersInfoW(SPI_GETFONTSMOOTHINGTYPE, 0, &type, 0);
-  ::SystemParametersInfoW(SPI_GETFONTSMOOTHINGCONTRAST, 0, &contrast, 0);
-  return (on ? 1u : 0u) | type << 1 | contrast << 8;
-}
-
 // What the stamp depends on: not on the label.
 LegendStyle MarkOnly(LegendStyle style) {
   style.prm2 = 0;
@@ -33,10 +22,17 @@ LegendStyle MarkOnly(LegendStyle style) {
 
 }  // namespace
 
-void LearntDrawing::FollowSettings() {
-  const UINT smoothing = TextSmoothing();
-  if (smoothing == smoothing_) return;
-  smoothing_ = smoothing;
+LearntDrawing::LearntLabels::LearntLabels(int height, SmoothBlend& blend)
+    : glyphs(height, blend), font(FontLook::OfLabels(height)) {}
+
+void LearntDrawing::FollowSettings(const ScreenLook& look) {
+  for (LearntLabels& labels : labels_) labels.followed = false;
+  if (look == look_) return;
+  if (look.depth != look_.depth) {
+    lines_learnt_ = false;
+    marks_.clear();
+  }
+  look_ = look;
   labels_.clear();
   blend_.Forget();
 }
@@ -59,13 +55,20 @@ const Stamp* LearntDrawing::Mark(const LegendStyle& style) {
 }
 
 LabelGlyphs* LearntDrawing::Labels(int height) {
-  const auto same = [=](const LabelGlyphs& labels) { return labels.Height() == height; };
+  const auto same = [=](const LearntLabels& labels) { return labels.glyphs.Height() == height; };
   auto found = std::find_if(labels_.begin(), labels_.end(), same);
+  if (found != labels_.end() && !found->followed) {
+    found->followed = true;
+    if (found->font != FontLook::OfLabels(height)) {
+      labels_.erase(found);
+      found = labels_.end();
+    }
+  }
   if (found == labels_.end()) {
     if (labels_.size() >= kMostFonts) return nullptr;
     found = labels_.emplace(labels_.end(), height, blend_);
   }
-  return &*found;
+  return &found->glyphs;
 }
 
 }  // namespace tavix
