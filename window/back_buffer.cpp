@@ -4,19 +4,14 @@
 
 namespace tavix {
 
-BackBuffer::~BackBuffer() {
-  if (old_bitmap_) dc_.SelectObject(old_bitmap_);
-  bitmap_.DeleteObject();
-  dc_.DeleteDC();
-}
-
 void BackBuffer::Create(CWnd& window) {
   window.GetClientRect(&rect_);
+  if (rect_.IsRectEmpty()) return;
   CClientDC client(&window);
   dc_.CreateCompatibleDC(&client);
   pixels_ = CreatePixelSection(client, rect_.right, rect_.bottom, bitmap_);
   if (!pixels_.pixels) bitmap_.CreateCompatibleBitmap(&client, rect_.right, rect_.bottom);
-  old_bitmap_ = dc_.SelectObject(&bitmap_);
+  selected_.emplace(dc_, bitmap_);
   Fill();
 }
 

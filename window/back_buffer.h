@@ -2,6 +2,9 @@
 #pragma once
 
 #include <afxwin.h>
+#include <framework/scoped_select.h>
+
+#include <optional>
 
 #include "draw/bits/pixel_block.h"
 
@@ -12,11 +15,11 @@ namespace tavix {
 class BackBuffer {
  public:
   BackBuffer() = default;
-  ~BackBuffer();
   BackBuffer(const BackBuffer&) = delete;
   BackBuffer& operator=(const BackBuffer&) = delete;
 
-  // Makes the buffer for `window` and fills it with the window background.
+  // Makes the buffer for `window` and fills it with the window background. For an empty client area
+  // it makes nothing, and what is drawn there goes nowhere.
   void Create(CWnd& window);
 
   void Fill();
@@ -32,7 +35,7 @@ class BackBuffer {
  private:
   CDC dc_;
   CBitmap bitmap_;
-  CBitmap* old_bitmap_ = nullptr;
+  std::optional<CScopedSelect> selected_;  // the bitmap
   PixelBlock pixels_;
   CRect rect_{0, 0, 0, 0};
 };

@@ -22,6 +22,9 @@ int LineOf(std::int32_t& size) {
 
 LegendEditor::LegendEditor(const LegendTable& legend) {
   legend.CopyOut(entries_.size(), entries_.data());
+  for (std::size_t i = 0; i < titles_.size(); ++i) {
+    legend.GetTitle(static_cast<int>(i) + 1, &titles_[i]);
+  }
 }
 
 LegendChoice LegendEditor::Select(int entry) {

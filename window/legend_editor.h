@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string>
 
 #include "store/legend_table.h"
 
@@ -46,11 +47,15 @@ class LegendEditor {
     return entries_;
   }
 
+  // The title of an entry (0..10); empty when it has none.
+  [[nodiscard]] const std::u16string& Title(std::size_t entry) const { return titles_[entry]; }
+
  private:
   [[nodiscard]] LegendStyle& Current() { return entries_[selected_].style; }
   [[nodiscard]] const LegendStyle& Current() const { return entries_[selected_].style; }
 
   std::array<HanRec, LegendTable::kPointLegends> entries_;
+  std::array<std::u16string, LegendTable::kPointLegends> titles_;
   std::size_t selected_ = 0;
 };
 

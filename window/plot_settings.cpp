@@ -1,4 +1,7 @@
 // The plot window's settings command.
+#include <algorithm>
+#include <utility>
+
 #include "window/plot_window.h"
 #include "window/settings_dialog.h"
 
@@ -7,9 +10,12 @@ namespace tavix {
 void CPlotWnd::OnSettings() {
   LegendTable& legend = links_.legend->Table();
   PlotSettings settings{draws_lines_, legend.RotationStep(), ratio_};
-  EnableWindow(FALSE);
   SettingsDialog dialog(GetParent(), legend, settings);
+  open_settings_.push_back(&dialog);
+  EnableWindow(FALSE);
   const INT_PTR result = dialog.DoModal();
+  if (dialog.IsAbandoned()) return;  // nothing of this window is left, nor perhaps of the instance
+  open_settings_.pop_back();
   EnableWindow(TRUE);
   // Whatever the dialog's copy holds goes back, on Cancel too: it has not changed then.
   legend.SetRotationStep(settings.rotation_step);
@@ -24,6 +30,12 @@ void CPlotWnd::OnSettings() {
     FitView();
   }
   ViewChanged();
+}
+
+// A host can call from a timer while the dialog's loop runs.
+void CPlotWnd::AbandonSettings() {
+  const auto open = std::exchange(open_settings_, {});
+  std::for_each(open.rbegin(), open.rend(), [](SettingsDialog* dialog) { dialog->Abandon(); });
 }
 
 }  // namespace tavix

@@ -20,8 +20,10 @@ void CPlotWnd::OnLButtonDown(UINT flags, CPoint point) {
   }
   stylus_.Down(ToScreen(point));
   if (!pan_mode_ && band_zoom_.IsOn()) band_.Begin(*this, ToScreen(point));
-  SetCapture();  // so that a drag that leaves the window still ends
   CWnd::OnLButtonDown(flags, point);
+  // So that a drag that leaves the window still ends. Comes last: a window of the host that loses
+  // the capture is told, and may end the instance.
+  SetCapture();
 }
 
 void CPlotWnd::OnMouseMove(UINT flags, CPoint point) {

@@ -46,6 +46,7 @@ CPlotWnd::CPlotWnd(UINT notify_id) : notify_id_(notify_id) {
 CPlotWnd::~CPlotWnd() { CPlotWnd::DestroyWindow(); }
 
 BOOL CPlotWnd::DestroyWindow() {
+  AbandonSettings();
   buttons_.Destroy();
   return m_hWnd ? CWnd::DestroyWindow() : FALSE;
 }

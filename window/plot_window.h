@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include <vector>
+
 #include "draw/bits/learnt_drawing.h"
 #include "draw/group_picture.h"
 #include "draw/plan_view.h"
@@ -45,7 +47,8 @@ class CPlotWnd : public CWnd {
   explicit CPlotWnd(UINT notify_id);
   ~CPlotWnd() override;
 
-  // Destroys the buttons first, then the window.
+  // Destroys the buttons first, then the window. A settings dialog that is open ends before that,
+  // as if cancelled.
   BOOL DestroyWindow() override;
 
   // Make the window hidden, as a child of `parent`: in a rectangle of its client area, or in the
@@ -165,6 +168,7 @@ class CPlotWnd : public CWnd {
   [[nodiscard]] int RotationStep() const;
   void PanByKey(WPARAM key);
   void TurnByKey(WPARAM key);
+  void AbandonSettings();
 
   // The refit flags of the stores that are shown: set, or read and cleared.
   void MarkStale();
@@ -188,6 +192,7 @@ class CPlotWnd : public CWnd {
   BackBuffer buffer_;
   LearntDrawing learnt_;
   ButtonColumn buttons_;
+  std::vector<SettingsDialog*> open_settings_;  // the innermost last; they stand on the stack
   Stylus stylus_;
   RubberBand band_;
   BandZoom band_zoom_;

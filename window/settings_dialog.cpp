@@ -18,6 +18,23 @@ constexpr LPCWSTR kKindNames[] = {L"Dot", L"○", L"×", L"＋", L"△", L"□",
 constexpr int kSmallestStep = 1;  // degrees
 constexpr int kLargestStep = 180;
 
+BOOL CALLBACK CancelIfDialogOf(HWND window, LPARAM owner) {
+  constexpr LPCWSTR kDialogClass = L"#32770";
+  wchar_t name[8] = {};
+  ::GetClassNameW(window, name, ARRAYSIZE(name));
+  const bool is_dialog = ::lstrcmpW(name, kDialogClass) == 0 && ::IsWindowVisible(window);
+  if (is_dialog && ::GetWindow(window, GW_OWNER) == reinterpret_cast<HWND>(owner)) {
+    ::SendMessageW(window, WM_COMMAND, IDCANCEL, 0);
+  }
+  return TRUE;
+}
+
+// Has the system's dialogs that are open above a window end.
+void CancelDialogsOf(HWND owner) {
+  if (!owner) return;
+  ::EnumThreadWindows(::GetCurrentThreadId(), &CancelIfDialogOf, reinterpret_cast<LPARAM>(owner));
+}
+
 }  // namespace
 
 BEGIN_MESSAGE_MAP(SettingsDialog, TDialog)
@@ -29,7 +46,7 @@ ON_WM_DRAWITEM()
 END_MESSAGE_MAP()
 
 SettingsDialog::SettingsDialog(CWnd* owner, LegendTable& legend, PlotSettings& settings)
-    : TDialog(IDD_SETTINGS, owner), legend_(legend), settings_(settings), editor_(legend) {}
+    : TDialog(IDD_SETTINGS, owner), legend_(&legend), settings_(settings), editor_(legend) {}
 
 BOOL SettingsDialog::OnInitDialog() {
   TDialog::OnInitDialog();
@@ -54,15 +71,14 @@ BOOL SettingsDialog::OnInitDialog() {
 void SettingsDialog::FillEntryList() {
   CComboBox& list = List(IDC_ENTRY);
   CString kind_name;
-  for (int n = 1; n <= LegendTable::kPointLegends; ++n) {
-    const int kind = editor_.Entries()[static_cast<std::size_t>(n - 1)].style.kind;
-    std::u16string title;
-    legend_.GetTitle(n, &title);
+  for (std::size_t entry = 0; entry < editor_.Entries().size(); ++entry) {
+    const int kind = editor_.Entries()[entry].style.kind;
+    const std::u16string& title = editor_.Title(entry);
     if (title.empty()) continue;
     if (kind >= 1 && kind <= LegendTable::kPointLegends) kind_name = kKindNames[kind - 1];
     CString line;
     line.Format(L"%s（%s）", kind_name.GetString(), AsWide(title.c_str()));
-    list.SetItemData(list.AddString(line), static_cast<DWORD_PTR>(n - 1));
+    list.SetItemData(list.AddString(line), entry);
   }
 }
 
@@ -141,8 +157,9 @@ void SettingsDialog::OnColor() {
 }
 
 void SettingsDialog::OnOK() {
+  if (IsAbandoned()) return;
   TakeEntry();
-  editor_.Save(legend_);
+  editor_.Save(*legend_);
   settings_.draws_lines = IsDlgButtonChecked(IDC_DRAW_LINES) == BST_CHECKED;
   // With a text that is no number in range the position has a high word, and is out of range too.
   const int step = static_cast<CSpinButtonCtrl*>(GetDlgItem(IDC_STEP_SPIN))->GetPos();
@@ -155,6 +172,12 @@ void SettingsDialog::TakeRatio() {
   const bool complete = !vertical_.IsEmpty() && !horizontal_.IsEmpty();
   settings_.ratio.vertical = complete ? vertical_.GetValue() : 1;
   settings_.ratio.horizontal = complete ? horizontal_.GetValue() : 1;
+}
+
+void SettingsDialog::Abandon() {
+  legend_ = nullptr;
+  CancelDialogsOf(m_hWnd);
+  EndDialog(IDCANCEL);
 }
 
 void SettingsDialog::OnDestroy() {

@@ -23,8 +23,15 @@ struct PlotSettings {
 
 class SettingsDialog : public TDialog {
  public:
-  // `legend` and `settings` are written on OK and must outlive the dialog.
+  // `legend` and `settings` are written on OK. `settings` must outlive the dialog, `legend` too
+  // unless the dialog is abandoned first.
   SettingsDialog(CWnd* owner, LegendTable& legend, PlotSettings& settings);
+
+  // For whoever ends the legend while the dialog's loop runs: hides the dialog as if it were
+  // cancelled, with a colour chooser above it. Nothing is written from then on, whatever messages
+  // still come; DoModal returns when the caller has returned to the loop.
+  void Abandon();
+  [[nodiscard]] bool IsAbandoned() const { return legend_ == nullptr; }
 
  protected:
   BOOL OnInitDialog() override;
@@ -47,7 +54,7 @@ class SettingsDialog : public TDialog {
   void ShowColor();
   [[nodiscard]] CComboBox& List(int id);
 
-  LegendTable& legend_;
+  LegendTable* legend_;  // null: abandoned
   PlotSettings& settings_;
   LegendEditor editor_;
   CBrush color_brush_;

@@ -19,7 +19,8 @@ constexpr std::size_t kMostFonts = 64;
 template <class Key, class Value, std::size_t kMost>
 class FewLooks {
  public:
-  // The value, or null; it stays where it is until Clear. `args` are what a new one is made of.
+  // The value, or null; it stays where it is until it is removed. `args` are what a new one is made
+  // of.
   template <class... Args>
   Value* Get(const Key& key, Args&&... args) {
     const auto same = [&](const auto& look) { return look.first == key; };
@@ -32,7 +33,17 @@ class FewLooks {
                 .second;
   }
 
+  void Remove(const Key& key) {
+    looks_.remove_if([&](const auto& look) { return look.first == key; });
+  }
+
   void Clear() { looks_.clear(); }
+
+  // Calls `visit(Value&)` for each.
+  template <class Visit>
+  void ForEach(Visit visit) {
+    for (auto& look : looks_) visit(look.second);
+  }
 
  private:
   std::list<std::pair<Key, Value>> looks_;

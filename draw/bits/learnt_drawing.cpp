@@ -5,25 +5,20 @@
 #include "draw/bits/mark_stamp.h"
 
 namespace tavix {
-namespace {
 
-// Whether, and how, text is smoothed, as one number.
-UINT TextSmoothing() {
-  BOOL on = FALSE;
-  UINT type = 0;
-  UINT contrast = 0;
-  ::SystemParametersInfoW(SPI_GETFONTSMOOTHING, 0, &on, 0);
-  ::SystemParametersInfoW(SPI_GETFONTSMOOTHINGTYPE, 0, &type, 0);
-  ::SystemParametersInfoW(SPI_GETFONTSMOOTHINGCONTRAST, 0, &contrast, 0);
-  return (on ? 1u : 0u) | type << 1 | contrast << 8;
-}
+LearntDrawing::LearntMark::LearntMark(const LegendStyle& style) : stamp(MakeMarkStamp(style)) {}
 
-}  // namespace
+LearntDrawing::LearntLabels::LearntLabels(const SmoothHand& hand)
+    : glyphs(hand), font(FontLook::OfLabels(hand.Height())) {}
 
-void LearntDrawing::FollowSettings() {
-  const UINT smoothing = TextSmoothing();
-  if (smoothing == smoothing_) return;
-  smoothing_ = smoothing;
+void LearntDrawing::FollowSettings(const ScreenLook& look) {
+  labels_.ForEach([](LearntLabels& labels) { labels.followed = false; });
+  if (look == look_) return;
+  if (look.depth != look_.depth) {
+    lines_learnt_ = false;
+    marks_.Clear();
+  }
+  look_ = look;
   labels_.Clear();
   blends_.clear();
 }
@@ -34,8 +29,6 @@ const LineRule* LearntDrawing::Lines() {
   return lines_ ? &*lines_ : nullptr;
 }
 
-LearntDrawing::LearntMark::LearntMark(const LegendStyle& style) : stamp(MakeMarkStamp(style)) {}
-
 const Stamp* LearntDrawing::Mark(const LegendStyle& style) {
   const LegendStyle mark = MarkOnly(style);
   const LearntMark* learnt = marks_.Get(mark, mark);
@@ -43,7 +36,17 @@ const Stamp* LearntDrawing::Mark(const LegendStyle& style) {
 }
 
 LabelGlyphs* LearntDrawing::Labels(int height, std::uint32_t color) {
-  return labels_.Get({height, color}, SmoothHand(height, color, blends_[color]));
+  const LabelKey key{height, color};
+  const SmoothHand hand(height, color, blends_[color]);
+  LearntLabels* learnt = labels_.Get(key, hand);
+  if (learnt && !learnt->followed) {
+    learnt->followed = true;
+    if (learnt->font != FontLook::OfLabels(height)) {
+      labels_.Remove(key);
+      learnt = labels_.Get(key, hand);
+    }
+  }
+  return learnt ? &learnt->glyphs : nullptr;
 }
 
 }  // namespace tavix

@@ -1,8 +1,6 @@
 // What is known of the system's own drawing.
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -12,6 +10,7 @@
 #include "draw/bits/line_rule.h"
 #include "draw/bits/smooth_blend.h"
 #include "draw/bits/stamp.h"
+#include "draw/bits/system_look.h"
 #include "store/legend_table.h"
 
 namespace tavix {
@@ -27,9 +26,10 @@ class LearntDrawing {
   LearntDrawing(const LearntDrawing&) = delete;
   LearntDrawing& operator=(const LearntDrawing&) = delete;
 
-  // To be called before a redraw: forgets how text looks when the user has changed the system's
-  // smoothing of it.
-  void FollowSettings();
+  // To be called before a redraw: what has another look since the last one is learnt again. That is
+  // text when its smoothing has changed, a label's height when the system takes another font for
+  // it, and everything when the screen has other colours.
+  void FollowSettings(const ScreenLook& look = ScreenLook::Now());
 
   // Solid lines of one pixel.
   [[nodiscard]] const LineRule* Lines();
@@ -49,12 +49,20 @@ class LearntDrawing {
   // A height and a colour.
   using LabelKey = std::pair<int, std::uint32_t>;
 
+  struct LearntLabels {
+    explicit LearntLabels(const SmoothHand& hand);
+
+    LabelGlyphs glyphs;
+    FontLook font;
+    bool followed = true;  // the font has been looked at since FollowSettings
+  };
+
   bool lines_learnt_ = false;
   std::optional<LineRule> lines_;
   FewLooks<LegendStyle, LearntMark, kMostMarks> marks_;
   std::map<std::uint32_t, SmoothBlend> blends_;  // by the text's colour
-  FewLooks<LabelKey, LabelGlyphs, kMostFonts> labels_;
-  UINT smoothing_ = 0;
+  FewLooks<LabelKey, LearntLabels, kMostFonts> labels_;
+  ScreenLook look_;
 };
 
 }  // namespace tavix

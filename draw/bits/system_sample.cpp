@@ -10,11 +10,7 @@ SystemSample::SystemSample(int width, int height) {
   CClientDC screen(nullptr);
   dc_.CreateCompatibleDC(&screen);
   block_ = CreatePixelSection(screen, width, height, bitmap_);
-  if (IsMade()) old_bitmap_ = dc_.SelectObject(&bitmap_);
-}
-
-SystemSample::~SystemSample() {
-  if (old_bitmap_) dc_.SelectObject(old_bitmap_);
+  if (IsMade()) selected_.emplace(dc_, bitmap_);
 }
 
 void SystemSample::Fill(std::uint32_t color) {

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <afxwin.h>
+#include <framework/scoped_select.h>
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "draw/bits/pixel_block.h"
@@ -15,7 +17,6 @@ namespace tavix {
 class SystemSample {
  public:
   SystemSample(int width, int height);
-  ~SystemSample();
   SystemSample(const SystemSample&) = delete;
   SystemSample& operator=(const SystemSample&) = delete;
 
@@ -34,7 +35,7 @@ class SystemSample {
  private:
   CDC dc_;
   CBitmap bitmap_;
-  CBitmap* old_bitmap_ = nullptr;
+  std::optional<CScopedSelect> selected_;  // the bitmap
   PixelBlock block_;
 };
 

@@ -5,13 +5,45 @@
 namespace tdialog {
 namespace {
 
-constexpr DWORD kCaptionOkButton = 0x80000000;  // WS_EX_CAPTIONOKBTN
+// Where a template has what, in WORDs. The names of menu and class and the title follow its head,
+// and then the size of the font, if there is one. An extended template begins with 1 and 0xFFFF.
+struct Layout {
+  std::size_t style;
+  std::size_t extendedStyle;
+  std::size_t itemCount;
+  std::size_t names;
+};
 
-// An extended template begins with the words 1 and 0xFFFF and has its extended style third, a plain
-// one has it second.
-constexpr DWORD kExtendedTemplate = 0xFFFF0001;
-constexpr std::size_t kExtendedStyleInPlain = 1;
-constexpr std::size_t kExtendedStyleInExtended = 2;
+constexpr Layout kPlain = {0, 2, 4, 9};
+constexpr Layout kExtended = {6, 4, 8, 13};
+
+const Layout& LayoutOf(const std::vector<WORD>& words) {
+  return words[0] == 1 && words[1] == 0xFFFF ? kExtended : kPlain;
+}
+
+// Styles that are looked at here, all but the font's in the upper half of theirs.
+constexpr WORD kCaptionOkButton = 0x8000;  // WS_EX_CAPTIONOKBTN
+constexpr WORD kVisible = HIWORD(WS_VISIBLE);
+
+// Where a name ends that begins at `at`: a text with its null, or 0xFFFF and a number.
+std::size_t PastName(const std::vector<WORD>& words, std::size_t at) {
+  constexpr WORD kNumber = 0xFFFF;
+  if (at < words.size() && words[at] == kNumber) return at + 2;
+  while (at < words.size() && words[at] != 0) ++at;
+  return at + 1;
+}
+
+// 0 when the template has no font of its own, or the system's for messages.
+std::size_t PointsAt(const std::vector<WORD>& words) {
+  constexpr WORD kMessageFont = 0x7FFF;
+  const Layout& layout = LayoutOf(words);
+  if (!(words[layout.style] & DS_SETFONT)) return 0;
+  std::size_t at = layout.names;
+  for (int name = 0; name < 3; ++name) at = PastName(words, at);
+  return at < words.size() && words[at] != kMessageFont ? at : 0;
+}
+
+INT_PTR CALLBACK LeaveToTheSystem(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
 
 }  // namespace
 
@@ -20,14 +52,37 @@ DeviceTemplate::DeviceTemplate(LPCWSTR name) {
   const HRSRC found = ::FindResourceW(module, name, RT_DIALOG);
   if (!found) return;
   const DWORD size = ::SizeofResource(module, found);
-  if (size < sizeof(DLGTEMPLATE)) return;
-  words_.resize((size + sizeof(DWORD) - 1) / sizeof(DWORD));
+  if (size < kPlain.names * sizeof(WORD)) return;
+  words_.resize((size + sizeof(WORD) - 1) / sizeof(WORD));
   std::memcpy(words_.data(), ::LockResource(::LoadResource(module, found)), size);
 
-  DWORD& style =
-      words_[words_[0] == kExtendedTemplate ? kExtendedStyleInExtended : kExtendedStyleInPlain];
+  pointsAt_ = PointsAt(words_);
+  WORD& style = words_[LayoutOf(words_).extendedStyle + 1];
   captionOkButton_ = (style & kCaptionOkButton) != 0;
-  style &= ~kCaptionOkButton;
+  style &= static_cast<WORD>(~kCaptionOkButton);
+}
+
+int DeviceTemplate::FontPoints() const { return pointsAt_ ? words_[pointsAt_] : 0; }
+
+void DeviceTemplate::SetFontPoints(int points) { words_[pointsAt_] = static_cast<WORD>(points); }
+
+// Only the system knows what a dialog unit is with a font, and what borders and captions take: it
+// makes the window, without items and never shown.
+SIZE DeviceTemplate::WindowSize(int extraHeight) const {
+  std::vector<WORD> bare = words_;
+  const Layout& layout = LayoutOf(bare);
+  bare[layout.itemCount] = 0;
+  bare[layout.style + 1] &= static_cast<WORD>(~kVisible);
+  const HWND window = ::CreateDialogIndirectParamW(
+      AfxGetResourceHandle(), reinterpret_cast<const DLGTEMPLATE*>(bare.data()), nullptr,
+      &LeaveToTheSystem, 0);
+  if (!window) return {0, 0};
+  RECT extra = {0, 0, 0, extraHeight};
+  ::MapDialogRect(window, &extra);
+  RECT place;
+  ::GetWindowRect(window, &place);
+  ::DestroyWindow(window);
+  return {place.right - place.left, place.bottom - place.top + extra.bottom};
 }
 
 }  // namespace tdialog

@@ -3,6 +3,7 @@
 
 #include <afxwin.h>
 
+#include <cstddef>
 #include <vector>
 
 namespace tdialog {
@@ -20,8 +21,19 @@ class DeviceTemplate {
   // unknown.
   BOOL HasCaptionOkButton() const { return captionOkButton_; }
 
+  // The size of the template's font in points; 0 when it has no font of its own. All the dialog
+  // grows and shrinks with it.
+  int FontPoints() const;
+  // Only for a template with a font.
+  void SetFontPoints(int points);
+
+  // The size in pixels of a window with this template, `extraHeight` dialog units higher; zeros
+  // when there cannot be one.
+  SIZE WindowSize(int extraHeight) const;
+
  private:
-  std::vector<DWORD> words_;
+  std::vector<WORD> words_;
+  std::size_t pointsAt_ = 0;  // 0: no font
   BOOL captionOkButton_ = FALSE;
 };
 

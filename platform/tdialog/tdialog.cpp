@@ -4,6 +4,7 @@
 
 #include "platform/tdialog/device_template.h"
 #include "platform/tdialog/ok_button_place.h"
+#include "platform/tdialog/screen_fit.h"
 
 namespace {
 
@@ -24,27 +25,30 @@ std::vector<RECT> ItemsOf(const CWnd& dialog) {
   return items;
 }
 
-// Makes the window higher, and moves it up as far as that takes it off the screen.
-void Grow(CWnd& dialog, int height) {
-  if (height == 0) return;
-  CRect window;
-  dialog.GetWindowRect(window);
-  window.bottom += height;
-  RECT work;
-  ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-  const int below = window.bottom - work.bottom;
-  const int room = window.top - work.top;
-  if (below > 0 && room > 0) window.OffsetRect(0, -(below < room ? below : room));
-  dialog.SetWindowPos(nullptr, window.left, window.top, window.Width(), window.Height(),
-                      SWP_NOZORDER | SWP_NOACTIVATE);
+// Where windows may stand on the screen that `window` is on, or on the main one without a window.
+// A program can set the main one's, which not every system lets its monitor know.
+tdialog::PixelRect WorkArea(HWND window) {
+  MONITORINFO monitor = {};
+  monitor.cbSize = sizeof monitor;
+  ::GetMonitorInfoW(
+      ::MonitorFromWindow(window, window ? MONITOR_DEFAULTTONEAREST : MONITOR_DEFAULTTOPRIMARY),
+      &monitor);
+  RECT area = monitor.rcWork;
+  if (monitor.dwFlags & MONITORINFOF_PRIMARY) ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+  return {area.left, area.top, area.right, area.bottom};
+}
+
+HWND OwnerOf(const CWnd* parent) {
+  const CWnd* owner = parent ? parent : AfxGetMainWnd();
+  return owner ? owner->m_hWnd : nullptr;
 }
 
 }  // namespace
 
 INT_PTR TDialog::DoModal() {
   if (m_lpDialogTemplate || !m_lpszTemplateName) return CDialog::DoModal();
-  const tdialog::DeviceTemplate dialogTemplate(m_lpszTemplateName);
-  m_wantsOkButton = dialogTemplate.HasCaptionOkButton();
+  tdialog::DeviceTemplate dialogTemplate(m_lpszTemplateName);
+  FitToScreen(dialogTemplate, OwnerOf(m_pParentWnd));
   m_lpDialogTemplate = dialogTemplate.Get();
   const INT_PTR result = CDialog::DoModal();
   m_lpDialogTemplate = nullptr;
@@ -52,9 +56,28 @@ INT_PTR TDialog::DoModal() {
 }
 
 BOOL TDialog::Create(LPCWSTR templateName, CWnd* parent) {
-  const tdialog::DeviceTemplate dialogTemplate(templateName);
-  m_wantsOkButton = dialogTemplate.HasCaptionOkButton();
+  tdialog::DeviceTemplate dialogTemplate(templateName);
+  FitToScreen(dialogTemplate, OwnerOf(parent));
   return CreateIndirect(dialogTemplate.Get(), parent);
+}
+
+// Dialog units come with the font. The strip that the OK button may need has room too: whether it
+// is needed shows only when the items are there.
+void TDialog::FitToScreen(tdialog::DeviceTemplate& dialogTemplate, HWND owner) {
+  m_wantsOkButton = dialogTemplate.HasCaptionOkButton();
+  m_hasSmallerFont = FALSE;
+  const int wanted = dialogTemplate.FontPoints();
+  if (wanted == 0) return;
+  const tdialog::PixelRect area = WorkArea(owner);
+  const int strip = m_wantsOkButton ? kButtonHeight + 2 * kMargin : 0;
+  const int points = tdialog::FittingPoints(
+      wanted, {area.right - area.left, area.bottom - area.top}, [&](int tried) {
+        dialogTemplate.SetFontPoints(tried);
+        const SIZE size = dialogTemplate.WindowSize(strip);
+        return tdialog::PixelSize{static_cast<int>(size.cx), static_cast<int>(size.cy)};
+      });
+  dialogTemplate.SetFontPoints(points);
+  m_hasSmallerFont = points < wanted;
 }
 
 void TDialog::PreSubclassWindow() {
@@ -66,6 +89,7 @@ void TDialog::PreSubclassWindow() {
 BOOL TDialog::OnInitDialog() {
   const BOOL focusBySystem = CDialog::OnInitDialog();
   if (m_wantsOkButton && !::GetDlgItem(m_hWnd, IDOK)) AddOkButton();
+  if (!(GetStyle() & WS_CHILD)) StayOnScreen();
   return focusBySystem;
 }
 
@@ -76,11 +100,29 @@ void TDialog::AddOkButton() {
   GetClientRect(client);
   const tdialog::OkButtonPlace place = tdialog::PlaceOkButton(
       client.Size(), {measures.right, measures.bottom}, measures.left, ItemsOf(*this));
-  Grow(*this, place.extraHeight);
+  if (place.extraHeight != 0) {
+    CRect window;
+    GetWindowRect(window);
+    SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + place.extraHeight,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
   if (!m_ok.Create(L"OK", WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_DEFPUSHBUTTON, place.button, this,
                    IDOK)) {
     return;
   }
   m_ok.SetFont(GetFont());
   SetDefID(IDOK);
+}
+
+// On a screen that is too small for its own font the dialog stands in the corner.
+void TDialog::StayOnScreen() {
+  CRect window;
+  GetWindowRect(window);
+  const tdialog::PixelRect area = WorkArea(m_hWnd);
+  if (m_hasSmallerFont) window.MoveToXY(area.left, area.top);
+  const tdialog::PixelRect place =
+      tdialog::MovedInside({static_cast<int>(window.left), static_cast<int>(window.top),
+                            static_cast<int>(window.right), static_cast<int>(window.bottom)},
+                           area);
+  SetWindowPos(nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -171,6 +171,47 @@ TEST_F(Linking, OutlivesTheHostWithoutACrash) {
   EXPECT_EQ(nullptr, Tavix_Wnd());
 }
 
+// The bitmap that memory contexts begin with; the system also hands it out for a bitmap of no size.
+HBITMAP StockBitmap() {
+  const HDC memory = ::CreateCompatibleDC(nullptr);
+  const auto bitmap = static_cast<HBITMAP>(::GetCurrentObject(memory, OBJ_BITMAP));
+  ::DeleteDC(memory);
+  return bitmap;
+}
+
+// A window without room took this bitmap for its own. Every other window then kept, as what to
+// select back at its end, an object inside the one without room: dead by then.
+TEST_F(Linking, ToNoRoomLeavesTheOtherWindowsAlone) {
+  const CBitmap* before = CBitmap::FromHandle(StockBitmap());
+  const struct {
+    int width;
+    int height;
+  } rows[] = {{0, 0}, {5, 300}, {300, 5}};
+  for (const auto& [width, height] : rows) {
+    Tavix_SetIdx(0);
+    ASSERT_EQ(0, Tavix_LnkRct(host_.AsParent(), 0, 0, width, height, kNotifyId));
+    EXPECT_EQ(before, CBitmap::FromHandle(StockBitmap())) << width << " x " << height;
+    ExpectHarmlessCalls();
+    for (int index = 1; index < kInstances; ++index) {
+      Tavix_SetIdx(index);
+      ASSERT_EQ(0, Tavix_Crt());
+      ASSERT_EQ(0, Tavix_SetBtn(0));
+      ASSERT_EQ(0, LinkPlot(200, 200));
+      ASSERT_EQ(0, Tavix_Dsp(1));
+    }
+    Tavix_SetIdx(0);
+    ASSERT_EQ(0, Tavix_Del());
+    EXPECT_EQ(before, CBitmap::FromHandle(StockBitmap()));
+    for (int index = kInstances - 1; index > 0; --index) {
+      EXPECT_TRUE(SamePicture(RawCanvas(Window()).Take(), Redrawn())) << index;
+      ASSERT_EQ(0, Tavix_Del());
+    }
+    EXPECT_EQ(OBJ_BITMAP, ::GetObjectType(StockBitmap()));
+    Tavix_SetIdx(0);
+    ASSERT_EQ(0, Tavix_Crt());
+  }
+}
+
 TEST_F(Linking, ToNoRoomAtAllWorks) {
   const struct {
     int width;

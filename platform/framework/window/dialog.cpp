@@ -1,5 +1,6 @@
 #include "framework/dialog.h"
 
+#include <optional>
 #include <utility>
 
 #include "framework/command_handlers.h"
@@ -16,8 +17,10 @@ ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
 END_MESSAGE_MAP()
 
 struct CDialog::ModalState {
-  INT_PTR result = IDCANCEL;  // what a dialog answers whose window goes without EndDialog
+  int result = IDCANCEL;  // what a dialog answers whose window goes without EndDialog
   bool ended = false;
+  HWND owner = nullptr;
+  std::optional<afx::ScopedDisable> owner_waits;
 };
 
 namespace {
@@ -82,25 +85,22 @@ INT_PTR CDialog::DoModal() {
   const DLGTEMPLATE* dialogTemplate =
       m_lpDialogTemplate ? m_lpDialogTemplate : TemplateOf(m_lpszTemplateName);
   if (!dialogTemplate) return -1;
-  if (const HWND capture = ::GetCapture()) ::SendMessageW(capture, WM_CANCELMODE, 0, 0);
 
-  const HWND owner = OwnerOf(m_pParentWnd);
+  // From here on windows of the host are told of this dialog, and may end it.
   ModalState state;
+  state.owner = OwnerOf(m_pParentWnd);
   m_modal = &state;
-  {
-    const afx::ScopedDisable waiting(owner);
-    if (CreateFromTemplate(dialogTemplate, owner)) {
+  if (const HWND capture = ::GetCapture()) ::SendMessageW(capture, WM_CANCELMODE, 0, 0);
+  state.owner_waits.emplace(state.owner);
+  if (!state.ended) {
+    if (CreateFromTemplate(dialogTemplate, state.owner)) {
       RunModal(state);
     } else {
       state.result = IDABORT;
     }
-    // Hidden before the owner takes input again, so that the owner becomes the active window.
-    if (m_hWnd) {
-      SetWindowPos(nullptr, 0, 0, 0, 0,
-                   SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
-    }
   }
-  if (owner && m_hWnd && ::GetActiveWindow() == m_hWnd) ::SetActiveWindow(owner);
+  EndDialog(state.result);
+  state.owner_waits.reset();  // still waiting when the dialog was ended by a window told of that
   m_modal = nullptr;
   DestroyWindow();
   return state.result;
@@ -118,8 +118,22 @@ void CDialog::EndDialog(int result) {
     ::EndDialog(m_hWnd, result);
     return;
   }
+  if (m_modal->ended) return;
   m_modal->result = result;
   m_modal->ended = true;
+  MakeWay();
+}
+
+// Not the system's EndDialog: it would let an owner take input that took none before.
+void CDialog::MakeWay() {
+  // Hidden before the owner takes input again, so that the owner becomes the active window.
+  if (m_hWnd) {
+    SetWindowPos(nullptr, 0, 0, 0, 0,
+                 SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+  }
+  m_modal->owner_waits.reset();
+  if (!m_hWnd) return;
+  if (m_modal->owner && ::GetActiveWindow() == m_hWnd) ::SetActiveWindow(m_modal->owner);
   // The loop may be waiting: a message sent to us does not wake it.
   PostMessageW(WM_NULL);
 }

@@ -9,11 +9,19 @@
 #define TDIALOG_CLASS __declspec(dllimport)
 #endif
 
+namespace tdialog {
+class DeviceTemplate;
+}
+
 // A dialog of the device. A template with the extended style 0x80000000 (WS_EX_CAPTIONOKBTN) has an
 // OK button in the caption there; where the system has none, the dialog gets a visible button OK
 // with id IDOK, in a place where it hides no item, and grows when there is no such place. A
 // template that has an item IDOK keeps it and gets none. The caption's close box and Escape cancel,
 // Enter confirms.
+//
+// The dialog stands inside the screen's work area as a whole. Where a template of the resources is
+// too large for that, the dialog takes the largest smaller font of the template's that fits, not
+// below five points, and stands in the upper left corner.
 class TDIALOG_CLASS TDialog : public CDialog {
  public:
   TDialog() = default;
@@ -25,15 +33,19 @@ class TDIALOG_CLASS TDialog : public CDialog {
   using CDialog::Create;
 
  protected:
-  // Adds the button. A derived class calls this before it makes items of its own.
+  // Adds the button and moves the dialog onto the screen. A derived class calls this before it
+  // makes items of its own.
   BOOL OnInitDialog() override;
   void PreSubclassWindow() override;
 
  private:
+  void FitToScreen(tdialog::DeviceTemplate& dialogTemplate, HWND owner);
   void AddOkButton();
+  void StayOnScreen();
 
   CButton m_ok;
   BOOL m_wantsOkButton = FALSE;
+  BOOL m_hasSmallerFont = FALSE;
 };
 
 // An edit of a dialog.

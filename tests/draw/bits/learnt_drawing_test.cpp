@@ -98,8 +98,45 @@ TEST_F(LearntLabels, OfOtherCharactersAreLeftToTheSystem) {
 TEST_F(Learnt, StaysWhileTheSettingsDo) {
   learnt_.FollowSettings();
   LabelGlyphs* labels = learnt_.Labels(10);
+  const Stamp* mark = learnt_.Mark({2, 4, 0, 0, 1, 0});
   learnt_.FollowSettings();
   EXPECT_EQ(labels, learnt_.Labels(10));
+  EXPECT_EQ(mark, learnt_.Mark({2, 4, 0, 0, 1, 0}));
+}
+
+// What is forgotten makes room for more.
+class LearntToTheFull : public Learnt {
+ protected:
+  void SetUp() override {
+    learnt_.FollowSettings(kLook);
+    for (int number = 0; number < 400; ++number) {
+      EXPECT_EQ(number < 256, learnt_.Mark({2, 4, 0, 0, 1, number}) != nullptr) << number;
+      EXPECT_EQ(number < 64, learnt_.Labels(1000 + number) != nullptr) << number;
+    }
+  }
+
+  bool HasRoomForMarks() { return learnt_.Mark({2, 4, 0, 0, 1, 1000}) != nullptr; }
+  bool HasRoomForLabels() { return learnt_.Labels(2000) != nullptr; }
+
+  static constexpr ScreenLook kLook{1, 32};
+};
+
+TEST_F(LearntToTheFull, StaysWhileTheScreenDoes) {
+  learnt_.FollowSettings(kLook);
+  EXPECT_FALSE(HasRoomForMarks());
+  EXPECT_FALSE(HasRoomForLabels());
+}
+
+TEST_F(LearntToTheFull, IsForgottenWithOtherColoursOfTheScreen) {
+  learnt_.FollowSettings({kLook.smoothing, 16});
+  EXPECT_TRUE(HasRoomForMarks());
+  EXPECT_TRUE(HasRoomForLabels());
+}
+
+TEST_F(LearntToTheFull, ForgetsOnlyTextWithOtherSmoothing) {
+  learnt_.FollowSettings({0, kLook.depth});
+  EXPECT_FALSE(HasRoomForMarks());
+  EXPECT_TRUE(HasRoomForLabels());
 }
 
 }  // namespace

@@ -157,6 +157,63 @@ TEST(ModalDialog, EndFromASentMessageWakesTheLoop) {
   EXPECT_EQ(dialog.DoModal(), 77);
 }
 
+// What a handler does after EndDialog (a message box, say) comes when the dialog has made way.
+TEST(ModalDialog, HidesAndGivesWayAtOnceWhenItEnds) {
+  FrameWindow owner;
+  ASSERT_TRUE(owner.Make());
+  owner.ShowWindow(SW_SHOW);
+  TestDialog dialog(&owner);
+  const ModalDriver driver({[&](HWND window) {
+    ASSERT_TRUE(::IsWindowVisible(window));
+    dialog.EndDialog(IDOK);
+    EXPECT_FALSE(::IsWindowVisible(window));
+    EXPECT_TRUE(::IsWindow(window)) << "it goes when the loop has ended";
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
+  }});
+  EXPECT_EQ(dialog.DoModal(), IDOK);
+}
+
+TEST(ModalDialog, TheFirstEndStands) {
+  const struct Row {
+    const char* name;
+    void (*again)(CDialog&);
+  } rows[] = {
+      {"another end", [](CDialog& dialog) { dialog.EndDialog(88); }},
+      {"Cancel", [](CDialog& dialog) { dialog.SendMessage(WM_COMMAND, IDCANCEL); }},
+      {"OK", [](CDialog& dialog) { dialog.SendMessage(WM_COMMAND, IDOK); }},
+      {"the close box", [](CDialog& dialog) { dialog.SendMessage(WM_SYSCOMMAND, SC_CLOSE); }},
+  };
+  for (const Row& row : rows) {
+    TestDialog dialog;
+    const ModalDriver driver({[&](HWND) {
+      dialog.EndDialog(77);
+      row.again(dialog);
+    }});
+    EXPECT_EQ(dialog.DoModal(), 77) << row.name;
+  }
+}
+
+// A window that is told that it has to wait may call the dialog off.
+TEST(ModalDialog, EndedBeforeItIsMadeItIsNotMade) {
+  class Owner : public FrameWindow {
+   public:
+    CDialog* refused = nullptr;
+
+   protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+      if (message == WM_ENABLE && !wParam && refused) refused->EndDialog(33);
+      return FrameWindow::WindowProc(message, wParam, lParam);
+    }
+  } owner;
+  ASSERT_TRUE(owner.Make());
+  TestDialog dialog(&owner);
+  owner.refused = &dialog;
+  EXPECT_EQ(dialog.DoModal(), 33);
+  EXPECT_EQ(dialog.inits, 0);
+  EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
 TEST(ModalDialog, TabMovesTheFocus) {
   TestDialog dialog;
   int first = 0, second = 0;

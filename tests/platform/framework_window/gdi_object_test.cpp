@@ -176,6 +176,54 @@ TEST(GdiObjects, StockObjectsSurviveTheirWrappers) {
   EXPECT_TRUE(IsAlive(::GetStockObject(BLACK_PEN)));
 }
 
+// What a context gives back as selected before, and may select again long after.
+template <class T>
+void ExpectNothingStandsForStock(int index) {
+  HGDIOBJ stock = nullptr;
+  {
+    T holder;
+    ASSERT_TRUE(holder.CreateStockObject(index)) << index;
+    stock = holder.m_hObject;
+    EXPECT_EQ(stock, ::GetStockObject(index));
+    EXPECT_NE(T::FromHandle(holder), &holder) << index;
+    EXPECT_TRUE(holder.DeleteObject()) << "harmless";
+    EXPECT_EQ(holder.m_hObject, nullptr);
+    T deleted_by_its_end;
+    ASSERT_TRUE(deleted_by_its_end.Attach(stock));
+  }
+  EXPECT_TRUE(IsAlive(stock)) << index;
+}
+
+TEST(GdiObjects, NoObjectStandsForAStockObjectItHolds) {
+  for (const int index : {BLACK_PEN, NULL_PEN}) ExpectNothingStandsForStock<CPen>(index);
+  for (const int index : {NULL_BRUSH, WHITE_BRUSH, DC_BRUSH}) {
+    ExpectNothingStandsForStock<CBrush>(index);
+  }
+  for (const int index : {SYSTEM_FONT, DEFAULT_GUI_FONT}) ExpectNothingStandsForStock<CFont>(index);
+}
+
+// The system answers with the bitmap that every memory context begins with.
+TEST(GdiObjects, NoObjectOwnsTheBitmapOfNoSize) {
+  CWindowDC screen(nullptr);
+  CDC dc;
+  ASSERT_TRUE(dc.CreateCompatibleDC(&screen));
+  const HGDIOBJ first = ::GetCurrentObject(dc, OBJ_BITMAP);
+  {
+    CBitmap none;
+    ASSERT_TRUE(none.CreateCompatibleBitmap(&screen, 0, 0));
+    ASSERT_EQ(none.m_hObject, first);
+    EXPECT_NE(dc.GetCurrentBitmap(), &none);
+  }
+  EXPECT_TRUE(IsAlive(first));
+}
+
+TEST(GdiObjects, NoObjectOwnsTheBrushOfASystemColour) {
+  CBrush brush;
+  ASSERT_TRUE(brush.CreateSysColorBrush(COLOR_BTNFACE));
+  EXPECT_EQ(brush.m_hObject, ::GetSysColorBrush(COLOR_BTNFACE));
+  EXPECT_NE(CBrush::FromHandle(::GetSysColorBrush(COLOR_BTNFACE)), &brush);
+}
+
 TEST(GdiObjects, ConstructorThatCannotCreateThrows) {
   CBitmap empty;
   bool thrown = false;

@@ -6,5 +6,6 @@
 #define IDD_HAS_OK 502
 #define IDD_PLAIN_STYLE 503
 #define IDD_NO_STYLE 504
+#define IDD_CHILD 505
 #define IDC_NUMBER 1001
 #define IDC_OTHER 1002

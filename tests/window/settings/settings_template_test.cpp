@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string>
 
+#include "tests/platform/support/scoped_work_area.h"
 #include "tests/window/settings/settings_test.h"
 
 namespace tavix::test {
@@ -200,6 +201,39 @@ TEST_F(SettingsTemplate, CutsAndCoversNothing) { Cancel({ExpectReadable}); }
 TEST_F(SettingsTemplate, CutsAndCoversNothingWithARatio) {
   ASSERT_EQ(0, Tavix_SetTatYok(2, 1));
   Cancel({ExpectReadable});
+}
+
+// As on the handheld, whose OK button stood in the caption.
+TEST_F(SettingsTemplate, CutsAndCoversNothingOnTheHandheldsScreen) {
+  const RECT screen{0, 0, 240, 320};
+  const ::test::ScopedWorkArea small(screen);
+  const Step is_readable_in_the_corner = [&](HWND dialog) {
+    ExpectReadable(dialog);
+    const RECT place = PlaceOf(dialog);
+    EXPECT_EQ(0, place.left);
+    EXPECT_EQ(0, place.top);
+    EXPECT_LE(place.right, screen.right);
+    EXPECT_LE(place.bottom, screen.bottom);
+    EXPECT_TRUE(IsVisible(dialog, IDOK));
+  };
+  Cancel({is_readable_in_the_corner});
+  ASSERT_EQ(0, Tavix_SetTatYok(2, 1));
+  Cancel({is_readable_in_the_corner});
+}
+
+TEST_F(SettingsTemplate, StandsInTheMiddleOfALargeScreen) {
+  Cancel({[](HWND dialog) {
+    RECT work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    const RECT place = PlaceOf(dialog);
+    EXPECT_EQ((work.right - (place.right - place.left)) / 2, place.left);
+    LOGFONTW font{};
+    ::GetObjectW(reinterpret_cast<HFONT>(::SendMessageW(dialog, WM_GETFONT, 0, 0)), sizeof font,
+                 &font);
+    const HDC dc = ::GetDC(nullptr);
+    EXPECT_EQ(-::MulDiv(10, ::GetDeviceCaps(dc, LOGPIXELSY), 72), font.lfHeight);
+    ::ReleaseDC(nullptr, dc);
+  }});
 }
 
 TEST_F(SettingsTemplate, TheTabKeyGoesFromTopToBottom) {

@@ -24,7 +24,8 @@ class AFX_FRAMEWORK CDialog : public CWnd {
   virtual BOOL CreateIndirect(const DLGTEMPLATE* dialogTemplate, CWnd* parent = nullptr);
   BOOL InitModalIndirect(const DLGTEMPLATE* dialogTemplate, CWnd* parent = nullptr);
 
-  // Closes a modal dialog; it ends after the current message.
+  // Closes a modal dialog: it hides and its owner takes input at once, and DoModal returns after
+  // the current message. The first call's result stands; later ones do nothing.
   void EndDialog(int result);
   UINT GetDefID() const { return LOWORD(SendMessageW(DM_GETDEFID)); }
   void SetDefID(UINT id) { SendMessageW(DM_SETDEFID, id); }
@@ -63,6 +64,7 @@ class AFX_FRAMEWORK CDialog : public CWnd {
 
   BOOL CreateFromTemplate(const DLGTEMPLATE* dialogTemplate, HWND owner);
   void RunModal(ModalState& state);
+  void MakeWay();
   static INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
   ModalState* m_modal = nullptr;  // while DoModal runs

@@ -23,7 +23,8 @@ class AFX_FRAMEWORK CGdiObject : public CObject {
   // the handle; null for a null handle.
   static CGdiObject* FromHandle(HGDIOBJ handle);
 
-  // Takes the handle over; the object must be empty. FALSE for a null handle.
+  // Takes the handle over; the object must be empty. FALSE for a null handle. A stock object, and
+  // the bitmap that the system gives where none of no size can be, is held but never owned.
   BOOL Attach(HGDIOBJ handle);
   // Gives the handle back; the caller owns it.
   HGDIOBJ Detach();
@@ -40,4 +41,8 @@ class AFX_FRAMEWORK CGdiObject : public CObject {
   // A stock object such as BLACK_PEN, WHITE_BRUSH, SYSTEM_FONT. Deleting it is harmless.
   BOOL CreateStockObject(int index) { return Attach(::GetStockObject(index)); }
   BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
+
+ protected:
+  // Holds a handle of the system's own. FALSE for a null handle.
+  BOOL Borrow(HGDIOBJ handle);
 };

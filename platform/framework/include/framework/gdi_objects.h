@@ -40,7 +40,7 @@ class AFX_FRAMEWORK CBrush : public CGdiObject {
   BOOL CreateBrushIndirect(const LOGBRUSH* brush) { return Attach(::CreateBrushIndirect(brush)); }
   // The bitmap must outlive the brush.
   BOOL CreatePatternBrush(class CBitmap* bitmap);
-  BOOL CreateSysColorBrush(int index) { return Attach(::GetSysColorBrush(index)); }
+  BOOL CreateSysColorBrush(int index) { return Borrow(::GetSysColorBrush(index)); }
   int GetLogBrush(LOGBRUSH* brush) const { return GetObjectW(sizeof(*brush), brush); }
 };
 
