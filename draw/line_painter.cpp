@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
+#include "draw/drawn_size.h"
 #include "draw/screen_line.h"
 #include "view/truncate.h"
 
@@ -14,7 +16,7 @@ constexpr int kLargestRadius = 1 << 14;
 
 // `box` grown by the reach of a pen, and by a pixel for the truncation of positions.
 ScreenBox Grown(const ScreenBox& box, int pen_width) {
-  const int reach = std::clamp(pen_width, 0, 1 << 16) + 1;
+  const int reach = std::abs(DrawnSize(pen_width)) + 1;
   return {box.left - reach, box.top - reach, box.right + reach, box.bottom + reach};
 }
 
@@ -24,7 +26,7 @@ LinePainter::LinePainter(PlanCanvas& canvas, const CViewState& view, const Legen
     : canvas_(canvas), view_(view), entry_(legend), visible_(canvas.Visible()) {}
 
 void LinePainter::Use(std::int16_t legend) {
-  if (entry_.Use(legend)) canvas_.UseLineStyle(entry_.Style());
+  if (entry_.Use(legend)) canvas_.UseLineStyle(DrawnLineStyle(entry_.Style()));
 }
 
 void LinePainter::DrawSegment(std::int16_t legend, GroundPoint start, GroundPoint end) {

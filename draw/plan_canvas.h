@@ -14,14 +14,9 @@ namespace tavix {
 // the pixels of PlainCanvas, which draws each by the system's own call. Later drawings cover
 // earlier ones.
 //
-// A style is in use until the next one is; it is taken as the legend has it, but for sizes, which
-// are at most kMostPixels.
+// A style is in use until the next one is. Its sizes are those to be drawn, see DrawnPointStyle.
 class PlanCanvas {
  public:
-  // Larger than any screen, and small enough that no sum of pixels leaves the 32-bit range and that
-  // the system, which walks along an ellipse pixel by pixel, is done with it at once.
-  static constexpr int kMostPixels = 1 << 16;
-
   PlanCanvas() = default;
   virtual ~PlanCanvas() = default;
   PlanCanvas(const PlanCanvas&) = delete;

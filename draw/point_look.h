@@ -1,11 +1,10 @@
 // How the points of one legend look.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 
+#include "draw/drawn_size.h"
 #include "draw/legend_lookup.h"
-#include "draw/plan_canvas.h"
 #include "view/view_state.h"
 
 namespace tavix {
@@ -18,9 +17,7 @@ class PointLook {
   // Makes `legend` the current entry. True when it has changed.
   bool Use(std::int16_t legend) {
     if (!entry_.Use(legend)) return false;
-    style_ = entry_.Style();
-    style_.prm1 = std::min(style_.prm1, PlanCanvas::kMostPixels);
-    style_.prm2 = std::min(style_.prm2, PlanCanvas::kMostPixels);
+    style_ = DrawnPointStyle(entry_.Style());
     margin_ = view_.PixelsToLength(style_.prm1);
     return true;
   }

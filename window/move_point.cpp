@@ -2,6 +2,7 @@
 
 #include <framework/scoped_select.h>
 
+#include "draw/drawn_size.h"
 #include "draw/point_mark.h"
 #include "draw/screen_line.h"
 #include "draw/xor_drawing.h"
@@ -13,9 +14,10 @@ void MovePoint::Start(CWnd& window, const CViewState& view, const LegendStyle& s
   End(window, view);
   constexpr COLORREF kWhite = 0x00FFFFFF;
   color_ = static_cast<COLORREF>(style.color) ^ kWhite;
-  pen_width_ = style.width;
-  mark_ = style.kind;
-  mark_size_ = style.prm1;
+  const LegendStyle drawn = DrawnPointStyle(style);
+  pen_width_ = drawn.width;
+  mark_ = drawn.kind;
+  mark_size_ = drawn.prm1;
   position_ = {};
 }
 

@@ -5,16 +5,7 @@
 namespace tavix {
 namespace {
 
-// Palette indices and the like have a high byte.
-bool IsPlainColor(std::int32_t color) { return (static_cast<std::uint32_t>(color) >> 24) == 0; }
-
 bool IsOnePixelPen(const LegendStyle& style) { return style.width == 0 || style.width == 1; }
-
-// 0x00BBGGRR as 0x00RRGGBB.
-std::uint32_t PixelOf(std::int32_t color) {
-  const auto value = static_cast<std::uint32_t>(color);
-  return (value & 0xFF) << 16 | (value & 0xFF00) | (value >> 16 & 0xFF);
-}
 
 bool IsNear(ScreenPoint at) {
   return at.x >= -kFarthestStep && at.x <= kFarthestStep && at.y >= -kFarthestStep &&
@@ -24,26 +15,26 @@ bool IsNear(ScreenPoint at) {
 }  // namespace
 
 BitsCanvas::BitsCanvas(CDC& dc, const PixelBlock& block, LearntDrawing& learnt)
-    : plain_(dc), block_(block), learnt_(learnt), text_color_(dc.GetTextColor()) {
+    : plain_(dc, block), learnt_(learnt), text_color_(dc.GetTextColor()) {
   learnt_.FollowSettings();
 }
 
 void BitsCanvas::UseLineStyle(const LegendStyle& style) {
   plain_.UseLineStyle(style);
-  const bool can_step = IsOnePixelPen(style) && IsPlainColor(style.color);
-  lines_ = can_step ? learnt_.Lines() : nullptr;
-  line_color_ = PixelOf(style.color);
+  const std::optional<std::uint32_t> value = PixelBlock::ValueOf(style.color);
+  lines_ = IsOnePixelPen(style) && value ? learnt_.Lines() : nullptr;
+  line_color_ = value.value_or(0);
 }
 
 void BitsCanvas::Line(const ScreenSegment& segment) {
   if (lines_ && IsNear(segment.start) && IsNear(segment.end)) {
-    StepLine(Bits(), *lines_, segment, line_color_);
+    StepLine(plain_.Bits(), *lines_, segment, line_color_);
   } else {
-    plain_.Canvas().Line(segment);
+    plain_.Line(segment);
   }
 }
 
-void BitsCanvas::Circle(ScreenPoint centre, int radius) { plain_.Canvas().Circle(centre, radius); }
+void BitsCanvas::Circle(ScreenPoint centre, int radius) { plain_.Circle(centre, radius); }
 
 void BitsCanvas::UsePointStyle(const LegendStyle& style) {
   plain_.UsePointStyle(style);
@@ -65,22 +56,17 @@ void BitsCanvas::LookUpLabels() {
 
 void BitsCanvas::Mark(ScreenPoint at) {
   if (mark_) {
-    mark_->Draw(Bits(), at);
+    mark_->Draw(plain_.Bits(), at);
   } else {
-    plain_.Canvas().Mark(at);
+    plain_.Mark(at);
   }
 }
 
 void BitsCanvas::Label(ScreenPoint at, NameView text) {
   const LegendStyle& style = plain_.Style();
   const LabelBox box = PlaceLabel(at, style.prm1, style.prm2, static_cast<int>(text.size()));
-  if (!labels_ || !labels_->Draw(Bits(), {box.left, box.top}, text))
-    plain_.Canvas().Label(at, text);
-}
-
-const PixelBlock& BitsCanvas::Bits() {
-  plain_.Settle();
-  return block_;
+  plain_.PaintsText();
+  if (!labels_ || !labels_->Draw(plain_.Bits(), {box.left, box.top}, text)) plain_.Label(at, text);
 }
 
 }  // namespace tavix

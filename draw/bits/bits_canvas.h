@@ -32,10 +32,7 @@ class BitsCanvas : public PlanCanvas {
  private:
   void LookUpLabels();
 
-  [[nodiscard]] const PixelBlock& Bits();
-
-  LazyPlain plain_;
-  PixelBlock block_;
+  LazyPlain<PixelBlock> plain_;
   LearntDrawing& learnt_;
 
   // Null: the system draws it.

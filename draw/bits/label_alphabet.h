@@ -19,7 +19,7 @@ namespace tavix {
 // `Hand` knows the kind of picture that is drawn in:
 //
 //     Block, Glyph, Sample                     what is drawn into, a character, the system's sample
-//     Height()                                 of the font, in pixels
+//     Height(), kHighest                       of the font, in pixels; above, it is the system's
 //     MakeSample(length)                       for labels of that many characters
 //     Read(sample, character)                  the optional glyph of a character
 //     Draw(block, at, glyph)                   with its cell's top left corner at `at`
@@ -45,7 +45,6 @@ class LabelAlphabet {
   static constexpr char16_t kFirst = u' ';
   static constexpr char16_t kLast = u'~';
   static constexpr std::size_t kLongest = 32;  // characters
-  static constexpr int kHighest = 40;          // pixels; above, a label is drawn seldom
 
   // A glyph that was sought and may be missing.
   struct Entry {
@@ -65,7 +64,7 @@ class LabelAlphabet {
   }
 
   [[nodiscard]] bool Seek(NameView text) {
-    if (hand_.Height() > kHighest || text.size() > kLongest) return false;
+    if (hand_.Height() > Hand::kHighest || text.size() > kLongest) return false;
     const auto none = [this](char16_t character) {
       if (!IsPrintable(character) || character == u'&') return true;
       return Of(character).sought && !Of(character).glyph;

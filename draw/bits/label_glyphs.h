@@ -17,6 +17,7 @@ class SmoothHand {
  public:
   using Block = PixelBlock;
   using Sample = LabelSample;
+  static constexpr int kHighest = 40;  // above, there are more levels to learn than labels to draw
 
   // The blocks are the faster way, where there are any.
   struct Glyph {

@@ -3,20 +3,17 @@
 
 #include <algorithm>
 
+#include "draw/drawn_size.h"
 #include "draw/plain_canvas.h"
 #include "store/legend_table.h"
 
 namespace tavix {
 
-// Above this many pixels of size and pen a mark is left to the system.
-constexpr int kLargestStamp = 64;
-
 // How far a mark may reach from its point to any side, in pixels.
 inline int ReachOf(const LegendStyle& style) { return style.prm1 + std::max(style.width, 1) + 2; }
 
 inline bool IsSmallMark(const LegendStyle& style) {
-  return style.prm1 <= kLargestStamp && style.width >= 0 && style.width <= kLargestStamp &&
-         ReachOf(style) <= kLargestStamp;
+  return style.prm1 <= kLargestDrawn && style.width >= 0 && style.width <= kLargestDrawn;
 }
 
 // What a mark depends on: not on the label.

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 
 namespace tavix {
 
@@ -20,6 +21,17 @@ struct PixelBlock {
   [[nodiscard]] std::uint32_t* At(int x, int y) const {
     return pixels + static_cast<std::ptrdiff_t>(y) * width + x;
   }
+
+  // What a pixel becomes that is drawn in a colour of 0x00BBGGRR; none for palette indices and the
+  // like, which have a high byte.
+  [[nodiscard]] static std::optional<std::uint32_t> ValueOf(std::int32_t color) {
+    const auto value = static_cast<std::uint32_t>(color);
+    if (value >> 24 != 0) return std::nullopt;
+    return (value & 0xFF) << 16 | (value & 0xFF00) | value >> 16;
+  }
+
+  // Whether a pixel inside has a value.
+  [[nodiscard]] bool Has(int x, int y, std::uint32_t value) const { return *At(x, y) == value; }
 
   [[nodiscard]] std::size_t Count() const {
     return static_cast<std::size_t>(width) * static_cast<std::size_t>(height);

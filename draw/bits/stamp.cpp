@@ -1,6 +1,7 @@
 #include "draw/bits/stamp.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace tavix {
 
@@ -18,6 +19,9 @@ std::optional<Stamp> Stamp::FromPictures(const PixelBlock& over_white, const Pix
       stamp.Add(x - origin.x, y - origin.y);
     }
   }
+  int longest = 0;
+  for (const Run& run : stamp.runs_) longest = std::max(longest, run.count);
+  stamp.longest_.assign(static_cast<std::size_t>(longest), stamp.color_);
   return stamp;
 }
 
@@ -32,14 +36,23 @@ void Stamp::Add(int x, int y) {
   }
 }
 
+// A long run is copied: the library's copy moves many pixels at once, a loop one after the other.
+void Stamp::Paint(std::uint32_t* pixels, int count) const {
+  constexpr int kShort = 16;
+  if (count <= kShort) {
+    std::fill_n(pixels, count, color_);
+  } else {
+    std::copy_n(longest_.data(), count, pixels);
+  }
+}
+
 void Stamp::Draw(const PixelBlock& block, ScreenPoint at) const {
   if (!box_.Fits(block, at.x, at.y)) {
     DrawCut(block, at);
     return;
   }
   for (const Run& run : runs_) {
-    std::uint32_t* pixel = block.At(at.x + run.x, at.y + run.y);
-    for (int i = 0; i < run.count; ++i) pixel[i] = color_;
+    Paint(block.At(at.x + run.x, at.y + run.y), run.count);
   }
 }
 
@@ -49,7 +62,7 @@ void Stamp::DrawCut(const PixelBlock& block, ScreenPoint at) const {
     if (y < 0 || y >= block.height) continue;
     const int left = std::max(at.x + run.x, 0);
     const int right = std::min(at.x + run.x + run.count, block.width);
-    if (left < right) std::fill(block.At(left, y), block.At(left, y) + (right - left), color_);
+    if (left < right) Paint(block.At(left, y), right - left);
   }
 }
 

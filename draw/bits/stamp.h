@@ -33,11 +33,13 @@ class Stamp {
   };
 
   void Add(int x, int y);
+  void Paint(std::uint32_t* pixels, int count) const;
   void DrawCut(const PixelBlock& block, ScreenPoint at) const;
 
   std::uint32_t color_ = 0;
   PixelBox box_;
   std::vector<Run> runs_;
+  std::vector<std::uint32_t> longest_;  // as many pixels as the longest run has
 };
 
 }  // namespace tavix

@@ -1,7 +1,6 @@
 #include "draw/bits/system_sample.h"
 
 #include <algorithm>
-#include <random>
 
 #include "draw/bits/pixel_section.h"
 
@@ -23,9 +22,11 @@ void SystemSample::Fill(std::uint32_t color) {
 }
 
 void SystemSample::FillUnevenly() {
-  std::minstd_rand random;
-  std::generate_n(Pixels().pixels, block_.Count(),
-                  [&] { return static_cast<std::uint32_t>(random()) & 0x00FFFFFF; });
+  std::uint32_t random = 1;
+  std::generate_n(Pixels().pixels, block_.Count(), [&] {
+    random = random * 1664525 + 1013904223;
+    return random >> 8;
+  });
 }
 
 const PixelBlock& SystemSample::Pixels() const {

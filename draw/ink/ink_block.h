@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 
 namespace tavix {
 
@@ -26,6 +27,21 @@ struct InkBlock {
       mask = 0xFF;
     }
     Set(row[byte], static_cast<std::uint8_t>(mask & 0xFF << (7 - (last & 7))), ink);
+  }
+
+  // What a pixel becomes that is drawn in black or in white, 1 or 0; other colours are the system's
+  // business.
+  [[nodiscard]] static std::optional<std::uint32_t> ValueOf(std::int32_t color) {
+    constexpr std::int32_t kBlack = 0;
+    constexpr std::int32_t kWhite = 0x00FFFFFF;
+    if (color == kBlack) return 1;
+    if (color == kWhite) return 0;
+    return std::nullopt;
+  }
+
+  // Whether a pixel inside has a value.
+  [[nodiscard]] bool Has(int x, int y, std::uint32_t value) const {
+    return IsInk(x, y) == (value != 0);
   }
 
   [[nodiscard]] bool IsInk(int x, int y) const {

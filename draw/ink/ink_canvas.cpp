@@ -6,7 +6,7 @@
 namespace tavix {
 
 InkCanvas::InkCanvas(OneBitCanvas& picture, int width, int height)
-    : plain_(picture.Dc()), block_{picture.Bits(), width, height, picture.Stride()} {}
+    : plain_(picture.Dc(), {picture.Bits(), width, height, picture.Stride()}) {}
 
 void InkCanvas::UsePointStyle(const LegendStyle& style) {
   plain_.UsePointStyle(style);
@@ -23,23 +23,19 @@ void InkCanvas::UseTextColor(std::uint32_t color) {
 
 void InkCanvas::Mark(ScreenPoint at) {
   if (mark_) {
-    mark_->Draw(Bits(), at);
+    mark_->Draw(plain_.Bits(), at);
   } else {
-    plain_.Canvas().Mark(at);
+    plain_.Mark(at);
   }
 }
 
 void InkCanvas::Label(ScreenPoint at, NameView text) {
   const LegendStyle& style = plain_.Style();
   const LabelBox box = PlaceLabel(at, style.prm1, style.prm2, static_cast<int>(text.size()));
-  if (!labels_ || !text_is_black_ || !labels_->Draw(Bits(), {box.left, box.top}, text)) {
-    plain_.Canvas().Label(at, text);
+  plain_.PaintsText();
+  if (!labels_ || !text_is_black_ || !labels_->Draw(plain_.Bits(), {box.left, box.top}, text)) {
+    plain_.Label(at, text);
   }
-}
-
-const InkBlock& InkCanvas::Bits() {
-  plain_.Settle();
-  return block_;
 }
 
 }  // namespace tavix

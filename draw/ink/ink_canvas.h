@@ -23,8 +23,8 @@ class InkCanvas : public PlanCanvas {
 
   [[nodiscard]] ScreenBox Visible() const override { return plain_.Visible(); }
   void UseLineStyle(const LegendStyle& style) override { plain_.UseLineStyle(style); }
-  void Line(const ScreenSegment& segment) override { plain_.Canvas().Line(segment); }
-  void Circle(ScreenPoint centre, int radius) override { plain_.Canvas().Circle(centre, radius); }
+  void Line(const ScreenSegment& segment) override { plain_.Line(segment); }
+  void Circle(ScreenPoint centre, int radius) override { plain_.Circle(centre, radius); }
   void UsePointStyle(const LegendStyle& style) override;
   void UseTextColor(std::uint32_t color) override;
   void Mark(ScreenPoint at) override;
@@ -36,10 +36,7 @@ class InkCanvas : public PlanCanvas {
     std::optional<InkMark> mark;
   };
 
-  [[nodiscard]] const InkBlock& Bits();
-
-  LazyPlain plain_;
-  InkBlock block_;
+  LazyPlain<InkBlock> plain_;
   FewLooks<LegendStyle, LearntMark, kMostMarks> marks_;
   FewLooks<int, InkLabels, kMostFonts> fonts_;  // by height
   bool text_is_black_ = true;

@@ -5,6 +5,7 @@
 
 #include "draw/bits/label_alphabet.h"
 #include "draw/bits/label_room.h"
+#include "draw/drawn_size.h"
 #include "draw/ink/ink_sample.h"
 #include "draw/ink/ink_shape.h"
 
@@ -36,6 +37,7 @@ class InkHand {
   using Block = InkBlock;
   using Sample = InkLabelSample;
   using Glyph = InkLabelSample::Glyph;
+  static constexpr int kHighest = kLargestDrawn;
 
   explicit InkHand(int height) : height_(height) {}
 

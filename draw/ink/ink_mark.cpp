@@ -7,8 +7,7 @@ namespace tavix {
 
 std::optional<InkMark> InkMark::Learn(const LegendStyle& style) {
   constexpr std::int32_t kBlack = 0;
-  constexpr std::int32_t kWhite = 0x00FFFFFF;
-  if (!IsSmallMark(style) || (style.color != kBlack && style.color != kWhite)) return std::nullopt;
+  if (!IsSmallMark(style) || !InkBlock::ValueOf(style.color)) return std::nullopt;
   const int reach = ReachOf(style);
   const ScreenPoint middle{reach, reach};
   InkSample sample(2 * reach + 1, 2 * reach + 1);

@@ -96,10 +96,14 @@ TEST_F(PointVisibility, FarAwayPointsAreNotDrawnAndDoNoHarm) {
   }
 }
 
-TEST_F(PointVisibility, OfAMarkLargerThanAnyScreenFillsTheWindow) {
+// It reaches as far as it is drawn, not as far as its legend says.
+TEST_F(PointVisibility, OfAMarkLargerThanAnyScreenEndsAHundredPixelsAway) {
   const PointLegend look{4, std::numeric_limits<int>::max(), 0, 0, 1, RGB(255, 0, 0)};
-  ASSERT_EQ(0, Enter(1, GroundAt({100, 80}), AddLegend(look)));
-  EXPECT_EQ(kWidth + kHeight - 1, CountPixels(Redrawn(), 0xFF0000));
+  const short legend = AddLegend(look);
+  ASSERT_EQ(0, Enter(1, GroundAt({100, 80}), legend));
+  EXPECT_EQ(101 + 101 - 1, CountPixels(Redrawn(), 0xFF0000));
+  ASSERT_EQ(0, Enter(1, GroundAt({-40, 80}), legend));
+  EXPECT_EQ(11, CountPixels(Redrawn(), 0xFF0000));
 }
 
 TEST_F(PointVisibility, LegendValuesOutOfAllReasonDoNotHoldTheDrawingUp) {

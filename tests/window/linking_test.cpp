@@ -80,6 +80,9 @@ TEST_F(Linking, OfMorePixelsThanMemoryHoldsIsRefused) {
     EXPECT_FALSE(::IsWindow(Window()));
     ExpectHarmlessCalls();
   }
+  host_.AddControl(kControlId, {0, 0, 11586, 11586});
+  EXPECT_EQ(-1, Tavix_Lnk(host_.AsParent(), kControlId, kNotifyId));
+  EXPECT_FALSE(::IsWindow(Window()));
   EXPECT_EQ(0, LinkPlot(200, 160));
 }
 

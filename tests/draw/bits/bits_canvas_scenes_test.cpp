@@ -99,13 +99,12 @@ TEST_P(BitsScenes, AreTheSystems) {
   EXPECT_TRUE(twins.ShowSomething());
 }
 
-INSTANTIATE_TEST_SUITE_P(Dice, BitsScenes,
-                         testing::Values(Scene{1, 240, 320, 600, 40, 3},
-                                         Scene{2, 64, 48, 600, 40, 3},
-                                         Scene{3, 640, 480, 400, 16, 1},
-                                         Scene{4, 101, 1, 200, 12, 1}, Scene{5, 1, 77, 200, 12, 2},
-                                         Scene{6, 240, 320, 600, 90, 9},
-                                         Scene{7, 30, 30, 600, 10, 1}));
+INSTANTIATE_TEST_SUITE_P(
+    Dice, BitsScenes,
+    testing::Values(Scene{1, 240, 320, 600, 40, 3}, Scene{2, 64, 48, 600, 40, 3},
+                    Scene{3, 640, 480, 400, 16, 1}, Scene{4, 101, 1, 200, 12, 1},
+                    Scene{5, 1, 77, 200, 12, 2}, Scene{6, 240, 320, 600, 90, 9},
+                    Scene{7, 30, 30, 600, 10, 1}, Scene{8, 240, 320, 300, 100, 100}));
 
 }  // namespace
 }  // namespace tavix::test

@@ -19,10 +19,13 @@ TEST_P(MarkStamps, AreMadeOfEveryKind) {
       EXPECT_TRUE(MakeMarkStamp(Style(size, width))) << size << ", " << width;
     }
   }
+  for (const auto& [size, width] : {std::pair{100, 1}, {1, 100}, {100, 100}}) {
+    EXPECT_TRUE(MakeMarkStamp(Style(size, width))) << size << ", " << width;
+  }
 }
 
 TEST_P(MarkStamps, AreNotMadeOfLargeMarks) {
-  for (const auto& [size, width] : {std::pair{1000, 1}, {5, 1000}, {1 << 16, 1}, {5, -1}}) {
+  for (const auto& [size, width] : {std::pair{101, 1}, {5, 101}, {1 << 16, 1}, {5, -1}}) {
     EXPECT_FALSE(MakeMarkStamp(Style(size, width))) << size << ", " << width;
   }
 }

@@ -82,7 +82,7 @@ class InkScenes : public testing::TestWithParam<Scene> {
   void DrawPoints() {
     const LegendStyle style{Between(0, 12),
                             Between(0, GetParam().most_size),
-                            Between(0, 3) == 0 ? Between(0, 50) : Between(9, 12),
+                            Between(0, 3) == 0 ? Between(0, 100) : Between(9, 12),
                             0,
                             Between(0, GetParam().most_width),
                             Color()};
@@ -135,13 +135,12 @@ TEST_P(InkScenes, AreTheSystems) {
   EXPECT_TRUE(ShowsSomething());
 }
 
-INSTANTIATE_TEST_SUITE_P(Dice, InkScenes,
-                         testing::Values(Scene{1, 240, 320, 700, 40, 3},
-                                         Scene{2, 64, 48, 700, 40, 3},
-                                         Scene{3, 645, 480, 500, 16, 1},
-                                         Scene{4, 101, 1, 200, 12, 1}, Scene{5, 1, 77, 200, 12, 2},
-                                         Scene{6, 240, 320, 700, 90, 9},
-                                         Scene{7, 33, 30, 700, 10, 1}));
+INSTANTIATE_TEST_SUITE_P(
+    Dice, InkScenes,
+    testing::Values(Scene{1, 240, 320, 700, 40, 3}, Scene{2, 64, 48, 700, 40, 3},
+                    Scene{3, 645, 480, 500, 16, 1}, Scene{4, 101, 1, 200, 12, 1},
+                    Scene{5, 1, 77, 200, 12, 2}, Scene{6, 240, 320, 700, 90, 9},
+                    Scene{7, 33, 30, 700, 10, 1}, Scene{8, 240, 320, 400, 100, 100}));
 
 }  // namespace
 }  // namespace tavix::test
