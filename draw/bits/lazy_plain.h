@@ -4,6 +4,7 @@
 #include <afxwin.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <optional>
 
@@ -39,7 +40,8 @@ class LazyPlain {
   }
 
   void Circle(ScreenPoint centre, int radius) {
-    if (!IsPainted(centre, centre, std::abs(radius))) Made().Circle(centre, radius);
+    if (PassesBy(centre, radius) || IsPainted(centre, centre, std::abs(radius))) return;
+    Made().Circle(centre, radius);
   }
 
   void Mark(ScreenPoint at) {
@@ -70,6 +72,21 @@ class LazyPlain {
     } else {
       painted_.Forget();
     }
+  }
+
+  // Whether a circle's outline, the one thing that is drawn of it, runs beside the picture or all
+  // around it. The system would walk along it pixel by pixel.
+  [[nodiscard]] bool PassesBy(ScreenPoint centre, int radius) const {
+    const double r = std::fabs(static_cast<double>(radius));
+    const double slack = std::abs(style_.width) + 3.0;
+    const double left = centre.x;  // from the picture's edges to the centre
+    const double top = centre.y;
+    const double right = block_.width - left;
+    const double bottom = block_.height - top;
+    const double nearest =
+        std::hypot(std::max({-left, -right, 0.0}), std::max({-top, -bottom, 0.0}));
+    const double farthest = std::hypot(std::max(left, right), std::max(top, bottom));
+    return nearest > r + slack || farthest < r - slack;
   }
 
   // Whether what is drawn around the box between two corners, `reach` pixels and a pen's width

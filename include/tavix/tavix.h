@@ -68,10 +68,15 @@ TAVIX_CALL int Tavix_Del(void);
 // Makes the instance's plot window in the place of the control `controlId` of `parent`, which is
 // hidden and stays hidden. A window linked before is destroyed. The new window is hidden until
 // Tavix_Dsp. `notifyId` is the command id under which the window reports to `parent`. `parent` must
-// outlive the window. Returns -1 when the window could not be made.
+// outlive the window. Returns -1 when the window could not be made, or would have more than 2^27
+// pixels (a back buffer of 512 MiB).
 TAVIX_CALL int Tavix_Lnk(CWnd* parent, UINT controlId, UINT notifyId);
 
-// The same in a rectangle of `parent`'s client area, in pixels; right and bottom lie outside.
+// The same in a rectangle of `parent`'s client area, in pixels; right and bottom lie outside. One
+// that leaves no client area is allowed: the window exists and shows nothing.
+//
+// Tavix_Del and both link calls may come while the instance's settings dialog is open, from a timer
+// of the host for example: the dialog, and a colour chooser above it, end first as if cancelled.
 TAVIX_CALL int Tavix_LnkRct(CWnd* parent, int left, int top, int right, int bottom, UINT notifyId);
 
 // The instance's plot window, owned by the library, or null when none is linked.
@@ -198,7 +203,11 @@ TAVIX_CALL int Tavix_DelEntPnt(int key);
 // Line styles: kind 101 solid, 102 dashed, 103 dotted, 104 dash and short dash, 105 dash and two
 // short dashes; prm1 dash, prm2 gap and prm3 short dash in pixels.
 // Width is the pen's in pixels, colour a COLORREF. The point calls take width and colour before the
-// three parameters, the line calls after them. None of these calls redraws.
+// three parameters, the line calls after them. None of these calls redraws. Pens, marks and labels
+// of more than 100 pixels are drawn with 100; the values stay as given.
+// The legend file keeps a width and parameters of 0..99; for points one of them may have three
+// digits. A value that does not fit cuts its record short: the next load finds a bad file, and the
+// whole legend is the built-in one again.
 // Compatibility: an entity whose legend number has no entry looks like the entity before it in the
 // same drawing pass (points, lines or figures). The first of a pass draws nothing, but for a
 // circle, which is then black.
@@ -408,7 +417,8 @@ TAVIX_CALL int Tavix_VoEnd(void);
 
 // Draws the plan into a picture of this size, with a north arrow in a free corner; one held before
 // is freed. The picture shows the window's ground width, or one sheet while the paper frame is on.
-// Needs a linked window (-1 without); returns 0.
+// Needs a linked window. Returns -1 without one, and for a picture of more than 256 MiB (some
+// 46,000 pixels square), with the one held before freed; else 0.
 TAVIX_CALL int Tavix_GrpStt(int height, int width);
 
 // Writes 1 when the pixel is ink, else 0; rows count from the top. While the paper frame's outline

@@ -1,6 +1,9 @@
 // Lines on bits against the system's.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdlib>
+
 #include "tests/draw/bits/twin_canvases.h"
 
 namespace tavix::test {
@@ -30,6 +33,18 @@ TEST_F(BitsLines, OfEverySlopeAreTheSystems) {
     }
   }
   EXPECT_TRUE(twins_.AreSame());
+}
+
+// From inside of the picture to far around it, most of them crossing its edges or just not.
+TEST_F(BitsLines, OfCirclesAroundThePictureAreTheSystems) {
+  for (int i = 0; i < 400; ++i) {
+    Use(i % 5 == 0 ? 40 : i % 3);
+    const ScreenPoint at = dice_.Place(kWidth, kHeight, 200);
+    const int across = std::max(std::abs(at.x), std::abs(kWidth - at.x));
+    const int radius = i % 2 == 0 ? dice_.Between(0, 500) : across + dice_.Between(-60, 120);
+    twins_.Circle(at, i % 7 == 0 ? -radius : radius);
+    ASSERT_TRUE(twins_.AreSame()) << i << ": " << at.x << ", " << at.y << ", " << radius;
+  }
 }
 
 TEST_F(BitsLines, OfFewPixelsAreTheSystems) {

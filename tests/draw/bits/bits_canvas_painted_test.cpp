@@ -49,6 +49,24 @@ TEST(PaintedBits, ArePaintedAgainAfterALabel) {
   EXPECT_FALSE(painted.Equals(sample));
 }
 
+TEST(CirclesThatPassBy, AreNotDrawn) {
+  SystemSample sample(kWidth, kHeight);
+  sample.Fill(0x00FFFFFF);
+  LearntDrawing learnt;
+  BitsCanvas canvas(sample.Dc(), sample.Pixels(), learnt);
+  canvas.UseLineStyle({101, 0, 0, 0, 3, 0});
+  canvas.Line({{10, 10}, {20, 20}});
+  const OwnSample before(sample);
+  // From now on a circle that the system draws is filled.
+  ::SelectObject(sample.Dc().m_hDC, ::GetStockObject(BLACK_BRUSH));
+  canvas.Circle({75, 45}, 5000);
+  canvas.Circle({75, 45}, -100);
+  canvas.Circle({400, 45}, 200);
+  EXPECT_TRUE(before.Equals(sample));
+  canvas.Circle({75, 45}, 60);
+  EXPECT_FALSE(before.Equals(sample)) << "one that shows is drawn";
+}
+
 TEST(PaintedInk, IsNotPaintedAgain) {
   OneBitCanvas picture(kWidth, kHeight);
   InkCanvas canvas(picture, kWidth, kHeight);
