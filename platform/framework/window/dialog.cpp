@@ -100,7 +100,8 @@ INT_PTR CDialog::DoModal() {
     }
   }
   EndDialog(state.result);
-  state.owner_waits.reset();  // still waiting when the dialog was ended by a window told of that
+  // An owner that ended the dialog while it was being disabled is enabled only here.
+  state.owner_waits.reset();
   m_modal = nullptr;
   DestroyWindow();
   return state.result;

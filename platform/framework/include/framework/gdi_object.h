@@ -23,8 +23,8 @@ class AFX_FRAMEWORK CGdiObject : public CObject {
   // the handle; null for a null handle.
   static CGdiObject* FromHandle(HGDIOBJ handle);
 
-  // Takes the handle over; the object must be empty. FALSE for a null handle. A stock object, and
-  // the bitmap that the system gives where none of no size can be, is held but never owned.
+  // Takes the handle over; the object must be empty. FALSE for a null handle. A stock object, or
+  // the stock bitmap that the system gives in place of one of no size, is held but never owned.
   BOOL Attach(HGDIOBJ handle);
   // Gives the handle back; the caller owns it.
   HGDIOBJ Detach();
