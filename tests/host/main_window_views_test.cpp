@@ -176,6 +176,7 @@ TEST_F(MainWindowViews, SideViewShowsAMovedPointAtItsNewPlace) {
   };
   ASSERT_NO_FATAL_FAILURE(open_with("0,0"));
   ExpectInfo(L"4 points");
+  Command(ID_VIEW_BUTTONS);  // they are painted on their own
   ExpectColour(kRed, 10);
   ExpectColour(kViolet, 5);
   const POINT manhole = CentreOf(Shown(), kViolet);
@@ -194,6 +195,7 @@ TEST_F(MainWindowViews, SideViewShowsAMovedPointAtItsNewPlace) {
 
   ASSERT_NO_FATAL_FAILURE(open_with("90,0"));
   ExpectInfo(L"4 points");
+  Command(ID_VIEW_BUTTONS);
   turn_to_the_side();
   EXPECT_TRUE(WaitUntil([&] { return Shown() == moved; }));
   EXPECT_GE(CountColour(kRed), 10);
