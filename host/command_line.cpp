@@ -5,11 +5,12 @@
 #include <iterator>
 
 #include "host/one_bit/one_bit_format.h"
+#include "host/readers/field_text.h"
 
 namespace fieldhost {
 namespace {
 
-constexpr std::string_view kOptionsWithValue[] = {"--picture", "--one-bit", "--size"};
+constexpr std::string_view kOptionsWithValue[] = {"--picture", "--one-bit", "--size", "--dpi"};
 
 CommandLine Refused(std::string problem) {
   CommandLine refused;
@@ -21,10 +22,18 @@ CommandLine Refused(std::string problem) {
 void TakeValue(const std::string& option, const std::string& value, CommandLine& line) {
   if (option == "--picture") {
     line.picture = value;
+    if (!LowerCase(value).ends_with(".png")) {
+      line.problem = "The picture " + value + " must be named .png.";
+    }
   } else if (option == "--one-bit") {
     line.one_bit = value;
     if (!OneBitFormatOf(value)) {
       line.problem = "The one-bit picture " + value + " must be named .pbm or .png.";
+    }
+  } else if (option == "--dpi") {
+    line.resolution = ResolutionOf(value);
+    if (!line.resolution) {
+      line.problem = "The resolution " + value + " is not a whole number from 30 to 2400.";
     }
   } else if (line.size = PictureSizeOf(value); !line.size) {
     line.problem =
@@ -34,6 +43,10 @@ void TakeValue(const std::string& option, const std::string& value, CommandLine&
 
 // What cannot be had together; empty when all can.
 std::string Conflict(const CommandLine& line) {
+  const bool is_png = !line.picture.empty() || OneBitFormatOf(line.one_bit) == OneBitFormat::kPng;
+  if (line.resolution && !is_png) {
+    return "Only a PNG picture has a resolution; leave out --dpi.";
+  }
   if (line.one_bit.empty()) return "";
   if (!line.picture.empty()) return "Choose one of --picture and --one-bit.";
   if (line.side) return "The one-bit picture is of the plan; leave out --side.";

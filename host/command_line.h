@@ -13,7 +13,7 @@ namespace fieldhost {
 
 inline constexpr std::string_view kUsage =
     "usage: fieldhost [FILES...] [--picture FILE.png | --one-bit FILE.pbm|FILE.png]\n"
-    "                 [--side] [--size WIDTHxHEIGHT]";
+    "                 [--side] [--size WIDTHxHEIGHT] [--dpi DOTS]";
 
 // Text is UTF-8.
 struct CommandLine {
@@ -22,6 +22,7 @@ struct CommandLine {
   std::string one_bit;              // picture of the plan; empty: none
   bool side = false;                // the window shows the side view
   std::optional<PictureSize> size;  // of the picture, or of the window's client area
+  std::optional<int> resolution;    // of a PNG file, dots an inch
   std::string problem;              // what is wrong, one sentence; the rest is then worthless
 };
 

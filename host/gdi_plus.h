@@ -6,6 +6,8 @@
 // Its headers need the types of the one above.
 #include <gdiplus.h>
 
+#include <filesystem>
+
 namespace fieldhost {
 
 // The system's PNG encoder.
@@ -31,5 +33,13 @@ class GdiPlus {
   ULONG_PTR token_ = 0;
   bool started_ = false;
 };
+
+// Writes a PNG file that says it is of so many dots an inch. False when it cannot be written.
+[[nodiscard]] inline bool SavePng(Gdiplus::Bitmap& picture, int resolution,
+                                  const std::filesystem::path& file) {
+  const auto dots = static_cast<Gdiplus::REAL>(resolution);
+  return picture.SetResolution(dots, dots) == Gdiplus::Ok &&
+         picture.Save(file.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+}
 
 }  // namespace fieldhost

@@ -49,6 +49,8 @@ std::string SizeProblem(const CommandLine& line) {
          "; choose a smaller --size.";
 }
 
+int ResolutionFor(const CommandLine& line) { return line.resolution.value_or(ScreenResolution()); }
+
 // What came of writing a picture.
 struct Written {
   std::string problem;  // empty when all went well
@@ -68,7 +70,9 @@ Written WriteWindow(const LoadedSurvey& loaded, const CommandLine& line) {
     window->ShowWindow(SW_SHOWNOACTIVATE);
     window->RedrawWindow(nullptr, nullptr,
                          RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    if (!WritePicture(*window, PathOf(line.picture))) written.problem = CannotWrite(line.picture);
+    if (!WritePicture(*window, ResolutionFor(line), PathOf(line.picture))) {
+      written.problem = CannotWrite(line.picture);
+    }
   }
   window->DestroyWindow();
   return written;
@@ -102,7 +106,8 @@ Written WriteOneBit(const LoadedSurvey& loaded, const CommandLine& line) {
     return {"There is no room for so large a picture; choose a smaller --size.", {}};
   }
   const std::optional<OneBitFormat> format = OneBitFormatOf(line.one_bit);
-  if (!format || !WriteOneBitPicture(*plan.picture, *format, PathOf(line.one_bit))) {
+  if (!format ||
+      !WriteOneBitPicture(*plan.picture, *format, ResolutionFor(line), PathOf(line.one_bit))) {
     return {CannotWrite(line.one_bit), {}};
   }
   return {"", plan.shown};

@@ -33,6 +33,8 @@ void InformationLine::Place(const CRect& rect) {
   text_.ModifyStyle(SS_TYPEMASK | SS_ELLIPSISMASK | SS_EDITCONTROL, wraps ? kTwoRows : kOneRow);
   text_.MoveWindow(rect.left + kMargin, rect.top + kMargin, rect.Width() - 2 * kMargin,
                    rect.Height() - kMargin);
+  // The control repaints only what has become visible.
+  text_.Invalidate();
 }
 
 void InformationLine::Show(const CString& text) {

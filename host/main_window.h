@@ -79,7 +79,7 @@ class CMainWindow : public CFrameWnd {
 
   PlotPane plot_;
   SidePane side_;
-  Toolbox tools_{plot_};
+  Toolbox tools_{plot_, side_};
   ViewTabs tabs_;  // none in a picture
   InformationLine info_;
   CString sheet_text_;    // told last

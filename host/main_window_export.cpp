@@ -14,13 +14,13 @@ namespace fieldhost {
 namespace {
 
 // Writes the current plan; else says what is wrong and what to do.
-CString Export(const PictureSize& size, const std::filesystem::path& file) {
+CString Export(const PictureSize& size, int resolution, const std::filesystem::path& file) {
   const CString name = WideOf(Utf8Of(file.filename()));
   const std::optional<OneBitFormat> format = OneBitFormatOf(Utf8Of(file));
   if (!format) return name + L": name the picture .png or .pbm.";
   const std::optional<OneBitPicture> picture = DrawGroupPicture(size);
   if (!picture) return L"There is no room for so large a picture. Choose a smaller size.";
-  if (!WriteOneBitPicture(*picture, *format, file)) {
+  if (!WriteOneBitPicture(*picture, *format, resolution, file)) {
     return name +
            L" cannot be written. Check that the folder may be written to and that no other "
            L"program holds the file.";
@@ -38,7 +38,7 @@ void CMainWindow::OnExport() {
   const std::filesystem::path file = AskForPictureFile(*this);
   if (file.empty()) return;
 
-  const CString problem = Export(dialog.Size(), file);
+  const CString problem = Export(dialog.Size(), dialog.Resolution(), file);
   if (problem.IsEmpty()) {
     info_.Show(L"Written: " + WideOf(Utf8Of(file.filename())));
   } else {

@@ -9,11 +9,11 @@
 namespace fieldhost {
 namespace {
 
-std::optional<int> Side(std::string_view text) {
-  int side = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), side);
+std::optional<int> Whole(std::string_view text) {
+  int number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return side;
+  return number;
 }
 
 bool IsAllowedSide(int side) {
@@ -27,10 +27,15 @@ bool PictureSize::IsAllowed() const { return IsAllowedSide(width) && IsAllowedSi
 std::optional<PictureSize> PictureSizeOf(std::string_view text) {
   const std::size_t x = text.find('x');
   if (x == std::string_view::npos) return std::nullopt;
-  const std::optional<int> width = Side(text.substr(0, x));
-  const std::optional<int> height = Side(text.substr(x + 1));
+  const std::optional<int> width = Whole(text.substr(0, x));
+  const std::optional<int> height = Whole(text.substr(x + 1));
   if (!width || !height || !PictureSize{*width, *height}.IsAllowed()) return std::nullopt;
   return PictureSize{*width, *height};
+}
+
+std::optional<int> ResolutionOf(std::string_view text) {
+  const std::optional<int> dots = Whole(text);
+  return dots && IsAllowedResolution(*dots) ? dots : std::nullopt;
 }
 
 PictureSize Within(const PictureSize& size, int longest) {

@@ -22,12 +22,14 @@ bool CopyClientArea(CWnd& window, CBitmap& bitmap) {
 
 }  // namespace
 
-bool WritePicture(CWnd& window, const std::filesystem::path& file) {
+bool WritePicture(CWnd& window, int resolution, const std::filesystem::path& file) {
   const GdiPlus gdi_plus;
   CBitmap bitmap;
   if (!gdi_plus.HasStarted() || !CopyClientArea(window, bitmap)) return false;
   Gdiplus::Bitmap picture(bitmap, nullptr);
-  return picture.Save(file.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+  return SavePng(picture, resolution, file);
 }
+
+int ScreenResolution() { return CClientDC(nullptr).GetDeviceCaps(LOGPIXELSX); }
 
 }  // namespace fieldhost

@@ -43,6 +43,12 @@ SurveyCounts PlotPane::Add(const Survey& survey) {
   return refused;
 }
 
+bool PlotPane::MovePoint(int key, const GroundPosition& place) {
+  if (!entry_.MovePoint(key, place)) return false;
+  Redraw();
+  return true;
+}
+
 void PlotPane::Clear() {
   Tavix_DrwClr();
   entry_.StartOver();

@@ -35,6 +35,9 @@ class PlotPane {
   // Adds a survey and shows all there is. Returns what the library refused.
   SurveyCounts Add(const Survey& survey);
 
+  // Moves a point and shows it at its new place. False for an unknown key.
+  bool MovePoint(int key, const GroundPosition& place);
+
   void Clear();
   // Shows the plot window, drawn anew, or hides it; the view, marks and modes stay.
   void Show(bool show);

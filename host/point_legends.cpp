@@ -55,7 +55,7 @@ void PreparePointLegends() {
   }
 }
 
-void SelectPointLegend(std::string_view kind) { Tavix_SelPntHan(NumberOf(LookOf(kind))); }
+short PointLegend(std::string_view kind) { return NumberOf(LookOf(kind)); }
 
 void CopyPointLegends(int from_slot) {
   for (std::size_t look = 0; look < PointLooks().size(); ++look) {

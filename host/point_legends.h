@@ -11,8 +11,8 @@ namespace fieldhost {
 // Gives the current instance a legend for each look, but where the user has changed one.
 void PreparePointLegends();
 
-// Selects the legend for points of this kind in the current instance.
-void SelectPointLegend(std::string_view kind);
+// The number of the legend for points of this kind.
+[[nodiscard]] short PointLegend(std::string_view kind);
 
 // Gives the current instance the looks that another slot's has now.
 void CopyPointLegends(int from_slot);

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <map>
+#include <utility>
 
+#include "host/ground_position.h"
 #include "host/readers/survey.h"
 #include "host/survey_counts.h"
 
@@ -18,14 +20,22 @@ class SurveyEntry {
   // the library refused.
   SurveyCounts Enter(const Survey& survey);
 
+  // Moves a point; the sides of lots that end there follow it. False for an unknown key.
+  bool MovePoint(int key, const GroundPosition& place);
+
   // The next key and figure are 1 again; for an instance that was emptied.
-  void StartOver() { next_key_ = next_figure_ = 1; }
+  void StartOver();
 
  private:
-  void EnterLot(const SurveyLot& lot, int first_key);
+  using Side = std::pair<int, int>;  // the keys of its ends, as entered
+
+  bool EnterLot(const SurveyLot& lot, int first_key);
+  bool EnterSide(const Side& side);
+  bool EnterAsFigure(const Side& side, int figure);
   [[nodiscard]] SurveyCounts EnterLine(const SurveyLine& line);
 
   std::map<LineKind, short> line_legends_;
+  std::map<Side, int> figure_sides_;  // figure numbers of the sides that no line can be
   int next_key_ = 1;
   int next_figure_ = 1;
 };

@@ -2,12 +2,13 @@
 
 #include <afxdlgs.h>
 
+#include "host/picture_writer.h"
 #include "host/resource.h"
 
 namespace fieldhost {
 namespace {
 
-// 200 dots an inch.
+constexpr int kSheetResolution = 200;
 constexpr PictureSize kA4Upright{1654, 2339};
 constexpr PictureSize kA4Across{2339, 1654};
 constexpr PictureSize kA3Upright{2339, 3307};
@@ -20,12 +21,12 @@ END_MESSAGE_MAP()
 
 ExportDialog::ExportDialog(CWnd& parent, const PictureSize& plot)
     : CDialog(IDD_EXPORT, &parent),
-      offers_{{L"As the plot", plot},
-              {L"Twice the plot", {2 * plot.width, 2 * plot.height}},
-              {L"A4 upright, 200 dpi", kA4Upright},
-              {L"A4 across, 200 dpi", kA4Across},
-              {L"A3 upright, 200 dpi", kA3Upright}},
-      size_(plot) {}
+      offers_{{L"As the plot", plot, ScreenResolution()},
+              {L"Twice the plot", {2 * plot.width, 2 * plot.height}, ScreenResolution()},
+              {L"A4 upright, 200 dpi", kA4Upright, kSheetResolution},
+              {L"A4 across, 200 dpi", kA4Across, kSheetResolution},
+              {L"A3 upright, 200 dpi", kA3Upright, kSheetResolution}},
+      chosen_(offers_.front()) {}
 
 BOOL ExportDialog::OnInitDialog() {
   CDialog::OnInitDialog();
@@ -33,34 +34,44 @@ BOOL ExportDialog::OnInitDialog() {
   auto& list = *static_cast<CComboBox*>(GetDlgItem(IDC_EXPORT_OFFER));
   for (const Offer& offer : offers_) list.AddString(offer.text);
   list.SetCurSel(0);
-  ShowSize(size_);
+  Show(chosen_);
   return TRUE;
 }
 
 void ExportDialog::OnOffer() {
   const auto& list = *static_cast<CComboBox*>(GetDlgItem(IDC_EXPORT_OFFER));
-  ShowSize(offers_[static_cast<std::size_t>(list.GetCurSel())].size);
+  Show(offers_[static_cast<std::size_t>(list.GetCurSel())]);
 }
 
-void ExportDialog::ShowSize(const PictureSize& size) {
-  SetDlgItemInt(IDC_EXPORT_WIDTH, static_cast<UINT>(size.width));
-  SetDlgItemInt(IDC_EXPORT_HEIGHT, static_cast<UINT>(size.height));
+void ExportDialog::Show(const Offer& offer) {
+  SetDlgItemInt(IDC_EXPORT_WIDTH, static_cast<UINT>(offer.size.width));
+  SetDlgItemInt(IDC_EXPORT_HEIGHT, static_cast<UINT>(offer.size.height));
+  SetDlgItemInt(IDC_EXPORT_RESOLUTION, static_cast<UINT>(offer.resolution));
 }
 
 void ExportDialog::OnOK() {
-  size_ = {static_cast<int>(GetDlgItemInt(IDC_EXPORT_WIDTH)),
-           static_cast<int>(GetDlgItemInt(IDC_EXPORT_HEIGHT))};
-  if (size_.IsAllowed()) {
-    CDialog::OnOK();
-    return;
-  }
+  PictureSize& size = chosen_.size;
+  size = {static_cast<int>(GetDlgItemInt(IDC_EXPORT_WIDTH)),
+          static_cast<int>(GetDlgItemInt(IDC_EXPORT_HEIGHT))};
+  chosen_.resolution = static_cast<int>(GetDlgItemInt(IDC_EXPORT_RESOLUTION));
   CString text;
-  text.Format(L"Width and height go from %d to %d pixels. Type others.", PictureSize::kSmallest,
-              PictureSize::kLargest);
+  if (!size.IsAllowed()) {
+    text.Format(L"Width and height go from %d to %d pixels. Type others.", PictureSize::kSmallest,
+                PictureSize::kLargest);
+    const bool wide_enough = PictureSize{size.width, PictureSize::kSmallest}.IsAllowed();
+    Complain(text, wide_enough ? IDC_EXPORT_HEIGHT : IDC_EXPORT_WIDTH);
+  } else if (!IsAllowedResolution(chosen_.resolution)) {
+    text.Format(L"The resolution goes from %d to %d dots an inch. Type another.", kLowestResolution,
+                kHighestResolution);
+    Complain(text, IDC_EXPORT_RESOLUTION);
+  } else {
+    CDialog::OnOK();
+  }
+}
+
+void ExportDialog::Complain(const CString& text, int control) {
   AfxMessageBox(text, MB_OK | MB_ICONWARNING);
-  GotoDlgCtrl(GetDlgItem(PictureSize{size_.width, PictureSize::kSmallest}.IsAllowed()
-                             ? IDC_EXPORT_HEIGHT
-                             : IDC_EXPORT_WIDTH));
+  GotoDlgCtrl(GetDlgItem(control));
 }
 
 std::filesystem::path AskForPictureFile(CWnd& parent) {

@@ -1,4 +1,4 @@
-// Asks for the size and the file of a one-bit picture.
+// Asks for the size, the resolution and the file of a one-bit picture.
 #pragma once
 
 #include <afxwin.h>
@@ -10,14 +10,15 @@
 
 namespace fieldhost {
 
-// Offers sizes to choose from and lets the user type others.
+// Offers sizes and resolutions to choose from and lets the user type others.
 class ExportDialog : public CDialog {
  public:
   // `plot` is the drawing area's size, the first offer.
   ExportDialog(CWnd& parent, const PictureSize& plot);
 
-  // Within the limits when DoModal ended with IDOK.
-  [[nodiscard]] const PictureSize& Size() const { return size_; }
+  // Within the limits when DoModal ended with IDOK. The resolution in dots an inch.
+  [[nodiscard]] const PictureSize& Size() const { return chosen_.size; }
+  [[nodiscard]] int Resolution() const { return chosen_.resolution; }
 
   BOOL OnInitDialog() override;
 
@@ -30,12 +31,14 @@ class ExportDialog : public CDialog {
   struct Offer {
     CString text;
     PictureSize size;
+    int resolution;
   };
 
-  void ShowSize(const PictureSize& size);
+  void Show(const Offer& offer);
+  void Complain(const CString& text, int control);
 
   std::vector<Offer> offers_;
-  PictureSize size_;
+  Offer chosen_;
 };
 
 // The file the user wants the picture in; empty when the user cancelled.

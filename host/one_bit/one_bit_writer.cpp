@@ -24,7 +24,7 @@ bool CopyRows(const OneBitPicture& picture, Gdiplus::Bitmap& bitmap) {
   return bitmap.UnlockBits(&data) == Gdiplus::Ok;
 }
 
-bool WritePng(const OneBitPicture& picture, const std::filesystem::path& file) {
+bool WritePng(const OneBitPicture& picture, int resolution, const std::filesystem::path& file) {
   const GdiPlus gdi_plus;
   if (!gdi_plus.HasStarted()) return false;
   Gdiplus::Bitmap bitmap(picture.Width(), picture.Height(), PixelFormat1bppIndexed);
@@ -34,8 +34,7 @@ bool WritePng(const OneBitPicture& picture, const std::filesystem::path& file) {
     Gdiplus::ARGB entries[2];
   } palette{Gdiplus::PaletteFlagsGrayScale, 2, {Gdiplus::Color::White, Gdiplus::Color::Black}};
   return bitmap.SetPalette(reinterpret_cast<Gdiplus::ColorPalette*>(&palette)) == Gdiplus::Ok &&
-         CopyRows(picture, bitmap) &&
-         bitmap.Save(file.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+         CopyRows(picture, bitmap) && SavePng(bitmap, resolution, file);
 }
 
 bool WritePbm(const OneBitPicture& picture, const std::filesystem::path& path) {
@@ -48,9 +47,10 @@ bool WritePbm(const OneBitPicture& picture, const std::filesystem::path& path) {
 
 }  // namespace
 
-bool WriteOneBitPicture(const OneBitPicture& picture, OneBitFormat format,
+bool WriteOneBitPicture(const OneBitPicture& picture, OneBitFormat format, int resolution,
                         const std::filesystem::path& file) {
-  return format == OneBitFormat::kPng ? WritePng(picture, file) : WritePbm(picture, file);
+  return format == OneBitFormat::kPng ? WritePng(picture, resolution, file)
+                                      : WritePbm(picture, file);
 }
 
 }  // namespace fieldhost

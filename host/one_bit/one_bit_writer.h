@@ -8,8 +8,9 @@
 
 namespace fieldhost {
 
-// Writes the file, in place of one that is there. False when it cannot be written.
+// Writes the file, in place of one that is there. `resolution` in dots an inch; a portable bitmap
+// holds none. False when it cannot be written.
 [[nodiscard]] bool WriteOneBitPicture(const OneBitPicture& picture, OneBitFormat format,
-                                      const std::filesystem::path& file);
+                                      int resolution, const std::filesystem::path& file);
 
 }  // namespace fieldhost

@@ -68,8 +68,17 @@ bool IsText(Column column) {
   return column == Column::kDescription || column == Column::kName || column == Column::kKind;
 }
 
+// "northing (m)" is as good as "northing"; other units are another thing.
+std::string_view WithoutMetres(std::string_view name) {
+  for (const std::string_view unit : {"(m)", "[m]", " m", "_m"}) {
+    if (name.ends_with(unit)) return Trim(name.substr(0, name.size() - unit.size()));
+  }
+  return name;
+}
+
 std::optional<Column> ColumnNamed(std::string_view field) {
-  const std::string name = LowerCase(FieldText(field));
+  const std::string text = LowerCase(FieldText(field));
+  const std::string_view name = WithoutMetres(text);
   const auto* found = std::find_if(std::begin(kHeaderNames), std::end(kHeaderNames),
                                    [&](const HeaderName& row) { return row.name == name; });
   if (found == std::end(kHeaderNames)) return std::nullopt;

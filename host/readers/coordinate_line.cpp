@@ -44,17 +44,19 @@ struct HeightAndDescription {
 // A list without elevations has its descriptions in their place: in a list whose order is only
 // assumed, a text there is one when nothing else follows. Between blanks an empty elevation leaves
 // no trace, so there the text may go on.
-std::optional<HeightAndDescription> ReadHeightAndDescription(std::string_view line, char separator,
+std::optional<HeightAndDescription> ReadHeightAndDescription(std::string_view line,
+                                                             ListNotation notation,
                                                              const ColumnLayout& layout,
                                                              const Fields& fields) {
   const std::string_view height = fields[Column::kHeight];
   const std::string_view description = fields[Column::kDescription];
   if (height.empty()) return HeightAndDescription{std::nullopt, FieldText(description)};
-  if (const std::optional<double> number = GroundNumber(height)) {
+  if (const std::optional<double> number = GroundNumber(height, notation.decimal)) {
     return HeightAndDescription{number, FieldText(description)};
   }
-  if (layout.IsAssumed() && !RealNumber(height)) {
-    if (separator == ' ') return HeightAndDescription{std::nullopt, FieldText(From(line, height))};
+  if (layout.IsAssumed() && !RealNumber(height, notation.decimal)) {
+    if (notation.separator == ' ')
+      return HeightAndDescription{std::nullopt, FieldText(From(line, height))};
     if (description.empty()) return HeightAndDescription{std::nullopt, FieldText(height)};
   }
   return std::nullopt;
@@ -73,19 +75,23 @@ void NameByNumber(std::string number_text, std::string description, SurveyPoint&
 
 }  // namespace
 
-CoordinateLine ReadCoordinateLine(std::string_view line, char separator,
+CoordinateLine ReadCoordinateLine(std::string_view line, ListNotation notation,
                                   const ColumnLayout& layout) {
-  const Fields fields(line, separator, layout);
+  const Fields fields(line, notation.separator, layout);
+  const auto ground = [&](Column column) { return GroundNumber(fields[column], notation.decimal); };
+  const auto refused = [&](std::string_view what, Column column) {
+    return CoordinateLine{std::nullopt, NoGroundNumber(what, fields[column], notation.decimal)};
+  };
   if (fields[Column::kNorth].empty() || fields[Column::kEast].empty()) {
     return {std::nullopt, "the line has no northing and easting"};
   }
-  const std::optional<double> north = GroundNumber(fields[Column::kNorth]);
-  if (!north) return {std::nullopt, NoGroundNumber("northing", fields[Column::kNorth])};
-  const std::optional<double> east = GroundNumber(fields[Column::kEast]);
-  if (!east) return {std::nullopt, NoGroundNumber("easting", fields[Column::kEast])};
+  const std::optional<double> north = ground(Column::kNorth);
+  if (!north) return refused("northing", Column::kNorth);
+  const std::optional<double> east = ground(Column::kEast);
+  if (!east) return refused("easting", Column::kEast);
   std::optional<HeightAndDescription> rest =
-      ReadHeightAndDescription(line, separator, layout, fields);
-  if (!rest) return {std::nullopt, NoGroundNumber("elevation", fields[Column::kHeight])};
+      ReadHeightAndDescription(line, notation, layout, fields);
+  if (!rest) return refused("elevation", Column::kHeight);
 
   SurveyPoint point;
   point.number = WholeNumber(fields[Column::kNumber]).value_or(0);

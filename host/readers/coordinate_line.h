@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "host/readers/column_layout.h"
+#include "host/readers/field_text.h"
 #include "host/readers/survey.h"
 
 namespace fieldhost {
@@ -16,12 +17,18 @@ struct CoordinateLine {
   std::string problem;
 };
 
+// How the lines of a list are written.
+struct ListNotation {
+  char separator = ',';  // between fields
+  DecimalMark decimal = DecimalMark::kPoint;
+};
+
 // Reads a line by a layout.
 //
 // The name is that of a name column, else the description, else the point number as it is written.
 // A point number that is not a whole number is a name itself: it then goes before the description,
 // and the description is the kind of point.
-[[nodiscard]] CoordinateLine ReadCoordinateLine(std::string_view line, char separator,
+[[nodiscard]] CoordinateLine ReadCoordinateLine(std::string_view line, ListNotation notation,
                                                 const ColumnLayout& layout);
 
 }  // namespace fieldhost

@@ -1,5 +1,6 @@
 // Coordinate lists: one point a line, as number, northing, easting, elevation, description or by a
-// header line; separated by commas, tabs, semicolons or blanks.
+// header line; separated by commas, tabs, semicolons or blanks. Decimals follow a point, or a comma
+// where that separates nothing.
 #pragma once
 
 #include "host/readers/read_log.h"
@@ -8,7 +9,8 @@
 
 namespace fieldhost {
 
-// Reads all points; lines that are none are skipped and said, but for a header.
+// Reads all points; lines that are none are skipped and said, but for those above the first.
+// Refuses, in the log, a list whose header names other columns than northing and easting.
 [[nodiscard]] Survey ReadCoordinates(const TextLines& lines, ReadLog& log);
 
 }  // namespace fieldhost

@@ -101,7 +101,13 @@ std::string LowerCase(std::string_view text) {
   return lower;
 }
 
-std::optional<double> RealNumber(std::string_view field) {
+std::optional<double> RealNumber(std::string_view field, DecimalMark mark) {
+  if (mark == DecimalMark::kComma) {
+    if (field.find('.') != std::string_view::npos) return std::nullopt;
+    std::string with_point(field);
+    std::replace(with_point.begin(), with_point.end(), ',', '.');
+    return RealNumber(with_point);
+  }
   const std::optional<double> number = Parse<double>(field);
   return number && std::isfinite(*number) ? number : std::nullopt;
 }

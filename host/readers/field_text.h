@@ -24,9 +24,14 @@ void SplitFields(std::string_view line, char separator, std::size_t most,
 // With the letters A to Z in lower case; other characters stay.
 [[nodiscard]] std::string LowerCase(std::string_view text);
 
+// What stands before the decimals of numbers.
+enum class DecimalMark { kPoint, kComma };
+
 // The field as a number, whatever the locale; nothing when it is none, is not finite, or has
-// anything behind it. A leading plus sign is fine.
-[[nodiscard]] std::optional<double> RealNumber(std::string_view field);
+// anything behind it. A leading plus sign is fine. Thousands are not set apart: a number with the
+// other mark is none.
+[[nodiscard]] std::optional<double> RealNumber(std::string_view field,
+                                               DecimalMark mark = DecimalMark::kPoint);
 [[nodiscard]] std::optional<int> WholeNumber(std::string_view field);
 
 // The field in quotes for a message: cut when long, without control characters.

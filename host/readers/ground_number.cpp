@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include "host/readers/field_text.h"
-
 namespace fieldhost {
 namespace {
 
@@ -13,17 +11,17 @@ constexpr double kFarthest = 1e8;  // metres
 
 bool IsOnGround(double metres) { return std::abs(metres) <= kFarthest; }
 
-std::optional<double> GroundNumber(std::string_view field) {
-  const std::optional<double> number = RealNumber(field);
+std::optional<double> GroundNumber(std::string_view field, DecimalMark mark) {
+  const std::optional<double> number = RealNumber(field, mark);
   return number && IsOnGround(*number) ? number : std::nullopt;
 }
 
-std::string NoGroundNumber(std::string_view what, std::string_view field) {
+std::string NoGroundNumber(std::string_view what, std::string_view field, DecimalMark mark) {
   std::string sentence = "the ";
   sentence += what;
   if (field.empty()) return sentence + " is missing";
   sentence += ' ' + Quoted(field);
-  return sentence + (RealNumber(field) ? " lies beyond any ground" : " is not a number");
+  return sentence + (RealNumber(field, mark) ? " lies beyond any ground" : " is not a number");
 }
 
 }  // namespace fieldhost

@@ -1,5 +1,7 @@
 #include "host/readers/landxml_ground.h"
 
+#include <algorithm>
+
 #include "host/readers/field_text.h"
 #include "host/readers/ground_number.h"
 
@@ -8,25 +10,25 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 
-std::vector<std::string_view> Words(std::string_view text) {
-  std::vector<std::string_view> words;
+// A text may be as large as its file: its words are not gathered.
+template <class Action>
+void ForEachWord(std::string_view text, Action action) {
   for (std::size_t begin = text.find_first_not_of(kBlanks); begin != std::string_view::npos;) {
     const std::size_t end = std::min(text.find_first_of(kBlanks, begin), text.size());
-    words.push_back(text.substr(begin, end - begin));
+    action(text.substr(begin, end - begin));
     begin = text.find_first_not_of(kBlanks, end);
   }
-  return words;
 }
 
 std::vector<double> Numbers(const XmlNode& node) {
   std::vector<double> numbers;
-  for (const std::string_view word : Words(node.text)) {
+  ForEachWord(node.text, [&](std::string_view word) {
     const std::optional<double> number = RealNumber(word);
     if (!number) {
       throw LandXmlFault("the " + node.name + " holds " + Quoted(word) + ", which is no number");
     }
     numbers.push_back(*number);
-  }
+  });
   return numbers;
 }
 
@@ -42,31 +44,53 @@ LandXmlGround::LandXmlGround(const XmlNode& root, double metres) : metres_(metre
 
 void LandXmlGround::CollectPoints(const XmlNode& node) {
   if (node.name == "CgPoint" && !node.Attribute("name").empty()) {
-    points_.try_emplace(std::string(node.Attribute("name")), &node);
+    points_.try_emplace(std::string(node.Attribute("name")), NamedPoint{&node, std::nullopt, {}});
   }
   for (const XmlNode& child : node.children) CollectPoints(child);
 }
 
-const XmlNode& LandXmlGround::PointNamed(std::string_view name) const {
-  const auto found = points_.find(std::string(name));
-  if (found == points_.end()) {
-    throw LandXmlFault("the point " + Quoted(name) + " that is referred to is not in this file");
+// A point may refer to one that refers on. What comes out holds for all on the way: each point is
+// passed once, however many refer to it.
+LandXmlPosition LandXmlGround::PositionNamed(std::string_view name) const {
+  std::vector<NamedPoint*> way;
+  std::optional<LandXmlPosition> position;
+  std::string fault;
+  while (!position && fault.empty()) {
+    const auto found = points_.find(std::string(name));
+    if (found == points_.end()) {
+      fault = "the point " + Quoted(name) + " that is referred to is not in this file";
+      break;
+    }
+    NamedPoint& point = found->second;
+    position = point.position;
+    fault = point.fault;
+    if (position || !fault.empty()) break;
+    way.push_back(&point);
+    point.fault = "the point " + Quoted(name) + " refers to itself";  // should the way come back
+    name = point.node->Attribute("pntRef");
+    if (Trim(point.node->text).empty() && !name.empty()) continue;
+    try {
+      position = OwnPosition(*point.node);
+    } catch (const LandXmlFault& own) {
+      fault = own.what();
+    }
   }
-  return *found->second;
+  for (NamedPoint* const point : way) {
+    point->position = position;
+    point->fault = fault;
+  }
+  if (!position) throw LandXmlFault(fault);
+  return *position;
 }
 
 LandXmlPosition LandXmlGround::PositionOf(const XmlNode& node) const {
-  const XmlNode* holder = &node;
-  // A point may refer to one that refers on: no further than there are points.
-  for (std::size_t steps = 0; Trim(holder->text).empty(); ++steps) {
-    const std::string_view name = holder->Attribute("pntRef");
-    if (name.empty()) throw LandXmlFault("the " + node.name + " has no coordinates");
-    if (steps > points_.size()) {
-      throw LandXmlFault("the point " + Quoted(name) + " refers to itself");
-    }
-    holder = &PointNamed(name);
-  }
-  const std::vector<double> numbers = Numbers(*holder);
+  const std::string_view name = node.Attribute("pntRef");
+  return Trim(node.text).empty() && !name.empty() ? PositionNamed(name) : OwnPosition(node);
+}
+
+LandXmlPosition LandXmlGround::OwnPosition(const XmlNode& node) const {
+  const std::vector<double> numbers = Numbers(node);
+  if (numbers.empty()) throw LandXmlFault("the " + node.name + " has no coordinates");
   if (numbers.size() != 2 && numbers.size() != 3) {
     throw LandXmlFault("the " + node.name + " holds " + std::to_string(numbers.size()) +
                        " numbers in place of northing, easting and height");
@@ -92,9 +116,7 @@ std::vector<LandXmlPosition> LandXmlGround::PositionsOf(const XmlNode& list) con
 
 std::vector<LandXmlPosition> LandXmlGround::NamedPositions(const XmlNode& chain) const {
   std::vector<LandXmlPosition> positions;
-  for (const std::string_view name : Words(chain.text)) {
-    positions.push_back(PositionOf(PointNamed(name)));
-  }
+  ForEachWord(chain.text, [&](std::string_view name) { positions.push_back(PositionNamed(name)); });
   if (positions.empty()) throw LandXmlFault("the Chain names no points");
   return positions;
 }

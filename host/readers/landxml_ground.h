@@ -44,13 +44,21 @@ class LandXmlGround {
   [[nodiscard]] std::optional<double> Length(const XmlNode& node, std::string_view attribute) const;
 
  private:
+  // A CgPoint, and its position or why it has none once that was asked for.
+  struct NamedPoint {
+    const XmlNode* node;
+    std::optional<LandXmlPosition> position;
+    std::string fault;
+  };
+
   void CollectPoints(const XmlNode& node);
-  [[nodiscard]] const XmlNode& PointNamed(std::string_view name) const;
+  [[nodiscard]] LandXmlPosition PositionNamed(std::string_view name) const;
+  [[nodiscard]] LandXmlPosition OwnPosition(const XmlNode& node) const;
   [[nodiscard]] std::vector<LandXmlPosition> NamedPositions(const XmlNode& chain) const;
   [[nodiscard]] LandXmlPosition FromNumbers(const double* numbers, std::size_t count) const;
 
   double metres_;
-  std::unordered_map<std::string, const XmlNode*> points_;  // of several the first
+  mutable std::unordered_map<std::string, NamedPoint> points_;  // of several the first
 };
 
 [[nodiscard]] bool IsPointList(const XmlNode& node);

@@ -27,6 +27,8 @@ std::string Sentence(const XmlProblem& problem) {
       return "is nested too deep at line " + line + "; it is not a LandXML file";
     case XmlFault::kDocumentType:
       return "has a document type at line " + line + ", which may hide anything; export it without";
+    case XmlFault::kLongTag:
+      return "has a tag of more than 64 KB at line " + line + "; it is not a LandXML file";
     case XmlFault::kNoParser:
       return "cannot be read, for the system's XML parser is missing; repair the system";
     case XmlFault::kNotWellFormed:

@@ -1,6 +1,7 @@
 // XML, event by event.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,6 +32,7 @@ enum class XmlFault {
   kNotWellFormed,
   kTooDeep,       // elements in elements past kDeepestXml
   kDocumentType,  // a document type declaration: it may define entities that grow without end
+  kLongTag,       // a start tag past kLongestTag: parsers compare each attribute with all others
   kNoParser,      // the system lacks its parser
 };
 
@@ -40,13 +42,14 @@ struct XmlProblem {
 };
 
 inline constexpr unsigned kDeepestXml = 200;
+inline constexpr std::size_t kLongestTag = 65536;  // bytes
 
 // Parses UTF-8 text, which must not begin with an XML declaration. Says what was wrong; what came
 // before that line has then been handed out already.
 [[nodiscard]] std::optional<XmlProblem> ParseXml(std::string_view text, XmlHandler& handler);
 
 // The parser itself is the system's, or a library's: there is one source for each system. Called
-// for text without a document type.
+// for text without a document type and without long tags.
 [[nodiscard]] std::optional<XmlProblem> ParseBySystem(std::string_view text, XmlHandler& handler);
 
 }  // namespace fieldhost

@@ -45,9 +45,10 @@ void SidePane::SetPlace(CWnd& parent, const CRect& rect) {
 void SidePane::Add(const Survey& survey) {
   const CurrentSlot current(kSlot);
   for (const SurveyPoint& point : survey.points) {
-    const int key = next_key_++;
+    legends_.push_back(PointLegend(point.kind));
     if (!point.height) continue;
-    SelectPointLegend(point.kind);
+    const int key = static_cast<int>(legends_.size());
+    Tavix_SelPntHan(legends_.back());
     Tavix_EntPnt3(key, point.number, WideOf(point.name), point.north, point.east, *point.height);
   }
   heights_.Include(survey);
@@ -55,11 +56,28 @@ void SidePane::Add(const Survey& survey) {
   if (shown_) Show();
 }
 
+// Entering a key again replaces all of its point, the legend by the one that is selected.
+void SidePane::MovePoint(int key, const GroundPosition& place) {
+  const CurrentSlot current(kSlot);
+  int number = 0;
+  CString name;
+  double north = 0.0;
+  double east = 0.0;
+  double height = 0.0;
+  if (Tavix_GetPnt3NoNam(key, &number, &name) != 0 ||
+      Tavix_GetPnt3Crd(key, &north, &east, &height) != 0) {
+    return;
+  }
+  Tavix_SelPntHan(legends_[static_cast<std::size_t>(key) - 1]);
+  Tavix_EntPnt3(key, number, name, place.north, place.east, height);
+  needs_fit_ = true;
+}
+
 void SidePane::Clear() {
   const CurrentSlot current(kSlot);
   Tavix_DrwClr();
   heights_ = {};
-  next_key_ = 1;
+  legends_.clear();
   needs_fit_ = true;
 }
 
@@ -126,7 +144,7 @@ void SidePane::Fit() {
 
 std::vector<HighPoint> SidePane::Points() const {
   std::vector<HighPoint> points;
-  for (int key = 1; key < next_key_; ++key) {
+  for (int key = 1; key <= static_cast<int>(legends_.size()); ++key) {
     HighPoint point;
     if (Tavix_GetPnt3Crd(key, &point.north, &point.east, &point.height) == 0) {
       points.push_back(point);

@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "host/ground_position.h"
 #include "host/readers/survey.h"
 #include "host/side/height_range.h"
 #include "host/side/side_fit.h"
@@ -28,6 +29,8 @@ class SidePane {
 
   // Enters those points of a survey that have a height. Their keys are those of the plan.
   void Add(const Survey& survey);
+  // Moves a point in plan; its height stays. Nothing for a point without height.
+  void MovePoint(int key, const GroundPosition& place);
   void Clear();
   [[nodiscard]] const HeightRange& Heights() const { return heights_; }
 
@@ -51,7 +54,7 @@ class SidePane {
   CWnd* parent_ = nullptr;
   CRect place_;
   HeightRange heights_;
-  int next_key_ = 1;
+  std::vector<short> legends_;  // of the points, by key from 1
   bool shown_ = false;
   bool shows_buttons_ = true;
   bool needs_window_ = true;

@@ -1,7 +1,5 @@
 #include "host/tools/move_point_tool.h"
 
-#include <tavix/tavix.h>
-
 #include "host/measure_text.h"
 #include "host/tools/ground_geometry.h"
 
@@ -85,11 +83,11 @@ Progress MovePointTool::Finish(Ending) {
   const Picked point = *point_;
   const GroundPosition place = *place_;
   End();
-  if (Tavix_ChgPntCrd(point.key, place.north, place.east) != 0) {
+  if (!plot_.MovePoint(point.key, place)) {
     Say(point.label + L" is no longer there.");
     return Progress::kDone;
   }
-  PlotPane::Redraw();
+  side_.MovePoint(point.key, place);
   Say(point.label + L" moved  " + MoveText(point.position, place));
   return Progress::kDone;
 }

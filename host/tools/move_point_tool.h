@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "host/plot_pane.h"
+#include "host/side/side_pane.h"
 #include "host/tools/plan_tool.h"
 #include "host/tools/position_mark.h"
 
@@ -11,7 +12,9 @@ namespace fieldhost {
 
 class MovePointTool : public PlanTool {
  public:
-  explicit MovePointTool(short mark_legend) : mark_(mark_legend) {}
+  // The panes must outlive the tool: the point is moved in both.
+  MovePointTool(PlotPane& plot, SidePane& side, short mark_legend)
+      : plot_(plot), side_(side), mark_(mark_legend) {}
 
   Progress Begin() override;
   void End() override;
@@ -36,6 +39,8 @@ class MovePointTool : public PlanTool {
   void AskForPoint();
   void AskForPlace();
 
+  PlotPane& plot_;
+  SidePane& side_;
   PositionMark mark_;
   std::optional<Picked> point_;
   std::optional<GroundPosition> place_;  // while there is a point

@@ -7,13 +7,13 @@
 
 namespace fieldhost {
 
-Toolbox::Toolbox(PlotPane& plot)
+Toolbox::Toolbox(PlotPane& plot, SidePane& side)
     : plot_(plot),
       legends_(AddToolLegends()),
       figures_(legends_.line),
       circle_(figures_, legends_.mark),
       trace_(figures_, legends_.mark),
-      move_point_(legends_.mark),
+      move_point_(plot, side, legends_.mark),
       move_sheet_(sheet_),
       tools_({{{ID_SURVEY_CAPTURE, &capture_},
                {ID_TOOL_CIRCLE, &circle_},

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "host/plot_pane.h"
+#include "host/side/side_pane.h"
 #include "host/tools/capture_tool.h"
 #include "host/tools/circle_tool.h"
 #include "host/tools/drawn_figures.h"
@@ -19,8 +20,8 @@ namespace fieldhost {
 
 class Toolbox {
  public:
-  // The plot must outlive the toolbox.
-  explicit Toolbox(PlotPane& plot);
+  // The panes must outlive the toolbox.
+  Toolbox(PlotPane& plot, SidePane& side);
 
   // Does what a command asks for, a report of the plot window included, whose point key is `key`.
   // False for a command that is none of the tools', and for a tapped point that no tool waits for.

@@ -1,6 +1,7 @@
 """Numbered steps that say what they are doing while they do it."""
 
 import subprocess
+import tempfile
 import time
 
 from testrun.tally import Tally
@@ -8,14 +9,17 @@ from testrun.tally import Tally
 
 def call(command, **options):
     """Runs a command; (whether it succeeded, what it printed)."""
-    ended = subprocess.run(
-        [str(word) for word in command],
-        stdout=subprocess.PIPE,
-        stderr=subprocess.STDOUT,
-        check=False,
-        **options,
-    )
-    return ended.returncode == 0, ended.stdout.decode("utf-8", errors="replace")
+    # Into a file: a pipe would have to be read until everything that the command left has ended.
+    with tempfile.TemporaryFile() as output:
+        ended = subprocess.run(
+            [str(word) for word in command],
+            stdout=output,
+            stderr=subprocess.STDOUT,
+            check=False,
+            **options,
+        )
+        output.seek(0)
+        return ended.returncode == 0, output.read().decode("utf-8", errors="replace")
 
 
 class Steps:

@@ -62,6 +62,34 @@ TEST(CommandLine, RefusesSizesThatAreNone) {
   EXPECT_FALSE(ParseCommandLine(Arguments{"--size", "99x320"}).problem.empty());
 }
 
+TEST(CommandLine, TakesAPictureNamedPngAlone) {
+  for (const char* file : {"p.png", "dir/P.PNG"}) {
+    EXPECT_EQ(ParseCommandLine(Arguments{"--picture", file}).problem, "");
+  }
+  for (const char* file : {"p", "p.jpg", "png", "p.png.bmp", "p.pbm"}) {
+    EXPECT_EQ(ParseCommandLine(Arguments{"--picture", file}).problem,
+              std::string("The picture ") + file + " must be named .png.");
+  }
+}
+
+TEST(CommandLine, TakesAResolutionForPngFilesAlone) {
+  EXPECT_FALSE(ParseCommandLine(Arguments{"--picture", "p.png"}).resolution);
+  for (const char* option : {"--picture", "--one-bit"}) {
+    const CommandLine line = ParseCommandLine(Arguments{option, "p.png", "--dpi", "200"});
+    EXPECT_EQ(line.problem, "");
+    EXPECT_EQ(line.resolution, 200);
+  }
+  for (const Arguments& arguments :
+       {Arguments{"--dpi", "200"}, Arguments{"--dpi", "200", "--one-bit", "p.pbm"}}) {
+    EXPECT_EQ(ParseCommandLine(arguments).problem,
+              "Only a PNG picture has a resolution; leave out --dpi.");
+  }
+  for (const char* dots : {"29", "2401", "200dpi", "2e2", "-200"}) {
+    EXPECT_EQ(ParseCommandLine(Arguments{"--picture", "p.png", "--dpi", dots}).problem,
+              std::string("The resolution ") + dots + " is not a whole number from 30 to 2400.");
+  }
+}
+
 TEST(CommandLine, TakesAOneBitPictureOfEitherFormat) {
   for (const char* file : {"p.png", "p.pbm", "P.PBM", "dir/p.PNG"}) {
     const CommandLine line = ParseCommandLine(Arguments{"a.csv", "--one-bit", file});

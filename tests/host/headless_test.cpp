@@ -222,6 +222,27 @@ TEST_F(Headless, FailsForAPictureLargerThanTheScreen) {
   EXPECT_FALSE(std::filesystem::exists(In(L"p.png")));
 }
 
+TEST_F(Headless, PictureNotesTheResolutionThatWasChosenElseTheScreens) {
+  const HDC screen = ::GetDC(nullptr);
+  const double own = ::GetDeviceCaps(screen, LOGPIXELSX);
+  ::ReleaseDC(nullptr, screen);
+  for (const wchar_t* kind : {L"--picture", L"--one-bit"}) {
+    HostProcess plain(folder_, {Sample(L"site.csv"), kind, In(L"p.png")});
+    ASSERT_EQ(plain.Wait(), 0) << plain.Errors();
+    EXPECT_NEAR(PixelsPerMetre(In(L"p.png")), own / 0.0254, 0.5);
+    HostProcess fine(folder_, {Sample(L"site.csv"), kind, In(L"p.png"), L"--dpi", L"200"});
+    ASSERT_EQ(fine.Wait(), 0) << fine.Errors();
+    EXPECT_EQ(PixelsPerMetre(In(L"p.png")), 7874U);
+  }
+}
+
+TEST_F(Headless, RefusesAPictureThatIsNotNamedPng) {
+  HostProcess host(folder_, {Sample(L"site.csv"), L"--picture", In(L"p.jpg")});
+  EXPECT_EQ(host.Wait(), 2);
+  EXPECT_NE(host.Errors().find("p.jpg must be named .png."), std::string::npos) << host.Errors();
+  EXPECT_FALSE(std::filesystem::exists(In(L"p.jpg")));
+}
+
 TEST_F(Headless, RefusesWrongUse) {
   for (const wchar_t* option : {L"--sizes", L"--picture", L"--size"}) {
     HostProcess host(folder_, {option});

@@ -5,29 +5,30 @@
 
 #include <filesystem>
 #include <string>
+#include <thread>
 #include <vector>
+
+#include "tests/host/owned_handle.h"
 
 namespace fieldhost {
 
-// A system handle, closed at the end.
-class OwnedHandle {
- public:
-  explicit OwnedHandle(HANDLE handle = nullptr) : handle_(handle) {}
-  ~OwnedHandle();
-  OwnedHandle(const OwnedHandle&) = delete;
-  OwnedHandle& operator=(const OwnedHandle&) = delete;
+[[nodiscard]] std::filesystem::path HostProgram();
 
-  [[nodiscard]] HANDLE Get() const { return handle_; }
-
- private:
-  HANDLE handle_;
+struct HostStart {
+  std::filesystem::path program = HostProgram();
+  // Milliseconds. A call that waits for a host's answer waits without end when it hangs: it is
+  // ended then, and where it stood is printed.
+  DWORD longest_life = 180000;
 };
 
-// The host, started with arguments; what it prints goes to files in `folder`. A host that still
-// runs when the object goes is ended.
+// The host, started with arguments; what it prints goes to files in `folder`, and it has no other
+// handle of this process. A host that still runs when the object goes, or this process, is ended
+// with everything it started. A host that fails to show or to end is a failure of the test, which
+// says where it stands.
 class HostProcess {
  public:
-  HostProcess(const std::filesystem::path& folder, const std::vector<std::wstring>& arguments);
+  HostProcess(const std::filesystem::path& folder, const std::vector<std::wstring>& arguments,
+              const HostStart& start = {});
   ~HostProcess();
   HostProcess(const HostProcess&) = delete;
   HostProcess& operator=(const HostProcess&) = delete;
@@ -42,9 +43,15 @@ class HostProcess {
   [[nodiscard]] HWND WaitForWindow(const wchar_t* title);
 
  private:
+  void Start(const HostStart& start, const std::vector<std::wstring>& arguments);
+  void WatchOver(DWORD longest_life) const;
+
   std::filesystem::path folder_;
+  OwnedHandle job_;
+  OwnedHandle gone_;  // set when this object goes
   HANDLE process_ = nullptr;
   DWORD id_ = 0;
+  std::thread watch_;
 };
 
 }  // namespace fieldhost

@@ -56,6 +56,13 @@ class MainWindowExport : public WindowTest {
     EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
   }
 
+  static void ChooseOffer(HWND dialog, WPARAM offer) {
+    const HWND list = ::GetDlgItem(dialog, IDC_EXPORT_OFFER);
+    ::SendMessageW(list, CB_SETCURSEL, offer, 0);
+    ::SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDC_EXPORT_OFFER, CBN_SELCHANGE),
+                   reinterpret_cast<LPARAM>(list));
+  }
+
   static UINT Number(HWND dialog, int id) { return ::GetDlgItemInt(dialog, id, nullptr, FALSE); }
 
   static void SetNumber(HWND dialog, int id, const wchar_t* text) {
@@ -72,10 +79,7 @@ TEST_F(MainWindowExport, OffersThePlotsSizeAndSheets) {
   ASSERT_TRUE(dialog);
   EXPECT_EQ(static_cast<LONG>(Number(dialog, IDC_EXPORT_WIDTH)), plot.right - 20);
   EXPECT_EQ(static_cast<LONG>(Number(dialog, IDC_EXPORT_HEIGHT)), plot.bottom);
-  const HWND list = ::GetDlgItem(dialog, IDC_EXPORT_OFFER);
-  ::SendMessageW(list, CB_SETCURSEL, 2, 0);
-  ::SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDC_EXPORT_OFFER, CBN_SELCHANGE),
-                 reinterpret_cast<LPARAM>(list));
+  ChooseOffer(dialog, 2);
   EXPECT_EQ(Number(dialog, IDC_EXPORT_WIDTH), 1654U);
   EXPECT_EQ(Number(dialog, IDC_EXPORT_HEIGHT), 2339U);
   Press(dialog, IDCANCEL);
@@ -104,6 +108,46 @@ TEST_F(MainWindowExport, WritesEitherFormatInTheTypedSize) {
   const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   EXPECT_TRUE(bytes.starts_with("P4\n250 200\n"));
   EXPECT_EQ(bytes.size(), 11U + 32U * 200U);
+  Exit();
+}
+
+// Of the sheets, a printed picture is as large as its sheet.
+TEST_F(MainWindowExport, NotesTheResolutionOfTheChosenSheet) {
+  ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv")}));
+  ExpectInfo(L"74 points");
+  const HWND dialog = OpenDialog();
+  ASSERT_TRUE(dialog);
+  const UINT own = Number(dialog, IDC_EXPORT_RESOLUTION);
+  const HDC screen = ::GetDC(nullptr);
+  EXPECT_EQ(static_cast<int>(own), ::GetDeviceCaps(screen, LOGPIXELSX));
+  ::ReleaseDC(nullptr, screen);
+  ChooseOffer(dialog, 2);
+  EXPECT_EQ(Number(dialog, IDC_EXPORT_RESOLUTION), 200U);
+  ChooseOffer(dialog, 0);
+  EXPECT_EQ(Number(dialog, IDC_EXPORT_RESOLUTION), own);
+  ChooseOffer(dialog, 2);
+  Press(dialog, IDOK);
+  const HWND save = TypeFileName(In(L"sheet.png"));
+  ASSERT_TRUE(save);
+  Press(save, IDOK);
+  ExpectInfo(L"Written: sheet.png");
+  EXPECT_EQ(PixelsPerMetre(In(L"sheet.png")), 7874U);
+  Exit();
+}
+
+TEST_F(MainWindowExport, SaysWhichResolutionsThereAre) {
+  ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv")}));
+  ExpectInfo(L"74 points");
+  const HWND dialog = OpenDialog();
+  ASSERT_TRUE(dialog);
+  for (const wchar_t* dots : {L"29", L"2401", L""}) {
+    SetNumber(dialog, IDC_EXPORT_RESOLUTION, dots);
+    Press(dialog, IDOK);
+    ASSERT_NO_FATAL_FAILURE(AcceptBox(L"The resolution goes from 30 to 2400 dots an inch."));
+    EXPECT_TRUE(::IsWindow(dialog));
+  }
+  Press(dialog, IDCANCEL);
+  EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(dialog); }));
   Exit();
 }
 

@@ -81,6 +81,29 @@ TEST_F(MainWindow, SizesThePlotOnceAfterTheEdgeWasDragged) {
   Exit();
 }
 
+// In a narrow window the words take two rows, in a wide one they fit into the first.
+TEST_F(MainWindow, InformationLineIsLaidOutAnewWithTheWindowsWidth) {
+  ASSERT_NO_FATAL_FAILURE(
+      Open({Sample(L"site.csv"), Sample(L"site.sim"), Sample(L"site.xml"), L"--size", L"480x600"}));
+  ExpectInfo(L"94 points, 4 lots, 1 polyline, 5 alignment elements");
+  const auto has_text = [&](int top, int bottom) {
+    const tavix::test::Picture line = ShownBy(Info());
+    int ink = 0;
+    for (int y = top; y < bottom; ++y) {
+      for (int x = 0; x < line.width; ++x) ink += line.At(x, y) != line.At(0, 0);
+    }
+    return ink > 100;
+  };
+  constexpr int kRow = 15;
+  const auto one_row = [&] { return has_text(0, kRow) && !has_text(kRow, 2 * kRow); };
+  EXPECT_TRUE(WaitUntil(one_row));
+  Widen(240);
+  EXPECT_TRUE(WaitUntil([&] { return has_text(0, kRow) && has_text(kRow, 2 * kRow); }));
+  Widen(480);
+  EXPECT_TRUE(WaitUntil(one_row));
+  Exit();
+}
+
 TEST_F(MainWindow, ButtonsHideAndShow) {
   ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv")}));
   ExpectInfo(L"74 points");

@@ -1,5 +1,7 @@
 // The tabs of the host's main window: plan and 3-D side view.
 
+#include <algorithm>
+
 #include "tests/host/window_test.h"
 
 namespace fieldhost {
@@ -143,6 +145,60 @@ TEST_F(MainWindowViews, ButtonsHideInBoth) {
   EXPECT_TRUE(shows_buttons());
   Command(ID_VIEW_PLAN);
   EXPECT_TRUE(shows_buttons());
+  Exit();
+}
+
+// The place that the middle of a colour's pixels has in the plot.
+POINT CentreOf(const tavix::test::Picture& picture, std::uint32_t colour) {
+  RECT box = {picture.width, picture.height, 0, 0};
+  for (int y = 0; y < picture.height; ++y) {
+    for (int x = 0; x < picture.width; ++x) {
+      if (picture.At(x, y) != colour) continue;
+      box = {std::min<LONG>(box.left, x), std::min<LONG>(box.top, y),
+             std::max<LONG>(box.right, x + 1), std::max<LONG>(box.bottom, y + 1)};
+    }
+  }
+  return {(box.left + box.right) / 2, (box.top + box.bottom) / 2};
+}
+
+// The point keeps its name, its height and its look: that of a control point.
+TEST_F(MainWindowViews, SideViewShowsAMovedPointAtItsNewPlace) {
+  constexpr std::uint32_t kRed = 0xC80000;
+  constexpr std::uint32_t kViolet = 0x8C008C;
+  const auto turn_to_the_side = [&] {
+    constexpr std::uint32_t kBox = 0xFF0000;  // nothing of the plan has this colour
+    Command(ID_VIEW_SIDE);
+    ExpectColour(kBox, 300);
+  };
+  const std::string others = "2,90,0,6,manhole\n3,20,100,1,\n4,60,60,3,\n";
+  const auto open_with = [&](const std::string& first_point) {
+    Open({Write(L"list.csv", "no,n,e,z,kind\n1," + first_point + ",9,control\n" + others)});
+  };
+  ASSERT_NO_FATAL_FAILURE(open_with("0,0"));
+  ExpectInfo(L"4 points");
+  Command(ID_VIEW_BUTTONS);  // they are painted on their own
+  ExpectColour(kRed, 10);
+  ExpectColour(kViolet, 5);
+  const POINT manhole = CentreOf(Shown(), kViolet);
+  turn_to_the_side();
+  const tavix::test::Picture before = Shown();
+  Command(ID_VIEW_PLAN);
+  Command(ID_TOOL_MOVE_POINT);
+  ::SendMessageW(window_, WM_COMMAND, ID_PLOT_NOTIFY, 1);
+  TapPixel(manhole.x, manhole.y);
+  ExpectInfo(L"1  90.000 m  X 0.000 \u2192 90.000  Y 0.000 \u2192 0.000  Enter stores it.");
+  Command(ID_TOOL_FINISH);
+  turn_to_the_side();
+  const tavix::test::Picture moved = Shown();
+  EXPECT_NE(moved, before);
+  Exit();
+
+  ASSERT_NO_FATAL_FAILURE(open_with("90,0"));
+  ExpectInfo(L"4 points");
+  Command(ID_VIEW_BUTTONS);
+  turn_to_the_side();
+  EXPECT_TRUE(WaitUntil([&] { return Shown() == moved; }));
+  EXPECT_GE(CountColour(kRed), 10);
   Exit();
 }
 

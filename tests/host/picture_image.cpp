@@ -6,6 +6,10 @@
 // Its headers need the types of the one above.
 #include <gdiplus.h>
 
+#include <fstream>
+#include <iterator>
+#include <string>
+
 namespace fieldhost {
 namespace {
 
@@ -24,7 +28,27 @@ PictureImage PixelsOf(Gdiplus::Bitmap& bitmap) {
   return image;
 }
 
+// Four bytes, the highest first.
+std::uint32_t NumberAt(const std::string& bytes, std::size_t at) {
+  std::uint32_t number = 0;
+  for (const char byte : bytes.substr(at, 4))
+    number = number << 8U | static_cast<std::uint8_t>(byte);
+  return number;
+}
+
 }  // namespace
+
+// The chunk: its name, pixels a metre across and down, and 1 for metres.
+std::uint32_t PixelsPerMetre(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  const std::size_t chunk = bytes.find("pHYs");
+  if (chunk == std::string::npos || chunk + 13 > bytes.size() || bytes[chunk + 12] != 1 ||
+      NumberAt(bytes, chunk + 4) != NumberAt(bytes, chunk + 8)) {
+    return 0;
+  }
+  return NumberAt(bytes, chunk + 4);
+}
 
 PictureImage DecodePicture(const std::filesystem::path& file) {
   const Gdiplus::GdiplusStartupInput input;

@@ -18,6 +18,9 @@ struct PictureImage {
   }
 };
 
+// The resolution that a PNG file notes, when it is the same both ways and in metres; else 0.
+[[nodiscard]] std::uint32_t PixelsPerMetre(const std::filesystem::path& file);
+
 // Empty when the file is no picture.
 [[nodiscard]] PictureImage DecodePicture(const std::filesystem::path& file);
 

@@ -24,6 +24,19 @@ int WidthOf(HWND window) {
   return rect.right - rect.left;
 }
 
+// From the screen: only a process of its own can read what a window shows.
+tavix::test::Picture ShownBy(HWND window) {
+  RECT client = {};
+  ::GetClientRect(window, &client);
+  POINT corner = {0, 0};
+  ::ClientToScreen(window, &corner);
+  const HDC screen = ::GetDC(nullptr);
+  ::SetViewportOrgEx(screen, corner.x, corner.y, nullptr);
+  tavix::test::Picture picture = tavix::test::TakePicture(screen, client.right, client.bottom);
+  ::ReleaseDC(nullptr, screen);
+  return picture;
+}
+
 void Tap(HWND window, int x, int y) {
   ::PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
   ::PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
@@ -56,19 +69,6 @@ HWND WindowTest::Plot() const {
 void WindowTest::TapTab(int tab) const {
   constexpr int kTabWidth = 60;
   Tap(Tabs(), tab * kTabWidth + kTabWidth / 2, 10);
-}
-
-// From the screen: only a process of its own can read what a window shows.
-tavix::test::Picture WindowTest::Shown() const {
-  RECT client = {};
-  ::GetClientRect(Plot(), &client);
-  POINT corner = {0, 0};
-  ::ClientToScreen(Plot(), &corner);
-  const HDC screen = ::GetDC(nullptr);
-  ::SetViewportOrgEx(screen, corner.x, corner.y, nullptr);
-  tavix::test::Picture picture = tavix::test::TakePicture(screen, client.right, client.bottom);
-  ::ReleaseDC(nullptr, screen);
-  return picture;
 }
 
 int WindowTest::CountColour(std::uint32_t colour) const {

@@ -24,6 +24,9 @@ namespace fieldhost {
 [[nodiscard]] std::wstring TextOf(HWND window);
 [[nodiscard]] int WidthOf(HWND window);
 
+// What a window of any process shows in its client area at this moment, children included.
+[[nodiscard]] tavix::test::Picture ShownBy(HWND window);
+
 // A press and a release at a client pixel.
 void Tap(HWND window, int x, int y);
 
@@ -54,7 +57,7 @@ class WindowTest : public HostTest {
   void TapTab(int tab) const;
 
   // What the plot shows at this moment.
-  [[nodiscard]] tavix::test::Picture Shown() const;
+  [[nodiscard]] tavix::test::Picture Shown() const { return ShownBy(Plot()); }
   [[nodiscard]] int CountColour(std::uint32_t colour) const;  // its pixels; 0x00RRGGBB
   // Waits until it shows at least so many pixels of a colour.
   void ExpectColour(std::uint32_t colour, int pixels) const;

@@ -118,9 +118,106 @@ TEST(CoordinateReader, HeaderGivesTheOrder) {
   }
 }
 
-TEST(CoordinateReader, HeaderOfUnknownNamesIsPassedOver) {
-  EXPECT_EQ(OnlyPoint("alpha,beta,gamma\n5,10,20").number, 5);
+TEST(CoordinateReader, HeaderMayNameMetres) {
+  for (const std::string_view bytes : {
+           "Point,Easting (m),Northing (m)\n5,20,10",
+           "Point;East [m];North [m]\n5;20;10",
+           "点番,Y座標(m),X座標(m)\n5,20,10",
+       }) {
+    const SurveyPoint point = OnlyPoint(bytes);
+    EXPECT_EQ(point.north, 10) << bytes;
+    EXPECT_EQ(point.east, 20) << bytes;
+  }
+}
+
+TEST(CoordinateReader, TitlesAboveThePointsArePassedOver) {
+  EXPECT_EQ(OnlyPoint("Survey of the market\n5,10,20").north, 10);
+  EXPECT_EQ(OnlyPoint("Long Lane, late survey\n5,10,20").north, 10);
+  EXPECT_EQ(OnlyPoint("Survey of the market\n5 10 20").north, 10);
+  EXPECT_EQ(OnlyPoint("Survey\nby Smith\nno,e,n\n5,20,10").north, 10);
   EXPECT_EQ(OnlyPoint("P,N,E,Z,D\n5,10,20,3,tree, big").name, "tree, big");
+}
+
+constexpr std::string_view kGeographic = "; convert the points to northing and easting in metres";
+constexpr std::string_view kForeign =
+    "; name these columns N and E there, or delete the line if the columns are number, northing, "
+    "easting, elevation and description";
+
+// Degrees and whatever else stands in such columns would be plotted as metres.
+TEST(CoordinateReader, RefusesAHeaderOfOtherColumns) {
+  const struct {
+    std::string_view bytes;
+    std::string refusal;
+  } rows[] = {
+      {"Point,Latitude,Longitude,Height\n1,48.1,11.5,520\n",
+       "names latitude and longitude in line 1"},
+      {"id;lat;lon\n1;48,1;11,5\n", "names latitude and longitude in line 1"},
+      {"id lat. lng.\n1 48.1 11.5\n", "names latitude and longitude in line 1"},
+      {"title\n\n点番,緯度,経度\n1,36.1,140.1\n", "names latitude and longitude in line 3"},
+      {"Point,Lat (dms),Long (dms)\n1,48 07 12.5,11 30 00\n",
+       "names latitude and longitude in line 1"},
+      {"alpha,beta,gamma\n5,10,20", "names no northing and easting in its header, line 1"},
+      {"case,R1,R2,A\nin1,0,250,125\n", "names no northing and easting in its header, line 1"},
+      {"No;Northing (ft);Easting (ft)\n5;10;20",
+       "names no northing and easting in its header, line 1"},
+      {"no width height\n5 10 20", "names no northing and easting in its header, line 1"},
+  };
+  for (const auto& row : rows) {
+    const Read read = ReadList(row.bytes);
+    const bool geographic = row.refusal.find("latitude") != std::string::npos;
+    EXPECT_EQ(read.log.Refusal(), row.refusal + std::string(geographic ? kGeographic : kForeign))
+        << row.bytes;
+    EXPECT_TRUE(read.survey.points.empty()) << row.bytes;
+  }
+  // Beside northing and easting they are columns like others.
+  EXPECT_EQ(OnlyPoint("no,lat,lon,n,e\n5,48.1,11.5,10,20").north, 10);
+}
+
+TEST(CoordinateReader, TakesDecimalCommasWhereTheySeparateNothing) {
+  for (const std::string_view bytes : {
+           "1;500100,25;4600200,50;12,5;tree",
+           "1\t500100,25\t4600200,50\t12,5\ttree",
+           "1 500100,25 4600200,50 12,5 tree",
+           "1,\"500100,25\",\"4600200,50\",\"12,5\",tree",
+           "No;E;N;Z;Code\r\n1;4600200,50;500100,25;12,5;tree\r\n",
+       }) {
+    const SurveyPoint point = OnlyPoint(bytes);
+    EXPECT_EQ(point.number, 1) << bytes;
+    EXPECT_EQ(point.north, 500100.25) << bytes;
+    EXPECT_EQ(point.east, 4600200.5) << bytes;
+    EXPECT_EQ(point.height, 12.5) << bytes;
+    EXPECT_EQ(point.kind, "tree") << bytes;
+  }
+  EXPECT_EQ(OnlyPoint("1,500100,25").east, 25);
+}
+
+// A point in such a list may set thousands apart, and nothing is guessed.
+TEST(CoordinateReader, SaysWhichNumberOfAListWithDecimalCommasIsNone) {
+  const struct {
+    std::string_view line;
+    std::string_view sentence;
+  } rows[] = {
+      {"2;4.500,25;20", "the northing '4.500,25' is not a number"},
+      {"2;10;20,5,5", "the easting '20,5,5' is not a number"},
+      {"2;10;20;1.5;x", "the elevation '1.5' is not a number"},
+      {"2;1000000000,5;20", "the northing '1000000000,5' lies beyond any ground"},
+  };
+  for (const auto& row : rows) {
+    const Read read =
+        ReadList("no;n;e;z;d\n1;10,5;20,5\n" + std::string(row.line) + "\n3;10,5;20\n");
+    EXPECT_EQ(read.survey.points.size(), 2U) << row.line;
+    ASSERT_EQ(read.log.Diagnostics().size(), 1U) << row.line;
+    EXPECT_EQ(read.log.Diagnostics()[0].line, 3) << row.line;
+    EXPECT_EQ(read.log.Diagnostics()[0].sentence, row.sentence) << row.line;
+  }
+}
+
+TEST(CoordinateReader, BelowAHeaderTheFirstBadLineIsSaid) {
+  const Read read = ReadList("No;N;E\n1;abc;2\n2;abc;2\n");
+  EXPECT_TRUE(read.survey.points.empty());
+  ASSERT_EQ(read.log.Diagnostics().size(), 2U);
+  EXPECT_EQ(read.log.Diagnostics()[0].line, 2);
+  EXPECT_EQ(read.log.Diagnostics()[0].sentence, "the northing 'abc' is not a number");
 }
 
 TEST(CoordinateReader, ReadsShiftJis) {

@@ -84,5 +84,17 @@ TEST_F(RealFile, ListOfManyStations) {
   ExpectExtent(5575.208, 1219690.420, 8710.270, 654131.330);
 }
 
+TEST_F(RealFile, TableThatIsNoListOfPointsIsRefused) {
+  const std::vector<std::filesystem::path> files = {std::filesystem::path(TAVIX_SHARED_DATA) /
+                                                    "clothoid-reference.csv"};
+  if (!std::filesystem::exists(files[0])) GTEST_SKIP() << "The real table is not at hand.";
+  const LoadedSurvey loaded = LoadSurveyFiles(files);
+  EXPECT_FALSE(loaded.survey.HasAnythingToDraw());
+  ASSERT_EQ(loaded.refusals.size(), 1U);
+  EXPECT_TRUE(loaded.refusals[0].starts_with(
+      "clothoid-reference.csv names no northing and easting in its header, line 1;"))
+      << loaded.refusals[0];
+}
+
 }  // namespace
 }  // namespace fieldhost

@@ -102,6 +102,20 @@ TEST(ParseXml, TakesElementsToItsDepthAndNoDeeper) {
   }
 }
 
+TEST(ParseXml, TakesTagsToTheirLengthAndNoLonger) {
+  const std::string begin = "<a>\n<!-- it's -->\n<b x='>' y=\"";
+  const std::string end = "\"/></a>";
+  const std::size_t others = std::string_view("<b x='>' y=\"\"/>").size();
+  Recorder recorder;
+  const std::string longest(kLongestTag - others, '7');
+  EXPECT_FALSE(ParseXml(begin + longest + end, recorder));
+  EXPECT_EQ(recorder.events, "<a@1><b@3 x=> y=" + longest + "></></>");
+  const std::optional<XmlProblem> problem = ParseXml(begin + longest + '7' + end, recorder);
+  ASSERT_TRUE(problem);
+  EXPECT_EQ(problem->fault, XmlFault::kLongTag);
+  EXPECT_EQ(problem->line, 3);
+}
+
 // Twenty entities, each ten of the one before: expanded, more text than any machine holds.
 std::string GrowingEntities() {
   std::string text = "<!DOCTYPE a [<!ENTITY e0 \"grow\">";
