@@ -177,6 +177,11 @@ TEST_F(MainWindowViews, SideViewShowsAMovedPointAtItsNewPlace) {
   ASSERT_NO_FATAL_FAILURE(open_with("0,0"));
   ExpectInfo(L"4 points");
   Command(ID_VIEW_BUTTONS);  // they are painted on their own
+  EXPECT_TRUE(WaitUntil([&] {
+    constexpr std::uint32_t kWhite = 0xFFFFFF;
+    const tavix::test::Picture shown = Shown();
+    return shown.At(shown.width - 10, 60) == kWhite;
+  }));
   ExpectColour(kRed, 10);
   ExpectColour(kViolet, 5);
   const POINT manhole = CentreOf(Shown(), kViolet);
