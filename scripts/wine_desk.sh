@@ -37,9 +37,7 @@ if [ ! -e "$desk/.desk" ]; then
 fi
 tavix_display
 
-# Into a file: a process that outlived the program would keep a pipe open, and whoever reads it.
 code=0
-timeout --kill-after=5 "${TAVIX_PATIENCE:-540}" "$TAVIX_WINE" "$@" >"$desk.log" 2>&1 8>&- || code=$?
-cat "$desk.log"
+timeout --kill-after=5 "${TAVIX_PATIENCE:-540}" "$TAVIX_WINE" "$@" 8>&- || code=$?
 [ "$code" -ne 124 ] || echo "Ended after ${TAVIX_PATIENCE:-540} s without an answer."
 exit "$code"
