@@ -30,13 +30,13 @@ struct ButtonRow {
   unsigned pressed_in;  // its focused bitmap while it stays pressed in; the disabled one follows
 };
 
-#define TAVIX_BUTTON_ROW(id, name, pressed_in) ButtonRow{id, pressed_in},
+#define TAVIX_BUTTON_ROW(id, name, pressed_in) ButtonRow{(id), (pressed_in)},
 inline constexpr std::array kButtonTable{TAVIX_BUTTONS(TAVIX_BUTTON_ROW)};
 #undef TAVIX_BUTTON_ROW
 
 // kBandZoomButton and so on.
 enum ButtonId : unsigned {
-#define TAVIX_BUTTON_ID(id, name, pressed_in) k##name##Button = id,
+#define TAVIX_BUTTON_ID(id, name, pressed_in) k##name##Button = (id),
   TAVIX_BUTTONS(TAVIX_BUTTON_ID)
 #undef TAVIX_BUTTON_ID
 };
