@@ -4,9 +4,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <string>
 #include <string_view>
 
-#include "host/readers/survey_reader.h"
+#include "host/readers/survey_formats.h"
 #include "host/readers/text_encoding.h"
 
 namespace {
@@ -66,7 +67,8 @@ void CheckSurvey(const fieldhost::Survey& survey) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-  for (const char* name : {"survey.sim", "survey.csv", "survey.xml"}) {
+  for (const fieldhost::SurveyFormat& format : fieldhost::SurveyFormats()) {
+    const std::string name = "survey" + std::string(format.endings.front());
     fieldhost::ReadLog log(name);
     CheckSurvey(fieldhost::ReadSurvey(name, bytes, log));
     for (const fieldhost::Diagnostic& diagnostic : log.Diagnostics()) {

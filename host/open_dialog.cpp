@@ -2,14 +2,41 @@
 
 #include <afxdlgs.h>
 
+#include "host/readers/survey_formats.h"
+#include "host/wide_text.h"
+
 namespace fieldhost {
+namespace {
+
+// "*.csv;*.txt"
+CString PatternsOf(const SurveyFormat& format) {
+  CString patterns;
+  for (const std::string_view ending : format.endings) {
+    patterns += (patterns.IsEmpty() ? L"*" : L";*") + WideOf(ending);
+  }
+  return patterns;
+}
+
+// All of them first, then one by one, then any file.
+CString Filter() {
+  CString all;
+  CString each;
+  for (const SurveyFormat& format : SurveyFormats()) {
+    const CString patterns = PatternsOf(format);
+    all += (all.IsEmpty() ? L"" : L";") + patterns;
+    CString shown = patterns;
+    shown.Replace(L";", L", ");
+    each += WideOf(format.name) + L" (" + shown + L")|" + patterns + L"|";
+  }
+  return L"Survey files|" + all + L"|" + each + L"All files|*.*||";
+}
+
+}  // namespace
 
 std::vector<std::filesystem::path> AskForSurveyFiles(CWnd& parent) {
-  constexpr const wchar_t* kFilter =
-      L"Survey files|*.xml;*.sim;*.csv;*.txt;*.asc|LandXML (*.xml)|*.xml|SIMA (*.sim)|*.sim|"
-      L"Coordinate lists (*.csv, *.txt, *.asc)|*.csv;*.txt;*.asc|All files|*.*||";
   CFileDialog dialog(TRUE, nullptr, nullptr,
-                     OFN_HIDEREADONLY | OFN_FILEMUSTEXIST | OFN_ALLOWMULTISELECT, kFilter, &parent);
+                     OFN_HIDEREADONLY | OFN_FILEMUSTEXIST | OFN_ALLOWMULTISELECT, Filter(),
+                     &parent);
   std::vector<std::filesystem::path> files;
   if (dialog.DoModal() != IDOK) return files;
   for (POSITION position = dialog.GetStartPosition(); position;) {

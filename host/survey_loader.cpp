@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "host/file_bytes.h"
-#include "host/readers/survey_reader.h"
+#include "host/readers/survey_formats.h"
 #include "host/utf8_path.h"
 
 namespace fieldhost {
@@ -21,15 +21,23 @@ bool IsUtf16(std::string_view bytes) {
   return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
 }
 
+// "A, B or C"
+std::string Choices() {
+  const std::span<const SurveyFormat> formats = SurveyFormats();
+  std::string choices(formats.front().choice);
+  for (std::size_t i = 1; i < formats.size(); ++i) {
+    choices += (i + 1 < formats.size() ? ", " : " or ") + std::string(formats[i].choice);
+  }
+  return choices;
+}
+
 std::string Nothing(const ReadLog& log) {
   std::string problem = "holds nothing to draw";
   if (!log.Diagnostics().empty()) {
     const Diagnostic& first = log.Diagnostics().front();
     problem += " (line " + std::to_string(first.line) + ": " + first.sentence + ")";
   }
-  return problem +
-         "; choose LandXML (.xml), SIMA (.sim) or a list of number, northing, easting, elevation "
-         "and description";
+  return problem + "; choose " + Choices();
 }
 
 // Adds what the file holds to `loaded`; else says why not, as the end of a sentence.

@@ -51,11 +51,6 @@ std::string UnitName(const XmlNode& root) {
 
 }  // namespace
 
-bool IsXmlFile(std::string_view file_name, std::string_view bytes) {
-  return LowerCase(file_name).ends_with(".xml") ||
-         Trim(WithoutByteOrderMark(bytes).substr(0, 256)).starts_with('<');
-}
-
 Survey ReadLandXml(std::string_view bytes, ReadLog& log) {
   const auto refuse = [&](std::string why) {
     log.Refuse(std::move(why));

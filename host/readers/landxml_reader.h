@@ -10,9 +10,6 @@
 
 namespace fieldhost {
 
-// Whether a file is XML, by its name or its first character.
-[[nodiscard]] bool IsXmlFile(std::string_view file_name, std::string_view bytes);
-
 // Reads a file's bytes. Elements that lack something or contradict themselves are skipped and said.
 // Refuses, in the log, what is damaged XML, is not LandXML, or measures in unknown units.
 [[nodiscard]] Survey ReadLandXml(std::string_view bytes, ReadLog& log);

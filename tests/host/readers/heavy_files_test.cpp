@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/readers/survey_reader.h"
+#include "host/readers/survey_formats.h"
 
 namespace fieldhost {
 namespace {

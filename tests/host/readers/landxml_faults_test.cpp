@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/readers/survey_reader.h"
+#include "host/readers/survey_formats.h"
 
 namespace fieldhost {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "host/readers/survey_reader.h"
+#include "host/readers/survey_formats.h"
 #include "host/survey_counts.h"
 #include "tests/figure/table_file.h"
 #include "tests/host/readers/real_file.h"
