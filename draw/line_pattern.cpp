@@ -10,7 +10,41 @@
 namespace tavix {
 namespace {
 
-constexpr int kDotPixels = 2;  // of the fine dotted line, whatever the entry's values
+// What a pattern is made of.
+enum class Piece { kDash, kGap, kShortDash, kDot };
+
+// The length of a piece in pixels.
+int LengthIn(const LegendStyle& style, Piece piece) {
+  constexpr int kDotPixels = 2;  // whatever the entry's values
+  switch (piece) {
+    case Piece::kDash:
+      return style.prm1;
+    case Piece::kGap:
+      return style.prm2;
+    case Piece::kShortDash:
+      return style.prm3;
+    default:
+      return kDotPixels;
+  }
+}
+
+// A line style: the pieces that repeat along a line, drawn and left out in turn; none for a solid
+// line.
+struct LineStyle {
+  int kind;
+  std::size_t count;
+  std::array<Piece, 6> pieces;
+};
+
+// The only place that names the styles. Legends keep the kinds.
+using enum Piece;
+constexpr std::array kLineStyles{
+    LineStyle{kSolidLine, 0, {}},
+    LineStyle{102, 2, {kDash, kGap}},
+    LineStyle{103, 2, {kDot, kDot}},
+    LineStyle{104, 4, {kDash, kGap, kShortDash, kGap}},
+    LineStyle{105, 6, {kDash, kGap, kShortDash, kGap, kShortDash, kGap}},
+};
 
 // The ground rectangle that a segment spans; the walk ends where it would leave it.
 class GroundBox {
@@ -141,21 +175,15 @@ bool HasLength(const LinePattern& pattern) {
 }  // namespace
 
 std::optional<LinePattern> PatternOf(const LegendStyle& style) {
-  const int dash = style.prm1;
-  const int gap = style.prm2;
-  const int short_dash = style.prm3;
-  switch (style.kind) {
-    case 102:
-      return LinePattern{{dash, gap}, 2};
-    case 103:
-      return LinePattern{{kDotPixels, kDotPixels}, 2};
-    case 104:
-      return LinePattern{{dash, gap, short_dash, gap}, 4};
-    case 105:
-      return LinePattern{{dash, gap, short_dash, gap, short_dash, gap}, 6};
-    default:
-      return std::nullopt;
+  const auto row = std::find_if(kLineStyles.begin(), kLineStyles.end(),
+                                [&](const LineStyle& known) { return known.kind == style.kind; });
+  if (row == kLineStyles.end() || row->count == 0) return std::nullopt;
+  LinePattern pattern;
+  pattern.count = row->count;
+  for (std::size_t i = 0; i < row->count; ++i) {
+    pattern.lengths[i] = LengthIn(style, row->pieces[i]);
   }
+  return pattern;
 }
 
 void WalkPattern(const CViewState& view, const LinePattern& pattern, GroundPoint start,

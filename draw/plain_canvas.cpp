@@ -1,7 +1,7 @@
 #include "draw/plain_canvas.h"
 
+#include "draw/marks.h"
 #include "draw/point_label.h"
-#include "draw/point_mark.h"
 #include "platform/wide_text.h"
 
 namespace tavix {

@@ -1,7 +1,7 @@
 #include "draw/style_objects.h"
 
 #include "draw/label_font.h"
-#include "draw/point_mark.h"
+#include "draw/marks.h"
 
 namespace tavix {
 
@@ -13,7 +13,8 @@ void StyleObjects::UseForLines(const LegendStyle& style) {
 void StyleObjects::UseForPoints(const LegendStyle& style) {
   DropPenAndBrush();
   SelectPen(style);
-  if (style.kind >= kFirstFilledMark) {
+  const MarkShape* mark = FindMark(style.kind);
+  if (mark && mark->is_filled) {
     brush_.CreateSolidBrush(static_cast<COLORREF>(style.color));
     old_brush_ = dc_.SelectObject(&brush_);
   }

@@ -3,7 +3,7 @@
 #include <framework/scoped_select.h>
 
 #include "draw/drawn_size.h"
-#include "draw/point_mark.h"
+#include "draw/marks.h"
 #include "draw/screen_line.h"
 #include "draw/xor_drawing.h"
 #include "window/client_surface.h"

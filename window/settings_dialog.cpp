@@ -5,15 +5,12 @@
 
 #include <string>
 
+#include "draw/marks.h"
 #include "platform/wide_text.h"
 #include "window/resource.h"
 
 namespace tavix {
 namespace {
-
-// Names of the mark kinds 1 to 11.
-constexpr LPCWSTR kKindNames[] = {L"Dot", L"○", L"×", L"＋", L"△", L"□",
-                                  L"▽",   L"●", L"▲", L"■",  L"▼"};
 
 constexpr int kSmallestStep = 1;  // degrees
 constexpr int kLargestStep = 180;
@@ -66,16 +63,16 @@ BOOL SettingsDialog::OnInitDialog() {
   return TRUE;
 }
 
-// Only the legends that have a title are listed. A kind without a name keeps the name of the entry
-// listed before: meant so.
+// Only the legends that have a title are listed. Compatibility: a kind without a name keeps the
+// name of the entry listed before.
 void SettingsDialog::FillEntryList() {
   CComboBox& list = List(IDC_ENTRY);
   CString kind_name;
   for (std::size_t entry = 0; entry < editor_.Entries().size(); ++entry) {
-    const int kind = editor_.Entries()[entry].style.kind;
     const std::u16string& title = editor_.Title(entry);
     if (title.empty()) continue;
-    if (kind >= 1 && kind <= LegendTable::kPointLegends) kind_name = kKindNames[kind - 1];
+    const MarkShape* mark = FindMark(editor_.Entries()[entry].style.kind);
+    if (mark) kind_name = mark->name;
     CString line;
     line.Format(L"%s（%s）", kind_name.GetString(), AsWide(title.c_str()));
     list.SetItemData(list.AddString(line), entry);
