@@ -30,12 +30,19 @@ class Package:
 
     def build_with_cmake(self):
         """find_package(Tavix CONFIG) and Tavix::tavix."""
+        return self._build_project("tests/package", self._work)
+
+    def build_sample(self):
+        """The complete host that the README begins with; it waits for a user, so it is not run."""
+        return self._build_project("samples/minimal", self._work / "minimal")
+
+    def _build_project(self, source, work):
         toolchain = self._root / "cmake" / TOOLCHAINS[self._preset]
         well, output = call(
-            ["cmake", "-G", "Ninja", "-S", self._root / "tests/package", "-B", self._work]
+            ["cmake", "-G", "Ninja", "-S", self._root / source, "-B", work]
             + [f"-DCMAKE_TOOLCHAIN_FILE={toolchain}", f"-DCMAKE_PREFIX_PATH={self._prefix}"]
         )
-        return call(["cmake", "--build", self._work]) if well else (well, output)
+        return call(["cmake", "--build", work]) if well else (well, output)
 
     def build_by_hand(self):
         """The compiler alone, without the UNICODE macros the CMake target brings along."""
@@ -68,10 +75,11 @@ def check_hosts(root, preset, runs):
     ways = (
         ("find_package", package.build_with_cmake, "package_host.exe"),
         ("compiler alone", package.build_by_hand, "by_hand.exe"),
+        ("minimal sample", package.build_sample, None),
     )
     for name, build, program in ways:
         well, output = build()
-        if well and runs:
+        if well and runs and program:
             well, output = package.run(program)
         if well:
             tally.passed += 1
