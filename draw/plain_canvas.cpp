@@ -20,7 +20,7 @@ void PlainCanvas::Line(const ScreenSegment& segment) {
   dc_.LineTo(segment.end.x, segment.end.y);
 }
 
-// The right-bottom corner comes first; the system puts that right.
+// Compatibility: the bottom right corner comes first; GDI normalises the rectangle.
 void PlainCanvas::Circle(ScreenPoint centre, int radius) {
   dc_.Ellipse(centre.x + radius, centre.y + radius, centre.x - radius, centre.y - radius);
 }

@@ -25,8 +25,8 @@ class LabelText {
   NameView text_;
 };
 
-// The rectangle a label is drawn in, in pixels. It is upside down on purpose (bottom above top):
-// text is drawn without clipping, so only left and top matter, and must not be made upright.
+// The rectangle a label is drawn in, in pixels. Compatibility: it is upside down (bottom above
+// top): text is drawn without clipping, so only left and top matter, and must not be made upright.
 struct LabelBox {
   int left;
   int top;

@@ -16,7 +16,8 @@ namespace tavix {
 // other way. A clothoid that ends straight is built from `end` to `start`. The ends are trusted:
 // `end` is given as it is, even where the parameters do not quite reach it.
 //
-// Between two radii the second must be the smaller; otherwise only the two ends come out. Meant so.
+// Compatibility: between two radii the second must be the smaller; otherwise only the two ends come
+// out.
 // Empty when a number is not finite, or when the curve turns so far that it would have more than
 // ten million points. Far out, where the series of ClothoidPoint no longer is the curve, the points
 // are the series' all the same.

@@ -1,4 +1,4 @@
-// The line of information below the plot. Taps on it are told its parent.
+// The line of information below the plot. Clicks on it are reported to the parent.
 #pragma once
 
 #include <afxwin.h>

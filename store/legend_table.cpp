@@ -8,8 +8,8 @@ namespace {
 constexpr std::int32_t kBlack = 0;
 constexpr std::int32_t kRed = 255;
 
-// 103 stands before 102: the places of these two are the historical ones. A saved and reloaded list
-// is numbered by place, so the two swap their looks after the first save. Meant so.
+// Compatibility: 103 stands before 102. A saved and reloaded list is numbered by place, so the two
+// swap their looks after the first save.
 constexpr HanRec kBuiltIn[LegendTable::kStoredLegends] = {
     {1, true, {1, 2, 10, 1, 1, kBlack}},   {2, true, {2, 10, 10, 1, 1, kBlack}},
     {3, true, {3, 10, 10, 1, 1, kBlack}},  {4, true, {4, 10, 10, 1, 1, kBlack}},

@@ -5,8 +5,8 @@
 
 namespace tavix {
 
-// A line's two ends. The record has room for 16 bits of a key, so a key beyond that range stands
-// for the one with the same low 16 bits: meant so, and what a redraw looks up.
+// A line's two ends. Compatibility: the record has room for 16 bits of a key, so a key beyond that
+// range stands for the one with the same low 16 bits, which is also what a redraw looks up.
 struct LineKeys {
   std::int16_t a = 0;
   std::int16_t b = 0;

@@ -35,7 +35,7 @@ int CPntList::SetCur(std::int32_t number, NameView name, GroundPoint at, std::in
 }
 
 int CPntList::FindNearest(double tolerance, GroundPoint at, std::int32_t* key) const {
-  constexpr int kMostCandidates = 10;  // deliberate: later points do not count even when nearer
+  constexpr int kMostCandidates = 10;  // Compatibility: later points do not count, even nearer ones
   *key = 0;
   if (Records().IsEmpty()) return -3;
 

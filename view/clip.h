@@ -15,10 +15,10 @@ bool PointInQuad(const ScreenQuad& quad, ScreenPoint point);
 
 // Clips `segment` in place to the rectangle; false when nothing of it is inside.
 //
-// The result is the historical one, odd cases included: when two borders are crossed the order of
-// the ends follows the order of the borders (top, right, bottom, left) and not the given direction;
-// a segment whose only crossing is the end that lies inside is refused. Borders that are crossed in
-// one and the same pixel, at a corner, count once; more than two different crossings are refused.
+// Compatibility: when two borders are crossed the order of the ends follows the order of the
+// borders (top, right, bottom, left) and not the given direction; a segment whose only crossing is
+// the end that lies inside is refused. Borders that are crossed in one and the same pixel, at a
+// corner, count once; more than two different crossings are refused.
 bool ClipToQuad(const ScreenQuad& quad, ScreenSegment& segment);
 
 // The crossing of border `edge` and `segment`, ends included; false when they do not meet.

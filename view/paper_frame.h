@@ -39,7 +39,7 @@ class PaperFrame {
   // again.
   void Follow(const CViewState& view);
 
-  // The scale no longer fits the view. The host's own zooms deliberately do not say so.
+  // The scale no longer fits the view. Compatibility: the host's own zooms do not say so.
   void MarkScaleStale() { scale_ = kStale; }
 
   // Sheet length per ground length, 1/N.

@@ -18,8 +18,8 @@ struct ScaleBar {
 // 30 pixels show a centimetre or less.
 [[nodiscard]] std::optional<ScaleBar> ScaleBarOf(const CViewState& view, bool vertical);
 
-// True when the view is turned by more than about 2.5 degrees; smaller turns deliberately count as
-// none.
+// True when the view is turned by more than about 2.5 degrees. Compatibility: a smaller turn shows
+// no arrow.
 [[nodiscard]] bool ShowsNorthArrow(const CViewState& view);
 
 // The arrow's polyline in the bottom left corner, turned with the view.

@@ -6,8 +6,8 @@
 namespace tavix {
 
 // Truncates toward zero, as every conversion from ground to screen does. A value beyond the 32-bit
-// range becomes the range's end, so that a point at the far side of the earth stays far away; what
-// is no number counts as far away too.
+// range becomes the range's end, so that a point at the far side of the earth stays far away. NaN
+// maps to INT_MIN, which is off screen.
 inline int TruncateToInt(double value) {
   constexpr double kLow = std::numeric_limits<int>::min();
   constexpr double kHigh = std::numeric_limits<int>::max();

@@ -47,7 +47,7 @@ class CViewState {
   // ---- Scale; each returns true when the scale was cut to the cap
 
   [[nodiscard]] bool ZoomIn(double factor);
-  void ZoomOut(double factor);  // deliberately without a lower limit
+  void ZoomOut(double factor);  // Compatibility: no lower limit
 
   // The scale that shows `length` metres in `pixels`, times `factor`; it becomes the home scale.
   [[nodiscard]] bool SetFitScale(int pixels, double length, double factor);
@@ -134,8 +134,8 @@ class CViewState {
   GroundPoint home_centre_;
   GroundPoint prev_centre_;
 
-  // The half sizes start at 10 and not at 5: until the first SetScreenSize the ground point (0, 0)
-  // lies at pixel (10, 10). Meant so.
+  // Compatibility: the half sizes start at 10 and not at 5. Until the first SetScreenSize the
+  // ground point (0, 0) lies at pixel (10, 10).
   double width_ = 10.0;
   double height_ = 10.0;
   int half_width_ = 10;

@@ -22,7 +22,7 @@ struct StylusGesture {
   }
 };
 
-// Follows the stylus between its going down and up. An up without a down is not one of ours.
+// Follows the stylus between its going down and up. A release without a press is ignored.
 class Stylus {
  public:
   void Down(ScreenPoint at) {

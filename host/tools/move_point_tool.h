@@ -1,4 +1,4 @@
-// Moving a point: the point, its new place, and then a word that it is meant so.
+// Moves a point: pick it, tap its new position, confirm.
 #pragma once
 
 #include <optional>

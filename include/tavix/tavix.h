@@ -134,8 +134,7 @@ TAVIX_CALL int Tavix_Zom(double X1, double Y1, double X2, double Y2);
 TAVIX_CALL int Tavix_Zom1(double X, double Y, double radius);
 
 // Moves the view's centre to (X, Y) at the present scale and redraws. Returns 0; needs a linked
-// window
-// (-1 without).
+// window (-1 without).
 TAVIX_CALL int Tavix_Pan(double X, double Y);
 
 // Does nothing and returns 0; kept for hosts that call it.
@@ -151,8 +150,8 @@ TAVIX_CALL int Tavix_Mov(void);
 TAVIX_CALL int Tavix_ChkCrd(double X, double Y, int* visible);
 
 // Writes 1 when four points of a circle, one to each side, lie in the drawing area, else 0; a
-// radius below 0.00001 m asks for the centre alone. In a turned view the four are turned twice:
-// meant so. Returns 0.
+// radius below 0.00001 m asks for the centre alone. Compatibility: in a turned view the four are
+// turned twice. Returns 0.
 TAVIX_CALL int Tavix_ChkCir(double X, double Y, double radius, int* visible);
 
 // Writes the client pixel where the stylus last left the window, and returns its y.
@@ -357,7 +356,7 @@ TAVIX_CALL int Tavix_WakDsp(BYTE show);
 // Gives the view the scale 1:N on the sheet, keeping the frame's origin. Returns -1 for N below 1.
 TAVIX_CALL int Tavix_SetWakScl(int N);
 
-// Writes N, truncated. Tavix_Zom and Tavix_Zom1 do not change what this tells: meant so.
+// Writes N, truncated. Compatibility: Tavix_Zom and Tavix_Zom1 do not change it.
 TAVIX_CALL int Tavix_GetWakScl(int* N);
 
 // Moves the view so that the frame's bottom left corner lies on (X, Y).
@@ -377,8 +376,8 @@ TAVIX_CALL int Tavix_SclBarDsp(BYTE show);
 // that is no point legend; the state is then as it was.
 TAVIX_CALL int Tavix_MvPntStt(int legend);
 
-// From the next move on a line runs from (X, Y) to the mark; to be called before the first. Returns
-// 0.
+// From the next move on a line runs from (X, Y) to the mark. To be called before the first move.
+// Returns 0.
 TAVIX_CALL int Tavix_MvPntRub(double X, double Y);
 
 // Moves the mark. Without a start it is a circle of 10 pixels, black on white. Returns 0.

@@ -1,12 +1,10 @@
 // The object store: databases of typed records, as the device keeps them.
 //
 // What an implementation must keep to:
-//  1. Every database and every record has an identifier that is unique in the store. An identifier
-//  is
-//     never used again, so an old one finds nothing rather than something else.
+//  1. Every database and every record has an identifier that is unique in the store. It is never
+//     used again, so an old one finds nothing rather than something else.
 //  2. A handle has one sort order and one seek pointer. The pointer is on a record, or at the end
-//  of
-//     the order, or at the place of a record that was deleted.
+//     of the order, or at the place of a record that was deleted.
 //  3. The order: by the sort property's value, as the sort order's flags say; records with equal
 //     values in the order they were created; records without the property last, or first when the
 //     order says so.

@@ -104,7 +104,7 @@ struct ClipRow {
   std::optional<ScreenSegment> clipped;
 };
 
-TEST(ClipToQuad, GivesTheHistoricalEnds) {
+TEST(ClipToQuad, GivesTheUsualEnds) {
   constexpr auto kRefused = std::nullopt;
   const ScreenQuad quad = QuadOf(240, 180);
   const ClipRow rows[] = {

@@ -102,7 +102,7 @@ BOOL WINAPI CeOidGetInfo(CEOID oid, CEOIDINFO* poidInfo) {
   }
   const Outcome<tavix::ObjectInfo> info = DeviceStore().Info(oid);
   if (!info) {
-    // The published code for an identifier that finds nothing.
+    // The usual code for an identifier that finds nothing.
     SetLastError(info.error == StoreError::kNotFound ? ERROR_INVALID_HANDLE
                                                      : ToLastError(info.error));
     return FALSE;

@@ -1,4 +1,4 @@
-// The device's database calls, by their published names.
+// The device's database calls, by their usual names.
 //
 // Differs from the device:
 //  - a handle is closed with CeCloseDatabaseHandle, for the system's CloseHandle does not know it;

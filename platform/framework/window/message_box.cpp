@@ -16,7 +16,7 @@ UINT WithIcon(UINT type) {
     case MB_YESNOCANCEL:
       return type | MB_ICONQUESTION;
     default:
-      return type;  // retry boxes stay without, as published
+      return type;  // retry boxes have none, as hosts know it
   }
 }
 

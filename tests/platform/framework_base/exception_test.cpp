@@ -11,7 +11,7 @@
 
 namespace {
 
-TEST(FileException, CausesHaveTheirPublishedNumbers) {
+TEST(FileException, CausesHaveTheirUsualNumbers) {
   static constexpr int kInOrder[] = {CFileException::none,
                                      CFileException::genericException,
                                      CFileException::fileNotFound,

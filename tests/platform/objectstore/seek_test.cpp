@@ -214,7 +214,7 @@ TEST_P(SeekTest, ReadingStaysOrGoesOnAsOpened) {
 }
 
 TEST_P(SeekTest, NextEqualAfterAnIncrementingReadSkipsOne) {
-  // The read has moved the pointer already; the seek moves it again. Meant so.
+  // Compatibility: the read has moved the pointer already, and the seek moves it again.
   Fill(kByKey, true);
   SeekKey(kFirstEqual, 20);
   EXPECT_EQ(Store().Read(handle_).value.id, twenty_[0]);

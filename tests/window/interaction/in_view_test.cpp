@@ -62,8 +62,8 @@ TEST_F(InView, IsACircleWithItsFourOutermostPoints) {
   }
 }
 
-// The four points turn by the view's angle over the ground, that is by twice the angle on the
-// screen: they are its topmost, rightmost and so on at multiples of 45 degrees only. Meant so.
+// Compatibility: the four points turn by the view's angle over the ground, that is by twice the
+// angle on the screen: they are its topmost, rightmost and so on at multiples of 45 degrees only.
 TEST_F(InView, IsACircleOfFourTurnedPoints) {
   const struct {
     int angle;

@@ -65,7 +65,7 @@ TEST_F(NearestPoint, IsTheEarlierOfTwoEquallyFar) {
   EXPECT_EQ(8, Picked());
 }
 
-// The search stops at ten candidates: meant so.
+// Compatibility: the search stops at ten candidates.
 TEST_F(NearestPoint, IsOneOfTheFirstTenInReach) {
   ASSERT_EQ(0, EnterPoint(100, {50.0, 0.0}));  // out of reach, and none of the ten
   for (int key = 1; key <= 9; ++key) ASSERT_EQ(0, EnterPoint(key, {9.0, 0.5 * key}));

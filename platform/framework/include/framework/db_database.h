@@ -2,9 +2,9 @@
 //
 // A seek returns the record it found, or 0. Calls that fail say why through GetLastError.
 //
-// Differs from the published class: windows are not notified, so pParent is taken and ignored and
-// there are no OnRecord... calls; the number of records and the last modification come as DWORD and
-// FILETIME; GetNumChanges is an addition, for the sake of what is kept beside a database.
+// Differs from the class that hosts know: windows are not notified, so pParent is taken and ignored
+// and there are no OnRecord... calls; the number of records and the last modification come as DWORD
+// and FILETIME; GetNumChanges is an addition, for the sake of what is kept beside a database.
 #pragma once
 
 #include "framework/db_record.h"
@@ -31,9 +31,10 @@ class AFX_FRAMEWORK CCeDBDatabase {
   // Closes and deletes the open one.
   BOOL Delete();
 
-  // ---- Opening. Closes what was open. The first record in the order becomes the current one;
-  // without
-  //      a property to sort by the database's first order is taken.
+  // ---- Opening
+  //
+  // Closes what was open. The first record in the order becomes the current one. Without a property
+  // to sort by, the database's first order is taken.
 
   BOOL Open(LPCWSTR lpszName, CCeDBProp* pSortProp = NULL, CWnd* pParent = NULL);
   BOOL Open(CEOID oidDatabase, CCeDBProp* pSortProp = NULL, CWnd* pParent = NULL);
@@ -82,9 +83,10 @@ class AFX_FRAMEWORK CCeDBDatabase {
   // 0xFFFFFFFF without a current record.
   DWORD GetCurrIndex() const;
 
-  // ---- Records. A filter is an array of properties whose identifiers say which ones take part;
-  // their
-  //      types and values do not count.
+  // ---- Records
+  //
+  // A filter is an array of properties whose identifiers say which ones take part; their types and
+  // values do not count.
 
   // The new record becomes the current one.
   CEOID AddRecord(CCeDBRecord* pRec);

@@ -4,8 +4,8 @@
 // in a way that is safe between threads; the object itself belongs to one thread at a time. The
 // memory is allocated and freed inside framework.dll, so an object may cross DLL borders by value.
 //
-// Differs from the published class: it is always wide; there is no memory manager to choose; an
-// index out of range is not asserted, Mid, Left and Right clamp as published.
+// Differs from the class that hosts know: it is always wide; there is no memory manager to choose;
+// an index out of range is not asserted, Mid, Left and Right clamp as usual.
 #pragma once
 
 #include <cstdarg>

@@ -1,4 +1,4 @@
-// The message-map macros for window messages. Each handler has the published name and parameters;
+// The message-map macros for window messages. Each handler has the usual name and parameters;
 // CWnd holds one of each that passes the message on.
 #pragma once
 
