@@ -18,9 +18,18 @@ UINT TextSmoothing() {
   return (on ? 1u : 0u) | type << 1 | contrast << 8;
 }
 
+// At most a second old: asking can take longer than a small redraw, and a depth changes by hand.
 int ScreenDepth() {
-  const CClientDC screen(nullptr);
-  return screen.GetDeviceCaps(BITSPIXEL) * screen.GetDeviceCaps(PLANES);
+  constexpr ULONGLONG kAskedAgainAfter = 1000;  // milliseconds
+  static ULONGLONG asked_at = 0;
+  static int depth = 0;
+  const ULONGLONG now = ::GetTickCount64();
+  if (depth == 0 || now - asked_at > kAskedAgainAfter) {
+    const CClientDC screen(nullptr);
+    depth = screen.GetDeviceCaps(BITSPIXEL) * screen.GetDeviceCaps(PLANES);
+    asked_at = now;
+  }
+  return depth;
 }
 
 // The sum that a font file carries over all of it; the same value for all fonts without such a

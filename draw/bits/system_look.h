@@ -11,7 +11,7 @@ namespace tavix {
 // and not every host hands them on.
 struct ScreenLook {
   UINT smoothing = 0;  // of text: whether, and how, as one number
-  int depth = 0;       // bits of a pixel
+  int depth = 0;       // bits of a pixel, a second old at most
 
   [[nodiscard]] static ScreenLook Now();
 
