@@ -81,7 +81,7 @@ class CFigList {
  private:
   void Append(std::int32_t point_count, bool is_circle, std::span<const GroundPoint> points);
 
-  // Never null. Read through a window even by const calls: a file's place is no state of ours.
+  // Never null. Read through a window even by const calls: the file position is not logical state.
   std::unique_ptr<CFile> index_;
   std::unique_ptr<CFile> coordinates_;
   FigureRecord pending_;

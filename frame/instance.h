@@ -102,7 +102,7 @@ class Instance {
   int EnterLine(LineKeys keys);
 
   // End a figure, or delete every piece of a figure number, and redraw with auto-redraw on. 0, or
-  // -1 where there can be no figures or, to delete, where there is none of any number.
+  // -1 while another process has the figure files or, to delete, when there is no figure at all.
   int EndFigure();
   int DeleteFigure(std::int32_t number);
 

@@ -23,7 +23,7 @@ struct SurveyFormat {
 [[nodiscard]] std::span<const SurveyFormat> SurveyFormats();
 
 // Reads a file's bytes in the first format that has its ending or recognises it. The survey is
-// empty when it is none of them.
+// empty for a file of another kind.
 [[nodiscard]] Survey ReadSurvey(std::string_view file_name, std::string_view bytes, ReadLog& log);
 
 }  // namespace fieldhost

@@ -55,7 +55,7 @@ TEST_F(HeldLegend, IsLeftAloneWhenNothingIsChanged) {
     short added = 0;
     EXPECT_EQ(0, Tavix_AddPntHan(1, 1, 1, 1, 1, 1, &added));
     ASSERT_EQ(0, Tavix_Del());
-    EXPECT_EQ(OwnBytes(), ReadBytes(LegendFile())) << "an added entry is none of the file's";
+    EXPECT_EQ(OwnBytes(), ReadBytes(LegendFile())) << "an added entry is not saved";
     ASSERT_EQ(0, Tavix_Crt());
     EXPECT_EQ(9, KindOf(5)) << "it can be read again";
     ASSERT_EQ(0, Tavix_Del());
