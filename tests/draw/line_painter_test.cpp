@@ -6,31 +6,12 @@
 
 #include <limits>
 
-#include "tests/draw/recorded_canvas.h"
+#include "tests/draw/painter_test.h"
 
 namespace tavix::test {
 namespace {
 
-using Notes = std::vector<std::string>;
-
-constexpr std::int16_t kNone = -1;
-constexpr std::int16_t kUnknown = 999;
-
-// One pixel a metre, the ground point (0, 0) at the pixel (120, 90).
-class LinePainterOn : public testing::Test {
- protected:
-  LinePainterOn() { view_.SetScreenSize(240, 180); }
-
-  std::int16_t Add(const LegendStyle& style) {
-    std::int16_t number = 0;
-    legend_.Add(false, style, &number);
-    return number;
-  }
-
-  CViewState view_;
-  LegendTable legend_;
-  RecordedCanvas canvas_;
-};
+class LinePainterOn : public PainterTest {};
 
 TEST_F(LinePainterOn, AnUnknownNumberKeepsTheStyleOfTheEntityBefore) {
   const std::int16_t wide = Add({kSolidLine, 0, 0, 0, 5, 0});

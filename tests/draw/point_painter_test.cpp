@@ -7,31 +7,12 @@
 #include <cmath>
 #include <limits>
 
-#include "tests/draw/recorded_canvas.h"
+#include "tests/draw/painter_test.h"
 
 namespace tavix::test {
 namespace {
 
-using Notes = std::vector<std::string>;
-
-constexpr std::int16_t kNone = -1;
-constexpr std::int16_t kUnknown = 999;
-
-// One pixel a metre, the ground point (0, 0) at the pixel (120, 90).
-class PointPainterOn : public testing::Test {
- protected:
-  PointPainterOn() { view_.SetScreenSize(240, 180); }
-
-  std::int16_t Add(const LegendStyle& style) {
-    std::int16_t number = 0;
-    legend_.Add(true, style, &number);
-    return number;
-  }
-
-  CViewState view_;
-  LegendTable legend_;
-  RecordedCanvas canvas_;
-};
+class PointPainterOn : public PainterTest {};
 
 TEST_F(PointPainterOn, AnUnknownNumberKeepsTheLookOfThePointBefore) {
   const std::int16_t label = Add({4, 0, 12, 1, 1, 0});
