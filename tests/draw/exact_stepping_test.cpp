@@ -169,7 +169,7 @@ TEST(StepExactly, AnyNumberOfRoundsIsPassedAtOnce) {
     Steps steps;
     for (const double step : row.steps) steps.push_back({step, -step});
     const GroundPoint end = StepExactly({row.at, -row.at}, steps, kMost);
-    EXPECT_EQ(end.x, row.end) << row.what;
+    EXPECT_EQ(row.end, end.x) << row.what;
     EXPECT_EQ(end.y, -row.end) << row.what;
   }
   EXPECT_TRUE(std::isnan(StepExactly({std::nan(""), 0}, Steps{{1, 1}}, kMost).x));

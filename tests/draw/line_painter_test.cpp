@@ -21,8 +21,9 @@ TEST_F(LinePainterOn, AnUnknownNumberKeepsTheStyleOfTheEntityBefore) {
   painter.DrawSegment(kNone, {0, 0}, {0, 30});
   painter.DrawCircle(kUnknown, {0, 0}, 7);
   painter.DrawSegment(kNone, {0, 0}, {0, 40});
-  EXPECT_EQ(canvas_.Take(), (Notes{"pen 5", "line 120,90 130,90", "line 120,90 140,90",
-                                   "line 120,90 150,90", "circle 120,90 7", "line 120,90 160,90"}));
+  EXPECT_EQ((Notes{"pen 5", "line 120,90 130,90", "line 120,90 140,90", "line 120,90 150,90",
+                   "circle 120,90 7", "line 120,90 160,90"}),
+            canvas_.Take());
 }
 
 TEST_F(LinePainterOn, WithoutAnEntryBeforeOnlyCirclesAreDrawnAndNoPenIsMade) {
@@ -31,7 +32,7 @@ TEST_F(LinePainterOn, WithoutAnEntryBeforeOnlyCirclesAreDrawnAndNoPenIsMade) {
   painter.DrawCircle(kNone, {0, 0}, 7);
   painter.DrawSegment(kUnknown, {0, 0}, {0, 10});
   painter.DrawCircle(kUnknown, {10, 0}, 8);
-  EXPECT_EQ(canvas_.Take(), (Notes{"circle 120,90 7", "circle 120,80 8"}));
+  EXPECT_EQ((Notes{"circle 120,90 7", "circle 120,80 8"}), canvas_.Take());
 }
 
 // A segment is clipped first; the legend is looked up for what is in view.
@@ -40,7 +41,7 @@ TEST_F(LinePainterOn, AnUnknownNumberHasNoStyleFromASegmentOutOfView) {
   LinePainter painter(canvas_, view_, legend_);
   painter.DrawSegment(wide, {5000, 0}, {5000, 10});
   painter.DrawSegment(kUnknown, {0, 0}, {0, 10});
-  EXPECT_EQ(canvas_.Take(), Notes{});
+  EXPECT_EQ(Notes{}, canvas_.Take());
 }
 
 TEST_F(LinePainterOn, ACircleIsDrawnWhateverTheStyle) {
@@ -50,13 +51,13 @@ TEST_F(LinePainterOn, ACircleIsDrawnWhateverTheStyle) {
   painter.DrawCircle(zeros, {0, 0}, 7);
   painter.DrawSegment(zeros, {0, 0}, {0, 10});
   painter.DrawCircle(other, {0, 0}, 8);
-  EXPECT_EQ(canvas_.Take(), (Notes{"pen 0", "circle 120,90 7", "pen 3", "circle 120,90 8"}));
+  EXPECT_EQ((Notes{"pen 0", "circle 120,90 7", "pen 3", "circle 120,90 8"}), canvas_.Take());
 }
 
 TEST_F(LinePainterOn, ASegmentOfOnePixelIsADot) {
   LinePainter painter(canvas_, view_, legend_);
   painter.DrawSegment(101, {0, 0}, {0, 0});
-  EXPECT_EQ(canvas_.Take(), (Notes{"pen 1", "line 120,90 121,90"}));
+  EXPECT_EQ((Notes{"pen 1", "line 120,90 121,90"}), canvas_.Take());
 }
 
 // A second pixel, counted up from there, would be at the other end of the range.
@@ -65,7 +66,7 @@ TEST_F(LinePainterOn, ADotAtTheEndOfTheRangeOfPixelsStaysThere) {
   LinePainter painter(canvas_, view_, legend_);
   painter.DrawSegment(zeros, {0, 3e9}, {0, -50});
   const std::string end = std::to_string(std::numeric_limits<int>::max());
-  EXPECT_EQ(canvas_.Take(), (Notes{"pen 1", "line " + end + ",90 " + end + ",90"}));
+  EXPECT_EQ((Notes{"pen 1", "line " + end + ",90 " + end + ",90"}), canvas_.Take());
 }
 
 // The sanitizers look at the arithmetic on the way.

@@ -26,7 +26,7 @@ CViewState ViewAt(GroundPoint centre, double scale, int angle = 0, double ratio 
   EXPECT_FALSE(view.SetFitScale(1, 1.0, scale));
   view.SetRatio(ratio);
   view.SetCentre(centre);
-  EXPECT_EQ(view.SetAngle(angle), 0);
+  EXPECT_EQ(0, view.SetAngle(angle));
   return view;
 }
 
@@ -113,7 +113,7 @@ std::size_t ExpectTheVisiblePieces(const CViewState& view, const Pieces& full, c
     EXPECT_TRUE(is_given) << "piece " << &piece - full.data() << " of " << full.size();
     if (!is_given) return showing;
   }
-  EXPECT_EQ(next, given.size()) << "a piece that the full walk does not have";
+  EXPECT_EQ(given.size(), next) << "a piece that the full walk does not have";
   return showing;
 }
 
@@ -136,9 +136,9 @@ TEST(PatternOf, RepeatsThePiecesOfItsKind) {
               {105, {7, 5, 3, 5, 3, 5}}};
   for (const auto& row : rows) {
     const LinePattern pattern = Pattern(row.kind, 7, 5, 3);
-    EXPECT_EQ(std::vector<int>(pattern.lengths.begin(),
-                               pattern.lengths.begin() + static_cast<int>(pattern.count)),
-              row.lengths)
+    EXPECT_EQ(row.lengths,
+              std::vector<int>(pattern.lengths.begin(),
+                               pattern.lengths.begin() + static_cast<int>(pattern.count)))
         << row.kind;
   }
 }
@@ -185,11 +185,11 @@ TEST(WalkPattern, LaysThePatternAndShortensTheLastDash) {
   for (const auto& row : rows) {
     Ends ends;
     for (const LinePiece& piece : Walk(view, row.pattern, {0, 0}, {0, row.length}, kEverything)) {
-      EXPECT_EQ(piece.start.x, 0.0) << row.what;
-      EXPECT_EQ(piece.end.x, 0.0) << row.what;
+      EXPECT_EQ(0.0, piece.start.x) << row.what;
+      EXPECT_EQ(0.0, piece.end.x) << row.what;
       ends.emplace_back(piece.start.y, piece.end.y);
     }
-    EXPECT_EQ(ends, row.ends) << row.what;
+    EXPECT_EQ(row.ends, ends) << row.what;
   }
 }
 
@@ -210,7 +210,7 @@ TEST(WalkPattern, APatternOrSegmentWithoutLengthGivesOnePieceWithoutLength) {
   const CViewState view = ViewAt({10, 20}, 5.0);
   for (const auto& row : rows) {
     const Pieces pieces = Walk(view, row.pattern, start, row.end, kEverything);
-    ASSERT_EQ(pieces.size(), 1U) << row.what;
+    ASSERT_EQ(1U, pieces.size()) << row.what;
     EXPECT_TRUE(SamePiece(pieces[0], {start, start})) << row.what;
   }
 }
@@ -218,7 +218,7 @@ TEST(WalkPattern, APatternOrSegmentWithoutLengthGivesOnePieceWithoutLength) {
 TEST(WalkPattern, ASegmentTooSmallToShowStillEnds) {
   const CViewState view = ViewAt({0, 0}, 1e-9);
   const Pieces pieces = Walk(view, Pattern(102), {0, 0}, {30, 40}, kEverything);
-  ASSERT_EQ(pieces.size(), 1U);
+  ASSERT_EQ(1U, pieces.size());
   EXPECT_TRUE(SamePiece(pieces[0], {{0, 0}, {30, 40}}));
 }
 
@@ -236,9 +236,9 @@ TEST(WalkPattern, LengthsArePixelsOfTheViewWhateverItsTurnAndRatio) {
           const RealScreenPoint to = view.GroundToRealScreen(b);
           return std::hypot(to.x - from.x, to.y - from.y);
         };
-        EXPECT_NEAR(pixels(pieces[0].start, pieces[0].end), 9.0, 1e-7);
-        EXPECT_NEAR(pixels(pieces[0].end, pieces[1].start), 5.0, 1e-7);
-        EXPECT_NEAR(pixels(pieces[1].start, pieces[1].end), 2.0, 1e-7);
+        EXPECT_NEAR(9.0, pixels(pieces[0].start, pieces[0].end), 1e-7);
+        EXPECT_NEAR(5.0, pixels(pieces[0].end, pieces[1].start), 1e-7);
+        EXPECT_NEAR(2.0, pixels(pieces[1].start, pieces[1].end), 1e-7);
       }
     }
   }

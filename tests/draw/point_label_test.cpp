@@ -27,7 +27,7 @@ TEST(LabelText, IsTheNumberOrTheNameAsTheEntryAsks) {
               {0, -5, u"A", u"A"}, {0, 7, u"", u""}};
   for (const auto& row : rows) {
     const LabelText label(StyleWithFlag(row.flag), row.number, row.name);
-    EXPECT_EQ(label.Text(), row.text) << row.flag << ' ' << row.number;
+    EXPECT_EQ(row.text, label.Text()) << row.flag << ' ' << row.number;
   }
 }
 
@@ -54,17 +54,17 @@ TEST(PlaceLabel, StandsAQuarterOfTheMarkBelowThePoint) {
               {{-5, -6}, 8, 10, 0, {-5, -4, -5, -14}}};
   for (const auto& row : rows) {
     const LabelBox box = PlaceLabel(row.at, row.mark, row.height, row.length);
-    EXPECT_EQ(box.left, row.box.left);
-    EXPECT_EQ(box.top, row.box.top);
-    EXPECT_EQ(box.right, row.box.right);
-    EXPECT_EQ(box.bottom, row.box.bottom);
+    EXPECT_EQ(row.box.left, box.left);
+    EXPECT_EQ(row.box.top, box.top);
+    EXPECT_EQ(row.box.right, box.right);
+    EXPECT_EQ(row.box.bottom, box.bottom);
   }
 }
 
 TEST(PlaceLabel, AVeryLongLabelStaysInRange) {
   const LabelBox box = PlaceLabel({100, 50}, 10, 1 << 24, kMax);
-  EXPECT_EQ(box.right, kMax);
-  EXPECT_EQ(box.left, 100);
+  EXPECT_EQ(kMax, box.right);
+  EXPECT_EQ(100, box.left);
 }
 
 }  // namespace

@@ -19,16 +19,16 @@ TEST_F(PointPainterOn, AnUnknownNumberKeepsTheLookOfThePointBefore) {
   PointPainter painter(canvas_, view_, legend_);
   for (const std::int16_t legend : {kNone, kUnknown}) {
     painter.Draw({1, 7, u"A", {0, 0}, legend});
-    EXPECT_EQ(canvas_.Take(), Notes{});
+    EXPECT_EQ(Notes{}, canvas_.Take());
   }
   painter.Draw({2, 7, u"A", {0, 10}, label});
-  EXPECT_EQ(canvas_.Take(), (Notes{"look 4", "label 130,90"}));
+  EXPECT_EQ((Notes{"look 4", "label 130,90"}), canvas_.Take());
   for (const std::int16_t legend : {kNone, kUnknown}) {
     painter.Draw({3, 7, u"A", {0, 20}, legend});
-    EXPECT_EQ(canvas_.Take(), Notes{"label 140,90"});
+    EXPECT_EQ(Notes{"label 140,90"}, canvas_.Take());
   }
   painter.Draw({4, 0, u"A", {0, 30}, kUnknown});  // the label is the number, and there is none
-  EXPECT_EQ(canvas_.Take(), Notes{});
+  EXPECT_EQ(Notes{}, canvas_.Take());
 }
 
 // How far a mark reaches is part of its look.
@@ -38,7 +38,7 @@ TEST_F(PointPainterOn, AnUnknownNumberKeepsTheReachOfTheMark) {
   painter.Draw({1, 0, u"", {0, -160}, large});
   painter.Draw({2, 0, u"", {0, -160}, kUnknown});
   painter.Draw({3, 0, u"", {0, -161}, kUnknown});
-  EXPECT_EQ(canvas_.Take(), (Notes{"look 4", "mark -40,90", "mark -40,90"}));
+  EXPECT_EQ((Notes{"look 4", "mark -40,90", "mark -40,90"}), canvas_.Take());
 }
 
 // The numbers of added legends go round the 16 bits, so that one of them may be -1.
@@ -47,10 +47,10 @@ TEST_F(PointPainterOn, TheNumberOfNoLegendIsLookedUpAfterAnotherOnly) {
   while (number != kNone) number = Add({6, 10, 0, 0, 1, 0});
   PointPainter painter(canvas_, view_, legend_);
   painter.Draw({1, 0, u"", {0, 0}, kNone});
-  EXPECT_EQ(canvas_.Take(), Notes{});
+  EXPECT_EQ(Notes{}, canvas_.Take());
   painter.Draw({2, 0, u"", {0, 0}, 4});
   painter.Draw({3, 0, u"", {0, 0}, kNone});
-  EXPECT_EQ(canvas_.Take(), (Notes{"look 4", "mark 120,90", "look 6", "mark 120,90"}));
+  EXPECT_EQ((Notes{"look 4", "mark 120,90", "look 6", "mark 120,90"}), canvas_.Take());
 }
 
 // The sanitizers look at the arithmetic on the way.

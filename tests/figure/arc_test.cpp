@@ -38,8 +38,8 @@ TEST(TwoCircleCentre, LiesOnTheSideTurnedFromXTowardY) {
   for (const auto& row : rows) {
     const auto centre = TwoCircleCentre(row.p, row.r1, row.q, row.r2);
     ASSERT_TRUE(centre) << row.q.x << ' ' << row.q.y;
-    EXPECT_NEAR(centre->x, row.centre.x, 1e-12);
-    EXPECT_NEAR(centre->y, row.centre.y, 1e-12);
+    EXPECT_NEAR(row.centre.x, centre->x, 1e-12);
+    EXPECT_NEAR(row.centre.y, centre->y, 1e-12);
   }
 }
 
@@ -54,7 +54,7 @@ TEST(TwoCircleCentre, FailsWherePointsCoincideOrLieTooFarApart) {
               {{0, 1.1e-7}, 5, 5, true}, {{10.001, 0}, 5, 5, false},  {{9.999, 0}, 5, 5, true},
               {{10, 0}, 0, 0, false},    {{0, 8}, 3, -4, false}};
   for (const auto& row : rows) {
-    EXPECT_EQ(TwoCircleCentre({0, 0}, row.r1, row.q, row.r2).has_value(), row.found)
+    EXPECT_EQ(row.found, TwoCircleCentre({0, 0}, row.r1, row.q, row.r2).has_value())
         << row.q.x << ' ' << row.q.y;
   }
 }
@@ -71,12 +71,12 @@ TEST(BuildArc, HasAPointEveryFiveDegreesBetweenItsEnds) {
     const GroundPoint start = OnCircle(centre, 80, row.from);
     const GroundPoint end = OnCircle(centre, 80, row.to);
     const Polyline arc = BuildArc(start, end, 80);
-    ASSERT_EQ(arc.size(), row.points) << row.from << " to " << row.to;
+    ASSERT_EQ(row.points, arc.size()) << row.from << " to " << row.to;
     EXPECT_EQ(arc.front(), start);
     EXPECT_EQ(arc.back(), end);
     for (std::size_t i = 1; i + 1 < arc.size(); ++i) {
       const GroundPoint expected = OnCircle(centre, 80, row.from + 5 * static_cast<double>(i));
-      EXPECT_NEAR(DistanceOf(arc[i], expected), 0, 1e-9) << row.from << " point " << i;
+      EXPECT_NEAR(0, DistanceOf(arc[i], expected), 1e-9) << row.from << " point " << i;
     }
   }
 }
@@ -109,7 +109,7 @@ TEST(BuildArc, AHalfCircleIsStillAnArc) {
   const Polyline arc = BuildArc({0, 0}, {100, 0}, 50);
   ASSERT_GE(arc.size(), 37U);  // 35 or 36 points between, as the last bit of the angles has it
   ASSERT_LE(arc.size(), 38U);
-  for (const GroundPoint p : arc) EXPECT_NEAR(DistanceOf(p, {50, 0}), 50, 1e-9);
+  for (const GroundPoint p : arc) EXPECT_NEAR(50, DistanceOf(p, {50, 0}), 1e-9);
 }
 
 TEST(BuildArc, IsEmptyWhereThereIsNone) {

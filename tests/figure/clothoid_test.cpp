@@ -15,7 +15,7 @@ constexpr double kDegree = 0.017453292519943295;
 
 double DistanceOf(GroundPoint a, GroundPoint b) { return std::hypot(a.x - b.x, a.y - b.y); }
 
-TEST(ClothoidPoint, BeginsAtItsOrigin) { EXPECT_EQ(ClothoidPoint(0, 100), (GroundPoint{0, 0})); }
+TEST(ClothoidPoint, BeginsAtItsOrigin) { EXPECT_EQ((GroundPoint{0, 0}), ClothoidPoint(0, 100)); }
 
 TEST(ClothoidPoint, FollowsTheIntegral) {
   const struct {
@@ -24,7 +24,7 @@ TEST(ClothoidPoint, FollowsTheIntegral) {
   } rows[] = {{1e-6, 1e-7}, {0.01, 1e-6}, {0.1, 1e-6}, {0.2, 1e-5}, {0.5, 1e-5}, {0.9, 1e-3}};
   for (const auto& row : rows) {
     const GroundPoint point = ClothoidPoint(row.tau, 100);
-    EXPECT_NEAR(DistanceOf(point, test::IntegratedClothoid(row.tau, 100)), 0, row.tolerance)
+    EXPECT_NEAR(0, DistanceOf(point, test::IntegratedClothoid(row.tau, 100)), row.tolerance)
         << row.tau;
   }
 }
@@ -61,12 +61,12 @@ TEST(BuildClothoid, HasAPointEveryDegreeOfItsTangent) {
     const GroundPoint end{1000 + local.x, 2000 + (r < 0 ? -local.y : local.y)};
     const Polyline curve = BuildClothoid({1000, 2000}, end, 0, a, r);
     ASSERT_EQ(curve.size(), 2 + static_cast<std::size_t>(tau / kDegree)) << r;
-    EXPECT_EQ(curve.front(), (GroundPoint{1000, 2000}));
+    EXPECT_EQ((GroundPoint{1000, 2000}), curve.front());
     EXPECT_EQ(curve.back(), end);
     for (std::size_t i = 1; i + 1 < curve.size(); ++i) {
       const GroundPoint expected = test::IntegratedClothoid(kDegree * static_cast<double>(i), a);
       const GroundPoint on_map{1000 + expected.x, 2000 + (r < 0 ? -expected.y : expected.y)};
-      EXPECT_NEAR(DistanceOf(curve[i], on_map), 0, 1e-4) << r << " point " << i;
+      EXPECT_NEAR(0, DistanceOf(curve[i], on_map), 1e-4) << r << " point " << i;
     }
   }
 }
@@ -112,7 +112,7 @@ TEST(BuildClothoid, TrustsItsEnds) {
   const GroundPoint far_end{5000, 5000};
   const Polyline curve = BuildClothoid({1, 2}, far_end, 0, 150, 200);
   ASSERT_GT(curve.size(), 2U);
-  EXPECT_EQ(curve.front(), (GroundPoint{1, 2}));
+  EXPECT_EQ((GroundPoint{1, 2}), curve.front());
   EXPECT_EQ(curve.back(), far_end);
   EXPECT_LT(DistanceOf(curve[curve.size() - 2], curve.front()), 113);
 }
@@ -120,8 +120,8 @@ TEST(BuildClothoid, TrustsItsEnds) {
 TEST(BuildClothoid, TwoStraightEndsAreAStraightLine) {
   const GroundPoint start{3, 4};
   const GroundPoint end{50, 60};
-  EXPECT_EQ(BuildClothoid(start, end, 0, 150, 0), (Polyline{end, start}));
-  EXPECT_EQ(BuildClothoid(start, end, 0, 0, 100), (Polyline{start, end}));  // A of 0: no turn
+  EXPECT_EQ((Polyline{end, start}), BuildClothoid(start, end, 0, 150, 0));
+  EXPECT_EQ((Polyline{start, end}), BuildClothoid(start, end, 0, 0, 100));  // A of 0: no turn
 }
 
 TEST(BuildClothoid, NumbersOutOfAllProportionEnd) {
@@ -166,7 +166,7 @@ TEST(BuildClothoid, TurnsAsFarAsItsRadiusAsksFor) {
     const double x = 1 - t * t / 10 + std::pow(t, 4) / 216 - std::pow(t, 6) / 9360;
     const double y = 1.0 / 3 - t * t / 42 + std::pow(t, 4) / 1320 - std::pow(t, 6) / 75600;
     const double distance = length * std::hypot(x, t * y);
-    EXPECT_NEAR(DistanceOf(curve[i], curve[0]) / distance, 1, 1e-7) << i;
+    EXPECT_NEAR(1, DistanceOf(curve[i], curve[0]) / distance, 1e-7) << i;
   }
 }
 
@@ -174,7 +174,7 @@ TEST(BuildClothoid, HasAtMostTenMillionPoints) {
   constexpr double kMost = 1e7;
   // The parameter that turns through so many degrees up to a radius of 1 m.
   const auto a = [](double degrees) { return std::sqrt(2 * degrees * kDegree); };
-  EXPECT_EQ(BuildClothoid({0, 0}, {10, 10}, 0, a(kMost - 1.5), 1).size(), kMost);
+  EXPECT_EQ(kMost, BuildClothoid({0, 0}, {10, 10}, 0, a(kMost - 1.5), 1).size());
   EXPECT_TRUE(BuildClothoid({0, 0}, {10, 10}, 0, a(kMost - 0.5), 1).empty());
   EXPECT_TRUE(BuildClothoid({0, 0}, {10, 10}, 0, 1e100, 1).empty());
 }

@@ -25,7 +25,7 @@ TEST(Direction, RunsFromTheXAxisTowardTheYAxis) {
               {std::sqrt(3.0), 1, kPi / 6},
               {1e6, 1e6, kPi / 4}};
   for (const auto& row : rows) {
-    EXPECT_DOUBLE_EQ(Direction(row.dx, row.dy), row.direction) << row.dx << ' ' << row.dy;
+    EXPECT_DOUBLE_EQ(row.direction, Direction(row.dx, row.dy)) << row.dx << ' ' << row.dy;
   }
 }
 
@@ -40,14 +40,14 @@ TEST(Direction, AVectorWithoutAnXPartIsUprightToTheLastBit) {
               {0, 0, 4.71238898038469},        {9.9e-8, 0, 4.71238898038469},
               {-9.9e-8, 0, 4.71238898038469}};
   for (const auto& row : rows) {
-    EXPECT_EQ(Direction(row.dx, row.dy), row.direction) << row.dx << ' ' << row.dy;
+    EXPECT_EQ(row.direction, Direction(row.dx, row.dy)) << row.dx << ' ' << row.dy;
   }
 }
 
 TEST(Direction, AtTheToleranceTheXPartCounts) {
-  EXPECT_DOUBLE_EQ(Direction(1e-7, 0), 0.0);
-  EXPECT_DOUBLE_EQ(Direction(-1e-7, 0), kPi);
-  EXPECT_DOUBLE_EQ(Direction(1e-7, 1e-7), kPi / 4);
+  EXPECT_DOUBLE_EQ(0.0, Direction(1e-7, 0));
+  EXPECT_DOUBLE_EQ(kPi, Direction(-1e-7, 0));
+  EXPECT_DOUBLE_EQ(kPi / 4, Direction(1e-7, 1e-7));
 }
 
 TEST(Direction, TurnsOnceAroundWithoutAJump) {
@@ -75,8 +75,8 @@ TEST(InverseOf, GivesDistanceAndDirection) {
               {{-5, 0}, {5, 0}, 10, 0}};
   for (const auto& row : rows) {
     const Inverse inverse = InverseOf(row.from, row.to);
-    EXPECT_DOUBLE_EQ(inverse.distance, row.distance);
-    EXPECT_DOUBLE_EQ(inverse.direction, row.direction);
+    EXPECT_DOUBLE_EQ(row.distance, inverse.distance);
+    EXPECT_DOUBLE_EQ(row.direction, inverse.direction);
   }
 }
 
@@ -91,7 +91,7 @@ TEST(InverseOf, PointsThatCoincideHaveNoDirection) {
               {{1 - 2e-7, 1}, kPi}};
   for (const auto& row : rows) {
     const Inverse inverse = InverseOf({1, 1}, row.to);
-    EXPECT_DOUBLE_EQ(inverse.direction, row.direction) << row.to.x - 1 << ' ' << row.to.y - 1;
+    EXPECT_DOUBLE_EQ(row.direction, inverse.direction) << row.to.x - 1 << ' ' << row.to.y - 1;
     EXPECT_DOUBLE_EQ(inverse.distance, std::hypot(row.to.x - 1, row.to.y - 1));
   }
 }

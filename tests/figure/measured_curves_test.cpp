@@ -59,7 +59,7 @@ TEST_F(MeasuredCurves, AnArcKeepsWithinTheHeightOfAChordOfFiveDegrees) {
     EXPECT_EQ(arc.front(), r < 0 ? End(row) : Start(row));
     EXPECT_EQ(arc.back(), r < 0 ? Start(row) : End(row));
     const double turn = row.Number("turn_deg") * kDegree;
-    EXPECT_NEAR(static_cast<double>(arc.size() - 2), std::floor(turn / (5 * kDegree)), 1);
+    EXPECT_NEAR(std::floor(turn / (5 * kDegree)), static_cast<double>(arc.size() - 2), 1);
     // A millimetre for the table's decimals.
     const double height = std::fabs(r) * (1 - std::cos(2.5 * kDegree)) + 0.001;
     for (const GroundPoint p : TrueArc(Start(row), End(row), r, turn)) {

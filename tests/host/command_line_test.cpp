@@ -26,17 +26,17 @@ TEST(CommandLine, TakesFilesAndOptionsInAnyOrder) {
        }) {
     const CommandLine line = ParseCommandLine(arguments);
     EXPECT_TRUE(line.problem.empty()) << line.problem;
-    EXPECT_EQ(line.files, (Arguments{"a.csv", "b.sim"}));
-    EXPECT_EQ(line.picture, "p.png");
+    EXPECT_EQ((Arguments{"a.csv", "b.sim"}), line.files);
+    EXPECT_EQ("p.png", line.picture);
     ASSERT_TRUE(line.size);
-    EXPECT_EQ(line.size->width, 240);
-    EXPECT_EQ(line.size->height, 320);
+    EXPECT_EQ(240, line.size->width);
+    EXPECT_EQ(320, line.size->height);
   }
 }
 
 TEST(CommandLine, TakesFilesNamedLikeOptionsBehindTwoDashes) {
   const CommandLine line = ParseCommandLine(Arguments{"--", "--picture", "-x"});
-  EXPECT_EQ(line.files, (Arguments{"--picture", "-x"}));
+  EXPECT_EQ((Arguments{"--picture", "-x"}), line.files);
   EXPECT_TRUE(line.picture.empty());
 }
 
@@ -52,19 +52,19 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
       {{"--size"}, "The option --size lacks its value."},
   };
   for (const auto& row : rows) {
-    EXPECT_EQ(ParseCommandLine(row.arguments).problem, row.problem);
+    EXPECT_EQ(row.problem, ParseCommandLine(row.arguments).problem);
   }
 }
 
 TEST(CommandLine, RefusesSizesThatAreNone) {
-  EXPECT_EQ(ParseCommandLine(Arguments{"--size", "240x"}).problem,
-            "The size 240x is not of the form 240x320 with sides from 100 to 8192 pixels.");
+  EXPECT_EQ("The size 240x is not of the form 240x320 with sides from 100 to 8192 pixels.",
+            ParseCommandLine(Arguments{"--size", "240x"}).problem);
   EXPECT_FALSE(ParseCommandLine(Arguments{"--size", "99x320"}).problem.empty());
 }
 
 TEST(CommandLine, TakesAPictureNamedPngAlone) {
   for (const char* file : {"p.png", "dir/P.PNG"}) {
-    EXPECT_EQ(ParseCommandLine(Arguments{"--picture", file}).problem, "");
+    EXPECT_EQ("", ParseCommandLine(Arguments{"--picture", file}).problem);
   }
   for (const char* file : {"p", "p.jpg", "png", "p.png.bmp", "p.pbm"}) {
     EXPECT_EQ(ParseCommandLine(Arguments{"--picture", file}).problem,
@@ -76,13 +76,13 @@ TEST(CommandLine, TakesAResolutionForPngFilesAlone) {
   EXPECT_FALSE(ParseCommandLine(Arguments{"--picture", "p.png"}).resolution);
   for (const char* option : {"--picture", "--one-bit"}) {
     const CommandLine line = ParseCommandLine(Arguments{option, "p.png", "--dpi", "200"});
-    EXPECT_EQ(line.problem, "");
-    EXPECT_EQ(line.resolution, 200);
+    EXPECT_EQ("", line.problem);
+    EXPECT_EQ(200, line.resolution);
   }
   for (const Arguments& arguments :
        {Arguments{"--dpi", "200"}, Arguments{"--dpi", "200", "--one-bit", "p.pbm"}}) {
-    EXPECT_EQ(ParseCommandLine(arguments).problem,
-              "Only a PNG picture has a resolution; leave out --dpi.");
+    EXPECT_EQ("Only a PNG picture has a resolution; leave out --dpi.",
+              ParseCommandLine(arguments).problem);
   }
   for (const char* dots : {"29", "2401", "200dpi", "2e2", "-200"}) {
     EXPECT_EQ(ParseCommandLine(Arguments{"--picture", "p.png", "--dpi", dots}).problem,
@@ -93,9 +93,9 @@ TEST(CommandLine, TakesAResolutionForPngFilesAlone) {
 TEST(CommandLine, TakesAOneBitPictureOfEitherFormat) {
   for (const char* file : {"p.png", "p.pbm", "P.PBM", "dir/p.PNG"}) {
     const CommandLine line = ParseCommandLine(Arguments{"a.csv", "--one-bit", file});
-    EXPECT_EQ(line.problem, "");
+    EXPECT_EQ("", line.problem);
     EXPECT_EQ(line.one_bit, file);
-    EXPECT_EQ(line.files, Arguments{"a.csv"});
+    EXPECT_EQ(Arguments{"a.csv"}, line.files);
   }
   for (const char* file : {"p", "p.bmp", "png", "p.pbm.gz"}) {
     EXPECT_EQ(ParseCommandLine(Arguments{"--one-bit", file}).problem,
@@ -108,9 +108,9 @@ TEST(CommandLine, TakesTheSideViewWithAPictureOrAWindow) {
   for (const Arguments& arguments :
        {Arguments{"a.csv", "--side"}, Arguments{"--side", "a.csv", "--picture", "p.png"}}) {
     const CommandLine line = ParseCommandLine(arguments);
-    EXPECT_EQ(line.problem, "");
+    EXPECT_EQ("", line.problem);
     EXPECT_TRUE(line.side);
-    EXPECT_EQ(line.files, Arguments{"a.csv"});
+    EXPECT_EQ(Arguments{"a.csv"}, line.files);
   }
 }
 
@@ -122,7 +122,7 @@ TEST(CommandLine, RefusesWhatCannotBeHadTogether) {
       {{"--one-bit", "p.pbm", "--picture", "p.png"}, "Choose one of --picture and --one-bit."},
       {{"--side", "--one-bit", "p.pbm"}, "The one-bit picture is of the plan; leave out --side."},
   };
-  for (const auto& row : rows) EXPECT_EQ(ParseCommandLine(row.arguments).problem, row.problem);
+  for (const auto& row : rows) EXPECT_EQ(row.problem, ParseCommandLine(row.arguments).problem);
 }
 
 }  // namespace

@@ -27,14 +27,14 @@ std::ptrdiff_t Count(const PictureImage& image, std::uint32_t color) {
 TEST_F(Headless, DrawsTheSampleSurvey) {
   HostProcess host(folder_, {Sample(L"site.csv"), Sample(L"site.sim"), L"--picture", In(L"絵.png"),
                              L"--size", L"300x400"});
-  ASSERT_EQ(host.Wait(), 0) << host.Errors();
-  EXPECT_EQ(host.Output(), "94 points, 4 lots\n");
-  EXPECT_EQ(host.Errors(), "");
+  ASSERT_EQ(0, host.Wait()) << host.Errors();
+  EXPECT_EQ("94 points, 4 lots\n", host.Output());
+  EXPECT_EQ("", host.Errors());
   EXPECT_TRUE(BeginsLikePng(In(L"絵.png")));
 
   const PictureImage image = DecodePicture(In(L"絵.png"));
-  ASSERT_EQ(image.width, 300);
-  ASSERT_EQ(image.height, 400);
+  ASSERT_EQ(300, image.width);
+  ASSERT_EQ(400, image.height);
   // The triangles of the control points, the corners of the lots, the rings of the trees, and the
   // lots' sides.
   EXPECT_GT(Count(image, 0xC80000), 50);
@@ -45,11 +45,11 @@ TEST_F(Headless, DrawsTheSampleSurvey) {
 
 TEST_F(Headless, PictureHoldsThePlotTheButtonsAndTheInformationLine) {
   HostProcess empty(folder_, {L"--picture", In(L"empty.png"), L"--size", L"240x320"});
-  ASSERT_EQ(empty.Wait(), 0) << empty.Errors();
-  EXPECT_EQ(empty.Output(), "0 points\n");
+  ASSERT_EQ(0, empty.Wait()) << empty.Errors();
+  EXPECT_EQ("0 points\n", empty.Output());
   HostProcess full(folder_,
                    {Sample(L"site.csv"), L"--picture", In(L"full.png"), L"--size", L"240x320"});
-  ASSERT_EQ(full.Wait(), 0) << full.Errors();
+  ASSERT_EQ(0, full.Wait()) << full.Errors();
 
   const PictureImage before = DecodePicture(In(L"empty.png"));
   const PictureImage after = DecodePicture(In(L"full.png"));
@@ -66,7 +66,7 @@ TEST_F(Headless, PictureHoldsThePlotTheButtonsAndTheInformationLine) {
       if (y > kPlotBottom + 4) {
         info_changes += changed;
       } else if (x < kPlotRight && y < kPlotBottom) {
-        EXPECT_EQ(before.At(x, y), 0xFFFFFFFFU) << x << ' ' << y;
+        EXPECT_EQ(0xFFFFFFFFU, before.At(x, y)) << x << ' ' << y;
         plot_changes += changed;
       } else if (x > kPlotRight + 4 && y < 160) {
         button_changes += changed;
@@ -76,7 +76,7 @@ TEST_F(Headless, PictureHoldsThePlotTheButtonsAndTheInformationLine) {
   }
   EXPECT_GT(plot_changes, 300);
   EXPECT_GT(info_changes, 20);
-  EXPECT_EQ(button_changes, 0);
+  EXPECT_EQ(0, button_changes);
   EXPECT_GT(button_colours, 1000);
 }
 
@@ -106,9 +106,9 @@ constexpr std::uint32_t kAlignmentRed = 0xDC0000;
 
 TEST_F(Headless, DrawsTheSampleDesign) {
   HostProcess host(folder_, {Sample(L"site.xml"), L"--picture", In(L"p.png")});
-  ASSERT_EQ(host.Wait(), 0) << host.Errors();
-  EXPECT_EQ(host.Output(), "1 polyline, 5 alignment elements\n");
-  EXPECT_EQ(host.Errors(), "");
+  ASSERT_EQ(0, host.Wait()) << host.Errors();
+  EXPECT_EQ("1 polyline, 5 alignment elements\n", host.Output());
+  EXPECT_EQ("", host.Errors());
   const PictureImage image = DecodePicture(In(L"p.png"));
   EXPECT_GT(Count(image, kAlignmentRed), 500);
   EXPECT_GT(Count(image, 0x965A28), 200);
@@ -120,9 +120,9 @@ TEST_F(Headless, DrawsTerrainPointsSmallAndWithoutLabels) {
                                    "<LandXML><DataPoints><PntList3D>0 0 1 10 10 1 30 5 2"
                                    "</PntList3D></DataPoints></LandXML>"),
                              L"--picture", In(L"p.png"), L"--size", L"300x320"});
-  ASSERT_EQ(host.Wait(), 0) << host.Errors();
-  EXPECT_EQ(host.Output(), "3 points\n");
-  EXPECT_EQ(Count(DecodePicture(In(L"p.png")), 0xBE8C5A), 3 * 5);
+  ASSERT_EQ(0, host.Wait()) << host.Errors();
+  EXPECT_EQ("3 points\n", host.Output());
+  EXPECT_EQ(3 * 5, Count(DecodePicture(In(L"p.png")), 0xBE8C5A));
 }
 
 // A file without a single point is shown, its lines fill the view, and an arc of three quarters of
@@ -139,8 +139,8 @@ TEST_F(Headless, FitsTheViewToAnAlignmentAndDrawsALongArcRight) {
                             "<End>6783000 21530010</End></Curve></CoordGeom></Alignment></LandXML>";
     HostProcess host(folder_,
                      {Write(L"arc.xml", xml), L"--picture", In(L"arc.png"), L"--size", L"320x340"});
-    ASSERT_EQ(host.Wait(), 0) << host.Errors();
-    EXPECT_EQ(host.Output(), "1 alignment element\n");
+    ASSERT_EQ(0, host.Wait()) << host.Errors();
+    EXPECT_EQ("1 alignment element\n", host.Output());
     const PictureImage image = DecodePicture(In(L"arc.png"));
     const Extent extent = ExtentOf(image, kAlignmentRed);
     EXPECT_GT(extent.right - extent.left, 240) << row.rot;
@@ -159,8 +159,8 @@ TEST_F(Headless, FitsTheViewToAnAlignmentAndDrawsALongArcRight) {
       }
       return count > 50;
     };
-    EXPECT_EQ(drawn(true, false), row.north_east) << row.rot;
-    EXPECT_EQ(drawn(false, true), row.south_west) << row.rot;
+    EXPECT_EQ(row.north_east, drawn(true, false)) << row.rot;
+    EXPECT_EQ(row.south_west, drawn(false, true)) << row.rot;
   }
 }
 
@@ -169,56 +169,57 @@ TEST_F(Headless, SaysWhichElementsItSkipped) {
                                    "<LandXML>\n<CgPoints>\n<CgPoint name=\"1\">1 2</CgPoint>\n"
                                    "<CgPoint name=\"2\">1</CgPoint>\n</CgPoints>\n</LandXML>\n"),
                              L"--picture", In(L"p.png")});
-  EXPECT_EQ(host.Wait(), 0);
-  EXPECT_EQ(host.Output(), "1 point, 1 element skipped\n");
-  EXPECT_EQ(host.Errors(),
-            "site.xml, line 4: the CgPoint holds 1 numbers in place of northing, easting and "
-            "height.\n");
+  EXPECT_EQ(0, host.Wait());
+  EXPECT_EQ("1 point, 1 element skipped\n", host.Output());
+  EXPECT_EQ(
+      "site.xml, line 4: the CgPoint holds 1 numbers in place of northing, easting and "
+      "height.\n",
+      host.Errors());
 }
 
 TEST_F(Headless, FailsForDamagedXml) {
   HostProcess host(folder_, {Write(L"cut.xml", "<LandXML>\n<CgPoints>\n<CgPoint na"), L"--picture",
                              In(L"p.png")});
-  EXPECT_EQ(host.Wait(), 1);
-  EXPECT_EQ(host.Errors(), "cut.xml is damaged XML at line 3; export or copy it again.\n");
+  EXPECT_EQ(1, host.Wait());
+  EXPECT_EQ("cut.xml is damaged XML at line 3; export or copy it again.\n", host.Errors());
 }
 
 TEST_F(Headless, SaysWhichLinesItSkipped) {
   HostProcess host(folder_, {Write(L"list.csv", "1,10,20,3,a\n2,x,20,3,b\n3,30,20,3,c\n"),
                              L"--picture", In(L"p.png")});
-  EXPECT_EQ(host.Wait(), 0);
-  EXPECT_EQ(host.Output(), "2 points, 1 line skipped\n");
-  EXPECT_EQ(host.Errors(), "list.csv, line 2: the northing 'x' is not a number.\n");
+  EXPECT_EQ(0, host.Wait());
+  EXPECT_EQ("2 points, 1 line skipped\n", host.Output());
+  EXPECT_EQ("list.csv, line 2: the northing 'x' is not a number.\n", host.Errors());
 }
 
 TEST_F(Headless, FailsForAFileThatCannotBeRead) {
   HostProcess host(folder_, {In(L"none.csv"), L"--picture", In(L"p.png")});
-  EXPECT_EQ(host.Wait(), 1);
-  EXPECT_EQ(host.Output(), "");
-  EXPECT_EQ(host.Errors(), "none.csv does not exist; check its name and folder.\n");
+  EXPECT_EQ(1, host.Wait());
+  EXPECT_EQ("", host.Output());
+  EXPECT_EQ("none.csv does not exist; check its name and folder.\n", host.Errors());
   EXPECT_FALSE(std::filesystem::exists(In(L"p.png")));
 }
 
 TEST_F(Headless, DrawsTheOthersOfAFileThatCannotBeRead) {
   HostProcess host(folder_, {folder_.wstring(), Sample(L"site.sim"), L"--picture", In(L"p.png")});
-  EXPECT_EQ(host.Wait(), 1);
-  EXPECT_EQ(host.Output(), "20 points, 4 lots\n");
-  EXPECT_NE(host.Errors().find("is a folder"), std::string::npos) << host.Errors();
+  EXPECT_EQ(1, host.Wait());
+  EXPECT_EQ("20 points, 4 lots\n", host.Output());
+  EXPECT_NE(std::string::npos, host.Errors().find("is a folder")) << host.Errors();
   EXPECT_TRUE(BeginsLikePng(In(L"p.png")));
 }
 
 TEST_F(Headless, FailsForAPictureThatCannotBeWritten) {
   HostProcess host(folder_, {Sample(L"site.csv"), L"--picture", In(L"none\\p.png")});
-  EXPECT_EQ(host.Wait(), 1);
-  EXPECT_EQ(host.Output(), "");
-  EXPECT_NE(host.Errors().find("cannot be written"), std::string::npos) << host.Errors();
+  EXPECT_EQ(1, host.Wait());
+  EXPECT_EQ("", host.Output());
+  EXPECT_NE(std::string::npos, host.Errors().find("cannot be written")) << host.Errors();
 }
 
 TEST_F(Headless, FailsForAPictureLargerThanTheScreen) {
   HostProcess host(folder_,
                    {Sample(L"site.csv"), L"--picture", In(L"p.png"), L"--size", L"8000x8000"});
-  EXPECT_EQ(host.Wait(), 1);
-  EXPECT_NE(host.Errors().find("does not fit the screen"), std::string::npos) << host.Errors();
+  EXPECT_EQ(1, host.Wait());
+  EXPECT_NE(std::string::npos, host.Errors().find("does not fit the screen")) << host.Errors();
   EXPECT_FALSE(std::filesystem::exists(In(L"p.png")));
 }
 
@@ -228,26 +229,26 @@ TEST_F(Headless, PictureNotesTheResolutionThatWasChosenElseTheScreens) {
   ::ReleaseDC(nullptr, screen);
   for (const wchar_t* kind : {L"--picture", L"--one-bit"}) {
     HostProcess plain(folder_, {Sample(L"site.csv"), kind, In(L"p.png")});
-    ASSERT_EQ(plain.Wait(), 0) << plain.Errors();
+    ASSERT_EQ(0, plain.Wait()) << plain.Errors();
     EXPECT_NEAR(PixelsPerMetre(In(L"p.png")), own / 0.0254, 0.5);
     HostProcess fine(folder_, {Sample(L"site.csv"), kind, In(L"p.png"), L"--dpi", L"200"});
-    ASSERT_EQ(fine.Wait(), 0) << fine.Errors();
-    EXPECT_EQ(PixelsPerMetre(In(L"p.png")), 7874U);
+    ASSERT_EQ(0, fine.Wait()) << fine.Errors();
+    EXPECT_EQ(7874U, PixelsPerMetre(In(L"p.png")));
   }
 }
 
 TEST_F(Headless, RefusesAPictureThatIsNotNamedPng) {
   HostProcess host(folder_, {Sample(L"site.csv"), L"--picture", In(L"p.jpg")});
-  EXPECT_EQ(host.Wait(), 2);
-  EXPECT_NE(host.Errors().find("p.jpg must be named .png."), std::string::npos) << host.Errors();
+  EXPECT_EQ(2, host.Wait());
+  EXPECT_NE(std::string::npos, host.Errors().find("p.jpg must be named .png.")) << host.Errors();
   EXPECT_FALSE(std::filesystem::exists(In(L"p.jpg")));
 }
 
 TEST_F(Headless, RefusesWrongUse) {
   for (const wchar_t* option : {L"--sizes", L"--picture", L"--size"}) {
     HostProcess host(folder_, {option});
-    EXPECT_EQ(host.Wait(), 2);
-    EXPECT_NE(host.Errors().find("usage: fieldhost"), std::string::npos) << host.Errors();
+    EXPECT_EQ(2, host.Wait());
+    EXPECT_NE(std::string::npos, host.Errors().find("usage: fieldhost")) << host.Errors();
   }
 }
 

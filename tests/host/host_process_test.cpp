@@ -27,7 +27,7 @@ TEST_F(HostProcessTest, HostHasNoHandleOfTheTestsBesideItsFiles) {
   ASSERT_TRUE(host.WaitForWindow(kTitle));
   // Nobody can write into the pipe any more, although the host runs.
   EXPECT_FALSE(::PeekNamedPipe(read_end, nullptr, 0, nullptr, nullptr, nullptr));
-  EXPECT_EQ(::GetLastError(), static_cast<DWORD>(ERROR_BROKEN_PIPE));
+  EXPECT_EQ(static_cast<DWORD>(ERROR_BROKEN_PIPE), ::GetLastError());
 }
 
 TEST_F(HostProcessTest, WhatTheHostStartedEndsWithIt) {
@@ -60,7 +60,7 @@ TEST_F(HostProcessTest, ReportNamesTheWindowsAndWhereEachThreadStands) {
            report.substr(begin, report.find('\n', begin) - begin).find(" framework.dll+0x") !=
                std::string::npos;
   })) << report;
-  EXPECT_NE(report.find("\"Field survey\""), std::string::npos) << report;
+  EXPECT_NE(std::string::npos, report.find("\"Field survey\"")) << report;
 }
 
 // A message to a host that hangs is answered by its end.
@@ -72,9 +72,9 @@ TEST_F(HostProcessTest, HostThatDoesNotAnswerIsEnded) {
   ASSERT_TRUE(window);
   const OwnedHandle thread(
       ::OpenThread(THREAD_SUSPEND_RESUME, FALSE, ::GetWindowThreadProcessId(window, nullptr)));
-  ASSERT_NE(::SuspendThread(thread.Get()), static_cast<DWORD>(-1));
-  EXPECT_EQ(::SendMessageW(window, WM_COMMAND, ID_SURVEY_EXIT, 0), 0);
-  EXPECT_EQ(host.Wait(), 3);
+  ASSERT_NE(static_cast<DWORD>(-1), ::SuspendThread(thread.Get()));
+  EXPECT_EQ(0, ::SendMessageW(window, WM_COMMAND, ID_SURVEY_EXIT, 0));
+  EXPECT_EQ(3, host.Wait());
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ TEST(LineLooks, AreOneForEachKindAndAllDiffer) {
   for (const LineKind kind :
        {LineKind::kAlignment, LineKind::kBreakline, LineKind::kFeature, LineKind::kLot,
         LineKind::kBoundary, LineKind::kContour, LineKind::kPipe, LineKind::kOther}) {
-    EXPECT_EQ(kinds[kind], 1);
+    EXPECT_EQ(1, kinds[kind]);
   }
   EXPECT_EQ(colors.size(), LineLooks().size());
 }

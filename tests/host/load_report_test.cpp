@@ -19,7 +19,7 @@ TEST(Summary, CountsWhatThereIs) {
       {{0, 0, 1, 0, 0, 1}, "1 polyline, 1 element skipped"},
       {{5, 0, 0, 1, 2, 3}, "5 points, 1 alignment element, 2 lines and 3 elements skipped"},
   };
-  for (const auto& row : rows) EXPECT_EQ(Summary(row.counts), row.text);
+  for (const auto& row : rows) EXPECT_EQ(row.text, Summary(row.counts));
 }
 
 TEST(SurveyCounts, AddUpOverSeveralLoads) {
@@ -33,45 +33,47 @@ TEST(SurveyCounts, AddUpOverSeveralLoads) {
                          {"c", LineKind::kLot, {{}, {}, {}}}};
   SurveyCounts counts{10, 20, 30, 40, 50, 60};
   counts += CountsOf(loaded);
-  EXPECT_EQ(counts.points, 12U);
-  EXPECT_EQ(counts.lots, 22U);
-  EXPECT_EQ(counts.polylines, 31U);
-  EXPECT_EQ(counts.alignment_elements, 42U);
-  EXPECT_EQ(counts.skipped_lines, 53U);
-  EXPECT_EQ(counts.skipped_elements, 64U);
+  EXPECT_EQ(12U, counts.points);
+  EXPECT_EQ(22U, counts.lots);
+  EXPECT_EQ(31U, counts.polylines);
+  EXPECT_EQ(42U, counts.alignment_elements);
+  EXPECT_EQ(53U, counts.skipped_lines);
+  EXPECT_EQ(64U, counts.skipped_elements);
 }
 
 TEST(SurveyCounts, CountRefusedLinesAsSkipped) {
   SurveyCounts counts{10, 20, 30, 40, 50, 60};
   counts.TakeOut({1, 2, 3, 4, 0, 0});
-  EXPECT_EQ(counts.points, 9U);
-  EXPECT_EQ(counts.lots, 18U);
-  EXPECT_EQ(counts.polylines, 27U);
-  EXPECT_EQ(counts.alignment_elements, 36U);
-  EXPECT_EQ(counts.skipped_lines, 50U);
-  EXPECT_EQ(counts.skipped_elements, 69U);
+  EXPECT_EQ(9U, counts.points);
+  EXPECT_EQ(18U, counts.lots);
+  EXPECT_EQ(27U, counts.polylines);
+  EXPECT_EQ(36U, counts.alignment_elements);
+  EXPECT_EQ(50U, counts.skipped_lines);
+  EXPECT_EQ(69U, counts.skipped_elements);
 }
 
 TEST(Sentence, NamesFileAndLine) {
-  EXPECT_EQ(Sentence({"site.csv", 12, "the northing 'abc' is not a number"}),
-            "site.csv, line 12: the northing 'abc' is not a number.");
+  EXPECT_EQ("site.csv, line 12: the northing 'abc' is not a number.",
+            Sentence({"site.csv", 12, "the northing 'abc' is not a number"}));
 }
 
 TEST(Complaints, TellRefusalsAndThenTheFirstLines) {
   LoadedSurvey loaded;
-  EXPECT_EQ(Complaints(loaded, 8), "");
+  EXPECT_EQ("", Complaints(loaded, 8));
   loaded.refusals = {"a.csv is empty; export it again."};
   loaded.diagnostics = {{"b.csv", 1, "bad"}, {"b.csv", 2, "worse"}, {"b.csv", 3, "worst"}};
   loaded.skipped_lines = 7;
-  EXPECT_EQ(Complaints(loaded, 3),
-            "a.csv is empty; export it again.\n"
-            "b.csv, line 1: bad.\nb.csv, line 2: worse.\nb.csv, line 3: worst.\n");
-  EXPECT_EQ(Complaints(loaded, 1),
-            "a.csv is empty; export it again.\n"
-            "b.csv, line 1: bad.\n7 lines were skipped in all.\n");
+  EXPECT_EQ(
+      "a.csv is empty; export it again.\n"
+      "b.csv, line 1: bad.\nb.csv, line 2: worse.\nb.csv, line 3: worst.\n",
+      Complaints(loaded, 3));
+  EXPECT_EQ(
+      "a.csv is empty; export it again.\n"
+      "b.csv, line 1: bad.\n7 lines were skipped in all.\n",
+      Complaints(loaded, 1));
   loaded.skipped_elements = 1;
-  EXPECT_EQ(Complaints(loaded, 0),
-            "a.csv is empty; export it again.\n7 lines and 1 element were skipped in all.\n");
+  EXPECT_EQ("a.csv is empty; export it again.\n7 lines and 1 element were skipped in all.\n",
+            Complaints(loaded, 0));
 }
 
 }  // namespace

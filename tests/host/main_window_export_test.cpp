@@ -80,8 +80,8 @@ TEST_F(MainWindowExport, OffersThePlotsSizeAndSheets) {
   EXPECT_EQ(static_cast<LONG>(Number(dialog, IDC_EXPORT_WIDTH)), plot.right - 20);
   EXPECT_EQ(static_cast<LONG>(Number(dialog, IDC_EXPORT_HEIGHT)), plot.bottom);
   ChooseOffer(dialog, 2);
-  EXPECT_EQ(Number(dialog, IDC_EXPORT_WIDTH), 1654U);
-  EXPECT_EQ(Number(dialog, IDC_EXPORT_HEIGHT), 2339U);
+  EXPECT_EQ(1654U, Number(dialog, IDC_EXPORT_WIDTH));
+  EXPECT_EQ(2339U, Number(dialog, IDC_EXPORT_HEIGHT));
   Press(dialog, IDCANCEL);
   EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(dialog); }));
   Exit();
@@ -102,12 +102,12 @@ TEST_F(MainWindowExport, WritesEitherFormatInTheTypedSize) {
     ExpectInfo(std::wstring(L"Written: ") + file);
   }
   const PictureImage image = DecodePicture(In(L"p.png"));
-  EXPECT_EQ(image.width, 250);
-  EXPECT_EQ(image.height, 200);
+  EXPECT_EQ(250, image.width);
+  EXPECT_EQ(200, image.height);
   std::ifstream file(folder_ / L"p.pbm", std::ios::binary);
   const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   EXPECT_TRUE(bytes.starts_with("P4\n250 200\n"));
-  EXPECT_EQ(bytes.size(), 11U + 32U * 200U);
+  EXPECT_EQ(11U + 32U * 200U, bytes.size());
   Exit();
 }
 
@@ -122,7 +122,7 @@ TEST_F(MainWindowExport, NotesTheResolutionOfTheChosenSheet) {
   EXPECT_EQ(static_cast<int>(own), ::GetDeviceCaps(screen, LOGPIXELSX));
   ::ReleaseDC(nullptr, screen);
   ChooseOffer(dialog, 2);
-  EXPECT_EQ(Number(dialog, IDC_EXPORT_RESOLUTION), 200U);
+  EXPECT_EQ(200U, Number(dialog, IDC_EXPORT_RESOLUTION));
   ChooseOffer(dialog, 0);
   EXPECT_EQ(Number(dialog, IDC_EXPORT_RESOLUTION), own);
   ChooseOffer(dialog, 2);
@@ -131,7 +131,7 @@ TEST_F(MainWindowExport, NotesTheResolutionOfTheChosenSheet) {
   ASSERT_TRUE(save);
   Press(save, IDOK);
   ExpectInfo(L"Written: sheet.png");
-  EXPECT_EQ(PixelsPerMetre(In(L"sheet.png")), 7874U);
+  EXPECT_EQ(7874U, PixelsPerMetre(In(L"sheet.png")));
   Exit();
 }
 

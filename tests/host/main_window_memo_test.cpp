@@ -38,9 +38,9 @@ TEST_F(MainWindowMemo, IsKeptWithThePointAndToldInTheLine) {
   ExpectInfo(L"7 a  X 10.500  Y 20.250");
   HWND dialog = OpenEditor();
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(TextOf(Item(dialog, IDC_MEMO_POINT)), L"7  a");
-  EXPECT_EQ(TextOf(Item(dialog, IDC_MEMO_PLACE)), L"X 10.500  Y 20.250");
-  EXPECT_EQ(TextOf(Item(dialog, IDC_MEMO_TEXT)), L"");
+  EXPECT_EQ(L"7  a", TextOf(Item(dialog, IDC_MEMO_POINT)));
+  EXPECT_EQ(L"X 10.500  Y 20.250", TextOf(Item(dialog, IDC_MEMO_PLACE)));
+  EXPECT_EQ(L"", TextOf(Item(dialog, IDC_MEMO_TEXT)));
   Type(dialog, L"nail in 縁石\r\nleaning \r\n");
   Close(dialog, IDOK);
   ExpectInfo(L"7 a *  X 10.500  Y 20.250  nail in 縁石…");
@@ -52,7 +52,7 @@ TEST_F(MainWindowMemo, IsKeptWithThePointAndToldInTheLine) {
   ExpectInfo(L"7 a *  X 10.500  Y 20.250  nail in 縁石…");
   dialog = OpenEditor();
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(TextOf(Item(dialog, IDC_MEMO_TEXT)), L"nail in 縁石\r\nleaning");
+  EXPECT_EQ(L"nail in 縁石\r\nleaning", TextOf(Item(dialog, IDC_MEMO_TEXT)));
   Close(dialog, IDCANCEL);
   Exit();
 }
@@ -72,7 +72,7 @@ TEST_F(MainWindowMemo, CancelLeavesItAndAnEmptyOneRemovesIt) {
   ExpectInfo(L"7 a *  X 10.500  Y 20.250  nail");
   dialog = OpenEditor();
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(TextOf(Item(dialog, IDC_MEMO_TEXT)), L"nail");
+  EXPECT_EQ(L"nail", TextOf(Item(dialog, IDC_MEMO_TEXT)));
   Type(dialog, L" \r\n");
   Close(dialog, IDOK);
   ExpectInfo(L"7 a  X 10.500  Y 20.250");
@@ -99,7 +99,7 @@ TEST_F(MainWindowMemo, TappingTheLineOpensIt) {
   Tap(Info(), 20, 5);
   const HWND dialog = host_->WaitForWindow(L"Memo");
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(TextOf(Item(dialog, IDC_MEMO_POINT)), L"8  b");
+  EXPECT_EQ(L"8  b", TextOf(Item(dialog, IDC_MEMO_POINT)));
   Close(dialog, IDCANCEL);
   Exit();
 }
@@ -110,7 +110,7 @@ TEST_F(MainWindowMemo, LongestIsKeptWholeAndLongerCannotBeTyped) {
   ReportTap(1);
   HWND dialog = OpenEditor();
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(::SendMessageW(Item(dialog, IDC_MEMO_TEXT), EM_GETLIMITTEXT, 0, 0), kLongest);
+  EXPECT_EQ(kLongest, ::SendMessageW(Item(dialog, IDC_MEMO_TEXT), EM_GETLIMITTEXT, 0, 0));
   std::wstring memo(kLongest, L'x');
   for (std::size_t i = 40; i + 1 < memo.size(); i += 42) memo.replace(i, 2, L"\r\n");
   Type(dialog, memo.c_str());
@@ -122,7 +122,7 @@ TEST_F(MainWindowMemo, LongestIsKeptWholeAndLongerCannotBeTyped) {
   ExpectInfo(L"7 a *  X 10.500  Y 20.250  " + std::wstring(40, L'x') + L"…");
   dialog = OpenEditor();
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(::SendMessageW(Item(dialog, IDC_MEMO_TEXT), WM_GETTEXTLENGTH, 0, 0), kLongest);
+  EXPECT_EQ(kLongest, ::SendMessageW(Item(dialog, IDC_MEMO_TEXT), WM_GETTEXTLENGTH, 0, 0));
   Close(dialog, IDCANCEL);
   Exit();
 }

@@ -62,8 +62,8 @@ TEST_F(MainWindowSettings, ListTheKindsOfPointsAndKeepWhatTheUserChanged) {
   ASSERT_NO_FATAL_FAILURE(open());
   HWND dialog = OpenSettings();
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(Ask(dialog, kEntry, CB_GETCOUNT), 8);
-  EXPECT_EQ(Ask(dialog, kMarkSize, CB_GETCURSEL), 3);
+  EXPECT_EQ(8, Ask(dialog, kEntry, CB_GETCOUNT));
+  EXPECT_EQ(3, Ask(dialog, kMarkSize, CB_GETCURSEL));
   Ask(dialog, kMarkSize, CB_SETCURSEL, 8);
   ::PostMessageW(dialog, WM_COMMAND, IDOK, 0);
   EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(dialog); }));
@@ -72,7 +72,7 @@ TEST_F(MainWindowSettings, ListTheKindsOfPointsAndKeepWhatTheUserChanged) {
   Command(ID_VIEW_SIDE);
   dialog = OpenSettings();
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(Ask(dialog, kMarkSize, CB_GETCURSEL), 8);
+  EXPECT_EQ(8, Ask(dialog, kMarkSize, CB_GETCURSEL));
   Ask(dialog, kMarkSize, CB_SETCURSEL, 5);
   ::PostMessageW(dialog, WM_COMMAND, IDOK, 0);
   EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(dialog); }));
@@ -82,7 +82,7 @@ TEST_F(MainWindowSettings, ListTheKindsOfPointsAndKeepWhatTheUserChanged) {
   ASSERT_NO_FATAL_FAILURE(open());
   dialog = OpenSettings();
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(Ask(dialog, kMarkSize, CB_GETCURSEL), 5);
+  EXPECT_EQ(5, Ask(dialog, kMarkSize, CB_GETCURSEL));
   ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
   EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(dialog); }));
   Exit();

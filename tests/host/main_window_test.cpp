@@ -15,8 +15,8 @@ TEST_F(MainWindow, HasTheAskedClientSize) {
   ASSERT_NO_FATAL_FAILURE(Open({L"--size", L"300x400"}));
   RECT client = {};
   ::GetClientRect(window_, &client);
-  EXPECT_EQ(client.right, 300);
-  EXPECT_EQ(client.bottom, 400);
+  EXPECT_EQ(300, client.right);
+  EXPECT_EQ(400, client.bottom);
   ExpectInfo(L"0 points");
   Exit();
 }
@@ -37,7 +37,7 @@ TEST_F(MainWindow, TellsTheTappedPoint) {
   ExpectInfo(L"7 木  X 10.500  Y 20.250");
   // A key no point has says nothing: what is shown stays.
   ::SendMessageW(window_, WM_COMMAND, ID_PLOT_NOTIFY, 3);
-  EXPECT_EQ(TextOf(Info()), L"7 木  X 10.500  Y 20.250");
+  EXPECT_EQ(L"7 木  X 10.500  Y 20.250", TextOf(Info()));
   Exit();
 }
 
@@ -56,7 +56,7 @@ TEST_F(MainWindow, CapturesTheCoordinatesOfATap) {
 TEST_F(MainWindow, PlotFollowsTheWindowsSize) {
   ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv"), L"--size", L"300x400"}));
   ExpectInfo(L"74 points");
-  EXPECT_EQ(WidthOf(Plot()), 300);
+  EXPECT_EQ(300, WidthOf(Plot()));
   const int frame = WidthOf(window_) - 300;
   ::SetWindowPos(window_, nullptr, 0, 0, 500 + frame, 500, SWP_NOMOVE | SWP_NOZORDER);
   EXPECT_TRUE(WaitUntil([&] { return Plot() && WidthOf(Plot()) == 500; }));
@@ -74,7 +74,7 @@ TEST_F(MainWindow, SizesThePlotOnceAfterTheEdgeWasDragged) {
   ::SendMessageW(window_, WM_ENTERSIZEMOVE, 0, 0);
   for (int width = 310; width <= 350; width += 10) {
     ::SetWindowPos(window_, nullptr, 0, 0, width + frame, 500, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_EQ(Plot(), before);
+    EXPECT_EQ(before, Plot());
   }
   ::SendMessageW(window_, WM_EXITSIZEMOVE, 0, 0);
   EXPECT_TRUE(WaitUntil([&] { return Plot() && WidthOf(Plot()) == 350; }));

@@ -62,7 +62,7 @@ TEST_F(MainWindowViews, PlanIsAsItWasAfterTheSideView) {
   Command(ID_SURVEY_CAPTURE);
   Command(ID_SURVEY_CAPTURE);
   ExpectInfo(L"Tap a place to capture its coordinates.");
-  EXPECT_EQ(captured(), before);
+  EXPECT_EQ(before, captured());
   Exit();
 }
 
@@ -120,8 +120,8 @@ TEST_F(MainWindowViews, SideViewFollowsTheWindowsSize) {
   EXPECT_TRUE(WaitUntil([&] { return Plot() && WidthOf(Plot()) == 500; }));
   EXPECT_TRUE(ShowsSide());
   Command(ID_VIEW_PLAN);
-  EXPECT_EQ(WidthOf(Plot()), 500);
-  EXPECT_EQ(WidthOf(Tabs()), 500);
+  EXPECT_EQ(500, WidthOf(Plot()));
+  EXPECT_EQ(500, WidthOf(Tabs()));
   Exit();
 }
 
@@ -195,7 +195,7 @@ TEST_F(MainWindowViews, SideViewShowsAMovedPointAtItsNewPlace) {
   Command(ID_TOOL_FINISH);
   turn_to_the_side();
   const tavix::test::Picture moved = Shown();
-  EXPECT_NE(moved, before);
+  EXPECT_NE(before, moved);
   Exit();
 
   ASSERT_NO_FATAL_FAILURE(open_with("90,0"));

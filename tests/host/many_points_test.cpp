@@ -42,8 +42,8 @@ TEST_F(ManyPoints, LotsLookTheSameWhateverTheOrderOfTheFiles) {
   for (const bool lots_first : {true, false}) {
     HostProcess host(folder_, {lots_first ? lots_ : list_, lots_first ? list_ : lots_, L"--picture",
                                In(L"p.png"), L"--size", L"400x500"});
-    ASSERT_EQ(host.Wait(), 0) << host.Errors();
-    EXPECT_EQ(host.Output(), "32770 points, 2 lots\n");
+    ASSERT_EQ(0, host.Wait()) << host.Errors();
+    EXPECT_EQ("32770 points, 2 lots\n", host.Output());
     images[lots_first ? 0 : 1] = DecodePicture(In(L"p.png"));
   }
   const auto& pixels = images[0].pixels;
@@ -69,7 +69,7 @@ TEST_F(ManyPoints, SidesOfLotsFollowAMovedPointWhateverTheOrderOfTheFiles) {
     ExpectInfoBegins(L"P3 moved");
     EXPECT_TRUE(WaitUntil([&] { return Shown().At(kPlace.x, kPlace.y) == kBoundaryBlue; }));
     plans[lots_first ? 0 : 1] = Shown();
-    EXPECT_NE(Shown(), before);
+    EXPECT_NE(before, Shown());
     Exit();
   }
   EXPECT_GT(tavix::test::CountPixels(plans[0], kLotGreen), 1000);

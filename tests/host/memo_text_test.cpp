@@ -26,7 +26,7 @@ TEST(MemoBeginning, IsTheFirstLineThatSaysSomething) {
       {"a\xE6\x9C", 10, "a\xE6\x9C"},
   };
   for (const auto& row : rows) {
-    EXPECT_EQ(MemoBeginning(row.memo, row.most), row.beginning) << row.memo << ' ' << row.most;
+    EXPECT_EQ(row.beginning, MemoBeginning(row.memo, row.most)) << row.memo << ' ' << row.most;
   }
 }
 

@@ -19,8 +19,8 @@ TEST(PictureSizeOf, TakesTwoSidesWithinTheLimits) {
   for (const auto& row : rows) {
     const std::optional<PictureSize> size = PictureSizeOf(row.text);
     ASSERT_TRUE(size) << row.text;
-    EXPECT_EQ(size->width, row.width);
-    EXPECT_EQ(size->height, row.height);
+    EXPECT_EQ(row.width, size->width);
+    EXPECT_EQ(row.height, size->height);
   }
 }
 
@@ -36,8 +36,8 @@ TEST(Within, KeepsTheProportions) {
   };
   for (const auto& row : rows) {
     const PictureSize within = Within(row.size, row.longest);
-    EXPECT_EQ(within.width, row.within.width);
-    EXPECT_EQ(within.height, row.within.height);
+    EXPECT_EQ(row.within.width, within.width);
+    EXPECT_EQ(row.within.height, within.height);
   }
 }
 

@@ -27,10 +27,10 @@ TEST(LookOf, KnowsTheFirstWordOfAFieldCode) {
       {"a tree", ""},
   };
   for (const auto& row : rows) EXPECT_EQ(LookOf(row.kind), LookOf(row.same_as)) << row.kind;
-  EXPECT_EQ(LookOf(""), 0U);
+  EXPECT_EQ(0U, LookOf(""));
   for (const std::string_view kind :
        {"control", "boundary", "road", "tree", "manhole", "building", "terrain"}) {
-    EXPECT_NE(LookOf(kind), 0U) << kind;
+    EXPECT_NE(0U, LookOf(kind)) << kind;
   }
 }
 
@@ -48,8 +48,8 @@ TEST(PointLooks, AreLegendsTheLibraryTakes) {
     EXPECT_GE(look.pen_width, 1);
     EXPECT_GT(look.mark_size, 0);
     EXPECT_LE(look.mark_size, 20);
-    EXPECT_EQ(look.mark_size % 2, 0);
-    EXPECT_EQ(look.label_height % 2, 0);
+    EXPECT_EQ(0, look.mark_size % 2);
+    EXPECT_EQ(0, look.label_height % 2);
     EXPECT_STRNE(look.title, "");
     EXPECT_LE(look.color, 0xFFFFFFU);
   }

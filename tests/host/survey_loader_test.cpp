@@ -45,23 +45,23 @@ TEST_F(SurveyLoader, JoinsSeveralFiles) {
   };
   const LoadedSurvey loaded = LoadSurveyFiles(files);
   EXPECT_TRUE(loaded.refusals.empty());
-  ASSERT_EQ(loaded.survey.points.size(), 5U);
-  EXPECT_EQ(loaded.survey.points[2].name, "tree");
-  ASSERT_EQ(loaded.survey.lots.size(), 2U);
-  EXPECT_EQ(loaded.survey.lots[0].corners, (std::vector<std::size_t>{0, 1}));
-  EXPECT_EQ(loaded.survey.lots[1].corners, (std::vector<std::size_t>{4, 3}));
+  ASSERT_EQ(5U, loaded.survey.points.size());
+  EXPECT_EQ("tree", loaded.survey.points[2].name);
+  ASSERT_EQ(2U, loaded.survey.lots.size());
+  EXPECT_EQ((std::vector<std::size_t>{0, 1}), loaded.survey.lots[0].corners);
+  EXPECT_EQ((std::vector<std::size_t>{4, 3}), loaded.survey.lots[1].corners);
 }
 
 TEST_F(SurveyLoader, SaysWhichLinesOfWhichFileItSkipped) {
   const Files files = {Write("a.csv", "1,1,2\n2,x,2\n3,1,2\n"), Write("b.csv", "1,1,2\n2,1,y\n")};
   const LoadedSurvey loaded = LoadSurveyFiles(files);
-  EXPECT_EQ(loaded.survey.points.size(), 3U);
-  EXPECT_EQ(loaded.skipped_lines, 2U);
-  ASSERT_EQ(loaded.diagnostics.size(), 2U);
-  EXPECT_EQ(loaded.diagnostics[0].file, "a.csv");
-  EXPECT_EQ(loaded.diagnostics[0].line, 2);
-  EXPECT_EQ(loaded.diagnostics[1].file, "b.csv");
-  EXPECT_EQ(loaded.diagnostics[1].line, 2);
+  EXPECT_EQ(3U, loaded.survey.points.size());
+  EXPECT_EQ(2U, loaded.skipped_lines);
+  ASSERT_EQ(2U, loaded.diagnostics.size());
+  EXPECT_EQ("a.csv", loaded.diagnostics[0].file);
+  EXPECT_EQ(2, loaded.diagnostics[0].line);
+  EXPECT_EQ("b.csv", loaded.diagnostics[1].file);
+  EXPECT_EQ(2, loaded.diagnostics[1].line);
 }
 
 TEST_F(SurveyLoader, RefusesAFileWithOneSentence) {
@@ -90,22 +90,22 @@ TEST_F(SurveyLoader, RefusesAFileWithOneSentence) {
     EXPECT_EQ(loaded.refusals, std::vector<std::string>{row.sentence});
     EXPECT_TRUE(loaded.survey.points.empty());
     EXPECT_TRUE(loaded.diagnostics.empty());
-    EXPECT_EQ(loaded.skipped_lines, 0U);
+    EXPECT_EQ(0U, loaded.skipped_lines);
   }
 }
 
 TEST_F(SurveyLoader, ReadsTheOthersWhenOneIsRefused) {
   const LoadedSurvey loaded = LoadSurveyFiles(
       Files{Write("a.csv", "1,1,2\n"), folder_ / "none.csv", Write("b.csv", "2,1,2\n")});
-  EXPECT_EQ(loaded.refusals.size(), 1U);
-  EXPECT_EQ(loaded.survey.points.size(), 2U);
+  EXPECT_EQ(1U, loaded.refusals.size());
+  EXPECT_EQ(2U, loaded.survey.points.size());
 }
 
 TEST_F(SurveyLoader, RefusesAFileTooLargeForASurvey) {
   const std::filesystem::path path = Write("huge.csv", "1,1,2\n");
   std::filesystem::resize_file(path, (64U << 20U) + 1);
   const LoadedSurvey loaded = LoadSurveyFiles(Files{path});
-  EXPECT_EQ(loaded.refusals, std::vector<std::string>{"huge.csv is larger than 64 MB; split it."});
+  EXPECT_EQ(std::vector<std::string>{"huge.csv is larger than 64 MB; split it."}, loaded.refusals);
 }
 
 }  // namespace

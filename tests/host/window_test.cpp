@@ -94,7 +94,7 @@ void WindowTest::Widen(int width) const {
 
 void WindowTest::Exit() {
   PostCommand(ID_SURVEY_EXIT);
-  EXPECT_EQ(host_->Wait(), 0);
+  EXPECT_EQ(0, host_->Wait());
 }
 
 }  // namespace fieldhost

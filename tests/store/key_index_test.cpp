@@ -86,14 +86,14 @@ TEST(KeyIndex, AnyKeyCanBeStored) {
 TEST(KeyIndex, RepeatedKeysHaveAnEntryEach) {
   IndexedKeys keys;
   for (int i = 0; i < 100; ++i) keys.Insert(i % 3);
-  EXPECT_EQ(keys.Found(0).size(), 34U);
-  EXPECT_EQ(keys.VisitsUntilRefused(0), 1);
+  EXPECT_EQ(34U, keys.Found(0).size());
+  EXPECT_EQ(1, keys.VisitsUntilRefused(0));
   keys.Erase(0);
   EXPECT_EQ(keys.Found(0), keys.Expected(0));
   keys.Clear();
   EXPECT_TRUE(keys.Found(0).empty());
   keys.Insert(5);
-  EXPECT_EQ(keys.Found(5).size(), 1U);
+  EXPECT_EQ(1U, keys.Found(5).size());
 }
 
 TEST(KeyIndex, RandomInsertionsAndRemovalsLoseNothing) {

@@ -44,9 +44,9 @@ TEST(LegendCodec, WritesTheBuiltInLegendByteForByte) {
       "102  4  2  0  1          0 chk"sv,  "104  4  2  2  1        255 chk"sv,
       "105  4  2  2  1        255 chk"sv};
   const std::string bytes = BuiltIn();
-  ASSERT_EQ(bytes.size(), kFile);
+  ASSERT_EQ(kFile, bytes.size());
   for (std::size_t i = 0; i < std::size(records); ++i) {
-    ASSERT_EQ(records[i].size(), kRecord);
+    ASSERT_EQ(kRecord, records[i].size());
     EXPECT_EQ(RecordOf(bytes, i), records[i]) << i;
   }
 }
@@ -68,10 +68,10 @@ TEST(LegendCodec, WritesEachEntryIntoExactlyThirtyBytes) {
        "-2147483648 -2147483648 -21474"sv}};
   for (const auto& row : rows) {
     LegendTable table;
-    ASSERT_EQ(table.Change(1, true, row.style), 0);
+    ASSERT_EQ(0, table.Change(1, true, row.style));
     const std::string bytes = EncodeLegend(table);
-    ASSERT_EQ(bytes.size(), kFile) << row.what;
-    EXPECT_EQ(RecordOf(bytes, 1), row.record) << row.what;
+    ASSERT_EQ(kFile, bytes.size()) << row.what;
+    EXPECT_EQ(row.record, RecordOf(bytes, 1)) << row.what;
     EXPECT_EQ(RecordOf(bytes, 2), RecordOf(BuiltIn(), 2)) << row.what;
   }
 }
@@ -95,10 +95,10 @@ TEST(LegendCodec, WritesTheHeaderNumberWhateverItIs) {
     LegendTable table;
     table.SetRotationStep(row.number);
     const std::string bytes = EncodeLegend(table);
-    ASSERT_EQ(bytes.size(), kFile) << row.number;
-    EXPECT_EQ(RecordOf(bytes, 0), row.record) << row.number;
+    ASSERT_EQ(kFile, bytes.size()) << row.number;
+    EXPECT_EQ(row.record, RecordOf(bytes, 0)) << row.number;
     LegendTable read;
-    EXPECT_EQ(DecodeLegend(bytes, read), row.readable) << row.number;
+    EXPECT_EQ(row.readable, DecodeLegend(bytes, read)) << row.number;
     EXPECT_EQ(read.RotationStep(), row.readable ? row.number : 10) << row.number;
   }
 }
@@ -106,34 +106,34 @@ TEST(LegendCodec, WritesTheHeaderNumberWhateverItIs) {
 TEST(LegendCodec, OnlyTheFirstSixteenEntriesAreWritten) {
   LegendTable table;
   std::int16_t number = 0;
-  ASSERT_EQ(table.Add(true, {1, 2, 3, 4, 5, 6}, &number), 0);
+  ASSERT_EQ(0, table.Add(true, {1, 2, 3, 4, 5, 6}, &number));
   EXPECT_EQ(EncodeLegend(table), BuiltIn());
 }
 
 TEST(LegendCodec, ReadsBackWhatWasWritten) {
   LegendTable table;
   const LegendStyle style{11, 24, 16, 0, 3, 0x00FF8000};
-  ASSERT_EQ(table.Change(5, true, style), 0);
-  ASSERT_EQ(table.Change(105, false, {105, 9, 8, 7, 2, 255}), 0);
+  ASSERT_EQ(0, table.Change(5, true, style));
+  ASSERT_EQ(0, table.Change(105, false, {105, 9, 8, 7, 2, 255}));
   table.SetRotationStep(15);
   LegendTable read;
   ASSERT_TRUE(DecodeLegend(EncodeLegend(table), read));
   HanRec entry;
-  ASSERT_EQ(read.Get(5, &entry), 0);
-  EXPECT_EQ(entry, (HanRec{5, true, style}));
-  ASSERT_EQ(read.Get(105, &entry), 0);
-  EXPECT_EQ(entry.style, (LegendStyle{105, 9, 8, 7, 2, 255}));
-  EXPECT_EQ(read.RotationStep(), 15);
+  ASSERT_EQ(0, read.Get(5, &entry));
+  EXPECT_EQ((HanRec{5, true, style}), entry);
+  ASSERT_EQ(0, read.Get(105, &entry));
+  EXPECT_EQ((LegendStyle{105, 9, 8, 7, 2, 255}), entry.style);
+  EXPECT_EQ(15, read.RotationStep());
 }
 
 TEST(LegendCodec, TheFirstRoundTripSwaps102And103AndTheSecondNothing) {
   LegendTable once;
   ASSERT_TRUE(DecodeLegend(BuiltIn(), once));
   HanRec entry;
-  ASSERT_EQ(once.Get(102, &entry), 0);
-  EXPECT_EQ(entry.style, (LegendStyle{103, 0, 0, 0, 1, 255}));
-  ASSERT_EQ(once.Get(103, &entry), 0);
-  EXPECT_EQ(entry.style, (LegendStyle{102, 4, 2, 0, 1, 0}));
+  ASSERT_EQ(0, once.Get(102, &entry));
+  EXPECT_EQ((LegendStyle{103, 0, 0, 0, 1, 255}), entry.style);
+  ASSERT_EQ(0, once.Get(103, &entry));
+  EXPECT_EQ((LegendStyle{102, 4, 2, 0, 1, 0}), entry.style);
   EXPECT_EQ(EncodeLegend(once), BuiltIn());
   LegendTable twice;
   ASSERT_TRUE(DecodeLegend(EncodeLegend(once), twice));
@@ -142,7 +142,7 @@ TEST(LegendCodec, TheFirstRoundTripSwaps102And103AndTheSecondNothing) {
 
 TEST(LegendCodec, ALineLegendTurnedPointLegendComesBackAsItsPlaceSays) {
   LegendTable table;
-  ASSERT_EQ(table.Change(1, false, {1, 2, 3, 4, 5, 6}), 0);
+  ASSERT_EQ(0, table.Change(1, false, {1, 2, 3, 4, 5, 6}));
   LegendTable read;
   ASSERT_TRUE(DecodeLegend(EncodeLegend(table), read));
   EXPECT_TRUE(read.Entries().front().is_point);
@@ -176,9 +176,9 @@ TEST(LegendCodec, ReadsNumbersAsFormattedInputDoes) {
               {"blanks", "                              ", false}};
   for (const auto& row : rows) {
     LegendTable table;
-    ASSERT_EQ(DecodeLegend(FileWith(1, row.record), table), row.good) << row.what;
+    ASSERT_EQ(row.good, DecodeLegend(FileWith(1, row.record), table)) << row.what;
     if (row.good) {
-      EXPECT_EQ(table.Entries().front().style, kRead) << row.what;
+      EXPECT_EQ(kRead, table.Entries().front().style) << row.what;
     } else {
       EXPECT_EQ(table.Entries(), LegendTable().Entries()) << row.what;
     }
@@ -201,7 +201,7 @@ TEST(LegendCodec, ABadHeaderIsNotTaken) {
               {"empty", "", false}};
   for (const auto& row : rows) {
     LegendTable table;
-    EXPECT_EQ(DecodeLegend(FileWith(0, row.record), table), row.good) << row.what;
+    EXPECT_EQ(row.good, DecodeLegend(FileWith(0, row.record), table)) << row.what;
     EXPECT_EQ(table.RotationStep(), row.good ? 77 : 10) << row.what;
   }
 }
@@ -215,7 +215,7 @@ TEST(LegendCodec, ABadEntryLeavesTheHeaderNumberTaken) {
     damaged[record * kRecord] = 'x';
     LegendTable table;
     EXPECT_FALSE(DecodeLegend(damaged, table)) << record;
-    EXPECT_EQ(table.RotationStep(), 77) << record;
+    EXPECT_EQ(77, table.RotationStep()) << record;
     EXPECT_EQ(table.Entries(), LegendTable().Entries()) << record;
   }
 }
@@ -236,7 +236,7 @@ TEST(LegendCodec, BytesAfterTheLastRecordDoNotMatter) {
   LegendTable table;
   EXPECT_TRUE(DecodeLegend(BuiltIn() + "more", table));
   EXPECT_TRUE(DecodeLegend(BuiltIn() + BuiltIn(), table));
-  EXPECT_EQ(table.Entries().size(), 16U);
+  EXPECT_EQ(16U, table.Entries().size());
 }
 
 // Sixteen entries are kept, or the built-in ones: never a mixture, never another count.
@@ -244,7 +244,7 @@ void ExpectWholeTable(std::string_view bytes) {
   static const LegendTable kBuiltInTable;
   LegendTable table;
   const bool good = DecodeLegend(bytes, table);
-  ASSERT_EQ(table.Entries().size(), 16U);
+  ASSERT_EQ(16U, table.Entries().size());
   if (!good) {
     ASSERT_TRUE(table.Entries() == kBuiltInTable.Entries());
     return;
@@ -310,7 +310,7 @@ TEST(LegendCodec, AnyValuesThatFitTheirFieldsComeBack) {
         *value = std::uniform_int_distribution<std::int32_t>(-9, 99)(random);
       }
       style.color = std::uniform_int_distribution<std::int32_t>(0, 0xFFFFFF)(random);
-      ASSERT_EQ(table.Change(entry.number, entry.is_point, style), 0);
+      ASSERT_EQ(0, table.Change(entry.number, entry.is_point, style));
     }
     const std::string bytes = EncodeLegend(table);
     LegendTable read;

@@ -25,45 +25,45 @@ TEST(LegendTable, StartsWithTheBuiltInEntries) {
       {104, false, {104, 4, 2, 2, 1, 255}}, {105, false, {105, 4, 2, 2, 1, 255}}};
   const LegendTable table;
   EXPECT_EQ(table.Entries(), std::vector<HanRec>(std::begin(rows), std::end(rows)));
-  EXPECT_EQ(table.RotationStep(), 10);
+  EXPECT_EQ(10, table.RotationStep());
   for (int n = 1; n <= 11; ++n) {
     std::u16string title = u"?";
-    EXPECT_EQ(table.GetTitle(n, &title), 0);
-    EXPECT_EQ(title, u"") << n;
+    EXPECT_EQ(0, table.GetTitle(n, &title));
+    EXPECT_EQ(u"", title) << n;
   }
 }
 
 TEST(LegendTable, AddedEntriesAreNumberedFrom201) {
   LegendTable table;
   std::int16_t number = 0;
-  EXPECT_EQ(table.Add(true, kStyle, &number), 0);
-  EXPECT_EQ(number, 201);
-  EXPECT_EQ(table.Add(false, kStyle, &number), 0);
-  EXPECT_EQ(number, 202);
-  ASSERT_EQ(table.Entries().size(), 18U);
-  EXPECT_EQ(table.Entries()[16], (HanRec{201, true, kStyle}));
-  EXPECT_EQ(table.Entries()[17], (HanRec{202, false, kStyle}));
+  EXPECT_EQ(0, table.Add(true, kStyle, &number));
+  EXPECT_EQ(201, number);
+  EXPECT_EQ(0, table.Add(false, kStyle, &number));
+  EXPECT_EQ(202, number);
+  ASSERT_EQ(18U, table.Entries().size());
+  EXPECT_EQ((HanRec{201, true, kStyle}), table.Entries()[16]);
+  EXPECT_EQ((HanRec{202, false, kStyle}), table.Entries()[17]);
 }
 
 TEST(LegendTable, NumbersWrapAfterTheLargest) {
   LegendTable table;
   std::int16_t number = 0;
-  for (int i = 201; i <= 32767; ++i) ASSERT_EQ(table.Add(true, kStyle, &number), 0);
-  EXPECT_EQ(number, 32767);
-  ASSERT_EQ(table.Add(true, kStyle, &number), 0);
-  EXPECT_EQ(number, -32768);
+  for (int i = 201; i <= 32767; ++i) ASSERT_EQ(0, table.Add(true, kStyle, &number));
+  EXPECT_EQ(32767, number);
+  ASSERT_EQ(0, table.Add(true, kStyle, &number));
+  EXPECT_EQ(-32768, number);
   HanRec entry;
-  EXPECT_EQ(table.Get(-32768, &entry), 0);
+  EXPECT_EQ(0, table.Get(-32768, &entry));
 }
 
 TEST(LegendTable, ChangingReplacesLookAndCategoryOfTheFirstMatch) {
   LegendTable table;
-  EXPECT_EQ(table.Change(5, false, kStyle), 0);
+  EXPECT_EQ(0, table.Change(5, false, kStyle));
   HanRec entry;
-  ASSERT_EQ(table.Get(5, &entry), 0);
-  EXPECT_EQ(entry, (HanRec{5, false, kStyle}));
-  ASSERT_EQ(table.Get(6, &entry), 0);
-  EXPECT_EQ(entry.style.kind, 6);
+  ASSERT_EQ(0, table.Get(5, &entry));
+  EXPECT_EQ((HanRec{5, false, kStyle}), entry);
+  ASSERT_EQ(0, table.Get(6, &entry));
+  EXPECT_EQ(6, entry.style.kind);
 }
 
 TEST(LegendTable, WhereANumberRepeatsTheFirstEntryCounts) {
@@ -71,13 +71,13 @@ TEST(LegendTable, WhereANumberRepeatsTheFirstEntryCounts) {
   std::int16_t number = 0;
   // The run-time numbers go once around until the built-in 5 has a namesake.
   do {
-    ASSERT_EQ(table.Add(true, kStyle, &number), 0);
+    ASSERT_EQ(0, table.Add(true, kStyle, &number));
   } while (number != 5);
   HanRec entry;
-  ASSERT_EQ(table.Get(5, &entry), 0);
-  EXPECT_EQ(entry.style.kind, 5);
-  ASSERT_EQ(table.Change(5, true, {}), 0);
-  EXPECT_EQ(table.Entries().back().style, kStyle);
+  ASSERT_EQ(0, table.Get(5, &entry));
+  EXPECT_EQ(5, entry.style.kind);
+  ASSERT_EQ(0, table.Change(5, true, {}));
+  EXPECT_EQ(kStyle, table.Entries().back().style);
 }
 
 // Every number there is, at lengths before and after the added numbers have gone around.
@@ -87,7 +87,7 @@ TEST(LegendTable, FindsTheFirstEntryFromTheHead) {
     while (table.Entries().size() < length) {
       std::int16_t number = 0;
       const auto place = static_cast<std::int32_t>(table.Entries().size());
-      ASSERT_EQ(table.Add(true, {place, 0, 0, 0, 0, 0}, &number), 0);
+      ASSERT_EQ(0, table.Add(true, {place, 0, 0, 0, 0, 0}, &number));
     }
     std::vector<const HanRec*> first(65536, nullptr);
     for (const HanRec& entry : table.Entries()) {
@@ -111,9 +111,9 @@ TEST(LegendTable, UnknownNumbersAreRefusedAndChangeNothing) {
                                     std::int16_t{106}, std::int16_t{201}, std::int16_t{-1}}) {
     LegendTable table;
     HanRec entry{77, true, kStyle};
-    EXPECT_EQ(table.Get(number, &entry), -1) << number;
-    EXPECT_EQ(entry, (HanRec{77, true, kStyle})) << number;
-    EXPECT_EQ(table.Change(number, true, kStyle), -1) << number;
+    EXPECT_EQ(-1, table.Get(number, &entry)) << number;
+    EXPECT_EQ((HanRec{77, true, kStyle}), entry) << number;
+    EXPECT_EQ(-1, table.Change(number, true, kStyle)) << number;
     EXPECT_EQ(table.Entries(), LegendTable().Entries()) << number;
   }
 }
@@ -127,12 +127,12 @@ TEST(LegendTable, CopiesEntriesInListOrder) {
   for (const auto& row : rows) {
     std::array<HanRec, 20> copies;
     copies.fill({-5, false, {}});
-    EXPECT_EQ(table.CopyOut(row.count, copies.data()), row.copied);
+    EXPECT_EQ(row.copied, table.CopyOut(row.count, copies.data()));
     for (std::size_t i = 0; i < copies.size(); ++i) {
       if (i < row.copied) {
         EXPECT_EQ(copies[i], table.Entries()[i]);
       } else {
-        EXPECT_EQ(copies[i].number, -5);
+        EXPECT_EQ(-5, copies[i].number);
       }
     }
   }
@@ -142,38 +142,38 @@ TEST(LegendTable, HasElevenTitles) {
   LegendTable table;
   for (const int n : {0, 12, -1, 101}) {
     std::u16string title = u"kept";
-    EXPECT_EQ(table.SetTitle(n, u"x"), -1) << n;
-    EXPECT_EQ(table.GetTitle(n, &title), -1) << n;
-    EXPECT_EQ(title, u"kept") << n;
+    EXPECT_EQ(-1, table.SetTitle(n, u"x")) << n;
+    EXPECT_EQ(-1, table.GetTitle(n, &title)) << n;
+    EXPECT_EQ(u"kept", title) << n;
   }
-  EXPECT_EQ(table.SetTitle(1, u"基準点"), 0);
-  EXPECT_EQ(table.SetTitle(11, u"last"), 0);
+  EXPECT_EQ(0, table.SetTitle(1, u"基準点"));
+  EXPECT_EQ(0, table.SetTitle(11, u"last"));
   std::u16string title;
-  EXPECT_EQ(table.GetTitle(1, &title), 0);
-  EXPECT_EQ(title, u"基準点");
-  EXPECT_EQ(table.GetTitle(11, &title), 0);
-  EXPECT_EQ(title, u"last");
-  EXPECT_EQ(table.GetTitle(2, &title), 0);
-  EXPECT_EQ(title, u"");
+  EXPECT_EQ(0, table.GetTitle(1, &title));
+  EXPECT_EQ(u"基準点", title);
+  EXPECT_EQ(0, table.GetTitle(11, &title));
+  EXPECT_EQ(u"last", title);
+  EXPECT_EQ(0, table.GetTitle(2, &title));
+  EXPECT_EQ(u"", title);
 }
 
 TEST(LegendTable, StoredEntriesLeaveAddedOnesInPlace) {
   LegendTable table;
   std::int16_t number = 0;
-  ASSERT_EQ(table.Add(true, kStyle, &number), 0);
+  ASSERT_EQ(0, table.Add(true, kStyle, &number));
   table.TakeStored({});
   HanRec entry;
-  ASSERT_EQ(table.Get(number, &entry), 0);
-  EXPECT_EQ(entry, (HanRec{201, true, kStyle}));
+  ASSERT_EQ(0, table.Get(number, &entry));
+  EXPECT_EQ((HanRec{201, true, kStyle}), entry);
 }
 
 TEST(LegendTable, StoredEntriesAreNumberedByPlace) {
   LegendTable table;
-  ASSERT_EQ(table.SetTitle(1, u"title"), 0);
+  ASSERT_EQ(0, table.SetTitle(1, u"title"));
   std::array<LegendStyle, LegendTable::kStoredLegends> styles;
   for (std::size_t i = 0; i < styles.size(); ++i) styles[i].kind = static_cast<int>(i) + 50;
   table.TakeStored(styles);
-  ASSERT_EQ(table.Entries().size(), 16U);
+  ASSERT_EQ(16U, table.Entries().size());
   for (std::size_t i = 0; i < styles.size(); ++i) {
     const HanRec& entry = table.Entries()[i];
     EXPECT_EQ(entry.number, i < 11 ? static_cast<int>(i) + 1 : static_cast<int>(i) + 90);
@@ -181,8 +181,8 @@ TEST(LegendTable, StoredEntriesAreNumberedByPlace) {
     EXPECT_EQ(entry.style, styles[i]);
   }
   std::u16string title;
-  ASSERT_EQ(table.GetTitle(1, &title), 0);
-  EXPECT_EQ(title, u"title");
+  ASSERT_EQ(0, table.GetTitle(1, &title));
+  EXPECT_EQ(u"title", title);
 }
 
 }  // namespace

@@ -14,9 +14,9 @@ TEST(NamePool, KeepsEachName) {
   const PooledName first = pool.Add(u"T1");
   const PooledName empty = pool.Add(u"");
   const PooledName second = pool.Add(u"測点");
-  EXPECT_EQ(pool.View(first), u"T1");
-  EXPECT_EQ(pool.View(empty), u"");
-  EXPECT_EQ(pool.View(second), u"測点");
+  EXPECT_EQ(u"T1", pool.View(first));
+  EXPECT_EQ(u"", pool.View(empty));
+  EXPECT_EQ(u"測点", pool.View(second));
 }
 
 TEST(NamePool, ReplacingLeavesTheOtherNamesAlone) {
@@ -28,8 +28,8 @@ TEST(NamePool, ReplacingLeavesTheOtherNamesAlone) {
     const PooledName after = pool.Add(u"after");
     pool.Replace(name, text);
     EXPECT_EQ(pool.View(name), text);
-    EXPECT_EQ(pool.View(before), u"before");
-    EXPECT_EQ(pool.View(after), u"after");
+    EXPECT_EQ(u"before", pool.View(before));
+    EXPECT_EQ(u"after", pool.View(after));
   }
 }
 
@@ -42,7 +42,7 @@ TEST(NamePool, ANameMayBeCopiedFromThePoolItself) {
   pool.Replace(other, pool.View(first));
   EXPECT_EQ(pool.View(other), text);
   pool.Replace(other, pool.View(other).substr(7));
-  EXPECT_EQ(pool.View(other), std::u16string(43, u'n'));
+  EXPECT_EQ(std::u16string(43, u'n'), pool.View(other));
 }
 
 TEST(NamePool, SaysWhenGapsOutweighNames) {

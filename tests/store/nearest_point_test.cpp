@@ -40,12 +40,12 @@ class PointsTwice {
     plain_.push_back({key, 1, u"", at, 1});
   }
   void Move(std::size_t which, GroundPoint at) {
-    ASSERT_EQ(points_.Find(plain_[which].key), 0);
-    ASSERT_EQ(points_.SetCurCrd(at), 0);
+    ASSERT_EQ(0, points_.Find(plain_[which].key));
+    ASSERT_EQ(0, points_.SetCurCrd(at));
     plain_[which].at = at;
   }
   void Remove(std::size_t which) {
-    ASSERT_EQ(points_.Remove(plain_[which].key), 0);
+    ASSERT_EQ(0, points_.Remove(plain_[which].key));
     plain_.erase(plain_.begin() + static_cast<std::ptrdiff_t>(which));
   }
   void Clear() {
@@ -59,7 +59,7 @@ class PointsTwice {
     const std::int32_t expected = PlainNearest(plain_, tolerance, at);
     std::int32_t key = 99;
     const int code = points_.FindNearest(tolerance, at, &key);
-    ASSERT_EQ(code, plain_.empty() ? -3 : (expected == 0 ? -1 : 0));
+    ASSERT_EQ(plain_.empty() ? -3 : (expected == 0 ? -1 : 0), code);
     ASSERT_EQ(key, expected) << tolerance << " round " << at.x << ", " << at.y;
   }
 

@@ -118,7 +118,7 @@ TEST(PlaceTree, WithoutPlacesVisitsNothing) {
   EXPECT_TRUE(tree.IsEmpty());
   EXPECT_TRUE(InTree(tree, {{1, 1}, {-1, -1}}, 10).empty());
   tree.Build({{{0, 0}, 5}});
-  EXPECT_EQ(InTree(tree, {{1, 1}, {-1, -1}}, 10), Positions{5});
+  EXPECT_EQ(Positions{5}, InTree(tree, {{1, 1}, {-1, -1}}, 10));
   tree.Build({});
   EXPECT_TRUE(tree.IsEmpty());
   EXPECT_TRUE(InTree(tree, {{1, 1}, {-1, -1}}, 10).empty());

@@ -19,8 +19,8 @@ TEST(SamePlace, IsStrictlyCloserThanTheTolerance) {
               {{0, 5}, false},
               {{std::nan(""), 0}, false}};
   for (const auto& row : rows) {
-    EXPECT_EQ(IsSamePlace({0, 0}, row.other), row.same) << row.other.x << ' ' << row.other.y;
-    EXPECT_EQ(IsSamePlace(row.other, {0, 0}), row.same) << row.other.x << ' ' << row.other.y;
+    EXPECT_EQ(row.same, IsSamePlace({0, 0}, row.other)) << row.other.x << ' ' << row.other.y;
+    EXPECT_EQ(row.same, IsSamePlace(row.other, {0, 0})) << row.other.x << ' ' << row.other.y;
   }
 }
 

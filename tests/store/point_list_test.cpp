@@ -22,20 +22,20 @@ using Keys = std::vector<std::int32_t>;
 
 TEST(PointList, KeepsEveryFieldOfAPoint) {
   CPntList points(3);
-  EXPECT_EQ(points.Open(), 0);
-  EXPECT_EQ(points.Instance(), 3);
-  EXPECT_EQ(points.Add({-7, 42, u"基準点", {1.5, -2.5}, -1}), 0);
-  ASSERT_EQ(points.Find(-7), 0);
+  EXPECT_EQ(0, points.Open());
+  EXPECT_EQ(3, points.Instance());
+  EXPECT_EQ(0, points.Add({-7, 42, u"基準点", {1.5, -2.5}, -1}));
+  ASSERT_EQ(0, points.Find(-7));
   Point point;
-  ASSERT_EQ(points.GetCur(&point), 0);
-  EXPECT_EQ(point.key, -7);
-  EXPECT_EQ(point.number, 42);
-  EXPECT_EQ(point.name, u"基準点");
-  EXPECT_EQ(point.at.x, 1.5);
-  EXPECT_EQ(point.at.y, -2.5);
-  EXPECT_EQ(point.legend, -1);
-  EXPECT_EQ(points.Close(), 0);
-  EXPECT_EQ(points.Count(), 1U);  // closing is no work
+  ASSERT_EQ(0, points.GetCur(&point));
+  EXPECT_EQ(-7, point.key);
+  EXPECT_EQ(42, point.number);
+  EXPECT_EQ(u"基準点", point.name);
+  EXPECT_EQ(1.5, point.at.x);
+  EXPECT_EQ(-2.5, point.at.y);
+  EXPECT_EQ(-1, point.legend);
+  EXPECT_EQ(0, points.Close());
+  EXPECT_EQ(1U, points.Count());  // closing is no work
 }
 
 TEST(PointList, WithoutACurrentPointNothingIsReadOrChanged) {
@@ -44,53 +44,53 @@ TEST(PointList, WithoutACurrentPointNothingIsReadOrChanged) {
   points.SetChanged(false);
   Point point{99, 99, u"kept", {9, 9}, 9};
   GroundPoint at{9, 9};
-  EXPECT_EQ(points.GetCur(&point), -2);
-  EXPECT_EQ(points.GetCurCrd(&at), -2);
-  EXPECT_EQ(points.Next(), -2);
-  EXPECT_EQ(points.SetCurNoNam(5, u"other"), -2);
-  EXPECT_EQ(points.SetCurCrd({5, 5}), -2);
-  EXPECT_EQ(points.SetCurHan(5), -2);
-  EXPECT_EQ(points.SetCur(5, u"other", {5, 5}, 5), -2);
-  EXPECT_EQ(point.key, 99);
-  EXPECT_EQ(point.name, u"kept");
-  EXPECT_EQ(at.x, 9);
+  EXPECT_EQ(-2, points.GetCur(&point));
+  EXPECT_EQ(-2, points.GetCurCrd(&at));
+  EXPECT_EQ(-2, points.Next());
+  EXPECT_EQ(-2, points.SetCurNoNam(5, u"other"));
+  EXPECT_EQ(-2, points.SetCurCrd({5, 5}));
+  EXPECT_EQ(-2, points.SetCurHan(5));
+  EXPECT_EQ(-2, points.SetCur(5, u"other", {5, 5}, 5));
+  EXPECT_EQ(99, point.key);
+  EXPECT_EQ(u"kept", point.name);
+  EXPECT_EQ(9, at.x);
   EXPECT_FALSE(points.Changed());
-  ASSERT_EQ(points.First(), 0);
-  ASSERT_EQ(points.GetCur(&point), 0);
-  EXPECT_EQ(point.number, 1);
-  EXPECT_EQ(point.at.x, 10);
+  ASSERT_EQ(0, points.First());
+  ASSERT_EQ(0, points.GetCur(&point));
+  EXPECT_EQ(1, point.number);
+  EXPECT_EQ(10, point.at.x);
 }
 
 TEST(PointList, AddingAndWalkingKeepTheOrderOfEntry) {
   CPntList points(0);
   for (const std::int32_t key : {5, 3, 9, 3}) points.Add(PointAt(key, 0, 0));
-  EXPECT_EQ(KeysOf(points), (Keys{5, 3, 9, 3}));  // a key may repeat
+  EXPECT_EQ((Keys{5, 3, 9, 3}), KeysOf(points));  // a key may repeat
   Keys walked;
   GroundPoint at;
   for (int code = points.First(); code == 0; code = points.Next()) {
     Point point;
-    ASSERT_EQ(points.GetCur(&point), 0);
-    ASSERT_EQ(points.GetCurCrd(&at), 0);
+    ASSERT_EQ(0, points.GetCur(&point));
+    ASSERT_EQ(0, points.GetCurCrd(&at));
     walked.push_back(point.key);
   }
   EXPECT_EQ(walked, KeysOf(points));
-  EXPECT_EQ(points.GetCurCrd(&at), -2);  // ran off the end
+  EXPECT_EQ(-2, points.GetCurCrd(&at));  // ran off the end
 }
 
 TEST(PointList, ReplacingKeepsTheKeyAndThePlaceInTheList) {
   CPntList points(0);
   for (const std::int32_t key : {1, 2, 3}) points.Add(PointAt(key, key, key));
-  ASSERT_EQ(points.Find(2), 0);
-  ASSERT_EQ(points.SetCur(77, u"a longer name than before", {8, 9}, 201), 0);
-  EXPECT_EQ(KeysOf(points), (Keys{1, 2, 3}));
+  ASSERT_EQ(0, points.Find(2));
+  ASSERT_EQ(0, points.SetCur(77, u"a longer name than before", {8, 9}, 201));
+  EXPECT_EQ((Keys{1, 2, 3}), KeysOf(points));
   Point point;
-  ASSERT_EQ(points.GetCur(&point), 0);
-  EXPECT_EQ(point.key, 2);
-  EXPECT_EQ(point.number, 77);
-  EXPECT_EQ(point.name, u"a longer name than before");
-  EXPECT_EQ(point.at.x, 8);
-  EXPECT_EQ(point.at.y, 9);
-  EXPECT_EQ(point.legend, 201);
+  ASSERT_EQ(0, points.GetCur(&point));
+  EXPECT_EQ(2, point.key);
+  EXPECT_EQ(77, point.number);
+  EXPECT_EQ(u"a longer name than before", point.name);
+  EXPECT_EQ(8, point.at.x);
+  EXPECT_EQ(9, point.at.y);
+  EXPECT_EQ(201, point.legend);
 }
 
 TEST(PointList, TheChangedFlagFollowsItsRules) {
@@ -98,7 +98,7 @@ TEST(PointList, TheChangedFlagFollowsItsRules) {
   EXPECT_FALSE(points.Changed());
   points.Add(PointAt(1, 0, 0));
   EXPECT_TRUE(points.Changed());
-  ASSERT_EQ(points.Find(1), 0);
+  ASSERT_EQ(0, points.Find(1));
   const struct {
     const char* what;
     int (*change)(CPntList&);
@@ -121,8 +121,8 @@ TEST(PointList, TheChangedFlagFollowsItsRules) {
   };
   for (const auto& row : rows) {
     points.SetChanged(false);
-    EXPECT_EQ(row.change(points), 0) << row.what;
-    EXPECT_EQ(points.Changed(), row.changed) << row.what;
+    EXPECT_EQ(0, row.change(points)) << row.what;
+    EXPECT_EQ(row.changed, points.Changed()) << row.what;
   }
   points.Clear();
   EXPECT_FALSE(points.Changed());
@@ -131,69 +131,69 @@ TEST(PointList, TheChangedFlagFollowsItsRules) {
 TEST(PointList, RemovingLeavesNoCurrentPointAndAFailedRemovalKeepsIt) {
   CPntList points(0);
   for (const std::int32_t key : {1, 2, 3}) points.Add(PointAt(key, 0, 0));
-  ASSERT_EQ(points.Find(3), 0);
-  EXPECT_EQ(points.Remove(9), -1);
+  ASSERT_EQ(0, points.Find(3));
+  EXPECT_EQ(-1, points.Remove(9));
   Point point;
-  ASSERT_EQ(points.GetCur(&point), 0);
-  EXPECT_EQ(point.key, 3);
-  EXPECT_EQ(points.Remove(1), 0);
-  EXPECT_EQ(points.GetCur(&point), -2);
-  EXPECT_EQ(KeysOf(points), (Keys{2, 3}));
-  EXPECT_EQ(points.Remove(1), -1);
+  ASSERT_EQ(0, points.GetCur(&point));
+  EXPECT_EQ(3, point.key);
+  EXPECT_EQ(0, points.Remove(1));
+  EXPECT_EQ(-2, points.GetCur(&point));
+  EXPECT_EQ((Keys{2, 3}), KeysOf(points));
+  EXPECT_EQ(-1, points.Remove(1));
 }
 
 TEST(PointList, ClearingForgetsEverything) {
   CPntList points(0);
   for (const std::int32_t key : {1, 2, 3}) points.Add(PointAt(key, 0, 0));
-  ASSERT_EQ(points.Find(2), 0);
+  ASSERT_EQ(0, points.Find(2));
   points.Clear();
-  EXPECT_EQ(points.Count(), 0U);
-  EXPECT_EQ(points.Next(), -2);
-  EXPECT_EQ(points.First(), -1);
-  EXPECT_EQ(points.Find(2), -1);
+  EXPECT_EQ(0U, points.Count());
+  EXPECT_EQ(-2, points.Next());
+  EXPECT_EQ(-1, points.First());
+  EXPECT_EQ(-1, points.Find(2));
   std::int32_t key = 99;
-  EXPECT_EQ(points.FindNearest(1e9, {0, 0}, &key), -3);
-  EXPECT_EQ(key, 0);
+  EXPECT_EQ(-3, points.FindNearest(1e9, {0, 0}, &key));
+  EXPECT_EQ(0, key);
   points.Add(PointAt(2, 0, 0));
-  EXPECT_EQ(KeysOf(points), (Keys{2}));
+  EXPECT_EQ((Keys{2}), KeysOf(points));
 }
 
 TEST(PointList, LocatingLeavesTheCurrentPointAlone) {
   CPntList points(0);
   points.Add(PointAt(1, 10, 20));
   points.Add(PointAt(2, 30, 40));
-  ASSERT_EQ(points.Find(1), 0);
+  ASSERT_EQ(0, points.Find(1));
   GroundPoint at{9, 9};
   EXPECT_FALSE(points.Locate(7, &at));
-  EXPECT_EQ(at.x, 9);
+  EXPECT_EQ(9, at.x);
   EXPECT_TRUE(points.Locate(2, &at));
-  EXPECT_EQ(at.x, 30);
-  EXPECT_EQ(at.y, 40);
-  ASSERT_EQ(points.GetCurCrd(&at), 0);
-  EXPECT_EQ(at.x, 10);
+  EXPECT_EQ(30, at.x);
+  EXPECT_EQ(40, at.y);
+  ASSERT_EQ(0, points.GetCurCrd(&at));
+  EXPECT_EQ(10, at.x);
 }
 
 TEST(PointList, ExtentCoversEveryPoint) {
   CPntList points(0);
   GroundExtent extent{{9, 9}, {9, 9}};
-  EXPECT_EQ(points.GetExtent(&extent), -3);
-  EXPECT_EQ(extent.max.x, 0.0);
-  EXPECT_EQ(extent.min.y, 0.0);
+  EXPECT_EQ(-3, points.GetExtent(&extent));
+  EXPECT_EQ(0.0, extent.max.x);
+  EXPECT_EQ(0.0, extent.min.y);
   points.Add(PointAt(1, 5, -5));
-  EXPECT_EQ(points.GetExtent(&extent), 0);
-  EXPECT_EQ(extent.max.x, 5.0);
-  EXPECT_EQ(extent.min.x, 5.0);
+  EXPECT_EQ(0, points.GetExtent(&extent));
+  EXPECT_EQ(5.0, extent.max.x);
+  EXPECT_EQ(5.0, extent.min.x);
   points.Add(PointAt(2, 7, -9));
   points.Add(PointAt(3, -1, 3));
-  EXPECT_EQ(points.GetExtent(&extent), 0);
-  EXPECT_EQ(extent.max.x, 7.0);
-  EXPECT_EQ(extent.max.y, 3.0);
-  EXPECT_EQ(extent.min.x, -1.0);
-  EXPECT_EQ(extent.min.y, -9.0);
-  ASSERT_EQ(points.Remove(2), 0);
-  EXPECT_EQ(points.GetExtent(&extent), 0);
-  EXPECT_EQ(extent.max.x, 5.0);
-  EXPECT_EQ(extent.min.y, -5.0);
+  EXPECT_EQ(0, points.GetExtent(&extent));
+  EXPECT_EQ(7.0, extent.max.x);
+  EXPECT_EQ(3.0, extent.max.y);
+  EXPECT_EQ(-1.0, extent.min.x);
+  EXPECT_EQ(-9.0, extent.min.y);
+  ASSERT_EQ(0, points.Remove(2));
+  EXPECT_EQ(0, points.GetExtent(&extent));
+  EXPECT_EQ(5.0, extent.max.x);
+  EXPECT_EQ(-5.0, extent.min.y);
 }
 
 TEST(PointList, NamesSurviveManyChanges) {
@@ -208,10 +208,10 @@ TEST(PointList, NamesSurviveManyChanges) {
     const auto letter = static_cast<char16_t>(u'a' + i % 26);
     std::u16string& name = names[static_cast<std::size_t>(key)];
     name.assign(length, letter);
-    ASSERT_EQ(points.Find(key), 0);
-    ASSERT_EQ(points.SetCurNoNam(i, name), 0);
+    ASSERT_EQ(0, points.Find(key));
+    ASSERT_EQ(0, points.SetCurNoNam(i, name));
     if (i % 500 == 0) {  // remove and enter again
-      ASSERT_EQ(points.Remove(key), 0);
+      ASSERT_EQ(0, points.Remove(key));
       points.Add({key, 0, name, {0, 0}, 1});
     }
   }
@@ -249,8 +249,8 @@ TEST(FindNearest, OfEqualsTheEarlierOneWins) {
   points.Add(PointAt(3, -3, 0));
   points.Add(PointAt(4, 0, -3));
   std::int32_t key = 0;
-  EXPECT_EQ(points.FindNearest(10, {0, 0}, &key), 0);
-  EXPECT_EQ(key, 2);
+  EXPECT_EQ(0, points.FindNearest(10, {0, 0}, &key));
+  EXPECT_EQ(2, key);
 }
 
 TEST(FindNearest, StopsAtTenCandidates) {
@@ -259,33 +259,33 @@ TEST(FindNearest, StopsAtTenCandidates) {
   for (int i = 0; i < 10; ++i) points.Add(PointAt(i + 1, 9.0 - i * 0.5, 0));
   points.Add(PointAt(11, 0, 0));
   std::int32_t key = 0;
-  EXPECT_EQ(points.FindNearest(10, {0, 0}, &key), 0);
-  EXPECT_EQ(key, 10);  // the tenth counts, the eleventh does not although it is nearest
-  ASSERT_EQ(points.Remove(3), 0);
-  EXPECT_EQ(points.FindNearest(10, {0, 0}, &key), 0);
-  EXPECT_EQ(key, 11);
+  EXPECT_EQ(0, points.FindNearest(10, {0, 0}, &key));
+  EXPECT_EQ(10, key);  // the tenth counts, the eleventh does not although it is nearest
+  ASSERT_EQ(0, points.Remove(3));
+  EXPECT_EQ(0, points.FindNearest(10, {0, 0}, &key));
+  EXPECT_EQ(11, key);
 }
 
 TEST(FindNearest, LeavesTheCurrentPointAlone) {
   CPntList points(0);
   points.Add(PointAt(1, 0, 0));
   points.Add(PointAt(2, 1, 1));
-  ASSERT_EQ(points.Find(2), 0);
+  ASSERT_EQ(0, points.Find(2));
   std::int32_t key = 0;
-  ASSERT_EQ(points.FindNearest(10, {0, 0}, &key), 0);
-  EXPECT_EQ(key, 1);
+  ASSERT_EQ(0, points.FindNearest(10, {0, 0}, &key));
+  EXPECT_EQ(1, key);
   Point point;
-  ASSERT_EQ(points.GetCur(&point), 0);
-  EXPECT_EQ(point.key, 2);
+  ASSERT_EQ(0, points.GetCur(&point));
+  EXPECT_EQ(2, point.key);
 }
 
 TEST(FindNearest, ANegativeToleranceFindsNothing) {
   CPntList points(0);
   points.Add(PointAt(1, 0, 0));
   std::int32_t key = 99;
-  EXPECT_EQ(points.FindNearest(-1, {0, 0}, &key), -1);
-  EXPECT_EQ(key, 0);
-  EXPECT_EQ(points.FindNearest(0, {0, 0}, &key), 0);
+  EXPECT_EQ(-1, points.FindNearest(-1, {0, 0}, &key));
+  EXPECT_EQ(0, key);
+  EXPECT_EQ(0, points.FindNearest(0, {0, 0}, &key));
 }
 
 }  // namespace

@@ -103,18 +103,18 @@ class ListPair {
     list_.Clear();
     plain_.Clear();
   }
-  void First() { EXPECT_EQ(list_.First(), plain_.First()); }
-  void Next() { EXPECT_EQ(list_.Next(), plain_.Next()); }
-  void FindFirst(std::int32_t key) { EXPECT_EQ(list_.FindFirst(key), plain_.FindFirst(key)); }
-  void FindOutward(std::int32_t key) { EXPECT_EQ(list_.FindOutward(key), plain_.FindOutward(key)); }
+  void First() { EXPECT_EQ(plain_.First(), list_.First()); }
+  void Next() { EXPECT_EQ(plain_.Next(), list_.Next()); }
+  void FindFirst(std::int32_t key) { EXPECT_EQ(plain_.FindFirst(key), list_.FindFirst(key)); }
+  void FindOutward(std::int32_t key) { EXPECT_EQ(plain_.FindOutward(key), list_.FindOutward(key)); }
 
   [[nodiscard]] bool HasCurrent() const { return plain_.Current() != nullptr; }
   [[nodiscard]] std::size_t Count() const { return plain_.Records().size(); }
 
   void ExpectSameCurrent() const {
-    ASSERT_EQ(list_.Current() != nullptr, plain_.Current() != nullptr);
+    ASSERT_EQ(plain_.Current() != nullptr, list_.Current() != nullptr);
     if (plain_.Current()) {
-      ASSERT_EQ(list_.Current()->serial, plain_.Current()->serial);
+      ASSERT_EQ(plain_.Current()->serial, list_.Current()->serial);
     }
   }
 
@@ -123,20 +123,20 @@ class ListPair {
     const Rec* found = list_.Peek(key);
     ASSERT_EQ(found != nullptr, expected.has_value());
     if (found) {
-      ASSERT_EQ(found->serial, plain_.Records()[*expected].serial);
+      ASSERT_EQ(plain_.Records()[*expected].serial, found->serial);
     }
   }
 
   void ExpectSameRecords() const {
-    ASSERT_EQ(list_.Count(), plain_.Records().size());
-    ASSERT_EQ(list_.IsEmpty(), plain_.Records().empty());
+    ASSERT_EQ(plain_.Records().size(), list_.Count());
+    ASSERT_EQ(plain_.Records().empty(), list_.IsEmpty());
     std::size_t at = 0;
     list_.ForEach([&](const Rec& record) {
       ASSERT_LT(at, plain_.Records().size());
-      ASSERT_EQ(record.serial, plain_.Records()[at].serial);
+      ASSERT_EQ(plain_.Records()[at].serial, record.serial);
       ++at;
     });
-    ASSERT_EQ(at, plain_.Records().size());
+    ASSERT_EQ(plain_.Records().size(), at);
   }
 
  private:
@@ -187,43 +187,43 @@ TEST(RecordList, BehavesAsAPlainListInLongRandomUse) {
 TEST(RecordList, EmptyHasNoCurrentRecord) {
   RecordList<Rec> list;
   EXPECT_TRUE(list.IsEmpty());
-  EXPECT_EQ(list.Current(), nullptr);
-  EXPECT_EQ(list.First(), -1);
-  EXPECT_EQ(list.Next(), -2);
-  EXPECT_EQ(list.FindOutward(1), -1);
-  EXPECT_EQ(list.Peek(1), nullptr);
+  EXPECT_EQ(nullptr, list.Current());
+  EXPECT_EQ(-1, list.First());
+  EXPECT_EQ(-2, list.Next());
+  EXPECT_EQ(-1, list.FindOutward(1));
+  EXPECT_EQ(nullptr, list.Peek(1));
 }
 
 TEST(RecordList, NextRunsOffTheEndOnce) {
   RecordList<Rec> list;
   list.Append({1, false, 0});
   list.Append({2, false, 1});
-  EXPECT_EQ(list.First(), 0);
-  EXPECT_EQ(list.Next(), 0);
-  EXPECT_EQ(list.Current()->key, 2);
-  EXPECT_EQ(list.Next(), -1);
-  EXPECT_EQ(list.Current(), nullptr);
-  EXPECT_EQ(list.Next(), -2);
+  EXPECT_EQ(0, list.First());
+  EXPECT_EQ(0, list.Next());
+  EXPECT_EQ(2, list.Current()->key);
+  EXPECT_EQ(-1, list.Next());
+  EXPECT_EQ(nullptr, list.Current());
+  EXPECT_EQ(-2, list.Next());
 }
 
 TEST(RecordList, AFailedSearchLosesOnlyACursorItDidNotStartFrom) {
   RecordList<Rec> list;
   list.Append({1, false, 0});
-  EXPECT_EQ(list.FindOutward(9), -1);
-  EXPECT_EQ(list.Current(), nullptr);
-  EXPECT_EQ(list.FindOutward(1), 0);
-  EXPECT_EQ(list.FindOutward(9), -1);
-  ASSERT_NE(list.Current(), nullptr);
-  EXPECT_EQ(list.Current()->key, 1);
+  EXPECT_EQ(-1, list.FindOutward(9));
+  EXPECT_EQ(nullptr, list.Current());
+  EXPECT_EQ(0, list.FindOutward(1));
+  EXPECT_EQ(-1, list.FindOutward(9));
+  ASSERT_NE(nullptr, list.Current());
+  EXPECT_EQ(1, list.Current()->key);
 }
 
 TEST(RecordList, AppendingKeepsTheCurrentRecord) {
   RecordList<Rec> list;
   list.Append({1, false, 0});
-  ASSERT_EQ(list.First(), 0);
+  ASSERT_EQ(0, list.First());
   for (int i = 0; i < 1000; ++i) list.Append({i, false, i + 1});
-  ASSERT_NE(list.Current(), nullptr);
-  EXPECT_EQ(list.Current()->serial, 0);
+  ASSERT_NE(nullptr, list.Current());
+  EXPECT_EQ(0, list.Current()->serial);
 }
 
 // Serials are places: the search goes from the place `from` for the key 7.
@@ -245,10 +245,10 @@ TEST(RecordList, OutwardSearchPrefersTheNearerAndThenTheBackwardOne) {
     RecordList<Rec> list;
     int place = 0;
     for (const char digit : std::string(row.keys)) list.Append({digit - '0', false, place++});
-    ASSERT_EQ(list.First(), 0);
-    for (int i = 0; i < row.from; ++i) ASSERT_EQ(list.Next(), 0);
-    ASSERT_EQ(list.FindOutward(7), 0) << row.keys;
-    EXPECT_EQ(list.Current()->serial, row.found) << row.keys << " from " << row.from;
+    ASSERT_EQ(0, list.First());
+    for (int i = 0; i < row.from; ++i) ASSERT_EQ(0, list.Next());
+    ASSERT_EQ(0, list.FindOutward(7)) << row.keys;
+    EXPECT_EQ(row.found, list.Current()->serial) << row.keys << " from " << row.from;
   }
 }
 
@@ -256,12 +256,12 @@ TEST(RecordList, RemovedRecordsDoNotCountAsDistance) {
   RecordList<Rec> list;
   for (int i = 0; i < 7; ++i) list.Append({i == 0 || i == 6 ? 7 : i, false, i});
   for (const std::int32_t key : {4, 5}) {
-    ASSERT_EQ(list.FindFirst(key), 0);
+    ASSERT_EQ(0, list.FindFirst(key));
     list.RemoveCurrent();
   }
-  ASSERT_EQ(list.FindFirst(3), 0);  // three rounds back, one ahead now
-  ASSERT_EQ(list.FindOutward(7), 0);
-  EXPECT_EQ(list.Current()->serial, 6);
+  ASSERT_EQ(0, list.FindFirst(3));  // three rounds back, one ahead now
+  ASSERT_EQ(0, list.FindOutward(7));
+  EXPECT_EQ(6, list.Current()->serial);
 }
 
 TEST(RecordList, KeepsItsOrderWhileHolesAreClosed) {
@@ -269,19 +269,19 @@ TEST(RecordList, KeepsItsOrderWhileHolesAreClosed) {
   for (int i = 0; i < 1000; ++i) list.Append({i, false, i});
   for (int i = 0; i < 1000; ++i) {
     if (i % 10 == 3) continue;
-    ASSERT_EQ(list.FindOutward(i), 0);
+    ASSERT_EQ(0, list.FindOutward(i));
     list.RemoveCurrent();
-    EXPECT_EQ(list.Current(), nullptr);
+    EXPECT_EQ(nullptr, list.Current());
   }
-  EXPECT_EQ(list.Count(), 100U);
+  EXPECT_EQ(100U, list.Count());
   int expected = 3;
   list.ForEach([&](const Rec& record) {
     EXPECT_EQ(record.key, expected);
     expected += 10;
   });
-  EXPECT_EQ(expected, 1003);
-  EXPECT_EQ(list.First(), 0);
-  EXPECT_EQ(list.Current()->key, 3);
+  EXPECT_EQ(1003, expected);
+  EXPECT_EQ(0, list.First());
+  EXPECT_EQ(3, list.Current()->key);
 }
 
 TEST(RecordList, AWalkMayChangeRecords) {
@@ -290,29 +290,29 @@ TEST(RecordList, AWalkMayChangeRecords) {
   list.ForEach([](Rec& record) { record.serial = record.key * 10; });
   const RecordList<Rec>& read_only = list;
   read_only.ForEach([&](const Rec& record) { EXPECT_EQ(record.serial, record.key * 10); });
-  EXPECT_EQ(list.Current(), nullptr);
+  EXPECT_EQ(nullptr, list.Current());
 }
 
 TEST(RecordList, PositionsRiseInListOrderUntilTheyAreNumberedAnew) {
   RecordList<Rec> list;
   for (int i = 0; i < 300; ++i) list.Append({i, false, i});
   const std::uint64_t numbering = list.Numbering();
-  ASSERT_EQ(list.FindFirst(7), 0);
-  EXPECT_EQ(list.CurrentPosition(), 7U);
+  ASSERT_EQ(0, list.FindFirst(7));
+  EXPECT_EQ(7U, list.CurrentPosition());
   list.RemoveCurrent();
-  EXPECT_EQ(list.ByPosition().size(), 300U);
+  EXPECT_EQ(300U, list.ByPosition().size());
   EXPECT_TRUE(list.ByPosition()[7].removed);
-  EXPECT_EQ(list.ByPosition()[8].serial, 8);
+  EXPECT_EQ(8, list.ByPosition()[8].serial);
   EXPECT_EQ(list.Numbering(), numbering);
   for (int i = 20; i < 250; ++i) {
-    ASSERT_EQ(list.FindFirst(i), 0);
+    ASSERT_EQ(0, list.FindFirst(i));
     list.RemoveCurrent();
   }
   EXPECT_LT(list.ByPosition().size(), 300U) << "the holes are closed";
   EXPECT_NE(list.Numbering(), numbering);
   const std::uint64_t closed = list.Numbering();
   list.Clear();
-  EXPECT_EQ(list.ByPosition().size(), 0U);
+  EXPECT_EQ(0U, list.ByPosition().size());
   EXPECT_NE(list.Numbering(), closed);
 }
 

@@ -94,7 +94,7 @@ TEST(PointInQuad, BordersAreInside) {
               {{120, 90}, true},   {{-1, 90}, false},   {{241, 90}, false}, {{120, -1}, false},
               {{120, 181}, false}, {{241, 181}, false}, {{-1, -1}, false}};
   for (const auto& row : rows) {
-    EXPECT_EQ(PointInQuad(quad, row.point), row.inside) << row.point.x << ' ' << row.point.y;
+    EXPECT_EQ(row.inside, PointInQuad(quad, row.point)) << row.point.x << ' ' << row.point.y;
   }
 }
 
@@ -138,22 +138,22 @@ TEST(ClipToQuad, GivesTheUsualEnds) {
   };
   for (const ClipRow& row : rows) {
     ScreenSegment clipped = row.given;
-    ASSERT_EQ(ClipToQuad(quad, clipped), row.clipped.has_value()) << row.what;
+    ASSERT_EQ(row.clipped.has_value(), ClipToQuad(quad, clipped)) << row.what;
     if (!row.clipped) continue;
-    EXPECT_EQ(clipped.start, row.clipped->start) << row.what;
-    EXPECT_EQ(clipped.end, row.clipped->end) << row.what;
+    EXPECT_EQ(row.clipped->start, clipped.start) << row.what;
+    EXPECT_EQ(row.clipped->end, clipped.end) << row.what;
   }
 }
 
 TEST(ClipToQuad, ThroughTwoCornersCrossesFourBordersInTwoPoints) {
   ScreenSegment diagonal{{-10, -10}, {110, 110}};
   ASSERT_TRUE(ClipToQuad(QuadOf(100, 100), diagonal));
-  EXPECT_EQ(diagonal.start, (ScreenPoint{0, 0}));
-  EXPECT_EQ(diagonal.end, (ScreenPoint{100, 100}));
+  EXPECT_EQ((ScreenPoint{0, 0}), diagonal.start);
+  EXPECT_EQ((ScreenPoint{100, 100}), diagonal.end);
   ScreenSegment one_corner{{-50, -100}, {150, 300}};  // corner (0, 0), then the bottom at x = 50
   ASSERT_TRUE(ClipToQuad(QuadOf(100, 100), one_corner));
-  EXPECT_EQ(one_corner.start, (ScreenPoint{0, 0}));
-  EXPECT_EQ(one_corner.end, (ScreenPoint{50, 100}));
+  EXPECT_EQ((ScreenPoint{0, 0}), one_corner.start);
+  EXPECT_EQ((ScreenPoint{50, 100}), one_corner.end);
 }
 
 TEST(ClipToQuad, EverySegmentAroundSmallRectanglesFollowsThePlainRules) {
@@ -173,7 +173,7 @@ TEST(ClipToQuad, EverySegmentAroundSmallRectanglesFollowsThePlainRules) {
       }
     }
   }
-  EXPECT_EQ(most_crossings, 2U);  // a corner is one point, however many borders meet there
+  EXPECT_EQ(2U, most_crossings);  // a corner is one point, however many borders meet there
 }
 
 TEST(ClipToQuad, RandomSegmentsFollowThePlainRules) {
@@ -199,7 +199,7 @@ TEST(IntersectSegments, ParallelSegmentsDoNotCross) {
   for (const ScreenSegment& segment : rows) {
     ScreenPoint crossing{-7, -7};
     EXPECT_FALSE(IntersectSegments(edge, segment, crossing)) << segment.start.x;
-    EXPECT_EQ(crossing, (ScreenPoint{-7, -7}));
+    EXPECT_EQ((ScreenPoint{-7, -7}), crossing);
   }
   ScreenPoint crossing;
   EXPECT_FALSE(IntersectSegments({{50, 0}, {50, 0}}, {{0, -9}, {100, 9}}, crossing));
@@ -218,10 +218,10 @@ TEST(IntersectSegments, EndsCount) {
       {{{30, -1}, {30, -50}}, std::nullopt}};
   for (const auto& row : rows) {
     ScreenPoint crossing;
-    ASSERT_EQ(IntersectSegments(edge, row.segment, crossing), row.crossing.has_value())
+    ASSERT_EQ(row.crossing.has_value(), IntersectSegments(edge, row.segment, crossing))
         << row.segment.start.x;
     if (row.crossing) {
-      EXPECT_EQ(crossing, *row.crossing);
+      EXPECT_EQ(*row.crossing, crossing);
     }
   }
 }
@@ -230,9 +230,9 @@ TEST(IntersectSegments, TruncatesTheWayAlongTheEdgeAndNotThePosition) {
   const ScreenSegment segment{{0, -1}, {1, 1}};  // meets y = 0 at x = 0.5
   ScreenPoint crossing;
   ASSERT_TRUE(IntersectSegments({{0, 0}, {10, 0}}, segment, crossing));
-  EXPECT_EQ(crossing, (ScreenPoint{0, 0}));
+  EXPECT_EQ((ScreenPoint{0, 0}), crossing);
   ASSERT_TRUE(IntersectSegments({{10, 0}, {0, 0}}, segment, crossing));
-  EXPECT_EQ(crossing, (ScreenPoint{1, 0}));  // 9.5 along: 9
+  EXPECT_EQ((ScreenPoint{1, 0}), crossing);  // 9.5 along: 9
 }
 
 #if defined(__SIZEOF_INT128__)
@@ -314,7 +314,7 @@ TEST(ClipGroundSegment, RefusesWhatLiesOnOneSide) {
               {"across", {100, -130}, {-100, 130}, true}};
   for (const auto& row : rows) {
     ScreenSegment clipped{{-7, -7}, {-7, -7}};
-    EXPECT_EQ(view.ClipGroundSegment(row.start, row.end, clipped), row.visible) << row.what;
+    EXPECT_EQ(row.visible, view.ClipGroundSegment(row.start, row.end, clipped)) << row.what;
     EXPECT_EQ(clipped.start == (ScreenPoint{-7, -7}), !row.visible) << row.what;
   }
 }
@@ -324,11 +324,11 @@ TEST(ClipGroundSegment, EndsBeyondThePixelRangeAreClippedLikeNearOnes) {
   view.SetScreenSize(240, 180);
   ScreenSegment clipped;
   ASSERT_TRUE(view.ClipGroundSegment({0, -1e200}, {0, 1e200}, clipped));
-  EXPECT_EQ(clipped.start, (ScreenPoint{240, 90}));
-  EXPECT_EQ(clipped.end, (ScreenPoint{0, 90}));
+  EXPECT_EQ((ScreenPoint{240, 90}), clipped.start);
+  EXPECT_EQ((ScreenPoint{0, 90}), clipped.end);
   ASSERT_TRUE(view.ClipGroundSegment({30, 20}, {-1e200, 20}, clipped));
-  EXPECT_EQ(clipped.start, (ScreenPoint{140, 60}));
-  EXPECT_EQ(clipped.end, (ScreenPoint{140, 180}));
+  EXPECT_EQ((ScreenPoint{140, 60}), clipped.start);
+  EXPECT_EQ((ScreenPoint{140, 180}), clipped.end);
   EXPECT_FALSE(view.ClipGroundSegment({std::nan(""), 0}, {std::nan(""), 1}, clipped));
 }
 
@@ -339,9 +339,9 @@ TEST(ClipGroundSegment, TheFirstGroundEndGetsTheFirstClippedEnd) {
   GroundPoint east{0, 1000};
   ScreenSegment clipped;
   ASSERT_TRUE(view.ClipGroundSegmentInPlace(west, east, clipped));
-  EXPECT_EQ(clipped.start, (ScreenPoint{240, 90}));  // the right border comes before the left one
-  EXPECT_EQ(west.y, 120.0);
-  EXPECT_EQ(east.y, -120.0);
+  EXPECT_EQ((ScreenPoint{240, 90}), clipped.start);  // the right border comes before the left one
+  EXPECT_EQ(120.0, west.y);
+  EXPECT_EQ(-120.0, east.y);
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ TEST(TruncateToInt, GoesTowardZeroAndStopsAtTheRange) {
               {kInfinity, kMax},
               {-kInfinity, kMin},
               {std::nan(""), kMin}};
-  for (const auto& row : rows) EXPECT_EQ(TruncateToInt(row.value), row.pixel) << row.value;
+  for (const auto& row : rows) EXPECT_EQ(row.pixel, TruncateToInt(row.value)) << row.value;
 }
 
 }  // namespace

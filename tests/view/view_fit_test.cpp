@@ -40,10 +40,10 @@ TEST(FitToArea, LeavesAMarginOfTwentyPixels) {
       {"between the proportions with and without margin", {135, 100}, 220.0 / 135, false}};
   for (const BoxRow& row : rows) {
     CViewState view = ViewOf(240, 180);
-    EXPECT_EQ(view.FitToArea(row.size, kCentre), row.cut) << row.what;
-    EXPECT_EQ(view.Scale(), row.scale) << row.what;
-    EXPECT_EQ(view.VScale(), row.scale) << row.what;
-    EXPECT_EQ(view.HomeScale(), row.scale) << row.what;
+    EXPECT_EQ(row.cut, view.FitToArea(row.size, kCentre)) << row.what;
+    EXPECT_EQ(row.scale, view.Scale()) << row.what;
+    EXPECT_EQ(row.scale, view.VScale()) << row.what;
+    EXPECT_EQ(row.scale, view.HomeScale()) << row.what;
     EXPECT_EQ(view.Centre().x, kCentre.x) << row.what;
     EXPECT_EQ(view.Centre().y, kCentre.y) << row.what;
     EXPECT_FALSE(view.NoViewYet()) << row.what;
@@ -53,43 +53,43 @@ TEST(FitToArea, LeavesAMarginOfTwentyPixels) {
 TEST(FitToArea, NorthLimitsWhereTheProportionsAreEqual) {
   CViewState view = ViewOf(200, 100);
   EXPECT_FALSE(view.FitToArea({200, 100}, kCentre));
-  EXPECT_EQ(view.Scale(), 80 * (1.0 / 100));  // and not 180 / 200
+  EXPECT_EQ(80 * (1.0 / 100), view.Scale());  // and not 180 / 200
   EXPECT_FALSE(view.ZoomToArea({200, 100}, kCentre));
-  EXPECT_EQ(view.Scale(), 1.0);
+  EXPECT_EQ(1.0, view.Scale());
 }
 
 TEST(FitToArea, TheCapItselfIsNoCut) {
   CViewState view = ViewOf(120, 120);
   EXPECT_FALSE(view.FitToArea({0.001, 0}, kCentre));
-  EXPECT_EQ(view.Scale(), 100000.0);
+  EXPECT_EQ(100000.0, view.Scale());
 }
 
 TEST(FitToArea, CountsTheBoxTurnedByTheAngle) {
   CViewState view = ViewOf(240, 180);
-  ASSERT_EQ(view.SetAngle(90), 0);
+  ASSERT_EQ(0, view.SetAngle(90));
   EXPECT_FALSE(view.FitToArea({100, 50}, kCentre));
-  EXPECT_EQ(view.Scale(), 160 * (1.0 / 100));
+  EXPECT_EQ(160 * (1.0 / 100), view.Scale());
   // A line to the east stands upright now: its east size has become nothing.
   EXPECT_FALSE(view.FitToArea({100, 0}, kCentre));
-  EXPECT_EQ(view.Scale(), 160.0 / 100);
-  ASSERT_EQ(view.SetAngle(45), 0);
+  EXPECT_EQ(160.0 / 100, view.Scale());
+  ASSERT_EQ(0, view.SetAngle(45));
   EXPECT_FALSE(view.FitToArea({100, 0}, kCentre));
-  EXPECT_NEAR(view.Scale(), 160 / (100 * std::sqrt(0.5)), 1e-12);
+  EXPECT_NEAR(160 / (100 * std::sqrt(0.5)), view.Scale(), 1e-12);
 }
 
 TEST(FitToArea, TheRatioStretchesTheNorthSize) {
   CViewState view = ViewOf(240, 180);
   view.SetRatio(2.0);
   EXPECT_FALSE(view.FitToArea({100, 50}, kCentre));  // a square of 100
-  EXPECT_EQ(view.Scale(), 160 * (1.0 / 100));
+  EXPECT_EQ(160 * (1.0 / 100), view.Scale());
   EXPECT_EQ(view.VScale(), 2 * view.Scale());
   view.SetRatio(0.0);
   EXPECT_FALSE(view.FitToArea({100, 50}, kCentre));  // nothing left of the north size
-  EXPECT_EQ(view.Scale(), 220.0 / 100);
+  EXPECT_EQ(220.0 / 100, view.Scale());
   view.SetRatio(-1.0);
   EXPECT_FALSE(view.FitToArea({0, 50}, kCentre));  // counts as a box without size
-  EXPECT_EQ(view.Scale(), 1.0);
-  EXPECT_EQ(view.VScale(), -1.0);
+  EXPECT_EQ(1.0, view.Scale());
+  EXPECT_EQ(-1.0, view.VScale());
 }
 
 TEST(FitToArea, TheFirstFitIsItsOwnPreviousView) {
@@ -97,7 +97,7 @@ TEST(FitToArea, TheFirstFitIsItsOwnPreviousView) {
   view.SetCentre({7, 8});
   EXPECT_FALSE(view.FitToArea({100, 50}, kCentre));
   view.ToggleHome();
-  EXPECT_EQ(view.Scale(), 2.2);
+  EXPECT_EQ(2.2, view.Scale());
   EXPECT_EQ(view.Centre().x, kCentre.x);
   EXPECT_EQ(view.Centre().y, kCentre.y);
 }
@@ -106,15 +106,15 @@ TEST(FitToArea, ALaterFitRemembersTheViewBefore) {
   CViewState view = ViewOf(240, 180);
   EXPECT_FALSE(view.FitToArea({100, 50}, kCentre));
   EXPECT_FALSE(view.FitToArea({220, 10}, {-3, -4}));
-  EXPECT_EQ(view.HomeScale(), 1.0);
+  EXPECT_EQ(1.0, view.HomeScale());
   view.ToggleHome();
-  EXPECT_EQ(view.Scale(), 2.2);
+  EXPECT_EQ(2.2, view.Scale());
   EXPECT_EQ(view.Centre().x, kCentre.x);
   EXPECT_EQ(view.Centre().y, kCentre.y);
-  EXPECT_EQ(view.HomeScale(), 1.0);
+  EXPECT_EQ(1.0, view.HomeScale());
   view.ToggleHome();
-  EXPECT_EQ(view.Scale(), 1.0);
-  EXPECT_EQ(view.Centre().x, -3);
+  EXPECT_EQ(1.0, view.Scale());
+  EXPECT_EQ(-3, view.Centre().x);
 }
 
 TEST(FitToRect, TakesTheGivenSizeInPlaceOfTheClientArea) {
@@ -132,9 +132,9 @@ TEST(FitToRect, TakesTheGivenSizeInPlaceOfTheClientArea) {
   for (const auto& row : rows) {
     CViewState view = ViewOf(240, 180);
     EXPECT_FALSE(view.FitToRect(row.width, row.height, row.size, kCentre));
-    EXPECT_EQ(view.Scale(), row.scale);
-    EXPECT_EQ(view.HomeScale(), row.scale);
-    EXPECT_EQ(view.GroundToScreen(kCentre), (ScreenPoint{120, 90}));  // still mid client area
+    EXPECT_EQ(row.scale, view.Scale());
+    EXPECT_EQ(row.scale, view.HomeScale());
+    EXPECT_EQ((ScreenPoint{120, 90}), view.GroundToScreen(kCentre));  // still mid client area
     EXPECT_FALSE(view.NoViewYet());
   }
 }
@@ -152,9 +152,9 @@ TEST(ZoomToArea, FillsTheClientArea) {
   for (const BoxRow& row : rows) {
     CViewState view = ViewOf(240, 180);
     view.SetRatio(1.0);
-    EXPECT_EQ(view.ZoomToArea(row.size, kCentre), row.cut) << row.what;
-    EXPECT_EQ(view.Scale(), row.scale) << row.what;
-    EXPECT_EQ(view.VScale(), row.scale) << row.what;
+    EXPECT_EQ(row.cut, view.ZoomToArea(row.size, kCentre)) << row.what;
+    EXPECT_EQ(row.scale, view.Scale()) << row.what;
+    EXPECT_EQ(row.scale, view.VScale()) << row.what;
     EXPECT_EQ(view.Centre().x, kCentre.x) << row.what;
     EXPECT_EQ(view.Centre().y, kCentre.y) << row.what;
   }
@@ -164,21 +164,21 @@ TEST(ZoomToArea, LeavesTheHomeViewAlone) {
   CViewState view = ViewOf(240, 180);
   EXPECT_FALSE(view.FitToArea({100, 50}, kCentre));
   EXPECT_FALSE(view.ZoomToArea({100, 50}, {1, 2}));
-  EXPECT_EQ(view.Scale(), 2.4);
-  EXPECT_EQ(view.HomeScale(), 2.2);
+  EXPECT_EQ(2.4, view.Scale());
+  EXPECT_EQ(2.2, view.HomeScale());
   view.ToggleHome();
-  EXPECT_EQ(view.Scale(), 2.2);
+  EXPECT_EQ(2.2, view.Scale());
   EXPECT_EQ(view.Centre().x, kCentre.x);
   view.ToggleHome();
-  EXPECT_EQ(view.Scale(), 2.4);
-  EXPECT_EQ(view.Centre().x, 1);
+  EXPECT_EQ(2.4, view.Scale());
+  EXPECT_EQ(1, view.Centre().x);
 }
 
 TEST(ZoomToArea, BeforeTheFirstFitThereIsStillNoView) {
   CViewState view = ViewOf(240, 180);
   EXPECT_FALSE(view.ZoomToArea({100, 50}, {1, 2}));
   EXPECT_TRUE(view.NoViewYet());
-  EXPECT_EQ(view.HomeScale(), 1.0);
+  EXPECT_EQ(1.0, view.HomeScale());
 }
 
 TEST(ZoomToArea, RemembersTheViewBefore) {
@@ -188,14 +188,14 @@ TEST(ZoomToArea, RemembersTheViewBefore) {
   EXPECT_FALSE(view.ZoomToArea({10, 10}, kCentre));
   EXPECT_FALSE(view.SetFitScale(22, 10, 1.0));  // at the home scale again
   view.ToggleHome();
-  EXPECT_EQ(view.Centre().x, 510);  // what the zoom left, not the fit
+  EXPECT_EQ(510, view.Centre().x);  // what the zoom left, not the fit
 }
 
 TEST(RotatedExtent, IsTheBoxAroundTheTurnedBox) {
   CViewState view;
   constexpr double kRadiansPerDegree = 0.017453292519943295;
   for (int angle = 0; angle < 360; ++angle) {
-    ASSERT_EQ(view.SetAngle(angle), 0);
+    ASSERT_EQ(0, view.SetAngle(angle));
     const double c = std::fabs(std::cos(angle * kRadiansPerDegree));
     const double s = std::fabs(std::sin(angle * kRadiansPerDegree));
     for (const GroundSize size : {GroundSize{100, 50}, {50, 100}, {0, 30}, {-100, 50}, {-2, -3}}) {
@@ -213,10 +213,10 @@ TEST(RotatedExtent, IsExactAtRightAngles) {
     GroundSize box;
   } rows[] = {{0, {100, 50}}, {90, {50, 100}}, {180, {100, 50}}, {270, {50, 100}}};
   for (const auto& row : rows) {
-    ASSERT_EQ(view.SetAngle(row.angle), 0);
+    ASSERT_EQ(0, view.SetAngle(row.angle));
     const GroundSize box = view.RotatedExtent({100, 50});
-    EXPECT_EQ(box.east, row.box.east) << row.angle;
-    EXPECT_EQ(box.north, row.box.north) << row.angle;
+    EXPECT_EQ(row.box.east, box.east) << row.angle;
+    EXPECT_EQ(row.box.north, box.north) << row.angle;
   }
 }
 
@@ -224,13 +224,13 @@ TEST(HomeToggle, PanningAndTogglingTwiceComesBackToThePannedView) {
   CViewState view = ViewOf(240, 180);
   EXPECT_FALSE(view.FitToArea({100, 50}, kCentre));
   view.SetCentre({700, 800});
-  EXPECT_EQ(view.Scale(), 2.2);
+  EXPECT_EQ(2.2, view.Scale());
   view.ToggleHome();
   EXPECT_EQ(view.Centre().x, kCentre.x);
   EXPECT_EQ(view.Centre().y, kCentre.y);
   view.ToggleHome();
-  EXPECT_EQ(view.Centre().x, 700);
-  EXPECT_EQ(view.Centre().y, 800);
+  EXPECT_EQ(700, view.Centre().x);
+  EXPECT_EQ(800, view.Centre().y);
 }
 
 }  // namespace

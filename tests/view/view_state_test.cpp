@@ -23,30 +23,30 @@ CViewState ViewAtScale(int width, int height, double scale) {
 
 TEST(ViewState, FreshViewShowsTheOriginAtPixelTen) {
   const CViewState view;
-  EXPECT_EQ(view.GroundToScreen({0, 0}), (ScreenPoint{10, 10}));
-  EXPECT_DOUBLE_EQ(view.Scale(), 1.0);
-  EXPECT_DOUBLE_EQ(view.VScale(), 1.0);
-  EXPECT_DOUBLE_EQ(view.Ratio(), 1.0);
-  EXPECT_EQ(view.Angle(), 0);
+  EXPECT_EQ((ScreenPoint{10, 10}), view.GroundToScreen({0, 0}));
+  EXPECT_DOUBLE_EQ(1.0, view.Scale());
+  EXPECT_DOUBLE_EQ(1.0, view.VScale());
+  EXPECT_DOUBLE_EQ(1.0, view.Ratio());
+  EXPECT_EQ(0, view.Angle());
   EXPECT_TRUE(view.NoViewYet());
 }
 
 TEST(ViewState, EastIsRightAndNorthIsUp) {
   CViewState view = ViewAtScale(240, 180, 2.0);
   view.SetCentre({1000, 2000});
-  EXPECT_EQ(view.GroundToScreen({1005, 2010}), (ScreenPoint{140, 80}));
+  EXPECT_EQ((ScreenPoint{140, 80}), view.GroundToScreen({1005, 2010}));
 }
 
 TEST(ViewState, TurnsThePictureClockwise) {
   CViewState view = ViewOf(240, 180);
   const GroundPoint north{10, 0};
-  EXPECT_EQ(view.GroundToScreen(north), (ScreenPoint{120, 80}));
-  ASSERT_EQ(view.SetAngle(90), 0);
-  EXPECT_EQ(view.GroundToScreen(north), (ScreenPoint{130, 90}));
-  ASSERT_EQ(view.SetAngle(180), 0);
-  EXPECT_EQ(view.GroundToScreen(north), (ScreenPoint{120, 100}));
-  ASSERT_EQ(view.SetAngle(270), 0);
-  EXPECT_EQ(view.GroundToScreen(north), (ScreenPoint{110, 90}));
+  EXPECT_EQ((ScreenPoint{120, 80}), view.GroundToScreen(north));
+  ASSERT_EQ(0, view.SetAngle(90));
+  EXPECT_EQ((ScreenPoint{130, 90}), view.GroundToScreen(north));
+  ASSERT_EQ(0, view.SetAngle(180));
+  EXPECT_EQ((ScreenPoint{120, 100}), view.GroundToScreen(north));
+  ASSERT_EQ(0, view.SetAngle(270));
+  EXPECT_EQ((ScreenPoint{110, 90}), view.GroundToScreen(north));
 }
 
 TEST(ViewState, RightAnglesAreExact) {
@@ -57,19 +57,19 @@ TEST(ViewState, RightAnglesAreExact) {
     double sin_a;
   } rows[] = {{0, 1, 0}, {90, 0, 1}, {180, -1, 0}, {270, 0, -1}};
   for (const auto& row : rows) {
-    ASSERT_EQ(view.SetAngle(row.angle), 0);
-    EXPECT_EQ(view.CosA(), row.cos_a) << row.angle;
-    EXPECT_EQ(view.SinA(), row.sin_a) << row.angle;
+    ASSERT_EQ(0, view.SetAngle(row.angle));
+    EXPECT_EQ(row.cos_a, view.CosA()) << row.angle;
+    EXPECT_EQ(row.sin_a, view.SinA()) << row.angle;
   }
 }
 
 TEST(ViewState, RefusesAnglesOutsideAFullTurn) {
   CViewState view;
-  ASSERT_EQ(view.SetAngle(33), 0);
-  EXPECT_EQ(view.SetAngle(360), -1);
-  EXPECT_EQ(view.SetAngle(-1), -1);
-  EXPECT_EQ(view.Angle(), 33);
-  EXPECT_EQ(view.SetAngle(359), 0);
+  ASSERT_EQ(0, view.SetAngle(33));
+  EXPECT_EQ(-1, view.SetAngle(360));
+  EXPECT_EQ(-1, view.SetAngle(-1));
+  EXPECT_EQ(33, view.Angle());
+  EXPECT_EQ(0, view.SetAngle(359));
 }
 
 TEST(ViewState, RotatingByAStepTakesOffOneTurnOnly) {
@@ -83,28 +83,28 @@ TEST(ViewState, RotatingByAStepTakesOffOneTurnOnly) {
       {0, -360, 0, 0},   {0, -361, -1, 0}, {5, 2147483647, -1, 5}, {5, -2147483647 - 1, -1, 5}};
   for (const auto& row : rows) {
     CViewState view;
-    ASSERT_EQ(view.SetAngle(row.from), 0);
-    EXPECT_EQ(view.RotateBy(row.by), row.result) << row.from << " by " << row.by;
-    EXPECT_EQ(view.Angle(), row.angle) << row.from << " by " << row.by;
+    ASSERT_EQ(0, view.SetAngle(row.from));
+    EXPECT_EQ(row.result, view.RotateBy(row.by)) << row.from << " by " << row.by;
+    EXPECT_EQ(row.angle, view.Angle()) << row.from << " by " << row.by;
   }
 }
 
 TEST(ViewState, PixelsAreTruncatedTowardZero) {
   const CViewState view = ViewOf(240, 180);
-  EXPECT_EQ(view.GroundToScreen({90, -120.9}), (ScreenPoint{0, 0}));  // 0.9 left of the origin
-  EXPECT_EQ(view.GroundToScreen({90, -121.1}), (ScreenPoint{-1, 0}));
-  EXPECT_EQ(view.GroundToScreen({90.9, -120}), (ScreenPoint{0, 0}));
+  EXPECT_EQ((ScreenPoint{0, 0}), view.GroundToScreen({90, -120.9}));  // 0.9 left of the origin
+  EXPECT_EQ((ScreenPoint{-1, 0}), view.GroundToScreen({90, -121.1}));
+  EXPECT_EQ((ScreenPoint{0, 0}), view.GroundToScreen({90.9, -120}));
 }
 
 TEST(ViewState, FarPointsAreClampedAndNearOnesAreNot) {
   const CViewState view = ViewOf(0, 0);
   constexpr int kMax = std::numeric_limits<int>::max();
   constexpr int kMin = std::numeric_limits<int>::min();
-  EXPECT_EQ(view.GroundToScreen({0, 2147483647.0}), (ScreenPoint{kMax, 0}));
-  EXPECT_EQ(view.GroundToScreen({0, 2147483646.0}), (ScreenPoint{kMax - 1, 0}));
-  EXPECT_EQ(view.GroundToScreen({0, 1e300}), (ScreenPoint{kMax, 0}));
-  EXPECT_EQ(view.GroundToScreen({1e300, -1e300}), (ScreenPoint{kMin, kMin}));
-  EXPECT_EQ(view.GroundToScreen({0, -2147483648.0}), (ScreenPoint{kMin, 0}));
+  EXPECT_EQ((ScreenPoint{kMax, 0}), view.GroundToScreen({0, 2147483647.0}));
+  EXPECT_EQ((ScreenPoint{kMax - 1, 0}), view.GroundToScreen({0, 2147483646.0}));
+  EXPECT_EQ((ScreenPoint{kMax, 0}), view.GroundToScreen({0, 1e300}));
+  EXPECT_EQ((ScreenPoint{kMin, kMin}), view.GroundToScreen({1e300, -1e300}));
+  EXPECT_EQ((ScreenPoint{kMin, 0}), view.GroundToScreen({0, -2147483648.0}));
   ScreenPoint at;
   EXPECT_FALSE(view.CircleOnScreen({std::nan(""), 0}, 1.0, at));
   EXPECT_FALSE(view.CircleOnScreen({0, 1e300}, 1.0, at));
@@ -116,7 +116,7 @@ TEST(ViewState, ScreenToGroundUndoesGroundToScreen) {
     CViewState view = ViewAtScale(240, 320, 3.7);
     view.SetRatio(2.5);
     view.SetCentre({-42000.5, 25900.25});
-    ASSERT_EQ(view.SetAngle(angle), 0);
+    ASSERT_EQ(0, view.SetAngle(angle));
     for (const ScreenPoint pixel : {ScreenPoint{0, 0}, {239, 319}, {17, 301}, {120, 160}}) {
       const GroundPoint ground = view.ScreenToGround(pixel);
       const RealScreenPoint back = view.GroundToRealScreen(ground);
@@ -129,11 +129,11 @@ TEST(ViewState, ScreenToGroundUndoesGroundToScreen) {
 TEST(ViewState, ZoomInStopsAtTheCapAndSaysSo) {
   CViewState view = ViewAtScale(240, 180, 80000.0);
   EXPECT_TRUE(view.ZoomIn(1.5));
-  EXPECT_EQ(view.Scale(), 100000.0);
-  EXPECT_EQ(view.VScale(), 100000.0);
+  EXPECT_EQ(100000.0, view.Scale());
+  EXPECT_EQ(100000.0, view.VScale());
   CViewState exact = ViewAtScale(240, 180, 50000.0);
   EXPECT_FALSE(exact.ZoomIn(2.0));  // the cap itself is allowed
-  EXPECT_EQ(exact.Scale(), 100000.0);
+  EXPECT_EQ(100000.0, exact.Scale());
 }
 
 TEST(ViewState, ZoomOutHasNoLimit) {
@@ -147,33 +147,33 @@ TEST(ViewState, ZoomOutHasNoLimit) {
 TEST(ViewState, VerticalScaleFollowsTheRatio) {
   CViewState view = ViewAtScale(240, 180, 2.0);
   view.SetRatio(3.0);
-  EXPECT_DOUBLE_EQ(view.VScale(), 6.0);
+  EXPECT_DOUBLE_EQ(6.0, view.VScale());
   EXPECT_FALSE(view.ZoomIn(1.5));
-  EXPECT_DOUBLE_EQ(view.VScale(), 9.0);
+  EXPECT_DOUBLE_EQ(9.0, view.VScale());
   view.ZoomOut(3.0);
-  EXPECT_DOUBLE_EQ(view.VScale(), 3.0);
-  EXPECT_EQ(view.LengthToPixelsAxis(true, 10.0), 30);
-  EXPECT_EQ(view.LengthToPixelsAxis(false, 10.0), 10);
-  EXPECT_DOUBLE_EQ(view.PixelsToLengthAxis(true, 30), 10.0);
-  EXPECT_DOUBLE_EQ(view.PixelsToLengthAxis(false, 30), 30.0);
-  EXPECT_EQ(view.LengthToPixels(2.9), 2);
-  EXPECT_EQ(view.LengthToPixels(-2.9), -2);
+  EXPECT_DOUBLE_EQ(3.0, view.VScale());
+  EXPECT_EQ(30, view.LengthToPixelsAxis(true, 10.0));
+  EXPECT_EQ(10, view.LengthToPixelsAxis(false, 10.0));
+  EXPECT_DOUBLE_EQ(10.0, view.PixelsToLengthAxis(true, 30));
+  EXPECT_DOUBLE_EQ(30.0, view.PixelsToLengthAxis(false, 30));
+  EXPECT_EQ(2, view.LengthToPixels(2.9));
+  EXPECT_EQ(-2, view.LengthToPixels(-2.9));
 }
 
 TEST(ViewState, FirstFitScaleIsItsOwnPreviousScale) {
   CViewState view = ViewOf(240, 180);
   EXPECT_FALSE(view.SetFitScale(200, 100.0, 0.5));
-  EXPECT_DOUBLE_EQ(view.Scale(), 1.0);
-  EXPECT_DOUBLE_EQ(view.HomeScale(), 1.0);
+  EXPECT_DOUBLE_EQ(1.0, view.Scale());
+  EXPECT_DOUBLE_EQ(1.0, view.HomeScale());
   EXPECT_FALSE(view.NoViewYet());
   view.ToggleHome();  // at home: goes to the previous view, which is the same
-  EXPECT_DOUBLE_EQ(view.Scale(), 1.0);
+  EXPECT_DOUBLE_EQ(1.0, view.Scale());
   EXPECT_FALSE(view.SetFitScale(200, 100.0, 2.0));
-  EXPECT_DOUBLE_EQ(view.HomeScale(), 4.0);
+  EXPECT_DOUBLE_EQ(4.0, view.HomeScale());
   view.ToggleHome();
-  EXPECT_DOUBLE_EQ(view.Scale(), 1.0);
+  EXPECT_DOUBLE_EQ(1.0, view.Scale());
   EXPECT_TRUE(view.SetFitScale(200, 0.001, 1.0));
-  EXPECT_EQ(view.HomeScale(), 100000.0);
+  EXPECT_EQ(100000.0, view.HomeScale());
 }
 
 TEST(ViewState, TogglingHomeTwiceReturnsToTheStart) {
@@ -182,12 +182,12 @@ TEST(ViewState, TogglingHomeTwiceReturnsToTheStart) {
   EXPECT_FALSE(view.ZoomIn(1.5));
   view.SetCentre({510, 610});
   view.ToggleHome();
-  EXPECT_DOUBLE_EQ(view.Scale(), 2.2);
-  EXPECT_DOUBLE_EQ(view.Centre().x, 500);
+  EXPECT_DOUBLE_EQ(2.2, view.Scale());
+  EXPECT_DOUBLE_EQ(500, view.Centre().x);
   view.ToggleHome();
-  EXPECT_DOUBLE_EQ(view.Scale(), 2.2 * 1.5);
-  EXPECT_DOUBLE_EQ(view.Centre().x, 510);
-  EXPECT_DOUBLE_EQ(view.Centre().y, 610);
+  EXPECT_DOUBLE_EQ(2.2 * 1.5, view.Scale());
+  EXPECT_DOUBLE_EQ(510, view.Centre().x);
+  EXPECT_DOUBLE_EQ(610, view.Centre().y);
 }
 
 TEST(ViewState, NearlyHomeCountsAsHomeStrictlyBelowTheTolerance) {
@@ -195,10 +195,10 @@ TEST(ViewState, NearlyHomeCountsAsHomeStrictlyBelowTheTolerance) {
   EXPECT_FALSE(view.FitToArea({100, 50}, {0, 0}));
   view.SetCentre({0.00001, 0});  // exactly the tolerance: not home
   view.ToggleHome();
-  EXPECT_EQ(view.Centre().x, 0.0);
+  EXPECT_EQ(0.0, view.Centre().x);
   view.SetCentre({0.000009, 0});  // below it: home, so the toggle goes back
   view.ToggleHome();
-  EXPECT_EQ(view.Centre().x, 0.0);
+  EXPECT_EQ(0.0, view.Centre().x);
 }
 
 TEST(ViewState, CircleTouchesTheClientAreaBordersIncluded) {
@@ -215,7 +215,7 @@ TEST(ViewState, CircleTouchesTheClientAreaBordersIncluded) {
               {{-96, 0}, 5, false}};
   for (const auto& row : rows) {
     at = {-7, -7};
-    EXPECT_EQ(view.CircleOnScreen(row.centre, row.radius, at), row.visible)
+    EXPECT_EQ(row.visible, view.CircleOnScreen(row.centre, row.radius, at))
         << row.centre.x << ' ' << row.centre.y;
     EXPECT_EQ(at == (ScreenPoint{-7, -7}), !row.visible);
   }
@@ -227,39 +227,39 @@ TEST(ViewState, ClippingInPlaceMovesTheGroundEndsToTheClippedPixels) {
   GroundPoint end{0, 1000};
   ScreenSegment clipped;
   ASSERT_TRUE(view.ClipGroundSegmentInPlace(start, end, clipped));
-  EXPECT_EQ(clipped.start, (ScreenPoint{120, 90}));
-  EXPECT_EQ(clipped.end, (ScreenPoint{240, 90}));
-  EXPECT_DOUBLE_EQ(start.y, 0.0);
-  EXPECT_DOUBLE_EQ(end.y, 120.0);
+  EXPECT_EQ((ScreenPoint{120, 90}), clipped.start);
+  EXPECT_EQ((ScreenPoint{240, 90}), clipped.end);
+  EXPECT_DOUBLE_EQ(0.0, start.y);
+  EXPECT_DOUBLE_EQ(120.0, end.y);
   GroundPoint left{0, -500};
   GroundPoint further{0, -400};
   EXPECT_FALSE(view.ClipGroundSegmentInPlace(left, further, clipped));
-  EXPECT_EQ(left.y, -500);
+  EXPECT_EQ(-500, left.y);
 }
 
 TEST(ViewState, HalvesOfTheScreenSizeAreWhole) {
   CViewState view = ViewOf(241, 181);
-  EXPECT_EQ(view.GroundToScreen({0, 0}), (ScreenPoint{120, 90}));
+  EXPECT_EQ((ScreenPoint{120, 90}), view.GroundToScreen({0, 0}));
   int width = 0;
   int height = 0;
   view.GetScreenSize(&width, &height);
-  EXPECT_EQ(width, 241);
-  EXPECT_EQ(height, 181);
+  EXPECT_EQ(241, width);
+  EXPECT_EQ(181, height);
 }
 
 TEST(ViewState, FreshViewIsTenPixelsWideAndHigh) {
   int width = 0;
   int height = 0;
   CViewState().GetScreenSize(&width, &height);
-  EXPECT_EQ(width, 10);
-  EXPECT_EQ(height, 10);
+  EXPECT_EQ(10, width);
+  EXPECT_EQ(10, height);
 }
 
 TEST(ViewState, OtherAnglesAreThoseOfTheCosineAndSine) {
   CViewState view;
   for (int angle = 0; angle < 360; ++angle) {
     if (angle % 90 == 0) continue;
-    ASSERT_EQ(view.SetAngle(angle), 0);
+    ASSERT_EQ(0, view.SetAngle(angle));
     EXPECT_EQ(view.Angle(), angle);
     EXPECT_EQ(view.CosA(), std::cos(angle * 0.017453292519943295)) << angle;
     EXPECT_EQ(view.SinA(), std::sin(angle * 0.017453292519943295)) << angle;
@@ -271,13 +271,13 @@ TEST(ViewState, ZoomingRemembersTheScaleBefore) {
   EXPECT_FALSE(view.ZoomIn(1.5));
   EXPECT_FALSE(view.SetFitScale(5, 1.0, 1.0));  // home is 5 now, and the scale before it 3
   view.ToggleHome();
-  EXPECT_DOUBLE_EQ(view.Scale(), 3.0);
+  EXPECT_DOUBLE_EQ(3.0, view.Scale());
   view.ZoomOut(3.0);
-  EXPECT_DOUBLE_EQ(view.Scale(), 1.0);
+  EXPECT_DOUBLE_EQ(1.0, view.Scale());
   view.ToggleHome();  // away from home: goes there
-  EXPECT_DOUBLE_EQ(view.Scale(), 5.0);
+  EXPECT_DOUBLE_EQ(5.0, view.Scale());
   view.ToggleHome();
-  EXPECT_DOUBLE_EQ(view.Scale(), 1.0);
+  EXPECT_DOUBLE_EQ(1.0, view.Scale());
 }
 
 TEST(ViewState, ZoomedBackToTheHomeScaleTheToggleGoesToTheScaleBefore) {
@@ -285,7 +285,7 @@ TEST(ViewState, ZoomedBackToTheHomeScaleTheToggleGoesToTheScaleBefore) {
   EXPECT_FALSE(view.ZoomIn(2.0));
   view.ZoomOut(2.0);  // home again; the scale before was 4
   view.ToggleHome();
-  EXPECT_DOUBLE_EQ(view.Scale(), 4.0);
+  EXPECT_DOUBLE_EQ(4.0, view.Scale());
 }
 
 TEST(ViewState, TheToggleKeepsTheVerticalScaleInStep) {
@@ -293,9 +293,9 @@ TEST(ViewState, TheToggleKeepsTheVerticalScaleInStep) {
   EXPECT_FALSE(view.ZoomIn(2.0));
   view.SetRatio(3.0);
   view.ToggleHome();
-  EXPECT_DOUBLE_EQ(view.VScale(), 6.0);
+  EXPECT_DOUBLE_EQ(6.0, view.VScale());
   view.ToggleHome();
-  EXPECT_DOUBLE_EQ(view.VScale(), 12.0);
+  EXPECT_DOUBLE_EQ(12.0, view.VScale());
 }
 
 TEST(ViewState, AnyOneDifferenceIsNotHome) {
@@ -310,9 +310,9 @@ TEST(ViewState, AnyOneDifferenceIsNotHome) {
     view.SetCentre(row.centre);  // the centre before is far away
     EXPECT_FALSE(view.ZoomIn(row.zoom));
     view.ToggleHome();
-    EXPECT_EQ(view.Centre().x, 0.0) << row.zoom;
-    EXPECT_EQ(view.Centre().y, 0.0) << row.zoom;
-    EXPECT_EQ(view.Scale(), 2.2) << row.zoom;
+    EXPECT_EQ(0.0, view.Centre().x) << row.zoom;
+    EXPECT_EQ(0.0, view.Centre().y) << row.zoom;
+    EXPECT_EQ(2.2, view.Scale()) << row.zoom;
   }
 }
 
@@ -321,7 +321,7 @@ TEST(ViewState, ACutZoomStillRemembersTheScaleBefore) {
   EXPECT_TRUE(view.ZoomIn(1.5));
   EXPECT_TRUE(view.SetFitScale(240, 0.0001, 1.0));
   view.ToggleHome();  // home is at the cap, and so was the view before
-  EXPECT_EQ(view.Scale(), 100000.0);
+  EXPECT_EQ(100000.0, view.Scale());
 }
 
 TEST(ViewState, ARatioThatIsNotFiniteIsCarriedAndHarmless) {
@@ -331,13 +331,13 @@ TEST(ViewState, ARatioThatIsNotFiniteIsCarriedAndHarmless) {
     const ScreenPoint at = view.GroundToScreen({5, 7});
     const GroundPoint back = view.ScreenToGround({1, 2});
     EXPECT_EQ(at.x == 127, ratio == 0.0) << ratio;  // the turn mixes what is no number into both
-    EXPECT_DOUBLE_EQ(back.y, -119.0) << ratio;
+    EXPECT_DOUBLE_EQ(-119.0, back.y) << ratio;
     ScreenSegment clipped;
     const bool visible = view.ClipGroundSegment({0, 0}, {5, 7}, clipped);
     EXPECT_EQ(visible, ratio == 0.0) << ratio;
   }
   view.SetRatio(1.0);
-  EXPECT_EQ(view.GroundToScreen({5, 7}), (ScreenPoint{127, 85}));
+  EXPECT_EQ((ScreenPoint{127, 85}), view.GroundToScreen({5, 7}));
 }
 
 TEST(ViewState, ACopyIsTheWholeView) {
@@ -346,7 +346,7 @@ TEST(ViewState, ACopyIsTheWholeView) {
   view.SetRatio(2.0);
   EXPECT_FALSE(view.ZoomIn(1.5));
   view.SetCentre({510, 610});
-  ASSERT_EQ(view.SetAngle(30), 0);
+  ASSERT_EQ(0, view.SetAngle(30));
   CViewState copy = view;
   EXPECT_FALSE(copy.NoViewYet());
   EXPECT_EQ(copy.GroundToScreen({512, 617}), view.GroundToScreen({512, 617}));
@@ -357,10 +357,10 @@ TEST(ViewState, ACopyIsTheWholeView) {
   ASSERT_TRUE(view.ClipGroundSegment({510, 610}, {910, 910}, of_view));
   EXPECT_EQ(of_copy.end, of_view.end);
   copy.ToggleHome();
-  EXPECT_EQ(copy.Scale(), 2.2);
+  EXPECT_EQ(2.2, copy.Scale());
   copy.ToggleHome();
   EXPECT_EQ(copy.Scale(), view.Scale());
-  EXPECT_EQ(copy.Centre().x, 510.0);
+  EXPECT_EQ(510.0, copy.Centre().x);
 }
 
 }  // namespace

@@ -47,11 +47,11 @@ TEST(ButtonColumnLayout, FollowsTheClientHeight) {
               {0, -1, false, "x.........x", {0, 10, 10, 10, 10, 10, 10, 10, 10, 10, 10}}};
   for (const auto& row : rows) {
     const Layout layout(row.height);
-    EXPECT_EQ(layout.Places(), row.places) << row.height;
-    EXPECT_EQ(layout.AllFit(), row.all_fit) << row.height;
-    EXPECT_EQ(layout.FirstVisible(), 1) << row.height;
-    EXPECT_EQ(Shown(layout), row.shown) << row.height;
-    EXPECT_EQ(Tops(layout), row.tops) << row.height;
+    EXPECT_EQ(row.places, layout.Places()) << row.height;
+    EXPECT_EQ(row.all_fit, layout.AllFit()) << row.height;
+    EXPECT_EQ(1, layout.FirstVisible()) << row.height;
+    EXPECT_EQ(row.shown, Shown(layout)) << row.height;
+    EXPECT_EQ(row.tops, Tops(layout)) << row.height;
   }
 }
 
@@ -95,8 +95,8 @@ TEST(ButtonColumnLayout, TheLastButtonCanBeReachedAtEveryHeight) {
       EXPECT_LE(layout.FirstVisible(), Layout::kLastMain) << height;
     }
     while (layout.ScrollUp()) --steps;
-    EXPECT_EQ(steps, 0) << height;
-    EXPECT_EQ(layout.FirstVisible(), 1) << height;
+    EXPECT_EQ(0, steps) << height;
+    EXPECT_EQ(1, layout.FirstVisible()) << height;
   }
 }
 

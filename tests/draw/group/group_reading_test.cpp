@@ -86,7 +86,7 @@ TEST_F(GroupReading, TheBorderGoesOnAboveBelowAndLeftOfThePicture) {
   for (const auto& [row, column, ink] : rows) {
     int given = 7;
     EXPECT_EQ(0, Tavix_GrpGet(row, column, &given));
-    EXPECT_EQ(ink, given) << row << ", " << column;
+    EXPECT_EQ(given, ink) << row << ", " << column;
   }
   EXPECT_EQ(0, Tavix_GrpEnd());
   for (const auto& [row, column, ink] : rows) EXPECT_EQ(0, Ink(row, column)) << row << column;

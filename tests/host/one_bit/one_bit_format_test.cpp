@@ -35,7 +35,7 @@ TEST(PortableBitmap, HasItsRowsPaddedToBytes) {
       {0, 0, {}, "P4\n0 0\n"s},
   };
   for (const auto& row : rows) {
-    EXPECT_EQ(BytesOf(row.width, row.height, row.ink), row.bytes) << row.width << 'x' << row.height;
+    EXPECT_EQ(row.bytes, BytesOf(row.width, row.height, row.ink)) << row.width << 'x' << row.height;
   }
 }
 
@@ -46,7 +46,7 @@ TEST(PortableBitmap, KeepsEachPixelApart) {
   for (int row = 0; row < kHeight; ++row) {
     for (int column = 0; column < kWidth; ++column) {
       const std::string bytes = BytesOf(kWidth, kHeight, {{row, column}});
-      ASSERT_EQ(bytes.size(), kHeader + 6);
+      ASSERT_EQ(kHeader + 6, bytes.size());
       for (std::size_t i = kHeader; i < bytes.size(); ++i) {
         const bool here = i - kHeader == static_cast<std::size_t>(row * 2 + column / 8);
         EXPECT_EQ(static_cast<unsigned char>(bytes[i]), here ? 0x80U >> (column % 8) : 0U);
@@ -69,7 +69,7 @@ TEST(OneBitFormatOf, GoesByTheEnding) {
       {"a.pbm.txt", std::nullopt},      {"pbm", std::nullopt},
       {"a.bmp", std::nullopt},          {"", std::nullopt},
   };
-  for (const auto& row : rows) EXPECT_EQ(OneBitFormatOf(row.name), row.format) << row.name;
+  for (const auto& row : rows) EXPECT_EQ(row.format, OneBitFormatOf(row.name)) << row.name;
 }
 
 }  // namespace

@@ -22,16 +22,16 @@ TEST_F(OneBitHeadless, BothFormatsHoldTheSamePixels) {
   for (const wchar_t* file : {L"絵.pbm", L"絵.PNG"}) {
     HostProcess host(folder_, {Sample(L"site.csv"), Sample(L"site.sim"), L"--one-bit", In(file),
                                L"--size", L"333x257"});
-    ASSERT_EQ(host.Wait(), 0) << host.Errors();
-    EXPECT_EQ(host.Output(), "94 points, 4 lots\n");
+    ASSERT_EQ(0, host.Wait()) << host.Errors();
+    EXPECT_EQ("94 points, 4 lots\n", host.Output());
   }
   const std::string header = "P4\n333 257\n";
   const std::string bytes = BytesOf(In(L"絵.pbm"));
   ASSERT_EQ(bytes.size(), header.size() + 42 * 257);
   EXPECT_TRUE(bytes.starts_with(header));
   const PictureImage image = DecodePicture(In(L"絵.PNG"));
-  ASSERT_EQ(image.width, 333);
-  ASSERT_EQ(image.height, 257);
+  ASSERT_EQ(333, image.width);
+  ASSERT_EQ(257, image.height);
   int ink = 0;
   for (int y = 0; y < image.height; ++y) {
     for (int x = 0; x < image.width; ++x) {
@@ -50,7 +50,7 @@ TEST_F(OneBitHeadless, WholeSurveyFitsAPictureOfAnyProportions) {
   const std::wstring list = Write(L"list.csv", "1,0,0\n2,0,100\n3,300,0\n4,300,100\n");
   for (const wchar_t* size : {L"300x900", L"900x300", L"1654x2339"}) {
     HostProcess host(folder_, {list, L"--one-bit", In(L"p.png"), L"--size", size});
-    ASSERT_EQ(host.Wait(), 0) << host.Errors();
+    ASSERT_EQ(0, host.Wait()) << host.Errors();
     const PictureImage image = DecodePicture(In(L"p.png"));
     ASSERT_GT(image.width, 0);
     // Ink lies in each quarter's outermost part; the north arrow alone cannot be everywhere.
@@ -74,8 +74,8 @@ TEST_F(OneBitHeadless, WholeSurveyFitsAPictureOfAnyProportions) {
 TEST_F(OneBitHeadless, PictureMayBeLargerThanTheScreen) {
   HostProcess host(folder_,
                    {Sample(L"site.sim"), L"--one-bit", In(L"p.pbm"), L"--size", L"4000x5000"});
-  EXPECT_EQ(host.Wait(), 0) << host.Errors();
-  EXPECT_EQ(std::filesystem::file_size(In(L"p.pbm")), 13U + 500U * 5000U);
+  EXPECT_EQ(0, host.Wait()) << host.Errors();
+  EXPECT_EQ(13U + 500U * 5000U, std::filesystem::file_size(In(L"p.pbm")));
 }
 
 TEST_F(OneBitHeadless, FailsForAPictureThatCannotBeWritten) {
@@ -83,26 +83,26 @@ TEST_F(OneBitHeadless, FailsForAPictureThatCannotBeWritten) {
   std::filesystem::create_directories(In(L"folder.pbm"));
   for (const wchar_t* file : {L"none\\p.pbm", L"none\\p.png", L"folder.png", L"folder.pbm"}) {
     HostProcess host(folder_, {Sample(L"site.csv"), L"--one-bit", In(file)});
-    EXPECT_EQ(host.Wait(), 1);
-    EXPECT_EQ(host.Output(), "");
-    EXPECT_NE(host.Errors().find("cannot be written; check that its folder exists"),
-              std::string::npos)
+    EXPECT_EQ(1, host.Wait());
+    EXPECT_EQ("", host.Output());
+    EXPECT_NE(std::string::npos,
+              host.Errors().find("cannot be written; check that its folder exists"))
         << host.Errors();
   }
 }
 
 TEST_F(OneBitHeadless, RefusesOtherFormats) {
   HostProcess host(folder_, {Sample(L"site.csv"), L"--one-bit", In(L"p.bmp")});
-  EXPECT_EQ(host.Wait(), 2);
-  EXPECT_NE(host.Errors().find("must be named .pbm or .png."), std::string::npos);
+  EXPECT_EQ(2, host.Wait());
+  EXPECT_NE(std::string::npos, host.Errors().find("must be named .pbm or .png."));
   EXPECT_FALSE(std::filesystem::exists(In(L"p.bmp")));
 }
 
 TEST_F(OneBitHeadless, SideViewIsAPictureOfItsOwn) {
   HostProcess host(folder_, {Sample(L"site.csv"), L"--side", L"--picture", In(L"p.png")});
-  ASSERT_EQ(host.Wait(), 0) << host.Errors();
+  ASSERT_EQ(0, host.Wait()) << host.Errors();
   const PictureImage image = DecodePicture(In(L"p.png"));
-  ASSERT_EQ(image.width, 480);
+  ASSERT_EQ(480, image.width);
   // The red box, and every one of the eight triangles of the control points in its darker red.
   EXPECT_GT(std::count(image.pixels.begin(), image.pixels.end(), 0xFFFF0000U), 500);
   EXPECT_GT(std::count(image.pixels.begin(), image.pixels.end(), 0xFFC80000U), 8 * 15);
@@ -111,8 +111,8 @@ TEST_F(OneBitHeadless, SideViewIsAPictureOfItsOwn) {
 TEST_F(OneBitHeadless, SideViewNeedsHeights) {
   HostProcess host(
       folder_, {Write(L"flat.csv", "1,10,20\n2,30,20\n"), L"--side", L"--picture", In(L"p.png")});
-  EXPECT_EQ(host.Wait(), 1);
-  EXPECT_EQ(host.Errors(), "No point has a height; leave out --side.\n");
+  EXPECT_EQ(1, host.Wait());
+  EXPECT_EQ("No point has a height; leave out --side.\n", host.Errors());
   EXPECT_FALSE(std::filesystem::exists(In(L"p.png")));
 }
 

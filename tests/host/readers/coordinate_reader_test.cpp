@@ -25,8 +25,8 @@ Read ReadList(std::string_view bytes) {
 // Expects exactly one point and nothing skipped.
 SurveyPoint OnlyPoint(std::string_view bytes) {
   const Read read = ReadList(bytes);
-  EXPECT_EQ(read.log.SkippedLines(), 0U) << bytes;
-  EXPECT_EQ(read.survey.points.size(), 1U) << bytes;
+  EXPECT_EQ(0U, read.log.SkippedLines()) << bytes;
+  EXPECT_EQ(1U, read.survey.points.size()) << bytes;
   return read.survey.points.empty() ? SurveyPoint() : read.survey.points[0];
 }
 
@@ -42,20 +42,20 @@ TEST(CoordinateReader, TakesEverySeparator) {
            "12, -42247.011, 25917.765, 31.5, old tree",
        }) {
     const SurveyPoint point = OnlyPoint(bytes);
-    EXPECT_EQ(point.number, 12) << bytes;
-    EXPECT_EQ(point.north, -42247.011) << bytes;
-    EXPECT_EQ(point.east, 25917.765) << bytes;
-    EXPECT_EQ(point.height, 31.5) << bytes;
-    EXPECT_EQ(point.name, "old tree") << bytes;
-    EXPECT_EQ(point.kind, "old tree") << bytes;
+    EXPECT_EQ(12, point.number) << bytes;
+    EXPECT_EQ(-42247.011, point.north) << bytes;
+    EXPECT_EQ(25917.765, point.east) << bytes;
+    EXPECT_EQ(31.5, point.height) << bytes;
+    EXPECT_EQ("old tree", point.name) << bytes;
+    EXPECT_EQ("old tree", point.kind) << bytes;
   }
 }
 
 TEST(CoordinateReader, DescriptionMayHoldSeparators) {
-  EXPECT_EQ(OnlyPoint("1,10,20,3,tree, big; very\ttall").name, "tree, big; very\ttall");
-  EXPECT_EQ(OnlyPoint("1 10 20 3 tree, big, tall").name, "tree, big, tall");
-  EXPECT_EQ(OnlyPoint("1\t10\t20\t3\ttree, big").name, "tree, big");
-  EXPECT_EQ(OnlyPoint("1,10,20,3,\"tree, \"\"big\"\"\"").name, "tree, \"big\"");
+  EXPECT_EQ("tree, big; very\ttall", OnlyPoint("1,10,20,3,tree, big; very\ttall").name);
+  EXPECT_EQ("tree, big, tall", OnlyPoint("1 10 20 3 tree, big, tall").name);
+  EXPECT_EQ("tree, big", OnlyPoint("1\t10\t20\t3\ttree, big").name);
+  EXPECT_EQ("tree, \"big\"", OnlyPoint("1,10,20,3,\"tree, \"\"big\"\"\"").name);
 }
 
 TEST(CoordinateReader, ElevationMayBeMissing) {
@@ -75,7 +75,7 @@ TEST(CoordinateReader, ElevationMayBeMissing) {
   for (const auto& row : rows) {
     const SurveyPoint point = OnlyPoint(row.line);
     EXPECT_FALSE(point.height) << row.line;
-    EXPECT_EQ(point.name, row.name) << row.line;
+    EXPECT_EQ(row.name, point.name) << row.line;
   }
 }
 
@@ -92,9 +92,9 @@ TEST(CoordinateReader, NameComesFromTheBestText) {
   };
   for (const auto& row : rows) {
     const SurveyPoint point = OnlyPoint(row.line);
-    EXPECT_EQ(point.number, row.number) << row.line;
-    EXPECT_EQ(point.name, row.name) << row.line;
-    EXPECT_EQ(point.kind, row.kind) << row.line;
+    EXPECT_EQ(row.number, point.number) << row.line;
+    EXPECT_EQ(row.name, point.name) << row.line;
+    EXPECT_EQ(row.kind, point.kind) << row.line;
   }
 }
 
@@ -110,11 +110,11 @@ TEST(CoordinateReader, HeaderGivesTheOrder) {
            "no,survey,kind,name,n,e\n5,2024,control,T-5,10,20,",
        }) {
     const SurveyPoint point = OnlyPoint(bytes);
-    EXPECT_EQ(point.number, 5) << bytes;
-    EXPECT_EQ(point.name, "T-5") << bytes;
-    EXPECT_EQ(point.kind, "control") << bytes;
-    EXPECT_EQ(point.north, 10) << bytes;
-    EXPECT_EQ(point.east, 20) << bytes;
+    EXPECT_EQ(5, point.number) << bytes;
+    EXPECT_EQ("T-5", point.name) << bytes;
+    EXPECT_EQ("control", point.kind) << bytes;
+    EXPECT_EQ(10, point.north) << bytes;
+    EXPECT_EQ(20, point.east) << bytes;
   }
 }
 
@@ -125,17 +125,17 @@ TEST(CoordinateReader, HeaderMayNameMetres) {
            "点番,Y座標(m),X座標(m)\n5,20,10",
        }) {
     const SurveyPoint point = OnlyPoint(bytes);
-    EXPECT_EQ(point.north, 10) << bytes;
-    EXPECT_EQ(point.east, 20) << bytes;
+    EXPECT_EQ(10, point.north) << bytes;
+    EXPECT_EQ(20, point.east) << bytes;
   }
 }
 
 TEST(CoordinateReader, TitlesAboveThePointsArePassedOver) {
-  EXPECT_EQ(OnlyPoint("Survey of the market\n5,10,20").north, 10);
-  EXPECT_EQ(OnlyPoint("Long Lane, late survey\n5,10,20").north, 10);
-  EXPECT_EQ(OnlyPoint("Survey of the market\n5 10 20").north, 10);
-  EXPECT_EQ(OnlyPoint("Survey\nby Smith\nno,e,n\n5,20,10").north, 10);
-  EXPECT_EQ(OnlyPoint("P,N,E,Z,D\n5,10,20,3,tree, big").name, "tree, big");
+  EXPECT_EQ(10, OnlyPoint("Survey of the market\n5,10,20").north);
+  EXPECT_EQ(10, OnlyPoint("Long Lane, late survey\n5,10,20").north);
+  EXPECT_EQ(10, OnlyPoint("Survey of the market\n5 10 20").north);
+  EXPECT_EQ(10, OnlyPoint("Survey\nby Smith\nno,e,n\n5,20,10").north);
+  EXPECT_EQ("tree, big", OnlyPoint("P,N,E,Z,D\n5,10,20,3,tree, big").name);
 }
 
 constexpr std::string_view kGeographic = "; convert the points to northing and easting in metres";
@@ -170,7 +170,7 @@ TEST(CoordinateReader, RefusesAHeaderOfOtherColumns) {
     EXPECT_TRUE(read.survey.points.empty()) << row.bytes;
   }
   // Beside northing and easting they are columns like others.
-  EXPECT_EQ(OnlyPoint("no,lat,lon,n,e\n5,48.1,11.5,10,20").north, 10);
+  EXPECT_EQ(10, OnlyPoint("no,lat,lon,n,e\n5,48.1,11.5,10,20").north);
 }
 
 TEST(CoordinateReader, TakesDecimalCommasWhereTheySeparateNothing) {
@@ -182,13 +182,13 @@ TEST(CoordinateReader, TakesDecimalCommasWhereTheySeparateNothing) {
            "No;E;N;Z;Code\r\n1;4600200,50;500100,25;12,5;tree\r\n",
        }) {
     const SurveyPoint point = OnlyPoint(bytes);
-    EXPECT_EQ(point.number, 1) << bytes;
-    EXPECT_EQ(point.north, 500100.25) << bytes;
-    EXPECT_EQ(point.east, 4600200.5) << bytes;
-    EXPECT_EQ(point.height, 12.5) << bytes;
-    EXPECT_EQ(point.kind, "tree") << bytes;
+    EXPECT_EQ(1, point.number) << bytes;
+    EXPECT_EQ(500100.25, point.north) << bytes;
+    EXPECT_EQ(4600200.5, point.east) << bytes;
+    EXPECT_EQ(12.5, point.height) << bytes;
+    EXPECT_EQ("tree", point.kind) << bytes;
   }
-  EXPECT_EQ(OnlyPoint("1,500100,25").east, 25);
+  EXPECT_EQ(25, OnlyPoint("1,500100,25").east);
 }
 
 // A point in such a list may set thousands apart, and nothing is guessed.
@@ -205,24 +205,24 @@ TEST(CoordinateReader, SaysWhichNumberOfAListWithDecimalCommasIsNone) {
   for (const auto& row : rows) {
     const Read read =
         ReadList("no;n;e;z;d\n1;10,5;20,5\n" + std::string(row.line) + "\n3;10,5;20\n");
-    EXPECT_EQ(read.survey.points.size(), 2U) << row.line;
-    ASSERT_EQ(read.log.Diagnostics().size(), 1U) << row.line;
-    EXPECT_EQ(read.log.Diagnostics()[0].line, 3) << row.line;
-    EXPECT_EQ(read.log.Diagnostics()[0].sentence, row.sentence) << row.line;
+    EXPECT_EQ(2U, read.survey.points.size()) << row.line;
+    ASSERT_EQ(1U, read.log.Diagnostics().size()) << row.line;
+    EXPECT_EQ(3, read.log.Diagnostics()[0].line) << row.line;
+    EXPECT_EQ(row.sentence, read.log.Diagnostics()[0].sentence) << row.line;
   }
 }
 
 TEST(CoordinateReader, BelowAHeaderTheFirstBadLineIsSaid) {
   const Read read = ReadList("No;N;E\n1;abc;2\n2;abc;2\n");
   EXPECT_TRUE(read.survey.points.empty());
-  ASSERT_EQ(read.log.Diagnostics().size(), 2U);
-  EXPECT_EQ(read.log.Diagnostics()[0].line, 2);
-  EXPECT_EQ(read.log.Diagnostics()[0].sentence, "the northing 'abc' is not a number");
+  ASSERT_EQ(2U, read.log.Diagnostics().size());
+  EXPECT_EQ(2, read.log.Diagnostics()[0].line);
+  EXPECT_EQ("the northing 'abc' is not a number", read.log.Diagnostics()[0].sentence);
 }
 
 TEST(CoordinateReader, ReadsShiftJis) {
   const SurveyPoint point = OnlyPoint("1,10,20,3,\x8A\xEE\x8F\x80\x93\x5F\r\n");
-  EXPECT_EQ(point.name, "基準点");
+  EXPECT_EQ("基準点", point.name);
 }
 
 TEST(CoordinateReader, BadLinesAreSkippedAndSaid) {
@@ -245,18 +245,18 @@ TEST(CoordinateReader, BadLinesAreSkippedAndSaid) {
   for (const auto& row : rows) {
     const Read read =
         ReadList("1,1,2,3,a\n\n" + std::string(row.line) + "\n3,1,2,3,c\n4,1,2,3,d\n");
-    EXPECT_EQ(read.survey.points.size(), 3U) << row.line;
-    EXPECT_EQ(read.log.SkippedLines(), 1U) << row.line;
-    ASSERT_EQ(read.log.Diagnostics().size(), 1U) << row.line;
-    EXPECT_EQ(read.log.Diagnostics()[0].line, 3) << row.line;
-    EXPECT_EQ(read.log.Diagnostics()[0].sentence, row.sentence) << row.line;
+    EXPECT_EQ(3U, read.survey.points.size()) << row.line;
+    EXPECT_EQ(1U, read.log.SkippedLines()) << row.line;
+    ASSERT_EQ(1U, read.log.Diagnostics().size()) << row.line;
+    EXPECT_EQ(3, read.log.Diagnostics()[0].line) << row.line;
+    EXPECT_EQ(row.sentence, read.log.Diagnostics()[0].sentence) << row.line;
   }
 }
 
 TEST(CoordinateReader, OneBadLineDoesNotChangeTheSeparator) {
   const Read read = ReadList("1,10,20,3,a b c\nfor 9 3 points\n2,10,20,3,d e f\n");
-  EXPECT_EQ(read.survey.points.size(), 2U);
-  EXPECT_EQ(read.log.SkippedLines(), 1U);
+  EXPECT_EQ(2U, read.survey.points.size());
+  EXPECT_EQ(1U, read.log.SkippedLines());
 }
 
 TEST(CoordinateReader, FindsNothingInOtherText) {

@@ -40,7 +40,7 @@ TEST(SplitFields, CutsAtTheSeparatorAndTrims) {
   for (const auto& row : rows) {
     Texts fields;
     SplitFields(row.line, row.separator, row.most, fields);
-    EXPECT_EQ(fields, row.fields) << row.line;
+    EXPECT_EQ(row.fields, fields) << row.line;
   }
 }
 
@@ -49,7 +49,7 @@ TEST(SplitFields, TakesALineFullOfQuotesInItsStride) {
   while (line.size() < 60000) line += "\"a,";
   Texts fields;
   SplitFields(line, ',', 8, fields);
-  EXPECT_EQ(fields.size(), 8U);
+  EXPECT_EQ(8U, fields.size());
 }
 
 TEST(FieldText, LosesOuterQuotesOnly) {
@@ -66,7 +66,7 @@ TEST(FieldText, LosesOuterQuotesOnly) {
       {"5\" pipe", "5\" pipe"},
       {"a\"\"b", "a\"\"b"},
   };
-  for (const auto& row : rows) EXPECT_EQ(FieldText(row.field), row.text) << row.field;
+  for (const auto& row : rows) EXPECT_EQ(row.text, FieldText(row.field)) << row.field;
 }
 
 TEST(RealNumber, TakesNumbers) {
@@ -83,7 +83,7 @@ TEST(RealNumber, TakesNumbers) {
   for (const auto& row : rows) {
     const auto number = RealNumber(row.field);
     ASSERT_TRUE(number) << row.field;
-    EXPECT_EQ(*number, row.number) << row.field;
+    EXPECT_EQ(row.number, *number) << row.field;
   }
 }
 
@@ -101,25 +101,25 @@ TEST(RealNumber, DoesNotAskTheLocale) {
   const auto number = RealNumber("1.5");
   std::setlocale(LC_NUMERIC, before.c_str());
   if (!comma) GTEST_SKIP() << "This system has no locale with a decimal comma.";
-  EXPECT_EQ(number, 1.5);
+  EXPECT_EQ(1.5, number);
 }
 
 TEST(WholeNumber, TakesIntegersOfTheSystem) {
-  EXPECT_EQ(WholeNumber("42"), 42);
-  EXPECT_EQ(WholeNumber(" 007 "), 7);
-  EXPECT_EQ(WholeNumber("-3"), -3);
-  EXPECT_EQ(WholeNumber("2147483647"), 2147483647);
+  EXPECT_EQ(42, WholeNumber("42"));
+  EXPECT_EQ(7, WholeNumber(" 007 "));
+  EXPECT_EQ(-3, WholeNumber("-3"));
+  EXPECT_EQ(2147483647, WholeNumber("2147483647"));
   for (const std::string_view field : {"", "1.0", "T-1", "1A", "2147483648", "1e3"}) {
     EXPECT_FALSE(WholeNumber(field)) << field;
   }
 }
 
 TEST(Quoted, KeepsMessagesShortAndPrintable) {
-  EXPECT_EQ(Quoted(" abc "), "'abc'");
-  EXPECT_EQ(Quoted("a\x1b[2Jb"), "'a [2Jb'");
-  EXPECT_EQ(Quoted(std::string(100, 'x')), "'" + std::string(24, 'x') + "...'");
+  EXPECT_EQ("'abc'", Quoted(" abc "));
+  EXPECT_EQ("'a [2Jb'", Quoted("a\x1b[2Jb"));
+  EXPECT_EQ("'" + std::string(24, 'x') + "...'", Quoted(std::string(100, 'x')));
   // Twenty-three bytes and a character of three: the cut goes before it.
-  EXPECT_EQ(Quoted(std::string(23, 'x') + "木木"), "'" + std::string(23, 'x') + "...'");
+  EXPECT_EQ("'" + std::string(23, 'x') + "...'", Quoted(std::string(23, 'x') + "木木"));
 }
 
 }  // namespace

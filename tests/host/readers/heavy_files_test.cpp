@@ -32,8 +32,8 @@ TEST(HeavyFiles, PointsThatReferRoundInARingAreSkipped) {
   std::string text = "<LandXML><CgPoint name=\"good\">1 2</CgPoint>";
   for (std::size_t i = 0; i < kMany; ++i) text += Reference(i, (i + 1) % kMany);
   const Read read = ReadFile("ring.xml", text + "</LandXML>");
-  EXPECT_EQ(read.survey.points.size(), 1U);
-  EXPECT_EQ(read.log.SkippedElements(), kMany);
+  EXPECT_EQ(1U, read.survey.points.size());
+  EXPECT_EQ(kMany, read.log.SkippedElements());
   EXPECT_TRUE(read.log.Diagnostics().front().sentence.ends_with("refers to itself"));
   EXPECT_TRUE(read.log.Diagnostics().back().sentence.ends_with("refers to itself"));
 }
@@ -43,9 +43,9 @@ TEST(HeavyFiles, PointsThatReferOnInALongRowAllHaveThePlaceOfTheLast) {
   for (std::size_t i = 0; i < kMany; ++i) text += Reference(i, i + 1);
   text += "<CgPoint name=\"" + std::to_string(kMany) + "\">1 2 3</CgPoint></LandXML>";
   const Read read = ReadFile("row.xml", text);
-  EXPECT_EQ(read.log.SkippedElements(), 0U);
-  ASSERT_EQ(read.survey.points.size(), kMany + 1);
-  for (const SurveyPoint& point : read.survey.points) ASSERT_EQ(point.height, 3.0);
+  EXPECT_EQ(0U, read.log.SkippedElements());
+  ASSERT_EQ(kMany + 1, read.survey.points.size());
+  for (const SurveyPoint& point : read.survey.points) ASSERT_EQ(3.0, point.height);
 }
 
 TEST(HeavyFiles, PointOfMuchTextIsReadOnceForAllThatReferToIt) {
@@ -55,23 +55,23 @@ TEST(HeavyFiles, PointOfMuchTextIsReadOnceForAllThatReferToIt) {
   for (std::size_t i = 1; i <= kMany; ++i) text += Reference(i, 0);
   const Read read = ReadFile("text.xml", text + "</LandXML>");
   EXPECT_TRUE(read.survey.points.empty());
-  EXPECT_EQ(read.log.SkippedElements(), kMany + 1);
-  EXPECT_EQ(read.log.Diagnostics().back().sentence,
-            "the CgPoint holds 50000 numbers in place of northing, easting and height");
+  EXPECT_EQ(kMany + 1, read.log.SkippedElements());
+  EXPECT_EQ("the CgPoint holds 50000 numbers in place of northing, easting and height",
+            read.log.Diagnostics().back().sentence);
 }
 
 TEST(HeavyFiles, TagOfAMillionAttributesIsRefused) {
   std::string text = "<LandXML>\n<CgPoint";
   for (std::size_t i = 0; i < 20 * kMany; ++i) text += " a" + std::to_string(i) + "=\"\"";
-  EXPECT_EQ(ReadFile("tag.xml", text + "/></LandXML>").log.Refusal(),
-            "has a tag of more than 64 KB at line 2; it is not a LandXML file");
+  EXPECT_EQ("has a tag of more than 64 KB at line 2; it is not a LandXML file",
+            ReadFile("tag.xml", text + "/></LandXML>").log.Refusal());
 }
 
 TEST(HeavyFiles, ElementsWithoutEndAreRefused) {
   std::string text = "<LandXML>\n";
   for (std::size_t i = 0; i < 20 * kMany; ++i) text += "<a>";
-  EXPECT_EQ(ReadFile("deep.xml", text).log.Refusal(),
-            "is nested too deep at line 2; it is not a LandXML file");
+  EXPECT_EQ("is nested too deep at line 2; it is not a LandXML file",
+            ReadFile("deep.xml", text).log.Refusal());
 }
 
 // Each entity is a hundred of the one before: a few hundred bytes for more text than there is room.
@@ -86,8 +86,8 @@ TEST(HeavyFiles, EntitiesThatGrowAreRefusedInAnyEncoding) {
     const std::string text = "<?xml version=\"1.0\" encoding=\"" + encoding +
                              "\"?>\n<!DOCTYPE LandXML " + entities +
                              "]>\n<LandXML><CgPoint>&e9;</CgPoint></LandXML>";
-    EXPECT_EQ(ReadFile("entities.xml", text).log.Refusal(),
-              "has a document type at line 2, which may hide anything; export it without")
+    EXPECT_EQ("has a document type at line 2, which may hide anything; export it without",
+              ReadFile("entities.xml", text).log.Refusal())
         << encoding;
   }
 }
@@ -97,18 +97,18 @@ TEST(HeavyFiles, LineOfFiftyMillionCommasHoldsNothing) {
   const std::string commas(50'000'000, ',');
   const Read list = ReadFile("commas.csv", commas);
   EXPECT_TRUE(list.survey.points.empty());
-  EXPECT_EQ(list.log.SkippedLines(), 1U);
-  EXPECT_EQ(list.log.Diagnostics().at(0).sentence, "the line is too long");
-  EXPECT_EQ(ReadFile("commas.sim", commas).log.SkippedLines(), 1U);
+  EXPECT_EQ(1U, list.log.SkippedLines());
+  EXPECT_EQ("the line is too long", list.log.Diagnostics().at(0).sentence);
+  EXPECT_EQ(1U, ReadFile("commas.sim", commas).log.SkippedLines());
 }
 
 TEST(HeavyFiles, PointOfManyCommasIsSkipped) {
   const Read read =
       ReadFile("commas.xml", "<LandXML><CgPoint name=\"1\">" + std::string(100 * kMany, ',') +
                                  "</CgPoint></LandXML>");
-  EXPECT_EQ(read.log.SkippedElements(), 1U);
-  EXPECT_EQ(read.log.Diagnostics().at(0).sentence,
-            "the CgPoint holds ',,,,,,,,,,,,,,,,,,,,,,,,...', which is no number");
+  EXPECT_EQ(1U, read.log.SkippedElements());
+  EXPECT_EQ("the CgPoint holds ',,,,,,,,,,,,,,,,,,,,,,,,...', which is no number",
+            read.log.Diagnostics().at(0).sentence);
 }
 
 }  // namespace

@@ -96,16 +96,16 @@ TEST(LandXmlFaults, SkipsAndSaysBadElementsAndKeepsTheOthers) {
     const Read read =
         ReadFile("<LandXML>\n\n" + row.element + "<CgPoint name=\"good\">1 2</CgPoint></LandXML>");
     SCOPED_TRACE(row.element);
-    EXPECT_EQ(read.log.Refusal(), "");
-    ASSERT_EQ(read.survey.points.size(), 1U);
-    EXPECT_EQ(read.survey.points[0].name, "good");
+    EXPECT_EQ("", read.log.Refusal());
+    ASSERT_EQ(1U, read.survey.points.size());
+    EXPECT_EQ("good", read.survey.points[0].name);
     EXPECT_TRUE(read.survey.lines.empty());
-    EXPECT_EQ(read.log.SkippedElements(), 1U);
-    EXPECT_EQ(read.log.SkippedLines(), 0U);
-    ASSERT_EQ(read.log.Diagnostics().size(), 1U);
-    EXPECT_EQ(read.log.Diagnostics()[0].line, 3);
+    EXPECT_EQ(1U, read.log.SkippedElements());
+    EXPECT_EQ(0U, read.log.SkippedLines());
+    ASSERT_EQ(1U, read.log.Diagnostics().size());
+    EXPECT_EQ(3, read.log.Diagnostics()[0].line);
     if (row.sentence) {
-      EXPECT_EQ(read.log.Diagnostics()[0].sentence, row.sentence);
+      EXPECT_EQ(row.sentence, read.log.Diagnostics()[0].sentence);
     }
   }
 }
@@ -127,12 +127,12 @@ TEST(LandXmlFaults, RefusesWhatItCannotReadAtAll) {
   };
   for (const auto& row : rows) {
     const Read read = ReadFile(row.bytes);
-    EXPECT_EQ(read.log.Refusal(), row.refusal);
+    EXPECT_EQ(row.refusal, read.log.Refusal());
     EXPECT_FALSE(read.survey.HasAnythingToDraw());
   }
   std::string deep = "<LandXML>";
   for (int i = 0; i < 1000; ++i) deep += "<a>";
-  EXPECT_EQ(ReadFile(deep).log.Refusal(), "is nested too deep at line 1; it is not a LandXML file");
+  EXPECT_EQ("is nested too deep at line 1; it is not a LandXML file", ReadFile(deep).log.Refusal());
 }
 
 }  // namespace

@@ -41,20 +41,20 @@ TEST_F(RealFile, HoldsWhatItsTagsCount) {
     ASSERT_NO_FATAL_FAILURE(Load(row.file));
     if (IsSkipped()) return;
     const SurveyCounts counts = CountsOf(survey);
-    EXPECT_EQ(counts.points, row.points);
-    EXPECT_EQ(counts.polylines, row.polylines);
-    EXPECT_EQ(counts.alignment_elements, row.alignment_elements);
-    EXPECT_EQ(counts.lots, 0U);
+    EXPECT_EQ(row.points, counts.points);
+    EXPECT_EQ(row.polylines, counts.polylines);
+    EXPECT_EQ(row.alignment_elements, counts.alignment_elements);
+    EXPECT_EQ(0U, counts.lots);
   }
 }
 
 TEST_F(RealFile, LampPostsStandWhereTheFileSays) {
   ASSERT_NO_FATAL_FAILURE(Load("inframodel-m3/Lightning_columns.xy.xml"));
   if (IsSkipped()) return;
-  ASSERT_EQ(survey.points.size(), 37U);
-  EXPECT_EQ(survey.points[0].name, "3036");
-  EXPECT_EQ(survey.points[0].kind, "D2342");
-  EXPECT_EQ(survey.points[0].height, 17.4);
+  ASSERT_EQ(37U, survey.points.size());
+  EXPECT_EQ("3036", survey.points[0].name);
+  EXPECT_EQ("D2342", survey.points[0].kind);
+  EXPECT_EQ(17.4, survey.points[0].height);
   ExpectExtent(6782580.941, 6783120.054, 21530243.302, 21531270.983);
 }
 
@@ -63,30 +63,30 @@ TEST_F(RealFile, RockSurveyHasAllVerticesOfItsBreaklines) {
   if (IsSkipped()) return;
   std::size_t vertices = 0;
   for (const SurveyLine& line : survey.lines) {
-    EXPECT_EQ(line.kind, LineKind::kBreakline);
-    ASSERT_EQ(line.elements.size(), 1U);
+    EXPECT_EQ(LineKind::kBreakline, line.kind);
+    ASSERT_EQ(1U, line.elements.size());
     vertices += std::get<PlanPolyline>(line.elements[0].at(0)).vertices.size();
   }
-  EXPECT_EQ(vertices, 1107U);
-  EXPECT_EQ(survey.lines[0].name, "1");
-  EXPECT_EQ(survey.points[0].kind, "terrain");
+  EXPECT_EQ(1107U, vertices);
+  EXPECT_EQ("1", survey.lines[0].name);
+  EXPECT_EQ("terrain", survey.points[0].kind);
 }
 
 TEST_F(RealFile, ManholesHaveTheirRimsAndPipes) {
   ASSERT_NO_FATAL_FAILURE(Load("bsi-unit-test/DrainageSystem-1-1.xml"));
   if (IsSkipped()) return;
-  ASSERT_EQ(survey.points.size(), 7U);
-  EXPECT_EQ(survey.points[0].name, "10");
-  EXPECT_EQ(survey.points[0].height, 126.944735);
-  EXPECT_EQ(survey.lines.at(0).kind, LineKind::kPipe);
+  ASSERT_EQ(7U, survey.points.size());
+  EXPECT_EQ("10", survey.points[0].name);
+  EXPECT_EQ(126.944735, survey.points[0].height);
+  EXPECT_EQ(LineKind::kPipe, survey.lines.at(0).kind);
 }
 
 TEST_F(RealFile, FeetBecomeMetres) {
   ASSERT_NO_FATAL_FAILURE(Load("bsi-unit-test/PR_Twin_Branch_section_alignment.xml"));
   if (IsSkipped()) return;
   const auto& line = std::get<PlanStraight>(survey.lines.at(0).elements.at(0).at(0));
-  EXPECT_NEAR(line.from.north, 627930.523989 * kSurveyFoot, 1e-6);
-  EXPECT_NEAR(line.from.east, 1320681.488589 * kSurveyFoot, 1e-6);
+  EXPECT_NEAR(627930.523989 * kSurveyFoot, line.from.north, 1e-6);
+  EXPECT_NEAR(1320681.488589 * kSurveyFoot, line.from.east, 1e-6);
 }
 
 // A piece is what the table says of it, its lengths in the table's unit.
@@ -110,7 +110,7 @@ void ExpectPiece(const PlanPiece& piece, const TableRow& row) {
     ends(std::get<PlanArc>(piece));
     near(std::get<PlanArc>(piece).radius, row.NumberAfter("signed_radius_hint", "r"));
   } else {
-    ASSERT_EQ(type, "Spiral");
+    ASSERT_EQ("Spiral", type);
     ASSERT_TRUE(std::holds_alternative<PlanClothoid>(piece));
     const auto& clothoid = std::get<PlanClothoid>(piece);
     ends(clothoid);
@@ -139,16 +139,16 @@ TEST_F(RealFile, ElementsHaveTheRadiiTheyAreDrawnWith) {
     ASSERT_NO_FATAL_FAILURE(Load(file));
     if (IsSkipped()) return;
     const std::vector<TableRow> rows = RowsOf(file);
-    ASSERT_EQ(survey.lines.size(), 1U) << file;
+    ASSERT_EQ(1U, survey.lines.size()) << file;
     ASSERT_EQ(survey.lines[0].elements.size(), rows.size()) << file;
     for (std::size_t i = 0; i < rows.size(); ++i) {
       SCOPED_TRACE("row " + rows[i].Text("id"));
-      ASSERT_EQ(survey.lines[0].elements[i].size(), 1U);
+      ASSERT_EQ(1U, survey.lines[0].elements[i].size());
       ExpectPiece(survey.lines[0].elements[i][0], rows[i]);
       ++compared;
     }
   }
-  EXPECT_EQ(compared, 49U);
+  EXPECT_EQ(49U, compared);
 }
 
 // The elements of designs that came in another format, written down as LandXML has them.
@@ -172,14 +172,14 @@ TEST_F(RealFile, ElementsOfOtherFormatsHaveTheirRadiiToo) {
       SCOPED_TRACE("row " + row.Text("id"));
       ReadLog log("one.xml");
       const Survey one = ReadSurvey("one.xml", ElementOf(row), log);
-      ASSERT_EQ(one.lines.size(), 1U);
-      ASSERT_EQ(one.lines[0].elements.at(0).size(), 1U);
+      ASSERT_EQ(1U, one.lines.size());
+      ASSERT_EQ(1U, one.lines[0].elements.at(0).size());
       ExpectPiece(one.lines[0].elements[0][0], row);
       ++compared;
     }
   }
   if (compared == 0) GTEST_SKIP() << "The table of curves is not at hand.";
-  EXPECT_EQ(compared, 6U);
+  EXPECT_EQ(6U, compared);
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ Read ReadGeometry(std::string_view elements) {
 
 const PlanPiece& OnlyPiece(const Read& read) {
   static const PlanPiece none = PlanPolyline();
-  EXPECT_EQ(read.log.SkippedElements(), 0U);
+  EXPECT_EQ(0U, read.log.SkippedElements());
   for (const Diagnostic& one : read.log.Diagnostics()) ADD_FAILURE() << one.sentence;
   if (read.survey.lines.size() != 1 || read.survey.lines[0].elements.size() != 1 ||
       read.survey.lines[0].elements[0].size() != 1) {
@@ -52,23 +52,23 @@ TEST(LandXmlReader, ReadsPoints) {
       "<CgPoint name=\" P 7 \" desc=\"tree\">\n 1.5\t-2.5 \n</CgPoint>"
       "<CgPoint>1 2</CgPoint></CgPoints>"
       "<CgPoint name=\"8\">3 4</CgPoint><CgPoints/></CgPoints>");
-  EXPECT_EQ(read.log.SkippedElements(), 0U);
+  EXPECT_EQ(0U, read.log.SkippedElements());
   const std::vector<SurveyPoint>& points = read.survey.points;
-  ASSERT_EQ(points.size(), 4U);
-  EXPECT_EQ(points[0].number, 3036);
-  EXPECT_EQ(points[0].name, "3036");
-  EXPECT_EQ(points[0].kind, "D2342");
-  EXPECT_EQ(points[0].north, 6783020.064);
-  EXPECT_EQ(points[0].east, 21530666.426);
-  EXPECT_EQ(points[0].height, 17.4);
-  EXPECT_EQ(points[1].number, 0);
-  EXPECT_EQ(points[1].name, "P 7");
-  EXPECT_EQ(points[1].kind, "tree");
-  EXPECT_EQ(points[1].east, -2.5);
+  ASSERT_EQ(4U, points.size());
+  EXPECT_EQ(3036, points[0].number);
+  EXPECT_EQ("3036", points[0].name);
+  EXPECT_EQ("D2342", points[0].kind);
+  EXPECT_EQ(6783020.064, points[0].north);
+  EXPECT_EQ(21530666.426, points[0].east);
+  EXPECT_EQ(17.4, points[0].height);
+  EXPECT_EQ(0, points[1].number);
+  EXPECT_EQ("P 7", points[1].name);
+  EXPECT_EQ("tree", points[1].kind);
+  EXPECT_EQ(-2.5, points[1].east);
   EXPECT_FALSE(points[1].height);
-  EXPECT_EQ(points[2].name, "-");
-  EXPECT_EQ(points[2].kind, "D2");
-  EXPECT_EQ(points[3].kind, "group");
+  EXPECT_EQ("-", points[2].name);
+  EXPECT_EQ("D2", points[2].kind);
+  EXPECT_EQ("group", points[3].kind);
 }
 
 TEST(LandXmlReader, FollowsReferencesToPoints) {
@@ -77,14 +77,14 @@ TEST(LandXmlReader, FollowsReferencesToPoints) {
       "<CgPoint name=\"c\">1 2 3</CgPoint><CgPoint name=\"c\">7 7</CgPoint></CgPoints>"
       "<Alignment><CoordGeom><Line><Start pntRef=\"a\"/><End>4 5</End></Line></CoordGeom>"
       "</Alignment>");
-  EXPECT_EQ(read.log.SkippedElements(), 0U);
-  ASSERT_EQ(read.survey.points.size(), 4U);
-  EXPECT_EQ(read.survey.points[0].north, 1.0);
-  EXPECT_EQ(read.survey.points[0].height, 3.0);
-  ASSERT_EQ(read.survey.lines.size(), 1U);
+  EXPECT_EQ(0U, read.log.SkippedElements());
+  ASSERT_EQ(4U, read.survey.points.size());
+  EXPECT_EQ(1.0, read.survey.points[0].north);
+  EXPECT_EQ(3.0, read.survey.points[0].height);
+  ASSERT_EQ(1U, read.survey.lines.size());
   const auto& line = std::get<PlanStraight>(OnlyPiece(read));
-  EXPECT_EQ(line.from, (GroundPosition{1.0, 2.0}));
-  EXPECT_EQ(line.to, (GroundPosition{4.0, 5.0}));
+  EXPECT_EQ((GroundPosition{1.0, 2.0}), line.from);
+  EXPECT_EQ((GroundPosition{4.0, 5.0}), line.to);
 }
 
 TEST(LandXmlReader, ConvertsUnits) {
@@ -108,7 +108,7 @@ TEST(LandXmlReader, ConvertsUnits) {
         std::string(row.units) +
         "<Alignment><CoordGeom><Curve rot=\"cw\" radius=\"10\"><Start>0 0</Start><End>10 10</End>"
         "</Curve></CoordGeom></Alignment></LandXML>");
-    ASSERT_EQ(read.survey.points.size(), 1U) << row.units;
+    ASSERT_EQ(1U, read.survey.points.size()) << row.units;
     EXPECT_DOUBLE_EQ(read.survey.points[0].north, 10 * row.metres) << row.units;
     EXPECT_DOUBLE_EQ(*read.survey.points[0].height, 30 * row.metres) << row.units;
     const auto& arc = std::get<PlanArc>(OnlyPiece(read));
@@ -156,10 +156,10 @@ TEST(LandXmlReader, ReadsLinesOfEachKind) {
     const Read read = ReadInside(row.elements);
     const auto* line = std::get_if<PlanPolyline>(&OnlyPiece(read));
     ASSERT_TRUE(line);
-    EXPECT_EQ(read.survey.lines[0].kind, row.kind);
+    EXPECT_EQ(row.kind, read.survey.lines[0].kind);
     EXPECT_EQ(read.survey.lines[0].name, row.kind == LineKind::kOther ? "" : "L");
-    ASSERT_EQ(line->vertices.size(), row.vertices);
-    EXPECT_EQ(line->vertices[0], (GroundPosition{1.0, 2.0}));
+    ASSERT_EQ(row.vertices, line->vertices.size());
+    EXPECT_EQ((GroundPosition{1.0, 2.0}), line->vertices[0]);
   }
 }
 
@@ -167,11 +167,11 @@ TEST(LandXmlReader, ReadsTerrainPointsAsPointsAndNotAsALine) {
   const Read read =
       ReadInside("<DataPoints name=\"190\"><PntList3D>1 2 3 4 5 6</PntList3D></DataPoints>");
   EXPECT_TRUE(read.survey.lines.empty());
-  ASSERT_EQ(read.survey.points.size(), 2U);
-  EXPECT_EQ(read.survey.points[1].kind, "terrain");
-  EXPECT_EQ(read.survey.points[1].number, 2);
-  EXPECT_EQ(read.survey.points[1].name, "190");
-  EXPECT_EQ(read.survey.points[1].height, 6.0);
+  ASSERT_EQ(2U, read.survey.points.size());
+  EXPECT_EQ("terrain", read.survey.points[1].kind);
+  EXPECT_EQ(2, read.survey.points[1].number);
+  EXPECT_EQ("190", read.survey.points[1].name);
+  EXPECT_EQ(6.0, read.survey.points[1].height);
 }
 
 TEST(LandXmlReader, ReadsManholesAndThePipesBetweenThem) {
@@ -179,13 +179,13 @@ TEST(LandXmlReader, ReadsManholesAndThePipesBetweenThem) {
       "<PipeNetwork><Pipes><Pipe name=\"p\" refStart=\"1\" refEnd=\"2\"/></Pipes><Structs>"
       "<Struct name=\"1\" elevRim=\"12.5\"><Center>1 2</Center></Struct>"
       "<Struct name=\"2\"><Center>3 4 5</Center></Struct></Structs></PipeNetwork>");
-  ASSERT_EQ(read.survey.points.size(), 2U);
-  EXPECT_EQ(read.survey.points[0].kind, "manhole");
-  EXPECT_EQ(read.survey.points[0].height, 12.5);
-  EXPECT_EQ(read.survey.points[1].height, 5.0);
+  ASSERT_EQ(2U, read.survey.points.size());
+  EXPECT_EQ("manhole", read.survey.points[0].kind);
+  EXPECT_EQ(12.5, read.survey.points[0].height);
+  EXPECT_EQ(5.0, read.survey.points[1].height);
   const auto& line = std::get<PlanStraight>(OnlyPiece(read));
-  EXPECT_EQ(read.survey.lines[0].kind, LineKind::kPipe);
-  EXPECT_EQ(line.to, (GroundPosition{3.0, 4.0}));
+  EXPECT_EQ(LineKind::kPipe, read.survey.lines[0].kind);
+  EXPECT_EQ((GroundPosition{3.0, 4.0}), line.to);
 }
 
 TEST(LandXmlReader, LeavesOutWhatIsNoPlaceInPlan) {
@@ -194,9 +194,9 @@ TEST(LandXmlReader, LeavesOutWhatIsNoPlaceInPlan) {
       "<CrossSects><CrossSect><PntList2D>1 2 3 4</PntList2D></CrossSect></CrossSects></Alignment>"
       "<Surface><Definition><Pnts><P id=\"1\">1 2 3</P></Pnts></Definition></Surface>"
       "<CgPoints><CgPoint name=\"1\">1 2</CgPoint></CgPoints>");
-  EXPECT_EQ(read.survey.points.size(), 1U);
+  EXPECT_EQ(1U, read.survey.points.size());
   EXPECT_TRUE(read.survey.lines.empty());
-  EXPECT_EQ(read.log.SkippedElements(), 0U);
+  EXPECT_EQ(0U, read.log.SkippedElements());
 }
 
 // Radii and centres of a quarter circle about (0, 0) from (10, 0), north, to (0, 10), east; and of
@@ -234,13 +234,13 @@ TEST(LandXmlReader, ReadsCurvesByTheirRotation) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
     const Read read = ReadGeometry(row.element);
-    ASSERT_EQ(read.survey.lines.size(), 1U);
-    ASSERT_EQ(read.survey.lines[0].elements.size(), 1U);
+    ASSERT_EQ(1U, read.survey.lines.size());
+    ASSERT_EQ(1U, read.survey.lines[0].elements.size());
     const PlanElement& arcs = read.survey.lines[0].elements[0];
-    EXPECT_EQ(arcs.size(), row.pieces);
+    EXPECT_EQ(row.pieces, arcs.size());
     for (const PlanPiece& piece : arcs) {
       ASSERT_TRUE(std::holds_alternative<PlanArc>(piece));
-      EXPECT_NEAR(std::get<PlanArc>(piece).radius, row.radius, 1e-9);
+      EXPECT_NEAR(row.radius, std::get<PlanArc>(piece).radius, 1e-9);
     }
   }
 }
@@ -275,9 +275,9 @@ TEST(LandXmlReader, ReadsSpirals) {
     const Read read = ReadGeometry(row.element);
     const auto* clothoid = std::get_if<PlanClothoid>(&OnlyPiece(read));
     ASSERT_TRUE(clothoid);
-    EXPECT_NEAR(clothoid->start_radius, row.start_radius, 1e-9);
-    EXPECT_NEAR(clothoid->end_radius, row.end_radius, 1e-9);
-    EXPECT_NEAR(clothoid->parameter, 173.2050808, 1e-6);
+    EXPECT_NEAR(row.start_radius, clothoid->start_radius, 1e-9);
+    EXPECT_NEAR(row.end_radius, clothoid->end_radius, 1e-9);
+    EXPECT_NEAR(173.2050808, clothoid->parameter, 1e-6);
   }
 }
 
@@ -285,12 +285,12 @@ TEST(LandXmlReader, BeginsAnElementWhereTheOneBeforeEnds) {
   const Read read = ReadGeometry(
       "<Line><Start>1 2</Start><End>3 4</End></Line><Line><End>5 6</End></Line>"
       "<Line dir=\"1\"/><Line><End>7 8</End></Line>");
-  ASSERT_EQ(read.survey.lines.size(), 1U);
-  ASSERT_EQ(read.survey.lines[0].elements.size(), 2U);
-  EXPECT_EQ(std::get<PlanStraight>(read.survey.lines[0].elements[1][0]).from,
-            (GroundPosition{3.0, 4.0}));
+  ASSERT_EQ(1U, read.survey.lines.size());
+  ASSERT_EQ(2U, read.survey.lines[0].elements.size());
+  EXPECT_EQ((GroundPosition{3.0, 4.0}),
+            std::get<PlanStraight>(read.survey.lines[0].elements[1][0]).from);
   // Behind a line that was skipped nobody knows where the next begins.
-  EXPECT_EQ(read.log.SkippedElements(), 2U);
+  EXPECT_EQ(2U, read.log.SkippedElements());
 }
 
 TEST(LandXmlReader, IsChosenByNameOrByTheFirstCharacter) {
@@ -298,10 +298,10 @@ TEST(LandXmlReader, IsChosenByNameOrByTheFirstCharacter) {
       "\xEF\xBB\xBF<?xml version=\"1.0\"?>\n<l:LandXML xmlns:l=\"urn:l\"><l:CgPoint name=\"1\">1 2"
       "</l:CgPoint></l:LandXML>";
   for (const char* name : {"site.xml", "SITE.XML", "site.txt", "site"}) {
-    EXPECT_EQ(ReadFile(file, name).survey.points.size(), 1U) << name;
+    EXPECT_EQ(1U, ReadFile(file, name).survey.points.size()) << name;
   }
-  EXPECT_EQ(ReadFile("1,10,20,3,a\n", "site.xml").log.Refusal(),
-            "is damaged XML at line 1; export or copy it again");
+  EXPECT_EQ("is damaged XML at line 1; export or copy it again",
+            ReadFile("1,10,20,3,a\n", "site.xml").log.Refusal());
 }
 
 TEST(LandXmlReader, ReadsNamesOfAnyEncoding) {
@@ -318,8 +318,8 @@ TEST(LandXmlReader, ReadsNamesOfAnyEncoding) {
     const Read read =
         ReadFile("<?xml version=\"1.0\" encoding=\"" + std::string(row.encoding) +
                  "\"?><LandXML><CgPoint name=\"" + row.bytes + "\">1 2</CgPoint></LandXML>");
-    ASSERT_EQ(read.survey.points.size(), 1U) << row.encoding;
-    EXPECT_EQ(read.survey.points[0].name, row.name);
+    ASSERT_EQ(1U, read.survey.points.size()) << row.encoding;
+    EXPECT_EQ(row.name, read.survey.points[0].name);
   }
 }
 

@@ -19,13 +19,13 @@ TEST(MetresIn, KnowsTheUnitsOfSurveyFiles) {
   };
   for (const auto& row : rows) {
     ASSERT_TRUE(MetresIn(row.unit)) << row.unit;
-    EXPECT_DOUBLE_EQ(*MetresIn(row.unit), row.metres) << row.unit;
+    EXPECT_DOUBLE_EQ(row.metres, *MetresIn(row.unit)) << row.unit;
   }
 }
 
 TEST(MetresIn, TellsTheSurveyFootFromTheOther) {
   // The northing of a state plane: a metre and a quarter between the two.
-  EXPECT_NEAR(*MetresIn("USSurveyFoot") * 2e6 - *MetresIn("foot") * 2e6, 1.2192, 0.0001);
+  EXPECT_NEAR(1.2192, *MetresIn("USSurveyFoot") * 2e6 - *MetresIn("foot") * 2e6, 0.0001);
 }
 
 TEST(MetresIn, KnowsNoOthers) {

@@ -68,7 +68,7 @@ TEST(ArcAbout, IsDrawnOnItsCircleHoweverLong) {
       }
       for (const auto& chain : drawn) {
         for (const tavix::GroundPoint p : chain) {
-          EXPECT_NEAR(std::hypot(p.x - kCentre.north, p.y - kCentre.east), kRadius, 1e-6);
+          EXPECT_NEAR(kRadius, std::hypot(p.x - kCentre.north, p.y - kCentre.east), 1e-6);
           const double past = TurnAbout(kCentre, from, {p.x, p.y}, rotation);
           EXPECT_TRUE(past <= turn + 1e-6 || past >= 2 * kPi - 1e-6) << degrees << ' ' << past;
         }
@@ -79,9 +79,9 @@ TEST(ArcAbout, IsDrawnOnItsCircleHoweverLong) {
 
 TEST(TurnAbout, IsAFullCircleBackToTheStart) {
   const GroundPosition from = OnCircle(5.0, 0.3);
-  EXPECT_NEAR(TurnAbout(kCentre, from, from, Rotation::kClockwise), 2 * kPi, 1e-9);
-  EXPECT_NEAR(TurnAbout(kCentre, from, from, Rotation::kCounterClockwise), 2 * kPi, 1e-9);
-  EXPECT_EQ(ArcAbout(kCentre, from, from, 5.0, Rotation::kClockwise, 2 * kPi).size(), 3U);
+  EXPECT_NEAR(2 * kPi, TurnAbout(kCentre, from, from, Rotation::kClockwise), 1e-9);
+  EXPECT_NEAR(2 * kPi, TurnAbout(kCentre, from, from, Rotation::kCounterClockwise), 1e-9);
+  EXPECT_EQ(3U, ArcAbout(kCentre, from, from, 5.0, Rotation::kClockwise, 2 * kPi).size());
 }
 
 TEST(CentreOf, LiesOnTheSideTheArcTurnsTo) {
@@ -100,8 +100,8 @@ TEST(CentreOf, LiesOnTheSideTheArcTurnsTo) {
   for (const auto& row : rows) {
     const auto centre = CentreOf(west, east, 5.0, row.rotation, row.is_long);
     ASSERT_TRUE(centre);
-    EXPECT_NEAR(centre->north, row.north, 1e-9);
-    EXPECT_NEAR(centre->east, 3.0, 1e-9);
+    EXPECT_NEAR(row.north, centre->north, 1e-9);
+    EXPECT_NEAR(3.0, centre->east, 1e-9);
   }
   EXPECT_TRUE(CentreOf(west, east, 3.0, Rotation::kClockwise, false));
   EXPECT_FALSE(CentreOf(west, east, 2.9, Rotation::kClockwise, false));
@@ -162,7 +162,7 @@ TEST(SpiralBetween, IsDrawnAlongTheCurve) {
     const GroundPosition end = EndOf(way);
     EXPECT_NEAR(ChordOf(row.shape), Distance(kCentre, end), 0.001);
     const PlanElement pieces = SpiralBetween(kCentre, end, row.shape);
-    ASSERT_EQ(pieces.size(), 1U);
+    ASSERT_EQ(1U, pieces.size());
     const std::vector<tavix::GroundPoint> drawn = Drawn(pieces[0]);
     ASSERT_GT(drawn.size(), 5U);
     // Each vertex lies on the curve, and the curve no further from a chord than a bend of two
@@ -181,15 +181,15 @@ TEST(SpiralBetween, OfOneRadiusIsAnArc) {
   const SpiralShape shape{1 / 50.0, 1 / 50.0, 30.0, Rotation::kCounterClockwise};
   const GroundPosition end = EndOf(TrueSpiral(shape, 0.2));
   const PlanElement pieces = SpiralBetween(kCentre, end, shape);
-  ASSERT_EQ(pieces.size(), 1U);
+  ASSERT_EQ(1U, pieces.size());
   ASSERT_TRUE(std::holds_alternative<PlanArc>(pieces[0]));
-  EXPECT_NEAR(std::get<PlanArc>(pieces[0]).radius, -50.0, 1e-9);
+  EXPECT_NEAR(-50.0, std::get<PlanArc>(pieces[0]).radius, 1e-9);
 }
 
 TEST(BendAt, IsAboveZeroToTheRight) {
   EXPECT_GT(BendAt({0, 0}, {1, 0}, {1, 1}), 0.0);  // north, then east
   EXPECT_LT(BendAt({0, 0}, {1, 0}, {1, -1}), 0.0);
-  EXPECT_EQ(BendAt({0, 0}, {1, 0}, {2, 0}), 0.0);
+  EXPECT_EQ(0.0, BendAt({0, 0}, {1, 0}, {2, 0}));
 }
 
 }  // namespace

@@ -25,7 +25,7 @@ class RealFile : public testing::Test {
     const LoadedSurvey loaded = LoadSurveyFiles(files);
     EXPECT_TRUE(loaded.refusals.empty());
     EXPECT_TRUE(loaded.diagnostics.empty());
-    EXPECT_EQ(loaded.skipped_lines, 0U);
+    EXPECT_EQ(0U, loaded.skipped_lines);
     survey = loaded.survey;
   }
 

@@ -13,29 +13,29 @@ namespace {
 TEST_F(RealFile, RegistryMapOfManyControlPoints) {
   ASSERT_NO_FATAL_FAILURE(Load("moj-registry-map/12103-0400-76.sim"));
   if (IsSkipped()) return;
-  ASSERT_EQ(survey.points.size(), 610U);
-  ASSERT_EQ(survey.lots.size(), 1U);
-  EXPECT_EQ(survey.points[0].name, "020100");
-  EXPECT_EQ(survey.lots[0].name, "194-1");
-  EXPECT_EQ(survey.lots[0].corners, (std::vector<std::size_t>{606, 608, 609, 607}));
+  ASSERT_EQ(610U, survey.points.size());
+  ASSERT_EQ(1U, survey.lots.size());
+  EXPECT_EQ("020100", survey.points[0].name);
+  EXPECT_EQ("194-1", survey.lots[0].name);
+  EXPECT_EQ((std::vector<std::size_t>{606, 608, 609, 607}), survey.lots[0].corners);
   ExpectExtent(-42737.116, -42104.611, 25739.966, 26695.870);
 }
 
 TEST_F(RealFile, RegistryMapOfManyLots) {
   ASSERT_NO_FATAL_FAILURE(Load("moj-registry-map/46505-3411-1.sim"));
   if (IsSkipped()) return;
-  ASSERT_EQ(survey.points.size(), 164U);
-  ASSERT_EQ(survey.lots.size(), 8U);
-  EXPECT_EQ(survey.lots[0].name, "2740-1");
-  EXPECT_EQ(survey.lots[0].corners.size(), 109U);
-  EXPECT_EQ(survey.lots[2].name, "別図-5");
-  EXPECT_EQ(survey.lots[3].name, "地区外-43774");
+  ASSERT_EQ(164U, survey.points.size());
+  ASSERT_EQ(8U, survey.lots.size());
+  EXPECT_EQ("2740-1", survey.lots[0].name);
+  EXPECT_EQ(109U, survey.lots[0].corners.size());
+  EXPECT_EQ("別図-5", survey.lots[2].name);
+  EXPECT_EQ("地区外-43774", survey.lots[3].name);
   std::size_t corners = 0;
   for (const SurveyLot& lot : survey.lots) {
     EXPECT_TRUE(lot.closed);
     corners += lot.corners.size();
   }
-  EXPECT_EQ(corners, 282U);
+  EXPECT_EQ(282U, corners);
   ExpectExtent(-297829.398, -297229.380, -34617.994, -33817.987);
 }
 
@@ -45,15 +45,15 @@ TEST_F(RealFile, PaddedLotEqualsThePlainOne) {
   const Survey plain = survey;
   ASSERT_NO_FATAL_FAILURE(Load("sima-minimal/lot-446-2-padded.sim"));
   if (IsSkipped()) return;
-  ASSERT_EQ(plain.points.size(), 4U);
-  ASSERT_EQ(survey.points.size(), 4U);
+  ASSERT_EQ(4U, plain.points.size());
+  ASSERT_EQ(4U, survey.points.size());
   for (std::size_t i = 0; i < 4; ++i) {
-    EXPECT_EQ(survey.points[i].name, plain.points[i].name);
-    EXPECT_EQ(survey.points[i].north, plain.points[i].north);
-    EXPECT_EQ(survey.points[i].east, plain.points[i].east);
+    EXPECT_EQ(plain.points[i].name, survey.points[i].name);
+    EXPECT_EQ(plain.points[i].north, survey.points[i].north);
+    EXPECT_EQ(plain.points[i].east, survey.points[i].east);
   }
-  ASSERT_EQ(survey.lots.size(), 1U);
-  EXPECT_EQ(survey.lots[0].corners, (std::vector<std::size_t>{3, 2, 1, 0}));
+  ASSERT_EQ(1U, survey.lots.size());
+  EXPECT_EQ((std::vector<std::size_t>{3, 2, 1, 0}), survey.lots[0].corners);
 }
 
 TEST_F(RealFile, ListWithAHeaderEqualsTheSimaFile) {
@@ -69,18 +69,18 @@ TEST_F(RealFile, ListWithAHeaderEqualsTheSimaFile) {
     EXPECT_EQ(survey.points[i].north, sima.points[i].north);
     EXPECT_EQ(survey.points[i].east, sima.points[i].east);
   }
-  EXPECT_EQ(survey.points[0].kind, "基準点");
-  EXPECT_EQ(survey.points[163].kind, "筆界点");
+  EXPECT_EQ("基準点", survey.points[0].kind);
+  EXPECT_EQ("筆界点", survey.points[163].kind);
 }
 
 TEST_F(RealFile, ListOfManyStations) {
   ASSERT_NO_FATAL_FAILURE(Load("os-trig/trig_points_pnezd.csv"));
   if (IsSkipped()) return;
-  ASSERT_EQ(survey.points.size(), 21479U);
-  EXPECT_EQ(survey.points[0].number, 1);
-  EXPECT_EQ(survey.points[0].name, "NN96/1 PILLAR");
-  EXPECT_EQ(survey.points[0].height, 936.345);
-  EXPECT_EQ(survey.points[21478].number, 21479);
+  ASSERT_EQ(21479U, survey.points.size());
+  EXPECT_EQ(1, survey.points[0].number);
+  EXPECT_EQ("NN96/1 PILLAR", survey.points[0].name);
+  EXPECT_EQ(936.345, survey.points[0].height);
+  EXPECT_EQ(21479, survey.points[21478].number);
   ExpectExtent(5575.208, 1219690.420, 8710.270, 654131.330);
 }
 
@@ -90,7 +90,7 @@ TEST_F(RealFile, TableThatIsNoListOfPointsIsRefused) {
   if (!std::filesystem::exists(files[0])) GTEST_SKIP() << "The real table is not at hand.";
   const LoadedSurvey loaded = LoadSurveyFiles(files);
   EXPECT_FALSE(loaded.survey.HasAnythingToDraw());
-  ASSERT_EQ(loaded.refusals.size(), 1U);
+  ASSERT_EQ(1U, loaded.refusals.size());
   EXPECT_TRUE(loaded.refusals[0].starts_with(
       "clothoid-reference.csv names no northing and easting in its header, line 1;"))
       << loaded.refusals[0];

@@ -34,14 +34,14 @@ constexpr std::string_view kPoints =
 
 TEST(SimaReader, ReadsPoints) {
   const Read read = ReadFile(kPoints);
-  EXPECT_EQ(read.log.SkippedLines(), 0U);
-  ASSERT_EQ(read.survey.points.size(), 3U);
+  EXPECT_EQ(0U, read.log.SkippedLines());
+  ASSERT_EQ(3U, read.survey.points.size());
   const SurveyPoint& first = read.survey.points[0];
-  EXPECT_EQ(first.number, 1);
-  EXPECT_EQ(first.name, "T-1");
-  EXPECT_EQ(first.north, -24010.239);
-  EXPECT_EQ(first.east, -32836.454);
-  EXPECT_EQ(first.height, 12.5);
+  EXPECT_EQ(1, first.number);
+  EXPECT_EQ("T-1", first.name);
+  EXPECT_EQ(-24010.239, first.north);
+  EXPECT_EQ(-32836.454, first.east);
+  EXPECT_EQ(12.5, first.height);
   EXPECT_FALSE(read.survey.points[1].height);
   EXPECT_FALSE(read.survey.points[2].height);
 }
@@ -52,13 +52,13 @@ TEST(SimaReader, ReadsPaddedAndQuotedFields) {
       "\"A01\",\"2\",\"T-2\",\"10\",\"20\",\"\",\n"
       "A01,3,               T-3,10,20\n"
       "A01,4,,10,20,,,,,,\n");
-  EXPECT_EQ(read.log.SkippedLines(), 0U);
-  ASSERT_EQ(read.survey.points.size(), 4U);
-  EXPECT_EQ(read.survey.points[0].name, "T-1");
-  EXPECT_EQ(read.survey.points[0].north, -24010.239);
-  EXPECT_EQ(read.survey.points[1].name, "T-2");
-  EXPECT_EQ(read.survey.points[2].name, "T-3");
-  EXPECT_EQ(read.survey.points[3].name, "4");
+  EXPECT_EQ(0U, read.log.SkippedLines());
+  ASSERT_EQ(4U, read.survey.points.size());
+  EXPECT_EQ("T-1", read.survey.points[0].name);
+  EXPECT_EQ(-24010.239, read.survey.points[0].north);
+  EXPECT_EQ("T-2", read.survey.points[1].name);
+  EXPECT_EQ("T-3", read.survey.points[2].name);
+  EXPECT_EQ("4", read.survey.points[3].name);
 }
 
 TEST(SimaReader, ReadsLots) {
@@ -67,16 +67,16 @@ TEST(SimaReader, ReadsLots) {
                              "B01,3,T-3,\nC03,9.485,340.5218,\nB01,1,T-1,\nB01,2,T-2,\nD99,\n"
                              "D00,2,\x95\xCA\x90\x7D-5,0,\nB01,1,T-1,\nB01,2,T-2,\nD99,\n"
                              "D00,3,,,\nB01,2,T-2,\nG99,\n");
-  EXPECT_EQ(read.log.SkippedLines(), 0U);
+  EXPECT_EQ(0U, read.log.SkippedLines());
   const std::vector<SurveyLot>& lots = read.survey.lots;
-  ASSERT_EQ(lots.size(), 3U);
-  EXPECT_EQ(lots[0].name, "446-2");
+  ASSERT_EQ(3U, lots.size());
+  EXPECT_EQ("446-2", lots[0].name);
   EXPECT_TRUE(lots[0].closed);
-  EXPECT_EQ(lots[0].corners, (Corners{2, 0, 1}));
-  EXPECT_EQ(lots[1].name, "別図-5");
+  EXPECT_EQ((Corners{2, 0, 1}), lots[0].corners);
+  EXPECT_EQ("別図-5", lots[1].name);
   EXPECT_FALSE(lots[1].closed);
-  EXPECT_EQ(lots[1].corners, (Corners{0, 1}));
-  EXPECT_EQ(lots[2].name, "3");
+  EXPECT_EQ((Corners{0, 1}), lots[1].corners);
+  EXPECT_EQ("3", lots[2].name);
   EXPECT_FALSE(lots[2].closed);
 }
 
@@ -91,24 +91,24 @@ TEST(SimaReader, FindsCornersByNumberThenByName) {
   for (const auto& row : rows) {
     const Read read =
         ReadFile(std::string(kPoints) + "D00,1,a,1,\n" + std::string(row.corner) + "\nD99,\n");
-    EXPECT_EQ(read.log.SkippedLines(), 0U) << row.corner;
-    ASSERT_EQ(read.survey.lots.size(), 1U) << row.corner;
-    EXPECT_EQ(read.survey.lots[0].corners, Corners{row.point}) << row.corner;
+    EXPECT_EQ(0U, read.log.SkippedLines()) << row.corner;
+    ASSERT_EQ(1U, read.survey.lots.size()) << row.corner;
+    EXPECT_EQ(Corners{row.point}, read.survey.lots[0].corners) << row.corner;
   }
 }
 
 TEST(SimaReader, CornersAreBoundaryPoints) {
   const Read read = ReadFile(std::string(kPoints) + "D00,1,a,1,\nB01,2,T-2,\nB01,1,T-1,\nD99,\n");
-  ASSERT_EQ(read.survey.points.size(), 3U);
-  EXPECT_EQ(read.survey.points[0].kind, "boundary");
-  EXPECT_EQ(read.survey.points[1].kind, "boundary");
-  EXPECT_EQ(read.survey.points[2].kind, "");
+  ASSERT_EQ(3U, read.survey.points.size());
+  EXPECT_EQ("boundary", read.survey.points[0].kind);
+  EXPECT_EQ("boundary", read.survey.points[1].kind);
+  EXPECT_EQ("", read.survey.points[2].kind);
 }
 
 TEST(SimaReader, LotsMayComeBeforeThePoints) {
   const Read read = ReadFile("D00,1,a,1,\nB01,2,T-2,\nB01,1,T-1,\nD99,\n" + std::string(kPoints));
-  ASSERT_EQ(read.survey.lots.size(), 1U);
-  EXPECT_EQ(read.survey.lots[0].corners, (Corners{1, 0}));
+  ASSERT_EQ(1U, read.survey.lots.size());
+  EXPECT_EQ((Corners{1, 0}), read.survey.lots[0].corners);
 }
 
 TEST(SimaReader, SkipsAndSaysBadRecords) {
@@ -131,41 +131,41 @@ TEST(SimaReader, SkipsAndSaysBadRecords) {
   };
   for (const auto& row : rows) {
     const Read read = ReadFile(std::string(kPoints) + std::string(row.record) + "\n");
-    EXPECT_EQ(read.survey.points.size(), 3U) << row.record;
+    EXPECT_EQ(3U, read.survey.points.size()) << row.record;
     EXPECT_TRUE(read.survey.lots.empty()) << row.record;
-    EXPECT_EQ(read.log.SkippedLines(), 1U) << row.record;
-    ASSERT_EQ(read.log.Diagnostics().size(), 1U) << row.record;
-    EXPECT_EQ(read.log.Diagnostics()[0].line, 7) << row.record;
-    EXPECT_EQ(read.log.Diagnostics()[0].sentence, row.sentence) << row.record;
+    EXPECT_EQ(1U, read.log.SkippedLines()) << row.record;
+    ASSERT_EQ(1U, read.log.Diagnostics().size()) << row.record;
+    EXPECT_EQ(7, read.log.Diagnostics()[0].line) << row.record;
+    EXPECT_EQ(row.sentence, read.log.Diagnostics()[0].sentence) << row.record;
   }
 }
 
 TEST(SimaReader, LeavesOutACornerWithoutAPoint) {
   const Read read =
       ReadFile(std::string(kPoints) + "D00,1,a,1,\nB01,1,T-1,\nB01,8,T-8,\nB01,2,T-2,\nD99,\n");
-  ASSERT_EQ(read.survey.lots.size(), 1U);
-  EXPECT_EQ(read.survey.lots[0].corners, (Corners{0, 1}));
-  ASSERT_EQ(read.log.Diagnostics().size(), 1U);
-  EXPECT_EQ(read.log.Diagnostics()[0].line, 9);
-  EXPECT_EQ(read.log.Diagnostics()[0].sentence, "the corner '8 T-8' is no point of this file");
+  ASSERT_EQ(1U, read.survey.lots.size());
+  EXPECT_EQ((Corners{0, 1}), read.survey.lots[0].corners);
+  ASSERT_EQ(1U, read.log.Diagnostics().size());
+  EXPECT_EQ(9, read.log.Diagnostics()[0].line);
+  EXPECT_EQ("the corner '8 T-8' is no point of this file", read.log.Diagnostics()[0].sentence);
 }
 
 TEST(SimaReader, SaysUnknownRecordsOnceForEachCode) {
   std::string bytes(kPoints);
   for (int i = 0; i < 500; ++i) bytes += "F01,1,\nF02,1,\n";
   const Read read = ReadFile(bytes);
-  EXPECT_EQ(read.survey.points.size(), 3U);
-  EXPECT_EQ(read.log.SkippedLines(), 1000U);
-  ASSERT_EQ(read.log.Diagnostics().size(), 2U);
-  EXPECT_EQ(read.log.Diagnostics()[0].line, 7);
-  EXPECT_EQ(read.log.Diagnostics()[0].sentence,
-            "records F01 are not known here, 500 of them were skipped");
+  EXPECT_EQ(3U, read.survey.points.size());
+  EXPECT_EQ(1000U, read.log.SkippedLines());
+  ASSERT_EQ(2U, read.log.Diagnostics().size());
+  EXPECT_EQ(7, read.log.Diagnostics()[0].line);
+  EXPECT_EQ("records F01 are not known here, 500 of them were skipped",
+            read.log.Diagnostics()[0].sentence);
 }
 
 TEST(SimaReader, IsChosenByNameOrByFirstRecord) {
-  EXPECT_EQ(ReadFile(kPoints, "SITE.SIM").survey.points.size(), 3U);
-  EXPECT_EQ(ReadFile(kPoints, "site.txt").survey.points.size(), 3U);
-  EXPECT_EQ(ReadFile("A01,1,a,10,20,\n", "site.sim").survey.points.size(), 1U);
+  EXPECT_EQ(3U, ReadFile(kPoints, "SITE.SIM").survey.points.size());
+  EXPECT_EQ(3U, ReadFile(kPoints, "site.txt").survey.points.size());
+  EXPECT_EQ(1U, ReadFile("A01,1,a,10,20,\n", "site.sim").survey.points.size());
   EXPECT_TRUE(ReadFile("1,10,20,3,a\n", "site.sim").survey.points.empty());
 }
 

@@ -37,9 +37,9 @@ TEST(IsUtf8, RefusesIllFormedText) {
 }
 
 TEST(EncodingOf, ShiftJisIsWhatIsNotUtf8) {
-  EXPECT_EQ(EncodingOf("plain"), TextEncoding::kUtf8);
-  EXPECT_EQ(EncodingOf("基準点"), TextEncoding::kUtf8);
-  EXPECT_EQ(EncodingOf("\x8A\xEE\x8F\x80\x93\x5F"), TextEncoding::kShiftJis);
+  EXPECT_EQ(TextEncoding::kUtf8, EncodingOf("plain"));
+  EXPECT_EQ(TextEncoding::kUtf8, EncodingOf("基準点"));
+  EXPECT_EQ(TextEncoding::kShiftJis, EncodingOf("\x8A\xEE\x8F\x80\x93\x5F"));
 }
 
 TEST(Utf8From, ConvertsEveryCodePage) {
@@ -60,7 +60,7 @@ TEST(Utf8From, ConvertsEveryCodePage) {
       {"a control character", CodePage::kLatin1, "\x80", "\xC2\x80"},
       {"the same byte as a sign", CodePage::kWindows1252, "\x80 \xE4", "€ ä"},
   };
-  for (const auto& row : rows) EXPECT_EQ(Utf8From(row.code_page, row.bytes), row.text) << row.what;
+  for (const auto& row : rows) EXPECT_EQ(row.text, Utf8From(row.code_page, row.bytes)) << row.what;
 }
 
 TEST(Utf8From, RefusesWhatIsNoText) {
@@ -68,7 +68,7 @@ TEST(Utf8From, RefusesWhatIsNoText) {
     EXPECT_FALSE(Utf8From(CodePage::kShiftJis, bytes)) << bytes.size();
   }
   // A refusal leaves nothing behind for the next call.
-  EXPECT_EQ(Utf8From(CodePage::kShiftJis, "\x95\x5C"), "表");
+  EXPECT_EQ("表", Utf8From(CodePage::kShiftJis, "\x95\x5C"));
 }
 
 }  // namespace

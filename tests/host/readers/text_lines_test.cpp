@@ -35,22 +35,22 @@ TEST(TextLines, EndAtEveryKindOfLineEnd) {
   };
   for (const auto& row : rows) {
     ReadLog log("x");
-    EXPECT_EQ(LinesOf(row.bytes, log), row.lines) << row.bytes;
-    EXPECT_EQ(log.SkippedLines(), 0U);
+    EXPECT_EQ(row.lines, LinesOf(row.bytes, log)) << row.bytes;
+    EXPECT_EQ(0U, log.SkippedLines());
   }
 }
 
 TEST(TextLines, LeaveOutTheByteOrderMarkAndCtrlZ) {
   ReadLog log("x");
-  EXPECT_EQ(LinesOf("\xEF\xBB\xBF基準点\r\n\x1A", log), (Numbered{{1, "基準点"}}));
-  EXPECT_EQ(log.SkippedLines(), 0U);
+  EXPECT_EQ((Numbered{{1, "基準点"}}), LinesOf("\xEF\xBB\xBF基準点\r\n\x1A", log));
+  EXPECT_EQ(0U, log.SkippedLines());
 }
 
 TEST(TextLines, ConvertShiftJisOfTheWholeFile) {
   // The half-width kana of the second line would be well-formed UTF-8 by themselves.
   ReadLog log("x");
-  EXPECT_EQ(LinesOf("\x8A\xEE\x8F\x80\x93\x5F\n\xC3\xB1\n", log),
-            (Numbered{{1, "基準点"}, {2, "ﾃｱ"}}));
+  EXPECT_EQ((Numbered{{1, "基準点"}, {2, "ﾃｱ"}}),
+            LinesOf("\x8A\xEE\x8F\x80\x93\x5F\n\xC3\xB1\n", log));
 }
 
 TEST(TextLines, SkipAndSayWhatIsNoText) {
@@ -70,11 +70,11 @@ TEST(TextLines, SkipAndSayWhatIsNoText) {
   };
   for (const auto& row : rows) {
     ReadLog log("site.csv");
-    EXPECT_EQ(LinesOf(row.bytes, log), (Numbered{{1, "a"}, {3, "d"}})) << row.what;
-    ASSERT_EQ(log.Diagnostics().size(), 1U) << row.what;
-    EXPECT_EQ(log.Diagnostics()[0].file, "site.csv");
-    EXPECT_EQ(log.Diagnostics()[0].line, 2);
-    EXPECT_EQ(log.Diagnostics()[0].sentence, row.sentence);
+    EXPECT_EQ((Numbered{{1, "a"}, {3, "d"}}), LinesOf(row.bytes, log)) << row.what;
+    ASSERT_EQ(1U, log.Diagnostics().size()) << row.what;
+    EXPECT_EQ("site.csv", log.Diagnostics()[0].file);
+    EXPECT_EQ(2, log.Diagnostics()[0].line);
+    EXPECT_EQ(row.sentence, log.Diagnostics()[0].sentence);
   }
 }
 
@@ -82,9 +82,9 @@ TEST(ReadLog, CountsAllAndKeepsTheFirst) {
   ReadLog log("x");
   for (int line = 1; line <= 1000; ++line) log.Skip(line, "bad");
   log.Skip(1001, "bad", 50);
-  EXPECT_EQ(log.SkippedLines(), 1050U);
-  ASSERT_EQ(log.Diagnostics().size(), ReadLog::kKept);
-  EXPECT_EQ(log.Diagnostics().back().line, 100);
+  EXPECT_EQ(1050U, log.SkippedLines());
+  ASSERT_EQ(ReadLog::kKept, log.Diagnostics().size());
+  EXPECT_EQ(100, log.Diagnostics().back().line);
 }
 
 }  // namespace

@@ -56,7 +56,7 @@ TEST(ParseXml, HandsOutElementsAttributesAndText) {
   for (const auto& row : rows) {
     Recorder recorder;
     EXPECT_FALSE(ParseXml(row.text, recorder)) << row.what;
-    EXPECT_EQ(recorder.events, row.events) << row.what;
+    EXPECT_EQ(row.events, recorder.events) << row.what;
   }
 }
 
@@ -86,7 +86,7 @@ TEST(ParseXml, SaysWhereTextIsNoXml) {
     Recorder recorder;
     const std::optional<XmlProblem> problem = ParseXml(row.text, recorder);
     ASSERT_TRUE(problem) << row.what;
-    EXPECT_EQ(problem->fault, XmlFault::kNotWellFormed) << row.what;
+    EXPECT_EQ(XmlFault::kNotWellFormed, problem->fault) << row.what;
     EXPECT_LE(problem->line, row.line) << row.what;
     EXPECT_GE(problem->line, std::max(1, row.line - 1)) << row.what;
   }
@@ -98,7 +98,7 @@ TEST(ParseXml, TakesElementsToItsDepthAndNoDeeper) {
   for (const unsigned depth : {kDeepestXml + 1, 100000U}) {
     const std::optional<XmlProblem> problem = ParseXml(Nested(depth), recorder);
     ASSERT_TRUE(problem) << depth;
-    EXPECT_EQ(problem->fault, XmlFault::kTooDeep) << depth;
+    EXPECT_EQ(XmlFault::kTooDeep, problem->fault) << depth;
   }
 }
 
@@ -112,8 +112,8 @@ TEST(ParseXml, TakesTagsToTheirLengthAndNoLonger) {
   EXPECT_EQ(recorder.events, "<a@1><b@3 x=> y=" + longest + "></></>");
   const std::optional<XmlProblem> problem = ParseXml(begin + longest + '7' + end, recorder);
   ASSERT_TRUE(problem);
-  EXPECT_EQ(problem->fault, XmlFault::kLongTag);
-  EXPECT_EQ(problem->line, 3);
+  EXPECT_EQ(XmlFault::kLongTag, problem->fault);
+  EXPECT_EQ(3, problem->line);
 }
 
 // Twenty entities, each ten of the one before: expanded, more text than any machine holds.
@@ -137,8 +137,8 @@ TEST(ParseXml, RefusesDocumentTypesAndSoEntitiesThatGrow) {
     Recorder recorder;
     const std::optional<XmlProblem> problem = ParseXml(text, recorder);
     ASSERT_TRUE(problem) << text;
-    EXPECT_EQ(problem->fault, XmlFault::kDocumentType) << text;
-    EXPECT_EQ(recorder.events, "") << text;
+    EXPECT_EQ(XmlFault::kDocumentType, problem->fault) << text;
+    EXPECT_EQ("", recorder.events) << text;
   }
 }
 

@@ -30,21 +30,21 @@ TEST(Utf8XmlText, FollowsTheDeclaration) {
   };
   for (const auto& row : rows) {
     const XmlText read = Utf8XmlText(row.bytes);
-    EXPECT_EQ(read.problem, "") << row.what;
+    EXPECT_EQ("", read.problem) << row.what;
     const std::size_t begin = read.text.find_first_not_of(' ');
-    EXPECT_EQ(begin == std::string::npos ? "" : read.text.substr(begin), row.text) << row.what;
+    EXPECT_EQ(row.text, begin == std::string::npos ? "" : read.text.substr(begin)) << row.what;
   }
 }
 
 TEST(Utf8XmlText, KeepsTheLinesOfTheDeclaration) {
-  EXPECT_EQ(Utf8XmlText("\n<?xml\nversion='1.0'?>\n<a/>").text, "\n     \n               \n<a/>");
+  EXPECT_EQ("\n     \n               \n<a/>", Utf8XmlText("\n<?xml\nversion='1.0'?>\n<a/>").text);
 }
 
 TEST(Utf8XmlText, RefusesAnEncodingItDoesNotKnow) {
-  EXPECT_EQ(Utf8XmlText("<?xml version=\"1.0\" encoding=\"EUC-JP\"?><a>\xC0\xB1</a>").problem,
-            "is not text in an encoding that is known here ('euc-jp'); save it as UTF-8");
-  EXPECT_EQ(Utf8XmlText("<?xml version=\"1.0\" encoding=\"Shift_JIS\"?><a>\x8A</a>").problem,
-            "is not text in an encoding that is known here ('shift_jis'); save it as UTF-8");
+  EXPECT_EQ("is not text in an encoding that is known here ('euc-jp'); save it as UTF-8",
+            Utf8XmlText("<?xml version=\"1.0\" encoding=\"EUC-JP\"?><a>\xC0\xB1</a>").problem);
+  EXPECT_EQ("is not text in an encoding that is known here ('shift_jis'); save it as UTF-8",
+            Utf8XmlText("<?xml version=\"1.0\" encoding=\"Shift_JIS\"?><a>\x8A</a>").problem);
 }
 
 }  // namespace

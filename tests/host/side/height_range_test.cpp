@@ -29,9 +29,9 @@ TEST(HeightRange, CountsOnlyPointsWithAHeight) {
   for (const auto& row : rows) {
     HeightRange range;
     range.Include(row.survey);
-    EXPECT_EQ(range.points, row.points);
-    EXPECT_EQ(range.lowest, row.lowest);
-    EXPECT_EQ(range.highest, row.highest);
+    EXPECT_EQ(row.points, range.points);
+    EXPECT_EQ(row.lowest, range.lowest);
+    EXPECT_EQ(row.highest, range.highest);
   }
 }
 
@@ -40,9 +40,9 @@ TEST(HeightRange, GrowsWithEachSurvey) {
   range.Include(SurveyOf({5}));
   range.Include(SurveyOf({std::nullopt}));
   range.Include(SurveyOf({9, 4}));
-  EXPECT_EQ(range.points, 3U);
-  EXPECT_EQ(range.lowest, 4);
-  EXPECT_EQ(range.highest, 9);
+  EXPECT_EQ(3U, range.points);
+  EXPECT_EQ(4, range.lowest);
+  EXPECT_EQ(9, range.highest);
 }
 
 }  // namespace

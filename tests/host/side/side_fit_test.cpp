@@ -88,7 +88,7 @@ TEST(SideFit, BringsAllPointsIntoTheWindow) {
           slack =
               std::min({slack, width - plan.x, plan.y, width - foot.x, height - foot.y, mark.y});
         }
-        EXPECT_NEAR(slack, 20, kRounding) << "a larger scale would fit too: " << degrees;
+        EXPECT_NEAR(20, slack, kRounding) << "a larger scale would fit too: " << degrees;
       }
     }
   }

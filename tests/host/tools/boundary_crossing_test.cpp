@@ -32,7 +32,7 @@ TEST(CrossesItself, TellsSidesThatCutFromSidesThatTouch) {
        false},
       {"a corner given twice", {{0, 0}, {10, 0}, {10, 0}, {10, 10}, {0, 10}}, false},
   };
-  for (const Boundary& row : rows) EXPECT_EQ(CrossesItself(row.corners), row.crosses) << row.what;
+  for (const Boundary& row : rows) EXPECT_EQ(row.crosses, CrossesItself(row.corners)) << row.what;
 }
 
 }  // namespace

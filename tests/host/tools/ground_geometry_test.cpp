@@ -40,9 +40,9 @@ const Measured kMeasured[] = {
 
 TEST(GroundGeometry, MeasuresEachBoundary) {
   for (const Measured& row : kMeasured) {
-    EXPECT_NEAR(PathLength(row.corners), row.length, 1e-12) << row.what;
-    EXPECT_NEAR(Perimeter(row.corners), row.perimeter, 1e-12) << row.what;
-    EXPECT_NEAR(EnclosedArea(row.corners), row.area, 1e-12) << row.what;
+    EXPECT_NEAR(row.length, PathLength(row.corners), 1e-12) << row.what;
+    EXPECT_NEAR(row.perimeter, Perimeter(row.corners), 1e-12) << row.what;
+    EXPECT_NEAR(row.area, EnclosedArea(row.corners), 1e-12) << row.what;
   }
 }
 
@@ -50,7 +50,7 @@ TEST(GroundGeometry, AreaIsTheSameTheOtherWayRound) {
   for (const Measured& row : kMeasured) {
     Corners reversed = row.corners;
     std::reverse(reversed.begin(), reversed.end());
-    EXPECT_NEAR(EnclosedArea(reversed), row.area, 1e-12) << row.what;
+    EXPECT_NEAR(row.area, EnclosedArea(reversed), 1e-12) << row.what;
   }
 }
 
@@ -60,12 +60,12 @@ TEST(GroundGeometry, AreaKeepsItsDigitsFarFromTheGridsOrigin) {
   const double east = 5.0e8;
   const Corners lot = {
       {north, east}, {north + 0.5, east}, {north + 0.5, east + 0.25}, {north, east + 0.25}};
-  EXPECT_DOUBLE_EQ(EnclosedArea(lot), 0.125);
+  EXPECT_DOUBLE_EQ(0.125, EnclosedArea(lot));
 }
 
 TEST(GroundGeometry, DistanceIsNeverNegative) {
-  EXPECT_DOUBLE_EQ(Distance({0, 0}, {-3, -4}), 5);
-  EXPECT_DOUBLE_EQ(Distance({1, 1}, {1, 1}), 0);
+  EXPECT_DOUBLE_EQ(5, Distance({0, 0}, {-3, -4}));
+  EXPECT_DOUBLE_EQ(0, Distance({1, 1}, {1, 1}));
 }
 
 }  // namespace

@@ -42,7 +42,7 @@ TEST_F(MovePointTool, FinishStoresTheNewPlace) {
   Command(ID_TOOL_FINISH);
   ExpectInfo(kMoved);
   EXPECT_TRUE(WaitUntil([&] { return tavix::test::CountPixels(Shown(), kMark) == 0; }));
-  EXPECT_NE(Shown(), before);
+  EXPECT_NE(before, Shown());
   ExpectPointA(L"1 a  X 100.000  Y 100.000");
   Exit();
 }

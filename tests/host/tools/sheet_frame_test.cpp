@@ -102,9 +102,9 @@ TEST_F(SheetFrame, ShowsPaperScaleAndOrigin) {
   constexpr double kPixels = 2.0;  // metres
   double north = 0.0;
   double east = 0.0;
-  ASSERT_EQ(std::swscanf(ToldSheet().c_str(), L"A4 1:1000 X %lf Y %lf", &north, &east), 2);
-  EXPECT_NEAR(north, 50.0 - 297.0 / 2, kPixels);
-  EXPECT_NEAR(east, 50.0 - 210.0 / 2, kPixels);
+  ASSERT_EQ(2, std::swscanf(ToldSheet().c_str(), L"A4 1:1000 X %lf Y %lf", &north, &east));
+  EXPECT_NEAR(50.0 - 297.0 / 2, north, kPixels);
+  EXPECT_NEAR(50.0 - 210.0 / 2, east, kPixels);
   ExpectTallFrame(210.0 / 297.0);
 
   Command(ID_SHEET_REMOVE);
@@ -138,7 +138,7 @@ TEST_F(SheetFrame, DialogSaysWhatIsWrongWithAScale) {
     ::SendDlgItemMessageW(dialog, IDC_SHEET_SCALE, WM_SETTEXT, 0,
                           reinterpret_cast<LPARAM>(row.typed));
     ::SendMessageW(dialog, WM_COMMAND, IDOK, 0);
-    EXPECT_EQ(TextOf(::GetDlgItem(dialog, IDC_SHEET_PROBLEM)), row.said);
+    EXPECT_EQ(row.said, TextOf(::GetDlgItem(dialog, IDC_SHEET_PROBLEM)));
     ASSERT_TRUE(::IsWindow(dialog));
     // Selected, so that what is typed next takes its place.
     const LRESULT selected = ::SendDlgItemMessageW(dialog, IDC_SHEET_SCALE, CB_GETEDITSEL, 0, 0);
@@ -155,9 +155,9 @@ TEST_F(SheetFrame, DialogShowsTheSheetThatIsThere) {
   PostCommand(ID_SHEET_SETUP);
   const HWND dialog = host_->WaitForWindow(L"Sheet");
   ASSERT_TRUE(dialog);
-  EXPECT_EQ(::SendDlgItemMessageW(dialog, IDC_SHEET_PAPER, CB_GETCURSEL, 0, 0), kA3);
-  EXPECT_EQ(::SendDlgItemMessageW(dialog, IDC_SHEET_LANDSCAPE, BM_GETCHECK, 0, 0), BST_CHECKED);
-  EXPECT_EQ(TextOf(::GetDlgItem(dialog, IDC_SHEET_SCALE)), L"2500");
+  EXPECT_EQ(kA3, ::SendDlgItemMessageW(dialog, IDC_SHEET_PAPER, CB_GETCURSEL, 0, 0));
+  EXPECT_EQ(BST_CHECKED, ::SendDlgItemMessageW(dialog, IDC_SHEET_LANDSCAPE, BM_GETCHECK, 0, 0));
+  EXPECT_EQ(L"2500", TextOf(::GetDlgItem(dialog, IDC_SHEET_SCALE)));
   Close(dialog, IDCANCEL);
   ExpectInfoBegins(L"A3 landscape 1:2500  X ");
   Exit();
@@ -204,7 +204,7 @@ TEST_F(SheetFrame, IsLaidOutAnewInAResizedWindow) {
   for (const int width : {420, 360, 300}) {
     Widen(width);
     ExpectTallFrame(210.0 / 297.0);
-    EXPECT_EQ(ToldSheet(), before);
+    EXPECT_EQ(before, ToldSheet());
   }
   Exit();
 }
@@ -221,10 +221,10 @@ TEST_F(SheetFrame, IsLaidOutAnewBesideTheButtons) {
   EXPECT_EQ(right_edge(), shown.width - 20 - 1);  // it runs on below where the buttons will be
   Command(ID_VIEW_BUTTONS);
   EXPECT_TRUE(WaitUntil([&] { return right_edge() == shown.width - 20 - 5; }));
-  EXPECT_EQ(ToldSheet(), before);
+  EXPECT_EQ(before, ToldSheet());
   Command(ID_VIEW_BUTTONS);
   ExpectShown(shown);
-  EXPECT_EQ(ToldSheet(), before);
+  EXPECT_EQ(before, ToldSheet());
   Exit();
 }
 
@@ -245,7 +245,7 @@ TEST_F(SheetFrame, ScaleOfAZoomedViewIsTold) {
 TEST_F(SheetFrame, ScaleBarShowsAndSurvivesAResizedWindow) {
   constexpr std::uint32_t kBar = 0x0000FF;
   const Picture before = Shown();
-  EXPECT_EQ(tavix::test::CountPixels(before, kBar), 0);
+  EXPECT_EQ(0, tavix::test::CountPixels(before, kBar));
   Command(ID_VIEW_SCALE_BAR);
   ExpectColour(kBar, 30);
   Widen(420);

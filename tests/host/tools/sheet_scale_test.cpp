@@ -28,7 +28,7 @@ TEST(ParseScale, TakesWhatUsersType) {
       {"１／１，０００", 1000},
       {"　６００　", 600},
   };
-  for (const auto& row : rows) EXPECT_EQ(ParseScale(row.typed), row.scale) << row.typed;
+  for (const auto& row : rows) EXPECT_EQ(row.scale, ParseScale(row.typed)) << row.typed;
 }
 
 TEST(ParseScale, RefusesTheRest) {
@@ -36,13 +36,13 @@ TEST(ParseScale, RefusesTheRest) {
        {"",      "  ",  "0",    "1:0",  "-5",    "+5",      "abc",     "500m",
         "2:500", "1:",  ":",    ":500", "1:5:5", "1:500/2", "1000001", "99999999999999999999",
         "12.5",  "1e3", ",500", "0x10", "1:-5"}) {
-    EXPECT_EQ(ParseScale(typed), std::nullopt) << typed;
+    EXPECT_EQ(std::nullopt, ParseScale(typed)) << typed;
   }
 }
 
 TEST(NoScale, SaysWhatIsWrong) {
-  EXPECT_EQ(NoScale(" "), "Type a scale, such as 500 for 1:500.");
-  EXPECT_EQ(NoScale("12.5"), "'12.5' is no scale: type a whole number from 1 to 1000000.");
+  EXPECT_EQ("Type a scale, such as 500 for 1:500.", NoScale(" "));
+  EXPECT_EQ("'12.5' is no scale: type a whole number from 1 to 1000000.", NoScale("12.5"));
 }
 
 TEST(UsualScales, AreScalesInOrder) {
@@ -63,10 +63,10 @@ TEST(MeantScale, FindsWhatWasSetBehindWhatIsTold) {
 }
 
 TEST(MeantScale, TakesWhatIsToldOfAZoomedView) {
-  EXPECT_EQ(MeantScale(750, 500), 750);
-  EXPECT_EQ(MeantScale(499, 500), 499);
-  EXPECT_EQ(MeantScale(0, 500), 0);
-  EXPECT_EQ(MeantScale(500, 0), 500);
+  EXPECT_EQ(750, MeantScale(750, 500));
+  EXPECT_EQ(499, MeantScale(499, 500));
+  EXPECT_EQ(0, MeantScale(0, 500));
+  EXPECT_EQ(500, MeantScale(500, 0));
 }
 
 }  // namespace

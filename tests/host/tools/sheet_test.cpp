@@ -34,11 +34,11 @@ TEST(PaperSizes, HaveTheSidesOfTheStandards) {
 
 TEST(Sheet, LandscapeLiesOnItsLongSide) {
   Sheet sheet = {.paper = Paper("A4"), .landscape = false, .scale = 500};
-  EXPECT_EQ(sheet.Height(), 2970);
-  EXPECT_EQ(sheet.Width(), 2100);
+  EXPECT_EQ(2970, sheet.Height());
+  EXPECT_EQ(2100, sheet.Width());
   sheet.landscape = true;
-  EXPECT_EQ(sheet.Height(), 2100);
-  EXPECT_EQ(sheet.Width(), 2970);
+  EXPECT_EQ(2100, sheet.Height());
+  EXPECT_EQ(2970, sheet.Width());
 }
 
 // The middle of a sheet on the ground; up on it is `degrees` anticlockwise of north.
@@ -59,8 +59,8 @@ TEST(OriginAboutSameMiddle, KeepsTheMiddleInEveryTurnedView) {
         const GroundPosition moved = OriginAboutSameMiddle(origin, sheet, old_scale, degrees);
         const GroundPosition before = Middle(origin, sheet, old_scale, degrees);
         const GroundPosition after = Middle(moved, sheet, sheet.scale, degrees);
-        EXPECT_NEAR(after.north, before.north, 1e-6) << old_scale << ' ' << degrees;
-        EXPECT_NEAR(after.east, before.east, 1e-6) << old_scale << ' ' << degrees;
+        EXPECT_NEAR(before.north, after.north, 1e-6) << old_scale << ' ' << degrees;
+        EXPECT_NEAR(before.east, after.east, 1e-6) << old_scale << ' ' << degrees;
       }
     }
   }

@@ -43,7 +43,7 @@ TEST_F(Toolbox, AnotherToolEndsTheFirstWithoutATrace) {
 TEST_F(Toolbox, ToolChosenAgainIsPutAway) {
   for (const int tool : {ID_SURVEY_CAPTURE, ID_TOOL_CIRCLE, ID_TOOL_TRACE, ID_TOOL_MOVE_POINT}) {
     Command(tool);
-    EXPECT_NE(TextOf(Info()), kSummary);
+    EXPECT_NE(kSummary, TextOf(Info()));
     Command(tool);
     ExpectInfo(kSummary);
   }

@@ -97,8 +97,8 @@ TEST_F(TraceTool, FinishLeavesALine) {
   ExpectInfo(L"Line drawn: 3 corners  200.000 m");
   // Two sides of the square, each two pixels wide.
   ExpectColour(kFigure, 600);
-  EXPECT_EQ(CountPixels(Shown(), kTraced), 0);
-  EXPECT_EQ(CountPixels(Shown(), kMark), 0);
+  EXPECT_EQ(0, CountPixels(Shown(), kTraced));
+  EXPECT_EQ(0, CountPixels(Shown(), kMark));
   // The tool is put away: a tap tells the point.
   Tap(0, 0);
   ExpectInfo(L"1 a  X 0.000  Y 0.000");

@@ -17,7 +17,7 @@ constexpr LPCWSTR kVariable = L"CE_DEVICE_ROOT";
 // The root that this process has to itself.
 CString OwnRoot() {
   WCHAR folder[MAX_PATH];
-  EXPECT_EQ(SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder), S_OK);
+  EXPECT_EQ(S_OK, SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder));
   CString root;
   root.Format(L"%s\\Tavix\\DeviceRoot\\process-%lu", folder, GetCurrentProcessId());
   return root;
@@ -45,21 +45,21 @@ TEST(DeviceRoot, TakesPathsWithExactlyOneLeadingBackslash) {
   };
   for (LPCWSTR root : {L"C:\\Root", L"C:\\Root\\", L"C:\\Root\\\\", L"C:\\Root/"}) {
     const EnvironmentVariable variable(kVariable, root);
-    for (const auto& row : kRows) EXPECT_EQ(AfxMapDevicePath(row.path), row.mapped);
+    for (const auto& row : kRows) EXPECT_EQ(row.mapped, AfxMapDevicePath(row.path));
   }
 }
 
 TEST(DeviceRoot, MayBeADrivesRoot) {
   const EnvironmentVariable variable(kVariable, L"C:\\");
-  EXPECT_EQ(AfxMapDevicePath(L"\\a"), L"C:\\a");
-  EXPECT_EQ(AfxMapDevicePath(L"\\"), L"C:\\");
+  EXPECT_EQ(L"C:\\a", AfxMapDevicePath(L"\\a"));
+  EXPECT_EQ(L"C:\\", AfxMapDevicePath(L"\\"));
 }
 
 TEST(DeviceRoot, IsReadAnewAtEachMapping) {
   EnvironmentVariable variable(kVariable, L"C:\\First");
-  EXPECT_EQ(AfxMapDevicePath(L"\\a"), L"C:\\First\\a");
+  EXPECT_EQ(L"C:\\First\\a", AfxMapDevicePath(L"\\a"));
   variable.Set(L"C:\\Second");
-  EXPECT_EQ(AfxMapDevicePath(L"\\a"), L"C:\\Second\\a");
+  EXPECT_EQ(L"C:\\Second\\a", AfxMapDevicePath(L"\\a"));
   variable.Set(nullptr);
   EXPECT_EQ(AfxMapDevicePath(L"\\a"), OwnRoot() + L"\\a");
 }
@@ -73,7 +73,7 @@ TEST(DeviceRoot, MayHaveALongName) {
 TEST(DeviceRoot, ThatBeginsWithOneBackslashIsNoPathOfTheDeviceItself) {
   const EnvironmentVariable variable(kVariable, L"\\Root");
   const CString mapped = AfxMapDevicePath(L"\\a");
-  EXPECT_EQ(mapped.Mid(1), L":\\Root\\a") << "on the present drive";
+  EXPECT_EQ(L":\\Root\\a", mapped.Mid(1)) << "on the present drive";
   EXPECT_EQ(AfxMapDevicePath(mapped), mapped) << "mapped once and for all";
 }
 
@@ -103,9 +103,9 @@ TEST(DeviceRoot, IsWhereEveryCallOfCFileLooks) {
     CFile file(L"\\points.dat", CFile::modeCreate | CFile::modeWrite);
     file.Write("abc", 3);
     EXPECT_EQ(file.GetFilePath(), (scratch / L"points.dat").c_str());
-    EXPECT_EQ(file.GetFileName(), L"points.dat");
+    EXPECT_EQ(L"points.dat", file.GetFileName());
   }
-  EXPECT_EQ(std::filesystem::file_size(scratch / L"points.dat"), 3U);
+  EXPECT_EQ(3U, std::filesystem::file_size(scratch / L"points.dat"));
   CFile::Rename(L"\\points.dat", L"\\old.dat");
   EXPECT_FALSE(std::filesystem::exists(scratch / L"points.dat"));
   EXPECT_TRUE(std::filesystem::exists(scratch / L"old.dat"));
@@ -118,7 +118,7 @@ TEST(DeviceRoot, ErrorsNameThePathThatWasAskedFor) {
   const EnvironmentVariable variable(kVariable, scratch.Path().c_str());
   CFileException error;
   EXPECT_FALSE(CFile().Open(L"\\missing", CFile::modeRead, &error));
-  EXPECT_EQ(error.m_strFileName, L"\\missing");
+  EXPECT_EQ(L"\\missing", error.m_strFileName);
   EXPECT_FALSE(CFile().Open(L"\\", CFile::modeRead, &error));
 }
 

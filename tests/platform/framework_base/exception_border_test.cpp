@@ -15,8 +15,8 @@ TEST(ExceptionBorder, TheProgramCatchesWhatTheFrameworkThrows) {
     FAIL() << "nothing was thrown";
   } catch (CFileException* error) {
     EXPECT_EQ(error->m_cause, CFileException::badPath);
-    EXPECT_EQ(error->m_lOsError, ERROR_PATH_NOT_FOUND);
-    EXPECT_EQ(error->m_strFileName, kMissing);
+    EXPECT_EQ(ERROR_PATH_NOT_FOUND, error->m_lOsError);
+    EXPECT_EQ(kMissing, error->m_strFileName);
     error->Delete();
   }
 }
@@ -27,7 +27,7 @@ TEST(ExceptionBorder, TheProgramCatchesByTheBaseClass) {
   } catch (CException* error) {
     EXPECT_TRUE(error->IsKindOf(RUNTIME_CLASS(CFileException)));
     EXPECT_EQ(static_cast<CFileException*>(error)->m_cause, CFileException::diskFull);
-    EXPECT_NE(dynamic_cast<CFileException*>(error), nullptr);
+    EXPECT_NE(nullptr, dynamic_cast<CFileException*>(error));
     error->Delete();
   }
 }
@@ -59,7 +59,7 @@ TEST(ExceptionBorder, PassesThroughAnotherDllAndUnwindsIt) {
     error->Delete();
   }
   EXPECT_TRUE(caught);
-  EXPECT_EQ(unwound, 1);
+  EXPECT_EQ(1, unwound);
 }
 
 TEST(ExceptionBorder, TheProgramsOwnPassesThroughAnotherDll) {
@@ -72,7 +72,7 @@ TEST(ExceptionBorder, TheProgramsOwnPassesThroughAnotherDll) {
     error->Delete();
   }
   EXPECT_TRUE(caught);
-  EXPECT_EQ(unwound, 1);
+  EXPECT_EQ(1, unwound);
 }
 
 TEST(ExceptionBorder, AnotherDllsOwnClassIsCaughtByItsBaseAndDeleted) {
@@ -80,11 +80,11 @@ TEST(ExceptionBorder, AnotherDllsOwnClassIsCaughtByItsBaseAndDeleted) {
   try {
     RelayThrow(&destroyed);
   } catch (CException* error) {
-    EXPECT_STREQ(error->GetRuntimeClass()->m_lpszClassName, "CRelayException");
-    EXPECT_EQ(destroyed, 0);
+    EXPECT_STREQ("CRelayException", error->GetRuntimeClass()->m_lpszClassName);
+    EXPECT_EQ(0, destroyed);
     error->Delete();
   }
-  EXPECT_EQ(destroyed, 1);
+  EXPECT_EQ(1, destroyed);
 }
 
 TEST(ExceptionBorder, AnotherDllCatchesWhatTheFrameworkAndTheProgramThrow) {
@@ -100,7 +100,7 @@ TEST(ExceptionBorder, AnotherDllCatchesWhatTheFrameworkAndTheProgramThrow) {
       {[] { throw new CMemoryException; }, RelayCaught::memory},
       {[] {}, RelayCaught::nothing},
   };
-  for (const auto& row : kRows) EXPECT_EQ(RelayCatch(row.call), row.caught) << &row - kRows;
+  for (const auto& row : kRows) EXPECT_EQ(row.caught, RelayCatch(row.call)) << &row - kRows;
 }
 
 // A runtime that ran out of room for exceptions in flight would end the program.
@@ -112,7 +112,7 @@ TEST(ExceptionBorder, ManyInARowAreNoMoreThanOne) {
     } catch (CFileException* error) {
       error->Delete();
     }
-    ASSERT_EQ(unwound, 1);
+    ASSERT_EQ(1, unwound);
   }
 }
 

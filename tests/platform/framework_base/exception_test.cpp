@@ -57,13 +57,13 @@ TEST(FileException, TellsTheCauseOfASystemError) {
       {0x7FFFFFFF, CFileException::genericException},
   };
   for (const auto& row : kRows) {
-    EXPECT_EQ(CFileException::OsErrorToException(row.os_error), row.cause) << row.os_error;
+    EXPECT_EQ(row.cause, CFileException::OsErrorToException(row.os_error)) << row.os_error;
     try {
       CFileException::ThrowOsError(row.os_error, L"name");
     } catch (CFileException* error) {
-      EXPECT_EQ(error->m_cause, row.cause);
-      EXPECT_EQ(error->m_lOsError, row.os_error);
-      EXPECT_EQ(error->m_strFileName, L"name");
+      EXPECT_EQ(row.cause, error->m_cause);
+      EXPECT_EQ(row.os_error, error->m_lOsError);
+      EXPECT_EQ(L"name", error->m_strFileName);
       error->Delete();
     }
   }
@@ -72,7 +72,7 @@ TEST(FileException, TellsTheCauseOfASystemError) {
 TEST(FileException, IsWithoutCauseAtFirst) {
   const CFileException error;
   EXPECT_EQ(error.m_cause, CFileException::none);
-  EXPECT_EQ(error.m_lOsError, -1);
+  EXPECT_EQ(-1, error.m_lOsError);
   EXPECT_TRUE(error.m_strFileName.IsEmpty());
 }
 
@@ -81,8 +81,8 @@ TEST(FileException, IsThrownWithAllThatIsKnown) {
     AfxThrowFileException(CFileException::endOfFile, ERROR_HANDLE_EOF, L"点.dat");
   } catch (CFileException* error) {
     EXPECT_EQ(error->m_cause, CFileException::endOfFile);
-    EXPECT_EQ(error->m_lOsError, ERROR_HANDLE_EOF);
-    EXPECT_EQ(error->m_strFileName, L"点.dat");
+    EXPECT_EQ(ERROR_HANDLE_EOF, error->m_lOsError);
+    EXPECT_EQ(L"点.dat", error->m_strFileName);
     error->Delete();
   }
 }
@@ -97,11 +97,11 @@ void ExpectMessage(const CException& error) {
     std::fill(std::begin(part), std::end(part), L'#');
     EXPECT_TRUE(error.GetErrorMessage(part, room));
     EXPECT_EQ(part, std::wstring(whole).substr(0, room - 1));
-    EXPECT_EQ(part[room], L'#');
+    EXPECT_EQ(L'#', part[room]);
   }
   WCHAR none = L'#';
   EXPECT_FALSE(error.GetErrorMessage(&none, 0));
-  EXPECT_EQ(none, L'#');
+  EXPECT_EQ(L'#', none);
 }
 
 TEST(ExceptionMessage, IsCutToTheBuffer) {
@@ -121,13 +121,13 @@ TEST(ExceptionMessage, IsAnotherOneForEachCauseEvenWithoutAnErrorCode) {
     WCHAR text[256];
     CFileException(cause).GetErrorMessage(text, 256);
     messages.insert(text);
-    EXPECT_EQ(std::wstring(text).find_first_of(L"\r\n"), std::wstring::npos);
+    EXPECT_EQ(std::wstring::npos, std::wstring(text).find_first_of(L"\r\n"));
   }
-  EXPECT_EQ(messages.size(), 15U);
+  EXPECT_EQ(15U, messages.size());
   for (int unknown : {-1, 15, 99999}) {
     WCHAR text[256];
     ASSERT_TRUE(CFileException(unknown).GetErrorMessage(text, 256));
-    EXPECT_EQ(messages.count(text), 1U);  // the generic one
+    EXPECT_EQ(1U, messages.count(text));  // the generic one
   }
 }
 
@@ -135,7 +135,7 @@ TEST(ExceptionMessage, IsMissingForTheUsersOwnDecision) {
   auto* const user = new CUserException;
   WCHAR text[8] = L"before";
   EXPECT_FALSE(user->GetErrorMessage(text, 8));
-  EXPECT_STREQ(text, L"");
+  EXPECT_STREQ(L"", text);
   user->Delete();
 }
 

@@ -33,14 +33,14 @@ TEST_F(FileInFolder, IsRenamed) {
   Make(a_);
   CFile::Rename(a_.c_str(), b_.c_str());
   EXPECT_FALSE(std::filesystem::exists(a_));
-  EXPECT_EQ(std::filesystem::file_size(b_), 3U);
+  EXPECT_EQ(3U, std::filesystem::file_size(b_));
 }
 
 TEST_F(FileInFolder, IsNotRenamedOverAnother) {
   Make(a_);
   Make(b_);
   EXPECT_EQ(CauseOfRename(a_, b_), CFileException::accessDenied);
-  EXPECT_EQ(error_.m_lOsError, ERROR_ALREADY_EXISTS);
+  EXPECT_EQ(ERROR_ALREADY_EXISTS, error_.m_lOsError);
   EXPECT_EQ(error_.m_strFileName, a_.c_str());
   EXPECT_TRUE(std::filesystem::exists(a_));
   EXPECT_TRUE(std::filesystem::exists(b_));
@@ -49,7 +49,7 @@ TEST_F(FileInFolder, IsNotRenamedOverAnother) {
 TEST_F(FileInFolder, ThatIsMissingIsNeitherRenamedNorRemoved) {
   EXPECT_EQ(CauseOfRename(a_, b_), CFileException::fileNotFound);
   EXPECT_EQ(CauseOfRemove(a_), CFileException::fileNotFound);
-  EXPECT_EQ(error_.m_lOsError, ERROR_FILE_NOT_FOUND);
+  EXPECT_EQ(ERROR_FILE_NOT_FOUND, error_.m_lOsError);
   EXPECT_EQ(error_.m_strFileName, a_.c_str());
   EXPECT_EQ(CauseOfRemove(scratch_ / L"no folder\\a"), CFileException::badPath);
   Make(a_);

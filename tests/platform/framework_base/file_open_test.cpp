@@ -65,13 +65,13 @@ TEST_F(FileOpen, FlagsDecideWhatHappensToTheContentsAndWhichCallsWork) {
       CFile file;
       EXPECT_EQ(file.Open(path_.c_str(), row.flags), row.makes ? TRUE : FALSE) << row.flags;
     }
-    EXPECT_EQ(std::filesystem::exists(path_), row.makes) << row.flags;
+    EXPECT_EQ(row.makes, std::filesystem::exists(path_)) << row.flags;
 
     MakeFile(path_, "1\r\n2");
     CFile file;
     ASSERT_TRUE(file.Open(path_.c_str(), row.flags)) << row.flags;
     EXPECT_EQ(file.GetLength(), row.truncates ? 0U : 4U) << row.flags;
-    EXPECT_EQ(file.GetPosition(), 0U);
+    EXPECT_EQ(0U, file.GetPosition());
     char buffer[8];
     EXPECT_EQ(CauseOf([&] { file.Read(buffer, 8); }),
               row.reads ? CFileException::none : CFileException::accessDenied)
@@ -87,7 +87,7 @@ TEST_F(FileOpen, BytesAreNeverTranslated) {
     CFile file(path_.c_str(), CFile::modeCreate | CFile::modeReadWrite | type);
     file.Write("a\nb\r\n\x1A", 6);
     file.Close();
-    EXPECT_EQ(ContentsOf(path_), "a\nb\r\n\x1A");
+    EXPECT_EQ("a\nb\r\n\x1A", ContentsOf(path_));
   }
 }
 
@@ -96,7 +96,7 @@ TEST_F(FileOpen, WritingInTheMiddleKeepsTheRest) {
   CFile file(path_.c_str(), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite);
   file.Write("XY", 2);
   file.Close();
-  EXPECT_EQ(ContentsOf(path_), "XYcdef");
+  EXPECT_EQ("XYcdef", ContentsOf(path_));
 }
 
 TEST_F(FileOpen, NamesTheCauseOfAFailure) {
@@ -122,25 +122,25 @@ TEST_F(FileOpen, NamesTheCauseOfAFailure) {
     CFileException error;
     CFile file;
     EXPECT_FALSE(file.Open(row.path.c_str(), row.flags, &error));
-    EXPECT_EQ(error.m_cause, row.cause);
-    EXPECT_EQ(error.m_lOsError, row.os_error);
-    EXPECT_EQ(error.m_strFileName, row.path.c_str());
+    EXPECT_EQ(row.cause, error.m_cause);
+    EXPECT_EQ(row.os_error, error.m_lOsError);
+    EXPECT_EQ(row.path.c_str(), error.m_strFileName);
     EXPECT_EQ(file.m_hFile, CFile::hFileNull);
     EXPECT_TRUE(file.GetFilePath().IsEmpty());
     EXPECT_FALSE(file.Open(row.path.c_str(), row.flags));  // nobody wants to know
 
     CFileException thrown;
-    EXPECT_EQ(CauseOf([&] { const CFile opened(row.path.c_str(), row.flags); }, &thrown),
-              row.cause);
-    EXPECT_EQ(thrown.m_lOsError, row.os_error);
-    EXPECT_EQ(thrown.m_strFileName, row.path.c_str());
+    EXPECT_EQ(row.cause,
+              CauseOf([&] { const CFile opened(row.path.c_str(), row.flags); }, &thrown));
+    EXPECT_EQ(row.os_error, thrown.m_lOsError);
+    EXPECT_EQ(row.path.c_str(), thrown.m_strFileName);
   }
 }
 
 TEST_F(FileOpen, ReadOnlyFileIsNotOpenedForWriting) {
   MakeFile(path_, "x");
   SetFileAttributesW(path_.c_str(), FILE_ATTRIBUTE_READONLY);
-  EXPECT_EQ(CFile(path_.c_str(), CFile::modeRead).GetLength(), 1U);
+  EXPECT_EQ(1U, CFile(path_.c_str(), CFile::modeRead).GetLength());
   const HANDLE allowed =
       CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
   if (allowed != INVALID_HANDLE_VALUE) {
@@ -152,9 +152,9 @@ TEST_F(FileOpen, ReadOnlyFileIsNotOpenedForWriting) {
     CFileException error;
     EXPECT_FALSE(CFile().Open(path_.c_str(), flags, &error));
     EXPECT_EQ(error.m_cause, CFileException::accessDenied);
-    EXPECT_EQ(error.m_lOsError, ERROR_ACCESS_DENIED);
+    EXPECT_EQ(ERROR_ACCESS_DENIED, error.m_lOsError);
   }
-  EXPECT_EQ(ContentsOf(path_), "x");
+  EXPECT_EQ("x", ContentsOf(path_));
 }
 
 // Wine shows the Linux tree as drive Z; this file there is read-only even for root.
@@ -232,7 +232,7 @@ TEST_F(FileOpen, FullPathIsKnownOfARelativeOne) {
   {
     const CFile file(L".\\x\\..\\file.dat", CFile::modeCreate | CFile::modeWrite);
     EXPECT_EQ(file.GetFilePath(), path_.c_str());
-    EXPECT_EQ(file.GetFileName(), L"file.dat");
+    EXPECT_EQ(L"file.dat", file.GetFileName());
   }
   std::filesystem::current_path(before);
 }

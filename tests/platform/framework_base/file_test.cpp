@@ -40,14 +40,14 @@ TEST_F(File, ReadsNoFurtherThanTheEnd) {
   CFile file(path_.c_str(), kFresh);
   file.Write("abc", 3);
   char buffer[8] = "#######";
-  EXPECT_EQ(file.Read(buffer, 7), 0U);
-  EXPECT_EQ(file.Seek(1, CFile::begin), 1U);
-  EXPECT_EQ(file.Read(buffer, 7), 2U);
-  EXPECT_STREQ(buffer, "bc#####");
-  EXPECT_EQ(file.Read(buffer, 7), 0U);
-  EXPECT_EQ(file.Seek(100, CFile::begin), 100U);
-  EXPECT_EQ(file.Read(buffer, 7), 0U);
-  EXPECT_EQ(file.GetLength(), 3U);
+  EXPECT_EQ(0U, file.Read(buffer, 7));
+  EXPECT_EQ(1U, file.Seek(1, CFile::begin));
+  EXPECT_EQ(2U, file.Read(buffer, 7));
+  EXPECT_STREQ("bc#####", buffer);
+  EXPECT_EQ(0U, file.Read(buffer, 7));
+  EXPECT_EQ(100U, file.Seek(100, CFile::begin));
+  EXPECT_EQ(0U, file.Read(buffer, 7));
+  EXPECT_EQ(3U, file.GetLength());
 }
 
 TEST_F(File, LocksARangeThatMayLieBehindTheEnd) {
@@ -58,7 +58,7 @@ TEST_F(File, LocksARangeThatMayLieBehindTheEnd) {
   EXPECT_EQ(CauseOf([&] { other.LockRange(kFar, 1); }), CFileException::lockViolation);
   other.LockRange(kFar + 1, 1);
   other.Write("abc", 3);
-  EXPECT_EQ(ReadAll(file), "abc");
+  EXPECT_EQ("abc", ReadAll(file));
   file.UnlockRange(kFar, 1);
   other.LockRange(kFar, 1);
   EXPECT_NE(CauseOf([&] { file.UnlockRange(kFar, 1); }), CFileException::none);
@@ -68,9 +68,9 @@ TEST_F(File, LocksARangeThatMayLieBehindTheEnd) {
 
 TEST_F(File, NoBytesAreNoCall) {
   CFile file(path_.c_str(), CFile::modeCreate | CFile::modeRead);
-  EXPECT_EQ(file.Read(nullptr, 0), 0U);
+  EXPECT_EQ(0U, file.Read(nullptr, 0));
   file.Write(nullptr, 0);
-  EXPECT_EQ(file.GetLength(), 0U);
+  EXPECT_EQ(0U, file.GetLength());
 }
 
 TEST_F(File, SeeksFromThreePlaces) {
@@ -95,13 +95,13 @@ TEST_F(File, SeeksFromThreePlaces) {
   file.Write("0123456789", 10);
   for (const auto& row : kRows) {
     file.Seek(5, CFile::begin);
-    EXPECT_EQ(file.Seek(row.offset, row.from), row.place);
-    EXPECT_EQ(file.GetPosition(), row.place);
+    EXPECT_EQ(row.place, file.Seek(row.offset, row.from));
+    EXPECT_EQ(row.place, file.GetPosition());
   }
   file.SeekToBegin();
-  EXPECT_EQ(file.GetPosition(), 0U);
-  EXPECT_EQ(file.SeekToEnd(), 10U);
-  EXPECT_EQ(file.GetLength(), 10U);
+  EXPECT_EQ(0U, file.GetPosition());
+  EXPECT_EQ(10U, file.SeekToEnd());
+  EXPECT_EQ(10U, file.GetLength());
 }
 
 TEST_F(File, RefusesToSeekBeforeTheBeginning) {
@@ -115,9 +115,9 @@ TEST_F(File, RefusesToSeekBeforeTheBeginning) {
     file.Seek(5, CFile::begin);
     CFileException error;
     EXPECT_EQ(CauseOf([&] { file.Seek(row.offset, row.from); }, &error), CFileException::badSeek);
-    EXPECT_EQ(error.m_lOsError, ERROR_NEGATIVE_SEEK);
+    EXPECT_EQ(ERROR_NEGATIVE_SEEK, error.m_lOsError);
     EXPECT_EQ(error.m_strFileName, path_.c_str());
-    EXPECT_EQ(file.GetPosition(), 5U);
+    EXPECT_EQ(5U, file.GetPosition());
   }
 }
 
@@ -125,19 +125,19 @@ TEST_F(File, WritingBehindTheEndFillsTheGapWithZeros) {
   CFile file(path_.c_str(), kFresh);
   file.Seek(3, CFile::begin);
   file.Write("x", 1);
-  EXPECT_EQ(ReadAll(file), std::string("\0\0\0x", 4));
+  EXPECT_EQ(std::string("\0\0\0x", 4), ReadAll(file));
 }
 
 TEST_F(File, SetsItsLength) {
   CFile file(path_.c_str(), kFresh);
   file.Write("0123456789", 10);
   file.SetLength(4);
-  EXPECT_EQ(file.GetLength(), 4U);
-  EXPECT_EQ(ReadAll(file), "0123");
+  EXPECT_EQ(4U, file.GetLength());
+  EXPECT_EQ("0123", ReadAll(file));
   file.SetLength(6);
-  EXPECT_EQ(ReadAll(file), std::string("0123\0\0", 6));
+  EXPECT_EQ(std::string("0123\0\0", 6), ReadAll(file));
   file.SetLength(0);
-  EXPECT_EQ(file.GetLength(), 0U);
+  EXPECT_EQ(0U, file.GetLength());
   EXPECT_EQ(CauseOf([&] { file.SetLength(~0ULL); }), CFileException::badSeek);
 }
 
@@ -148,7 +148,7 @@ TEST_F(File, LengthOfAFileOpenForReadingStays) {
   }
   CFile file(path_.c_str(), CFile::modeRead);
   EXPECT_NE(CauseOf([&] { file.SetLength(4); }), CFileException::none);
-  EXPECT_EQ(file.GetLength(), 10U);
+  EXPECT_EQ(10U, file.GetLength());
 }
 
 TEST_F(File, ContentsAreThereForOthersAfterFlush) {
@@ -156,7 +156,7 @@ TEST_F(File, ContentsAreThereForOthersAfterFlush) {
   file.Write("abc", 3);
   file.Flush();
   CFile reader(path_.c_str(), CFile::modeRead | CFile::shareDenyNone);
-  EXPECT_EQ(ReadAll(reader), "abc");
+  EXPECT_EQ("abc", ReadAll(reader));
 }
 
 TEST_F(File, ThatIsNotOpenRefusesEveryCall) {
@@ -185,7 +185,7 @@ TEST_F(File, IsClosedOnceAndOpensAgain) {
   file.Close();
   file.Abort();
   ASSERT_TRUE(file.Open(path_.c_str(), CFile::modeRead));
-  EXPECT_EQ(ReadAll(file), "abc");
+  EXPECT_EQ("abc", ReadAll(file));
   file.Abort();
   EXPECT_EQ(file.m_hFile, CFile::hFileNull);
   CFile::Remove(path_.c_str());  // nobody holds it
@@ -197,18 +197,18 @@ TEST_F(File, IsClosedByItsDestructor) {
     file.Write("abc", 3);
   }
   CFile file(path_.c_str(), CFile::modeReadWrite | CFile::shareExclusive);
-  EXPECT_EQ(file.GetLength(), 3U);
+  EXPECT_EQ(3U, file.GetLength());
 }
 
 TEST_F(File, TakesAndClosesAHandle) {
   const HANDLE handle = CreateFileW(path_.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
                                     CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-  ASSERT_NE(handle, INVALID_HANDLE_VALUE);
+  ASSERT_NE(INVALID_HANDLE_VALUE, handle);
   {
     CFile file(handle);
     EXPECT_EQ(static_cast<HANDLE>(file), handle);
     file.Write("abc", 3);
-    EXPECT_EQ(file.GetLength(), 3U);
+    EXPECT_EQ(3U, file.GetLength());
     EXPECT_TRUE(file.GetFilePath().IsEmpty());
   }
   const CFile again(path_.c_str(), CFile::modeRead | CFile::shareExclusive);
@@ -225,8 +225,8 @@ TEST(FullDisk, IsToldByWrite) {
   const std::string bytes(100000, 'x');
   EXPECT_EQ(CauseOf([&] { file.Write(bytes.data(), static_cast<UINT>(bytes.size())); }, &error),
             CFileException::diskFull);
-  EXPECT_EQ(error.m_lOsError, ERROR_DISK_FULL);
-  EXPECT_EQ(error.m_strFileName, kFull);
+  EXPECT_EQ(ERROR_DISK_FULL, error.m_lOsError);
+  EXPECT_EQ(kFull, error.m_strFileName);
   file.Close();
 }
 

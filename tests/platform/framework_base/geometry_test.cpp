@@ -23,20 +23,20 @@ TEST(Size, IsMadeFromNumbersAndStructures) {
   EXPECT_TRUE(CSize(1, 2) != CSize(0, 2));
   CSize size;
   size.SetSize(5, 6);
-  EXPECT_EQ(size, CSize(5, 6));
+  EXPECT_EQ(CSize(5, 6), size);
 }
 
 TEST(Size, AddsAndSubtracts) {
   CSize size(5, 6);
-  EXPECT_EQ(size + CSize(1, 2), CSize(6, 8));
-  EXPECT_EQ(size - SIZE({1, 2}), CSize(4, 4));
-  EXPECT_EQ(-size, CSize(-5, -6));
-  EXPECT_EQ(size + POINT({1, 2}), CPoint(6, 8));
-  EXPECT_EQ(size - CPoint(1, 2), CPoint(4, 4));
+  EXPECT_EQ(CSize(6, 8), size + CSize(1, 2));
+  EXPECT_EQ(CSize(4, 4), size - SIZE({1, 2}));
+  EXPECT_EQ(CSize(-5, -6), -size);
+  EXPECT_EQ(CPoint(6, 8), size + POINT({1, 2}));
+  EXPECT_EQ(CPoint(4, 4), size - CPoint(1, 2));
   size += CSize(1, 1);
-  EXPECT_EQ(size, CSize(6, 7));
+  EXPECT_EQ(CSize(6, 7), size);
   size -= CSize(2, 3);
-  EXPECT_EQ(size, CSize(4, 4));
+  EXPECT_EQ(CSize(4, 4), size);
 }
 
 TEST(Point, IsMadeFromNumbersStructuresAndMessageParameters) {
@@ -52,22 +52,22 @@ TEST(Point, IsMadeFromNumbersStructuresAndMessageParameters) {
 TEST(Point, MovesAndMeasures) {
   CPoint point(10, 20);
   point.Offset(1, -1);
-  EXPECT_EQ(point, CPoint(11, 19));
+  EXPECT_EQ(CPoint(11, 19), point);
   point.Offset(CPoint(1, 1));
   point.Offset(CSize(1, 1));
-  EXPECT_EQ(point, CPoint(13, 21));
+  EXPECT_EQ(CPoint(13, 21), point);
   point.SetPoint(10, 20);
   point += CSize(1, 2);
   point += CPoint(1, 2);
-  EXPECT_EQ(point, CPoint(12, 24));
+  EXPECT_EQ(CPoint(12, 24), point);
   point -= CSize(1, 2);
   point -= POINT{1, 2};
-  EXPECT_EQ(point, CPoint(10, 20));
-  EXPECT_EQ(point + CSize(1, 2), CPoint(11, 22));
-  EXPECT_EQ(point + POINT({1, 2}), CPoint(11, 22));
-  EXPECT_EQ(point - CSize(1, 2), CPoint(9, 18));
-  EXPECT_EQ(point - CPoint(1, 2), CSize(9, 18));
-  EXPECT_EQ(-point, CPoint(-10, -20));
+  EXPECT_EQ(CPoint(10, 20), point);
+  EXPECT_EQ(CPoint(11, 22), point + CSize(1, 2));
+  EXPECT_EQ(CPoint(11, 22), point + POINT({1, 2}));
+  EXPECT_EQ(CPoint(9, 18), point - CSize(1, 2));
+  EXPECT_EQ(CSize(9, 18), point - CPoint(1, 2));
+  EXPECT_EQ(CPoint(-10, -20), -point);
 }
 
 TEST(Rect, IsMadeFromSidesCornersAndStructures) {
@@ -86,21 +86,21 @@ TEST(Rect, IsMadeFromSidesCornersAndStructures) {
 
 TEST(Rect, KnowsItsMeasures) {
   const CRect rect(10, 20, 40, 80);
-  EXPECT_EQ(rect.Width(), 30);
-  EXPECT_EQ(rect.Height(), 60);
-  EXPECT_EQ(rect.Size(), CSize(30, 60));
-  EXPECT_EQ(rect.TopLeft(), CPoint(10, 20));
-  EXPECT_EQ(rect.BottomRight(), CPoint(40, 80));
-  EXPECT_EQ(rect.CenterPoint(), CPoint(25, 50));
-  EXPECT_EQ(CRect(0, 0, 5, 5).CenterPoint(), CPoint(2, 2));
-  EXPECT_EQ(CRect(9, 9, 0, 0).Size(), CSize(-9, -9));
+  EXPECT_EQ(30, rect.Width());
+  EXPECT_EQ(60, rect.Height());
+  EXPECT_EQ(CSize(30, 60), rect.Size());
+  EXPECT_EQ(CPoint(10, 20), rect.TopLeft());
+  EXPECT_EQ(CPoint(40, 80), rect.BottomRight());
+  EXPECT_EQ(CPoint(25, 50), rect.CenterPoint());
+  EXPECT_EQ(CPoint(2, 2), CRect(0, 0, 5, 5).CenterPoint());
+  EXPECT_EQ(CSize(-9, -9), CRect(9, 9, 0, 0).Size());
 }
 
 TEST(Rect, CornersMayBeWrittenTo) {
   CRect rect(10, 20, 40, 80);
   rect.TopLeft() = CPoint(1, 2);
   rect.BottomRight().Offset(5, 6);
-  EXPECT_EQ(rect, CRect(1, 2, 45, 86));
+  EXPECT_EQ(CRect(1, 2, 45, 86), rect);
 }
 
 TEST(Rect, TellsEmptyFromNull) {
@@ -113,8 +113,8 @@ TEST(Rect, TellsEmptyFromNull) {
       {{9, 5, 5, 9}, TRUE, FALSE}, {{0, 0, 1, 1}, FALSE, FALSE}, {{-1, -1, 0, 0}, FALSE, FALSE},
   };
   for (const auto& row : kRows) {
-    EXPECT_EQ(CRect(row.rect).IsRectEmpty(), row.empty);
-    EXPECT_EQ(CRect(row.rect).IsRectNull(), row.null);
+    EXPECT_EQ(row.empty, CRect(row.rect).IsRectEmpty());
+    EXPECT_EQ(row.null, CRect(row.rect).IsRectNull());
   }
 }
 
@@ -133,33 +133,33 @@ TEST(Rect, IsSetMovedAndGrown) {
   rect.OffsetRect(1, 2);
   rect.OffsetRect(CPoint(1, 2));
   rect.OffsetRect(CSize(1, 2));
-  EXPECT_EQ(rect, CRect(13, 26, 33, 46));
+  EXPECT_EQ(CRect(13, 26, 33, 46), rect);
   rect.MoveToX(0);
   rect.MoveToY(5);
-  EXPECT_EQ(rect, CRect(0, 5, 20, 25));
+  EXPECT_EQ(CRect(0, 5, 20, 25), rect);
   rect.MoveToXY(CPoint(1, 2));
   rect.MoveToXY(3, 4);
-  EXPECT_EQ(rect, CRect(3, 4, 23, 24));
+  EXPECT_EQ(CRect(3, 4, 23, 24), rect);
   rect.InflateRect(1, 2);
-  EXPECT_EQ(rect, CRect(2, 2, 24, 26));
+  EXPECT_EQ(CRect(2, 2, 24, 26), rect);
   rect.DeflateRect(1, 2);
   rect.InflateRect(CSize(1, 2));
   rect.DeflateRect(CSize(1, 2));
-  EXPECT_EQ(rect, CRect(3, 4, 23, 24));
+  EXPECT_EQ(CRect(3, 4, 23, 24), rect);
   rect.InflateRect(1, 2, 3, 4);
-  EXPECT_EQ(rect, CRect(2, 2, 26, 28));
+  EXPECT_EQ(CRect(2, 2, 26, 28), rect);
   rect.DeflateRect(1, 2, 3, 4);
-  EXPECT_EQ(rect, CRect(3, 4, 23, 24));
+  EXPECT_EQ(CRect(3, 4, 23, 24), rect);
   const RECT margins{1, 2, 3, 4};
   rect.InflateRect(&margins);
-  EXPECT_EQ(rect, CRect(2, 2, 26, 28));
+  EXPECT_EQ(CRect(2, 2, 26, 28), rect);
   rect.DeflateRect(&margins);
-  EXPECT_EQ(rect, CRect(3, 4, 23, 24));
+  EXPECT_EQ(CRect(3, 4, 23, 24), rect);
   const RECT other{1, 2, 3, 4};
   rect.CopyRect(&other);
-  EXPECT_EQ(rect, CRect(1, 2, 3, 4));
+  EXPECT_EQ(CRect(1, 2, 3, 4), rect);
   rect.SetRect(CPoint(5, 6), CPoint(7, 8));
-  EXPECT_EQ(rect, CRect(5, 6, 7, 8));
+  EXPECT_EQ(CRect(5, 6, 7, 8), rect);
   rect.SetRectEmpty();
   EXPECT_TRUE(rect.IsRectNull());
 }
@@ -167,7 +167,7 @@ TEST(Rect, IsSetMovedAndGrown) {
 TEST(Rect, IsNormalised) {
   for (CRect rect : {CRect(1, 2, 3, 4), CRect(3, 2, 1, 4), CRect(1, 4, 3, 2), CRect(3, 4, 1, 2)}) {
     rect.NormalizeRect();
-    EXPECT_EQ(rect, CRect(1, 2, 3, 4));
+    EXPECT_EQ(CRect(1, 2, 3, 4), rect);
   }
 }
 
@@ -177,31 +177,31 @@ TEST(Rect, IntersectsUnitesAndSubtracts) {
   const CRect apart(30, 30, 40, 40);
   CRect result;
   EXPECT_TRUE(result.IntersectRect(a, b));
-  EXPECT_EQ(result, CRect(5, 5, 10, 10));
+  EXPECT_EQ(CRect(5, 5, 10, 10), result);
   EXPECT_FALSE(result.IntersectRect(a, apart));
   EXPECT_TRUE(result.IsRectNull());
   EXPECT_TRUE(result.UnionRect(a, b));
-  EXPECT_EQ(result, CRect(0, 0, 20, 20));
+  EXPECT_EQ(CRect(0, 0, 20, 20), result);
   EXPECT_TRUE(result.UnionRect(a, CRect()));
   EXPECT_EQ(result, a);
   EXPECT_FALSE(result.UnionRect(CRect(), CRect()));
   EXPECT_TRUE(result.SubtractRect(a, CRect(0, 0, 10, 4)));
-  EXPECT_EQ(result, CRect(0, 4, 10, 10));
+  EXPECT_EQ(CRect(0, 4, 10, 10), result);
   EXPECT_TRUE(result.SubtractRect(a, b));
   EXPECT_EQ(result, a);
 }
 
 TEST(Rect, HasOperatorsForThese) {
   const CRect rect(10, 20, 30, 40);
-  EXPECT_EQ(rect + CPoint(1, 2), CRect(11, 22, 31, 42));
-  EXPECT_EQ(rect + CSize(1, 2), CRect(11, 22, 31, 42));
-  EXPECT_EQ(rect - CPoint(1, 2), CRect(9, 18, 29, 38));
-  EXPECT_EQ(rect - CSize(1, 2), CRect(9, 18, 29, 38));
+  EXPECT_EQ(CRect(11, 22, 31, 42), rect + CPoint(1, 2));
+  EXPECT_EQ(CRect(11, 22, 31, 42), rect + CSize(1, 2));
+  EXPECT_EQ(CRect(9, 18, 29, 38), rect - CPoint(1, 2));
+  EXPECT_EQ(CRect(9, 18, 29, 38), rect - CSize(1, 2));
   const RECT margins{1, 2, 3, 4};
-  EXPECT_EQ(rect + &margins, CRect(9, 18, 33, 44));
-  EXPECT_EQ(rect - &margins, CRect(11, 22, 27, 36));
-  EXPECT_EQ(rect & CRect(0, 0, 15, 25), CRect(10, 20, 15, 25));
-  EXPECT_EQ(rect | CRect(0, 0, 15, 25), CRect(0, 0, 30, 40));
+  EXPECT_EQ(CRect(9, 18, 33, 44), rect + &margins);
+  EXPECT_EQ(CRect(11, 22, 27, 36), rect - &margins);
+  EXPECT_EQ(CRect(10, 20, 15, 25), rect & CRect(0, 0, 15, 25));
+  EXPECT_EQ(CRect(0, 0, 30, 40), rect | CRect(0, 0, 15, 25));
 }
 
 }  // namespace

@@ -17,8 +17,8 @@ TEST(NarrowHost, CallsMembersThatTheSystemsHeaderRenames) {
 TEST(NarrowHost, ExchangesStringsWithWideCode) {
   CString text("Tavix");
   text.Format(L"%s %d", text.GetString(), 1);
-  EXPECT_EQ(text, L"Tavix 1");
-  EXPECT_EQ(AfxMapDevicePath(L"C:\\x"), L"C:\\x");
+  EXPECT_EQ(L"Tavix 1", text);
+  EXPECT_EQ(L"C:\\x", AfxMapDevicePath(L"C:\\x"));
 }
 
 }  // namespace

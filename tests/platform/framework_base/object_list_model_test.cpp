@@ -59,10 +59,10 @@ class ListAndModel {
     ASSERT_EQ(list_.GetCount(), static_cast<INT_PTR>(model_.size()));
     POSITION at = list_.GetHeadPosition();
     for (CObject* expected : model_) ASSERT_EQ(list_.GetNext(at), expected);
-    ASSERT_EQ(at, nullptr);
+    ASSERT_EQ(nullptr, at);
     at = list_.GetTailPosition();
     for (auto it = model_.rbegin(); it != model_.rend(); ++it) ASSERT_EQ(list_.GetPrev(at), *it);
-    ASSERT_EQ(at, nullptr);
+    ASSERT_EQ(nullptr, at);
     for (const Place& place : places_) ASSERT_EQ(list_.GetAt(place.position), *place.in_model);
   }
 

@@ -35,10 +35,10 @@ class ObjectList : public ::testing::Test {
 
 TEST_F(ObjectList, IsEmptyAtFirst) {
   EXPECT_EQ(Contents(list_), Items());
-  EXPECT_EQ(list_.GetHeadPosition(), nullptr);
-  EXPECT_EQ(list_.GetTailPosition(), nullptr);
-  EXPECT_EQ(list_.Find(a_), nullptr);
-  EXPECT_EQ(list_.FindIndex(0), nullptr);
+  EXPECT_EQ(nullptr, list_.GetHeadPosition());
+  EXPECT_EQ(nullptr, list_.GetTailPosition());
+  EXPECT_EQ(nullptr, list_.Find(a_));
+  EXPECT_EQ(nullptr, list_.FindIndex(0));
   list_.RemoveAll();
   EXPECT_EQ(Contents(list_), Items());
 }
@@ -47,7 +47,7 @@ TEST_F(ObjectList, GrowsAtBothEnds) {
   const POSITION b = list_.AddTail(b_);
   const POSITION a = list_.AddHead(a_);
   const POSITION c = list_.AddTail(c_);
-  EXPECT_EQ(Contents(list_), (Items{a_, b_, c_}));
+  EXPECT_EQ((Items{a_, b_, c_}), Contents(list_));
   EXPECT_EQ(list_.GetHeadPosition(), a);
   EXPECT_EQ(list_.GetTailPosition(), c);
   EXPECT_EQ(list_.GetAt(b), b_);
@@ -65,31 +65,31 @@ TEST_F(ObjectList, TakesAnotherListsElementsInTheirOrder) {
   more.AddTail(b_);
   list_.AddTail(c_);
   list_.AddHead(&more);
-  EXPECT_EQ(Contents(list_), (Items{a_, b_, c_}));
+  EXPECT_EQ((Items{a_, b_, c_}), Contents(list_));
   list_.AddTail(&more);
-  EXPECT_EQ(Contents(list_), (Items{a_, b_, c_, a_, b_}));
-  EXPECT_EQ(Contents(more), (Items{a_, b_}));
+  EXPECT_EQ((Items{a_, b_, c_, a_, b_}), Contents(list_));
+  EXPECT_EQ((Items{a_, b_}), Contents(more));
   CObList none;
   list_.AddHead(&none);
   list_.AddTail(&none);
-  EXPECT_EQ(list_.GetCount(), 5);
+  EXPECT_EQ(5, list_.GetCount());
 }
 
 TEST_F(ObjectList, TakesItsOwnElementsOnce) {
   list_.AddTail(a_);
   list_.AddTail(b_);
   list_.AddTail(&list_);
-  EXPECT_EQ(Contents(list_), (Items{a_, b_, a_, b_}));
+  EXPECT_EQ((Items{a_, b_, a_, b_}), Contents(list_));
   list_.RemoveTail();
   list_.AddHead(&list_);
-  EXPECT_EQ(Contents(list_), (Items{a_, b_, a_, a_, b_, a_}));
+  EXPECT_EQ((Items{a_, b_, a_, a_, b_, a_}), Contents(list_));
 }
 
 TEST_F(ObjectList, ShrinksAtBothEnds) {
   for (CObject* item : {a_, b_, c_}) list_.AddTail(item);
   EXPECT_EQ(list_.RemoveHead(), a_);
   EXPECT_EQ(list_.RemoveTail(), c_);
-  EXPECT_EQ(Contents(list_), Items{b_});
+  EXPECT_EQ(Items{b_}, Contents(list_));
   EXPECT_EQ(list_.RemoveTail(), b_);
   EXPECT_EQ(Contents(list_), Items());
   list_.AddHead(d_);
@@ -102,9 +102,9 @@ TEST_F(ObjectList, RemovesAtAPosition) {
   const POSITION b = list_.AddTail(b_);
   const POSITION c = list_.AddTail(c_);
   list_.RemoveAt(b);
-  EXPECT_EQ(Contents(list_), (Items{a_, c_}));
+  EXPECT_EQ((Items{a_, c_}), Contents(list_));
   list_.RemoveAt(c);
-  EXPECT_EQ(Contents(list_), Items{a_});
+  EXPECT_EQ(Items{a_}, Contents(list_));
   list_.RemoveAt(list_.GetHeadPosition());
   EXPECT_EQ(Contents(list_), Items());
 }
@@ -114,19 +114,19 @@ TEST_F(ObjectList, InsertsAroundAPosition) {
   const POSITION a = list_.InsertBefore(b, a_);
   const POSITION d = list_.InsertAfter(b, d_);
   const POSITION c = list_.InsertBefore(d, c_);
-  EXPECT_EQ(Contents(list_), (Items{a_, b_, c_, d_}));
+  EXPECT_EQ((Items{a_, b_, c_, d_}), Contents(list_));
   EXPECT_EQ(list_.GetHeadPosition(), a);
   EXPECT_EQ(list_.GetTailPosition(), d);
   EXPECT_EQ(list_.GetAt(c), c_);
   list_.InsertAfter(a, d_);
-  EXPECT_EQ(Contents(list_), (Items{a_, d_, b_, c_, d_}));
+  EXPECT_EQ((Items{a_, d_, b_, c_, d_}), Contents(list_));
 }
 
 TEST_F(ObjectList, InsertsAtTheEndsForNoPosition) {
   list_.InsertBefore(nullptr, b_);
   list_.InsertBefore(nullptr, a_);
   list_.InsertAfter(nullptr, c_);
-  EXPECT_EQ(Contents(list_), (Items{a_, b_, c_}));
+  EXPECT_EQ((Items{a_, b_, c_}), Contents(list_));
 }
 
 TEST_F(ObjectList, ElementsAreReplacedInPlace) {
@@ -134,17 +134,17 @@ TEST_F(ObjectList, ElementsAreReplacedInPlace) {
   list_.AddTail(b_);
   list_.AddTail(c_);
   list_.SetAt(a, d_);
-  EXPECT_EQ(Contents(list_), (Items{d_, b_, c_}));
+  EXPECT_EQ((Items{d_, b_, c_}), Contents(list_));
   list_.GetAt(a) = c_;
   list_.GetTail() = a_;
-  EXPECT_EQ(Contents(list_), (Items{c_, b_, a_}));
+  EXPECT_EQ((Items{c_, b_, a_}), Contents(list_));
   list_.GetHead() = a_;
   POSITION next = list_.GetHeadPosition();
   list_.GetNext(next);
   list_.GetNext(next) = d_;
   POSITION previous = list_.GetTailPosition();
   list_.GetPrev(previous) = b_;
-  EXPECT_EQ(Contents(list_), (Items{a_, d_, b_}));
+  EXPECT_EQ((Items{a_, d_, b_}), Contents(list_));
 }
 
 TEST_F(ObjectList, HoldsNullLikeAnyOther) {
@@ -152,7 +152,7 @@ TEST_F(ObjectList, HoldsNullLikeAnyOther) {
   list_.AddTail(a_);
   const POSITION place = list_.AddTail(null);
   EXPECT_EQ(list_.Find(null), place);
-  EXPECT_EQ(Contents(list_), (Items{a_, null}));
+  EXPECT_EQ((Items{a_, null}), Contents(list_));
 }
 
 TEST_F(ObjectList, FindsTheNextEqualElementBehindAPosition) {
@@ -161,9 +161,9 @@ TEST_F(ObjectList, FindsTheNextEqualElementBehindAPosition) {
   const POSITION second = list_.AddTail(a_);
   EXPECT_EQ(list_.Find(a_), first);
   EXPECT_EQ(list_.Find(a_, first), second);
-  EXPECT_EQ(list_.Find(a_, second), nullptr);
-  EXPECT_EQ(list_.Find(b_, second), nullptr);
-  EXPECT_EQ(list_.Find(c_), nullptr);
+  EXPECT_EQ(nullptr, list_.Find(a_, second));
+  EXPECT_EQ(nullptr, list_.Find(b_, second));
+  EXPECT_EQ(nullptr, list_.Find(c_));
 }
 
 TEST_F(ObjectList, FindsAnIndexInsideOnly) {
@@ -172,7 +172,7 @@ TEST_F(ObjectList, FindsAnIndexInsideOnly) {
   EXPECT_EQ(list_.FindIndex(0), a);
   EXPECT_EQ(list_.FindIndex(1), b);
   for (INT_PTR outside : {INT_PTR{-1}, INT_PTR{2}, INT_PTR{1000000}}) {
-    EXPECT_EQ(list_.FindIndex(outside), nullptr);
+    EXPECT_EQ(nullptr, list_.FindIndex(outside));
   }
 }
 
@@ -194,9 +194,9 @@ TEST_F(ObjectList, NeverOwnsItsElements) {
       list.RemoveHead();
       list.AddTail(&object);
     }
-    EXPECT_EQ(destroyed, 0);
+    EXPECT_EQ(0, destroyed);
   }
-  EXPECT_EQ(destroyed, 1);
+  EXPECT_EQ(1, destroyed);
 }
 
 }  // namespace

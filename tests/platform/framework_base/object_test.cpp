@@ -24,17 +24,17 @@ static_assert(!std::is_copy_constructible_v<CObList> && !std::is_copy_assignable
 static_assert(std::has_virtual_destructor_v<CObject>);
 
 TEST(RuntimeClass, KnowsItsNameSizeAndBase) {
-  EXPECT_STREQ(RUNTIME_CLASS(RoundMark)->m_lpszClassName, "RoundMark");
+  EXPECT_STREQ("RoundMark", RUNTIME_CLASS(RoundMark)->m_lpszClassName);
   EXPECT_EQ(RUNTIME_CLASS(RoundMark)->m_nObjectSize, static_cast<int>(sizeof(RoundMark)));
-  EXPECT_EQ(RUNTIME_CLASS(RoundMark)->m_pBaseClass, RUNTIME_CLASS(Mark));
-  EXPECT_STREQ(RUNTIME_CLASS(CObject)->m_lpszClassName, "CObject");
-  EXPECT_EQ(RUNTIME_CLASS(CObject)->m_pBaseClass, nullptr);
+  EXPECT_EQ(RUNTIME_CLASS(Mark), RUNTIME_CLASS(RoundMark)->m_pBaseClass);
+  EXPECT_STREQ("CObject", RUNTIME_CLASS(CObject)->m_lpszClassName);
+  EXPECT_EQ(nullptr, RUNTIME_CLASS(CObject)->m_pBaseClass);
 }
 
 TEST(RuntimeClass, AnObjectIsOfItsClassAndOfEveryBase) {
   const RoundMark round;
   const CObject& object = round;
-  EXPECT_EQ(object.GetRuntimeClass(), RUNTIME_CLASS(RoundMark));
+  EXPECT_EQ(RUNTIME_CLASS(RoundMark), object.GetRuntimeClass());
   EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS(RoundMark)));
   EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS(Mark)));
   EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS(CObject)));
@@ -43,7 +43,7 @@ TEST(RuntimeClass, AnObjectIsOfItsClassAndOfEveryBase) {
 }
 
 TEST(RuntimeClass, AClassThatDeclaresNothingCountsAsItsBase) {
-  EXPECT_EQ(Plain().GetRuntimeClass(), RUNTIME_CLASS(CObject));
+  EXPECT_EQ(RUNTIME_CLASS(CObject), Plain().GetRuntimeClass());
 }
 
 TEST(RuntimeClass, OfTheFrameworksOwnClasses) {

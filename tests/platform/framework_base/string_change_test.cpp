@@ -12,11 +12,11 @@ constexpr int kMost = 0x7FFFFFFF;
 constexpr int kLeast = -kMost - 1;
 
 TEST(StringChange, CaseAndOrder) {
-  EXPECT_STREQ(CString(L"aZ9 é 点 ａ").MakeUpper(), L"AZ9 É 点 Ａ");
-  EXPECT_STREQ(CString(L"aZ9 É 点 Ａ").MakeLower(), L"az9 é 点 ａ");
-  EXPECT_STREQ(CString(L"abc点").MakeReverse(), L"点cba");
-  EXPECT_STREQ(CString(L"x").MakeReverse(), L"x");
-  EXPECT_STREQ(CString().MakeUpper().MakeLower().MakeReverse(), L"");
+  EXPECT_STREQ(L"AZ9 É 点 Ａ", CString(L"aZ9 é 点 ａ").MakeUpper());
+  EXPECT_STREQ(L"az9 é 点 ａ", CString(L"aZ9 É 点 Ａ").MakeLower());
+  EXPECT_STREQ(L"点cba", CString(L"abc点").MakeReverse());
+  EXPECT_STREQ(L"x", CString(L"x").MakeReverse());
+  EXPECT_STREQ(L"", CString().MakeUpper().MakeLower().MakeReverse());
 }
 
 TEST(StringChange, TrimsWhiteSpace) {
@@ -35,36 +35,36 @@ TEST(StringChange, TrimsWhiteSpace) {
       {L"\x3000点\x3000", L"点\x3000", L"\x3000点", L"点"},
   };
   for (const auto& row : kRows) {
-    EXPECT_STREQ(CString(row.text).TrimLeft(), row.left);
-    EXPECT_STREQ(CString(row.text).TrimRight(), row.right);
-    EXPECT_STREQ(CString(row.text).Trim(), row.both);
+    EXPECT_STREQ(row.left, CString(row.text).TrimLeft());
+    EXPECT_STREQ(row.right, CString(row.text).TrimRight());
+    EXPECT_STREQ(row.both, CString(row.text).Trim());
   }
 }
 
 TEST(StringChange, TrimsASetAndACharacter) {
   const CString text(L"xxyabcyxx");
-  EXPECT_STREQ(CString(text).TrimLeft(L"xy"), L"abcyxx");
-  EXPECT_STREQ(CString(text).TrimRight(L"xy"), L"xxyabc");
-  EXPECT_STREQ(CString(text).Trim(L"xy"), L"abc");
-  EXPECT_STREQ(CString(text).TrimLeft(L'x'), L"yabcyxx");
-  EXPECT_STREQ(CString(text).TrimRight(L'x'), L"xxyabcy");
-  EXPECT_STREQ(CString(text).Trim(L'x'), L"yabcy");
+  EXPECT_STREQ(L"abcyxx", CString(text).TrimLeft(L"xy"));
+  EXPECT_STREQ(L"xxyabc", CString(text).TrimRight(L"xy"));
+  EXPECT_STREQ(L"abc", CString(text).Trim(L"xy"));
+  EXPECT_STREQ(L"yabcyxx", CString(text).TrimLeft(L'x'));
+  EXPECT_STREQ(L"xxyabcy", CString(text).TrimRight(L'x'));
+  EXPECT_STREQ(L"yabcy", CString(text).Trim(L'x'));
   EXPECT_STREQ(CString(text).Trim(L""), text);
   EXPECT_STREQ(CString(text).Trim(static_cast<LPCWSTR>(nullptr)), text);
-  EXPECT_STREQ(CString(L"xyx").Trim(L"yx"), L"");
+  EXPECT_STREQ(L"", CString(L"xyx").Trim(L"yx"));
   CString itself(L"xyx");
-  EXPECT_STREQ(itself.Trim(itself.GetString()), L"");
+  EXPECT_STREQ(L"", itself.Trim(itself.GetString()));
   CString tail(L"abcx");
-  EXPECT_STREQ(tail.Trim(tail.GetString() + 3), L"abc");
+  EXPECT_STREQ(L"abc", tail.Trim(tail.GetString() + 3));
 }
 
 TEST(StringChange, ReplacesCharactersAndTexts) {
   CString text(L"a.b.c");
-  EXPECT_EQ(text.Replace(L'.', L','), 2);
-  EXPECT_STREQ(text, L"a,b,c");
-  EXPECT_EQ(text.Replace(L'x', L'y'), 0);
-  EXPECT_EQ(text.Replace(L'a', L'a'), 0);
-  EXPECT_STREQ(text, L"a,b,c");
+  EXPECT_EQ(2, text.Replace(L'.', L','));
+  EXPECT_STREQ(L"a,b,c", text);
+  EXPECT_EQ(0, text.Replace(L'x', L'y'));
+  EXPECT_EQ(0, text.Replace(L'a', L'a'));
+  EXPECT_STREQ(L"a,b,c", text);
 
   static constexpr struct {
     LPCWSTR text;
@@ -87,21 +87,21 @@ TEST(StringChange, ReplacesCharactersAndTexts) {
   };
   for (const auto& row : kRows) {
     CString changed(row.text);
-    EXPECT_EQ(changed.Replace(row.from, row.to), row.count);
-    EXPECT_STREQ(changed, row.result);
+    EXPECT_EQ(row.count, changed.Replace(row.from, row.to));
+    EXPECT_STREQ(row.result, changed);
   }
 }
 
 TEST(StringChange, RemovesACharacter) {
   CString text(L"This is a test.");
-  EXPECT_EQ(text.Remove(L't'), 2);
-  EXPECT_STREQ(text, L"This is a es.");
-  EXPECT_EQ(text.Remove(L'x'), 0);
-  EXPECT_STREQ(text, L"This is a es.");
+  EXPECT_EQ(2, text.Remove(L't'));
+  EXPECT_STREQ(L"This is a es.", text);
+  EXPECT_EQ(0, text.Remove(L'x'));
+  EXPECT_STREQ(L"This is a es.", text);
   CString all(L"xxx");
-  EXPECT_EQ(all.Remove(L'x'), 3);
-  EXPECT_STREQ(all, L"");
-  EXPECT_EQ(CString().Remove(L'x'), 0);
+  EXPECT_EQ(3, all.Remove(L'x'));
+  EXPECT_STREQ(L"", all);
+  EXPECT_EQ(0, CString().Remove(L'x'));
 }
 
 TEST(StringChange, InsertsAtAPlaceInsideTheString) {
@@ -117,13 +117,13 @@ TEST(StringChange, InsertsAtAPlaceInsideTheString) {
   for (const auto& row : kRows) {
     CString text(L"abc");
     EXPECT_EQ(text.Insert(row.index, row.inserted), static_cast<int>(std::wcslen(row.result)));
-    EXPECT_STREQ(text, row.result) << row.index;
+    EXPECT_STREQ(row.result, text) << row.index;
   }
   CString text(L"abc");
-  EXPECT_EQ(text.Insert(1, L'点'), 4);
-  EXPECT_STREQ(text, L"a点bc");
-  EXPECT_EQ(text.Insert(99, L'!'), 5);
-  EXPECT_STREQ(text, L"a点bc!");
+  EXPECT_EQ(4, text.Insert(1, L'点'));
+  EXPECT_STREQ(L"a点bc", text);
+  EXPECT_EQ(5, text.Insert(99, L'!'));
+  EXPECT_STREQ(L"a点bc!", text);
 }
 
 TEST(StringChange, DeletesWhatLiesInsideTheString) {
@@ -139,12 +139,12 @@ TEST(StringChange, DeletesWhatLiesInsideTheString) {
   for (const auto& row : kRows) {
     CString text(L"01234");
     EXPECT_EQ(text.Delete(row.index, row.count), static_cast<int>(std::wcslen(row.result)));
-    EXPECT_STREQ(text, row.result) << row.index << ", " << row.count;
+    EXPECT_STREQ(row.result, text) << row.index << ", " << row.count;
   }
   CString text(L"01234");
-  EXPECT_EQ(text.Delete(2), 4);
-  EXPECT_STREQ(text, L"0134");
-  EXPECT_EQ(CString().Delete(0), 0);
+  EXPECT_EQ(4, text.Delete(2));
+  EXPECT_STREQ(L"0134", text);
+  EXPECT_EQ(0, CString().Delete(0));
 }
 
 }  // namespace

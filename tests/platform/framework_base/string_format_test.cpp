@@ -17,37 +17,37 @@ CString Formatted(LPCWSTR format, Arguments... arguments) {
 }
 
 TEST(StringFormat, WritesNumbersAndTexts) {
-  EXPECT_STREQ(Formatted(L"%d", 42), L"42");
-  EXPECT_STREQ(Formatted(L"%d", -42), L"-42");
-  EXPECT_STREQ(Formatted(L"%5d|%-5d|%05d|%+d", 42, 42, 42, 42), L"   42|42   |00042|+42");
-  EXPECT_STREQ(Formatted(L"%u", 4000000000U), L"4000000000");
-  EXPECT_STREQ(Formatted(L"%ld %lu", -7L, 7UL), L"-7 7");
-  EXPECT_STREQ(Formatted(L"%I64d", 9000000000LL), L"9000000000");
-  EXPECT_STREQ(Formatted(L"%x %X %04x %#x", 255, 255, 255, 255), L"ff FF 00ff 0xff");
-  EXPECT_STREQ(Formatted(L"%lf", 1.5), L"1.500000");
-  EXPECT_STREQ(Formatted(L"%f", -0.25), L"-0.250000");
-  EXPECT_STREQ(Formatted(L"%.2lf", 3.14159), L"3.14");
-  EXPECT_STREQ(Formatted(L"%8.3lf|%-8.1lf|", 3.14159, 3.14159), L"   3.142|3.1     |");
-  EXPECT_STREQ(Formatted(L"%.0lf", 1e15), L"1000000000000000");
-  EXPECT_STREQ(Formatted(L"%g", 0.5), L"0.5");
-  EXPECT_STREQ(Formatted(L"%.*lf", 3, 1.0), L"1.000");
-  EXPECT_STREQ(Formatted(L"%c%c", L'a', L'点'), L"a点");
-  EXPECT_STREQ(Formatted(L"%%"), L"%");
-  EXPECT_STREQ(Formatted(L"100%%: %d%%", 7), L"100%: 7%");
+  EXPECT_STREQ(L"42", Formatted(L"%d", 42));
+  EXPECT_STREQ(L"-42", Formatted(L"%d", -42));
+  EXPECT_STREQ(L"   42|42   |00042|+42", Formatted(L"%5d|%-5d|%05d|%+d", 42, 42, 42, 42));
+  EXPECT_STREQ(L"4000000000", Formatted(L"%u", 4000000000U));
+  EXPECT_STREQ(L"-7 7", Formatted(L"%ld %lu", -7L, 7UL));
+  EXPECT_STREQ(L"9000000000", Formatted(L"%I64d", 9000000000LL));
+  EXPECT_STREQ(L"ff FF 00ff 0xff", Formatted(L"%x %X %04x %#x", 255, 255, 255, 255));
+  EXPECT_STREQ(L"1.500000", Formatted(L"%lf", 1.5));
+  EXPECT_STREQ(L"-0.250000", Formatted(L"%f", -0.25));
+  EXPECT_STREQ(L"3.14", Formatted(L"%.2lf", 3.14159));
+  EXPECT_STREQ(L"   3.142|3.1     |", Formatted(L"%8.3lf|%-8.1lf|", 3.14159, 3.14159));
+  EXPECT_STREQ(L"1000000000000000", Formatted(L"%.0lf", 1e15));
+  EXPECT_STREQ(L"0.5", Formatted(L"%g", 0.5));
+  EXPECT_STREQ(L"1.000", Formatted(L"%.*lf", 3, 1.0));
+  EXPECT_STREQ(L"a点", Formatted(L"%c%c", L'a', L'点'));
+  EXPECT_STREQ(L"%", Formatted(L"%%"));
+  EXPECT_STREQ(L"100%: 7%", Formatted(L"100%%: %d%%", 7));
 }
 
 TEST(StringFormat, TakesWideStringsForS) {
-  EXPECT_STREQ(Formatted(L"%s", L"測量点"), L"測量点");
-  EXPECT_STREQ(Formatted(L"[%5s|%-5s|%.2s]", L"abc", L"abc", L"abc"), L"[  abc|abc  |ab]");
-  EXPECT_STREQ(Formatted(L"%S %hs %ls", "narrow", "short", L"wide"), L"narrow short wide");
-  EXPECT_STREQ(Formatted(L"%s", static_cast<LPCWSTR>(CString(L"text"))), L"text");
-  EXPECT_STREQ(Formatted(L"点 %d 線 %s", 3, L"境界"), L"点 3 線 境界");
+  EXPECT_STREQ(L"測量点", Formatted(L"%s", L"測量点"));
+  EXPECT_STREQ(L"[  abc|abc  |ab]", Formatted(L"[%5s|%-5s|%.2s]", L"abc", L"abc", L"abc"));
+  EXPECT_STREQ(L"narrow short wide", Formatted(L"%S %hs %ls", "narrow", "short", L"wide"));
+  EXPECT_STREQ(L"text", Formatted(L"%s", static_cast<LPCWSTR>(CString(L"text"))));
+  EXPECT_STREQ(L"点 3 線 境界", Formatted(L"点 %d 線 %s", 3, L"境界"));
 }
 
 TEST(StringFormat, GivesAnEmptyStringForAnEmptyOrNullFormat) {
-  EXPECT_STREQ(Formatted(L""), L"");
-  EXPECT_STREQ(Formatted(L"%s", L""), L"");
-  EXPECT_STREQ(Formatted(nullptr), L"");
+  EXPECT_STREQ(L"", Formatted(L""));
+  EXPECT_STREQ(L"", Formatted(L"%s", L""));
+  EXPECT_STREQ(L"", Formatted(nullptr));
 }
 
 TEST(StringFormat, HasNoLimitOfLength) {
@@ -55,21 +55,21 @@ TEST(StringFormat, HasNoLimitOfLength) {
     const std::wstring piece(length, L'測');
     const CString text = Formatted(L"<%s>", piece.c_str());
     ASSERT_EQ(text.GetLength(), static_cast<int>(length) + 2);
-    EXPECT_EQ(text[0], L'<');
-    EXPECT_EQ(text[static_cast<int>(length)], L'測');
-    EXPECT_EQ(text[static_cast<int>(length) + 1], L'>');
+    EXPECT_EQ(L'<', text[0]);
+    EXPECT_EQ(L'測', text[static_cast<int>(length)]);
+    EXPECT_EQ(L'>', text[static_cast<int>(length) + 1]);
   }
 }
 
 TEST(StringFormat, MayUseTheStringsOwnCharacters) {
   CString text(L"abc");
   text.Format(L"%s-%s", text.GetString(), text.GetString());
-  EXPECT_STREQ(text, L"abc-abc");
+  EXPECT_STREQ(L"abc-abc", text);
   text = L"%d items";
   text.Format(text, 3);
-  EXPECT_STREQ(text, L"3 items");
+  EXPECT_STREQ(L"3 items", text);
   text.AppendFormat(L" (%s)", text.GetString());
-  EXPECT_STREQ(text, L"3 items (3 items)");
+  EXPECT_STREQ(L"3 items (3 items)", text);
 }
 
 TEST(StringFormat, AppendsToWhatIsThere) {
@@ -77,7 +77,7 @@ TEST(StringFormat, AppendsToWhatIsThere) {
   text.AppendFormat(L"%d", 1);
   text.AppendFormat(L", %d", 2);
   text.AppendFormat(L"");
-  EXPECT_STREQ(text, L"1, 2");
+  EXPECT_STREQ(L"1, 2", text);
 }
 
 void FormatWithList(CString& text, LPCWSTR format, ...) {
@@ -90,13 +90,13 @@ void FormatWithList(CString& text, LPCWSTR format, ...) {
 TEST(StringFormat, TakesAListOfArguments) {
   CString text;
   FormatWithList(text, L"%s %d %.1lf", L"a", 1, 2.5);
-  EXPECT_STREQ(text, L"a 1 2.5");
+  EXPECT_STREQ(L"a 1 2.5", text);
 }
 
 TEST(StringFormat, KeepsTheStringWhenTheResourceIsMissing) {
   CString text(L"before");
   text.Format(54321U, 1);
-  EXPECT_STREQ(text, L"before");
+  EXPECT_STREQ(L"before", text);
 }
 
 }  // namespace

@@ -38,9 +38,9 @@ TEST(StringComparison, OrdersByCharacterValueAndWithoutCase) {
   for (const auto& row : kRows) {
     const CString a(row.a);
     const CString b(row.b);
-    EXPECT_EQ(Sign(a.Compare(row.b)), row.order) << ::testing::PrintToString(a);
+    EXPECT_EQ(row.order, Sign(a.Compare(row.b))) << ::testing::PrintToString(a);
     EXPECT_EQ(Sign(b.Compare(row.a)), -row.order) << ::testing::PrintToString(a);
-    EXPECT_EQ(Sign(a.CompareNoCase(row.b)), row.order_without_case) << ::testing::PrintToString(a);
+    EXPECT_EQ(row.order_without_case, Sign(a.CompareNoCase(row.b))) << ::testing::PrintToString(a);
     EXPECT_EQ(Sign(b.CompareNoCase(row.a)), -row.order_without_case) << ::testing::PrintToString(a);
     EXPECT_EQ(a == b, row.order == 0);
     EXPECT_EQ(a != b, row.order != 0);
@@ -69,7 +69,7 @@ TEST(StringComparison, StopsAtTheFirstNul) {
   EXPECT_TRUE(text == copy);
   EXPECT_TRUE(text == L"a");
   EXPECT_TRUE(L"a" == text);
-  EXPECT_EQ(text.CompareNoCase(L"A"), 0);
+  EXPECT_EQ(0, text.CompareNoCase(L"A"));
 }
 
 TEST(StringComparison, WithOneCharacter) {
@@ -83,9 +83,9 @@ TEST(StringComparison, WithOneCharacter) {
 TEST(StringComparison, LeavesBothSidesAsTheyWere) {
   const CString a(L"Ab");
   const CString b(L"aB");
-  EXPECT_EQ(a.CompareNoCase(b), 0);
-  EXPECT_STREQ(a, L"Ab");
-  EXPECT_STREQ(b, L"aB");
+  EXPECT_EQ(0, a.CompareNoCase(b));
+  EXPECT_STREQ(L"Ab", a);
+  EXPECT_STREQ(L"aB", b);
 }
 
 TEST(StringParts, AreClampedToTheString) {
@@ -111,13 +111,13 @@ TEST(StringParts, AreClampedToTheString) {
   };
   const CString text(L"01234");
   for (const auto& row : kRows) {
-    EXPECT_STREQ(text.Mid(row.first, row.count), row.mid) << row.first << ", " << row.count;
+    EXPECT_STREQ(row.mid, text.Mid(row.first, row.count)) << row.first << ", " << row.count;
   }
-  EXPECT_STREQ(CString().Mid(0, 3), L"");
-  EXPECT_STREQ(text.Mid(2), L"234");
-  EXPECT_STREQ(text.Mid(-2), L"01234");
-  EXPECT_STREQ(text.Mid(5), L"");
-  EXPECT_STREQ(text.Mid(99), L"");
+  EXPECT_STREQ(L"", CString().Mid(0, 3));
+  EXPECT_STREQ(L"234", text.Mid(2));
+  EXPECT_STREQ(L"01234", text.Mid(-2));
+  EXPECT_STREQ(L"", text.Mid(5));
+  EXPECT_STREQ(L"", text.Mid(99));
 }
 
 TEST(StringParts, LeftAndRightAreClampedToTheString) {
@@ -132,10 +132,10 @@ TEST(StringParts, LeftAndRightAreClampedToTheString) {
   };
   const CString text(L"01234");
   for (const auto& row : kRows) {
-    EXPECT_STREQ(text.Left(row.count), row.left) << row.count;
-    EXPECT_STREQ(text.Right(row.count), row.right) << row.count;
-    EXPECT_STREQ(CString().Left(row.count), L"");
-    EXPECT_STREQ(CString().Right(row.count), L"");
+    EXPECT_STREQ(row.left, text.Left(row.count)) << row.count;
+    EXPECT_STREQ(row.right, text.Right(row.count)) << row.count;
+    EXPECT_STREQ(L"", CString().Left(row.count));
+    EXPECT_STREQ(L"", CString().Right(row.count));
   }
 }
 
@@ -157,8 +157,8 @@ TEST(StringParts, SpanOfASetOfCharacters) {
       {L"12.5点", L".0123456789", L"12.5", L""},
   };
   for (const auto& row : kRows) {
-    EXPECT_STREQ(CString(row.text).SpanIncluding(row.set), row.including);
-    EXPECT_STREQ(CString(row.text).SpanExcluding(row.set), row.excluding);
+    EXPECT_STREQ(row.including, CString(row.text).SpanIncluding(row.set));
+    EXPECT_STREQ(row.excluding, CString(row.text).SpanExcluding(row.set));
   }
 }
 
@@ -173,13 +173,13 @@ TEST(StringSearch, FindsACharacterFromAStart) {
       {L'a', -1, -1}, {L'点', 0, 4}, {L'x', 0, -1},
   };
   const CString text(L"abca点");
-  for (const auto& row : kRows) EXPECT_EQ(text.Find(row.ch, row.start), row.place) << row.start;
-  EXPECT_EQ(text.Find(L'a'), 0);
-  EXPECT_EQ(CString().Find(L'a'), -1);
-  EXPECT_EQ(text.ReverseFind(L'a'), 3);
-  EXPECT_EQ(text.ReverseFind(L'点'), 4);
-  EXPECT_EQ(text.ReverseFind(L'x'), -1);
-  EXPECT_EQ(CString().ReverseFind(L'a'), -1);
+  for (const auto& row : kRows) EXPECT_EQ(row.place, text.Find(row.ch, row.start)) << row.start;
+  EXPECT_EQ(0, text.Find(L'a'));
+  EXPECT_EQ(-1, CString().Find(L'a'));
+  EXPECT_EQ(3, text.ReverseFind(L'a'));
+  EXPECT_EQ(4, text.ReverseFind(L'点'));
+  EXPECT_EQ(-1, text.ReverseFind(L'x'));
+  EXPECT_EQ(-1, CString().ReverseFind(L'a'));
 }
 
 TEST(StringSearch, FindsATextFromAStart) {
@@ -193,18 +193,18 @@ TEST(StringSearch, FindsATextFromAStart) {
       {L"abcabc", 0, 0},   {L"c", 5, 5},  {L"c", 6, -1},  {L"AB", 0, -1},  {nullptr, 0, 0},
   };
   const CString text(L"abcabc");
-  for (const auto& row : kRows) EXPECT_EQ(text.Find(row.text, row.start), row.place) << row.start;
-  EXPECT_EQ(CString(L"no. 測量点").Find(L"測量"), 4);
+  for (const auto& row : kRows) EXPECT_EQ(row.place, text.Find(row.text, row.start)) << row.start;
+  EXPECT_EQ(4, CString(L"no. 測量点").Find(L"測量"));
 }
 
 TEST(StringSearch, FindsTheFirstOfASet) {
   const CString text(L"12.5m");
-  EXPECT_EQ(text.FindOneOf(L"m."), 2);
-  EXPECT_EQ(text.FindOneOf(L"m"), 4);
-  EXPECT_EQ(text.FindOneOf(L"x"), -1);
-  EXPECT_EQ(text.FindOneOf(L""), -1);
-  EXPECT_EQ(text.FindOneOf(nullptr), -1);
-  EXPECT_EQ(CString().FindOneOf(L"x"), -1);
+  EXPECT_EQ(2, text.FindOneOf(L"m."));
+  EXPECT_EQ(4, text.FindOneOf(L"m"));
+  EXPECT_EQ(-1, text.FindOneOf(L"x"));
+  EXPECT_EQ(-1, text.FindOneOf(L""));
+  EXPECT_EQ(-1, text.FindOneOf(nullptr));
+  EXPECT_EQ(-1, CString().FindOneOf(L"x"));
 }
 
 }  // namespace

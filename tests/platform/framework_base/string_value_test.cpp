@@ -20,15 +20,15 @@ static_assert(std::is_nothrow_move_assignable_v<CString>);
 // Usable in every way a fresh empty string is.
 void ExpectEmptyAndUsable(CString& text) {
   EXPECT_TRUE(text.IsEmpty());
-  EXPECT_EQ(text.GetLength(), 0);
-  EXPECT_STREQ(text, L"");
+  EXPECT_EQ(0, text.GetLength());
+  EXPECT_STREQ(L"", text);
   const CString copy(text);
   EXPECT_EQ(copy, text);
   text.MakeUpper().MakeReverse().Trim();
   text += L"x";
-  EXPECT_EQ(text, L"x");
+  EXPECT_EQ(L"x", text);
   text = copy;
-  EXPECT_STREQ(text, L"");
+  EXPECT_STREQ(L"", text);
 }
 
 TEST(String, IsEmptyFromNothingAndFromNull) {
@@ -67,16 +67,16 @@ TEST(String, IsMadeFromTextCharactersAndLength) {
   EXPECT_STREQ(CString(L'b', 4), L"bbbb");
   CString text;
   text = L'z';
-  EXPECT_STREQ(text, L"z");
-  EXPECT_EQ(text.GetLength(), 1);
+  EXPECT_STREQ(L"z", text);
+  EXPECT_EQ(1, text.GetLength());
 }
 
 TEST(String, KeepsANulInsideItsLength) {
   const CString text(L"a\0b", 3);
-  EXPECT_EQ(text.GetLength(), 3);
-  EXPECT_EQ(text[2], L'b');
+  EXPECT_EQ(3, text.GetLength());
+  EXPECT_EQ(L'b', text[2]);
   EXPECT_EQ(CString(text), text);
-  EXPECT_EQ((text + L"c").GetLength(), 4);
+  EXPECT_EQ(4, (text + L"c").GetLength());
 }
 
 TEST(String, IsConvertedFromTheAnsiCodePage) {
@@ -98,13 +98,13 @@ TEST(String, CopiesShareTheirCharactersUntilOneChanges) {
   CString copy(original);
   CString assigned;
   assigned = original;
-  EXPECT_EQ(copy.GetString(), original.GetString());
-  EXPECT_EQ(assigned.GetString(), original.GetString());
+  EXPECT_EQ(original.GetString(), copy.GetString());
+  EXPECT_EQ(original.GetString(), assigned.GetString());
   copy.SetAt(0, L'X');
-  EXPECT_NE(copy.GetString(), original.GetString());
-  EXPECT_EQ(assigned.GetString(), original.GetString());
-  EXPECT_EQ(copy[0], L'X');
-  EXPECT_STREQ(original, kLong);
+  EXPECT_NE(original.GetString(), copy.GetString());
+  EXPECT_EQ(original.GetString(), assigned.GetString());
+  EXPECT_EQ(L'X', copy[0]);
+  EXPECT_STREQ(kLong, original);
 }
 
 // Every call that changes a string in place leaves the copies of it alone.
@@ -138,9 +138,9 @@ TEST(String, ChangesOfACopyDoNotReachTheOriginal) {
     const CString original(L" AbBz ");
     CString copy(original);
     change(copy);
-    EXPECT_STREQ(original, L" AbBz ") << &change - kChanges;
-    EXPECT_EQ(original.GetLength(), 6);
-    EXPECT_NE(copy, original) << &change - kChanges;
+    EXPECT_STREQ(L" AbBz ", original) << &change - kChanges;
+    EXPECT_EQ(6, original.GetLength());
+    EXPECT_NE(original, copy) << &change - kChanges;
   }
 }
 
@@ -155,42 +155,43 @@ TEST(String, MovedFromIsEmptyAndUsable) {
   target = std::move(to);
   EXPECT_EQ(target.GetString(), characters);
   to = L"again";  // whatever it held meanwhile
-  EXPECT_STREQ(to, L"again");
-  EXPECT_STREQ(target, kLong);
+  EXPECT_STREQ(L"again", to);
+  EXPECT_STREQ(kLong, target);
 }
 
 TEST(String, SurvivesAssignmentToItself) {
   CString text(kLong);
   CString& same = text;
   text = same;
-  EXPECT_STREQ(text, kLong);
+  EXPECT_STREQ(kLong, text);
   text = std::move(same);
-  EXPECT_STREQ(text, kLong);
+  EXPECT_STREQ(kLong, text);
   text = text.GetString();
-  EXPECT_STREQ(text, kLong);
+  EXPECT_STREQ(kLong, text);
 }
 
 TEST(String, TakesPartsOfItselfAsArguments) {
   CString text(L"abc");
   text = static_cast<LPCWSTR>(text) + 1;
-  EXPECT_STREQ(text, L"bc");
+  EXPECT_STREQ(L"bc", text);
   text += text;
-  EXPECT_STREQ(text, L"bcbc");
+  EXPECT_STREQ(L"bcbc", text);
   text += text.GetString() + 2;
-  EXPECT_STREQ(text, L"bcbcbc");
+  EXPECT_STREQ(L"bcbcbc", text);
   text += text[0];
-  EXPECT_STREQ(text, L"bcbcbcb");
+  EXPECT_STREQ(L"bcbcbcb", text);
   text = L"ab";
-  EXPECT_EQ(text.Insert(0, text), 4);
-  EXPECT_STREQ(text, L"abab");
-  EXPECT_EQ(text.Insert(1, text.GetString() + 1), 7);
-  EXPECT_STREQ(text, L"ababbab");
-  EXPECT_EQ(text.Replace(text.GetString() + 5, text), 3);  // each "ab" by the whole
-  EXPECT_STREQ(text,
-               L"ababbab"
-               L"ababbab"
-               L"b"
-               L"ababbab");
+  EXPECT_EQ(4, text.Insert(0, text));
+  EXPECT_STREQ(L"abab", text);
+  EXPECT_EQ(7, text.Insert(1, text.GetString() + 1));
+  EXPECT_STREQ(L"ababbab", text);
+  EXPECT_EQ(3, text.Replace(text.GetString() + 5, text));  // each "ab" by the whole
+  EXPECT_STREQ(
+      L"ababbab"
+      L"ababbab"
+      L"b"
+      L"ababbab",
+      text);
 }
 
 // Room behind the end is used for the next piece; the piece may lie in the same block.
@@ -212,38 +213,38 @@ TEST(String, PiecesAreAppendedWithoutReachingCopies) {
   text += L"cdefgh";  // leaves room
   const CString copy(text);
   text += L"1";
-  EXPECT_STREQ(copy, L"abcdefgh");
-  EXPECT_STREQ(text, L"abcdefgh1");
+  EXPECT_STREQ(L"abcdefgh", copy);
+  EXPECT_STREQ(L"abcdefgh1", text);
 }
 
 TEST(String, IsJoinedFromEveryKindOfPiece) {
   const CString a(L"a");
-  EXPECT_STREQ(a + CString(L"b"), L"ab");
-  EXPECT_STREQ(a + L"b", L"ab");
-  EXPECT_STREQ(L"b" + a, L"ba");
-  EXPECT_STREQ(a + L'b', L"ab");
-  EXPECT_STREQ(L'b' + a, L"ba");
-  EXPECT_STREQ(a + static_cast<LPCWSTR>(nullptr), L"a");
-  EXPECT_STREQ(static_cast<LPCWSTR>(nullptr) + a, L"a");
+  EXPECT_STREQ(L"ab", a + CString(L"b"));
+  EXPECT_STREQ(L"ab", a + L"b");
+  EXPECT_STREQ(L"ba", L"b" + a);
+  EXPECT_STREQ(L"ab", a + L'b');
+  EXPECT_STREQ(L"ba", L'b' + a);
+  EXPECT_STREQ(L"a", a + static_cast<LPCWSTR>(nullptr));
+  EXPECT_STREQ(L"a", static_cast<LPCWSTR>(nullptr) + a);
   EXPECT_STREQ(CString() + CString(), L"");
-  EXPECT_STREQ(a + L"b" + L'c' + a, L"abca");
-  EXPECT_STREQ(a, L"a");
+  EXPECT_STREQ(L"abca", a + L"b" + L'c' + a);
+  EXPECT_STREQ(L"a", a);
 }
 
 TEST(String, GivesDirectAccessToItsBuffer) {
   CString text(L"abc");
   LPWSTR buffer = text.GetBuffer(10);
-  EXPECT_STREQ(buffer, L"abc");
+  EXPECT_STREQ(L"abc", buffer);
   std::wcscpy(buffer, L"0123456789");
   text.ReleaseBuffer();
-  EXPECT_EQ(text.GetLength(), 10);
+  EXPECT_EQ(10, text.GetLength());
   text.GetBuffer()[4] = L'\0';
-  EXPECT_EQ(text.GetLength(), 10);  // known only after ReleaseBuffer
+  EXPECT_EQ(10, text.GetLength());  // known only after ReleaseBuffer
   text.ReleaseBuffer();
-  EXPECT_EQ(text.GetLength(), 4);
+  EXPECT_EQ(4, text.GetLength());
   text.GetBuffer();
   text.ReleaseBuffer(2);
-  EXPECT_STREQ(text, L"01");
+  EXPECT_STREQ(L"01", text);
   text.GetBuffer();
   text.ReleaseBuffer(0);
   ExpectEmptyAndUsable(text);
@@ -254,35 +255,35 @@ TEST(String, FindsTheEndOfABufferFilledToTheBrim) {
   LPWSTR buffer = text.GetBuffer(4);
   for (int i = 0; i < 4; ++i) buffer[i] = L'x';
   text.ReleaseBuffer();
-  EXPECT_STREQ(text, L"xxxx");
+  EXPECT_STREQ(L"xxxx", text);
   text.GetBuffer(4);
   text.ReleaseBuffer(4000);  // more than there is room for
-  EXPECT_STREQ(text, L"xxxx");
+  EXPECT_STREQ(L"xxxx", text);
 }
 
 TEST(String, SetsTheLengthOfItsBuffer) {
   CString text(L"abc");
   LPWSTR buffer = text.GetBufferSetLength(5);
-  EXPECT_EQ(text.GetLength(), 5);
-  EXPECT_EQ(buffer[5], L'\0');
-  EXPECT_EQ(text.Left(3), L"abc");
+  EXPECT_EQ(5, text.GetLength());
+  EXPECT_EQ(L'\0', buffer[5]);
+  EXPECT_EQ(L"abc", text.Left(3));
   buffer[3] = L'd';
   buffer[4] = L'e';
-  EXPECT_STREQ(text, L"abcde");
+  EXPECT_STREQ(L"abcde", text);
   text.GetBufferSetLength(2);
-  EXPECT_STREQ(text, L"ab");
+  EXPECT_STREQ(L"ab", text);
   text.GetBufferSetLength(0);
   ExpectEmptyAndUsable(text);
 }
 
 TEST(String, GivesItsCharactersByIndexAndAsAPointer) {
   CString text(L"点abc");
-  EXPECT_EQ(text.GetAt(0), L'点');
-  EXPECT_EQ(text[3], L'c');
-  EXPECT_EQ(text[4], L'\0');
+  EXPECT_EQ(L'点', text.GetAt(0));
+  EXPECT_EQ(L'c', text[3]);
+  EXPECT_EQ(L'\0', text[4]);
   text.SetAt(3, L'd');
   const LPCWSTR characters = text;
-  EXPECT_STREQ(characters, L"点abd");
+  EXPECT_STREQ(L"点abd", characters);
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ using DatabaseCalls = FreshStore;
 CEDBASEINFO InfoOf(CEOID oid) {
   CEOIDINFO info{};
   EXPECT_TRUE(CeOidGetInfo(oid, &info));
-  EXPECT_EQ(info.wObjType, OBJTYPE_DATABASE);
+  EXPECT_EQ(OBJTYPE_DATABASE, info.wObjType);
   return info.infDatabase;
 }
 
@@ -20,13 +20,13 @@ TEST_F(DatabaseCalls, ACreatedDatabaseTellsWhatItWasMadeOf) {
       {kPointId, CEDB_SORT_DESCENDING | CEDB_SORT_UNKNOWNFIRST},
       {static_cast<CEPROPID>(MAKELONG(CEVT_LPWSTR, 5)), CEDB_SORT_CASEINSENSITIVE}};
   const CEOID oid = CeCreateDatabase(Name(L"lines"), 77, 3, sortings);
-  ASSERT_NE(oid, 0U);
+  ASSERT_NE(0U, oid);
   const CEDBASEINFO info = InfoOf(oid);
-  EXPECT_STREQ(info.szDbaseName, L"lines");
-  EXPECT_EQ(info.dwDbaseType, 77U);
-  EXPECT_EQ(info.wNumRecords, 0);
-  EXPECT_EQ(info.dwSize, 0U);
-  ASSERT_EQ(info.wNumSortOrder, 3);
+  EXPECT_STREQ(L"lines", info.szDbaseName);
+  EXPECT_EQ(77U, info.dwDbaseType);
+  EXPECT_EQ(0, info.wNumRecords);
+  EXPECT_EQ(0U, info.dwSize);
+  ASSERT_EQ(3, info.wNumSortOrder);
   for (int i = 0; i < 3; ++i) {
     EXPECT_EQ(info.rgSortSpecs[i].propid, sortings[i].propid);
     EXPECT_EQ(info.rgSortSpecs[i].dwFlags, sortings[i].dwFlags);
@@ -34,7 +34,7 @@ TEST_F(DatabaseCalls, ACreatedDatabaseTellsWhatItWasMadeOf) {
   FILETIME now;
   GetSystemTimeAsFileTime(&now);
   EXPECT_LE(CompareFileTime(&info.ftLastModified, &now), 0);
-  EXPECT_NE(info.ftLastModified.dwHighDateTime, 0U);
+  EXPECT_NE(0U, info.ftLastModified.dwHighDateTime);
 }
 
 TEST_F(DatabaseCalls, ADatabaseThatCannotBeIsRefusedWithItsReason) {
@@ -54,7 +54,7 @@ TEST_F(DatabaseCalls, ADatabaseThatCannotBeIsRefusedWithItsReason) {
 TEST_F(DatabaseCalls, APlaceholderOrderIsNone) {
   SORTORDERSPEC generic = {0, CEDB_SORT_GENERICORDER};
   const CEOID oid = CeCreateDatabase(Name(L"plain"), 0, 1, &generic);
-  EXPECT_EQ(InfoOf(oid).wNumSortOrder, 0);
+  EXPECT_EQ(0, InfoOf(oid).wNumSortOrder);
 }
 
 TEST_F(DatabaseCalls, LongNamesAreCutWhereTheyAreMadeAndWhereTheyAreLookedFor) {
@@ -71,11 +71,11 @@ TEST_F(DatabaseCalls, OpeningIsByNameOrByIdentifier) {
   const CEOID oid = CeCreateDatabase(Name(L"db"), 0, 0, nullptr);
   CEOID by_name = 0;
   const HANDLE first = CeOpenDatabase(&by_name, Name(L"db"), 0, 0, nullptr);
-  ASSERT_NE(first, INVALID_HANDLE_VALUE);
+  ASSERT_NE(INVALID_HANDLE_VALUE, first);
   EXPECT_EQ(by_name, oid);
   CEOID by_id = oid;
   const HANDLE second = CeOpenDatabase(&by_id, nullptr, 0, 0, nullptr);
-  ASSERT_NE(second, INVALID_HANDLE_VALUE);
+  ASSERT_NE(INVALID_HANDLE_VALUE, second);
   EXPECT_NE(second, first);
   EXPECT_TRUE(CeCloseDatabaseHandle(first));
   EXPECT_TRUE(CeCloseDatabaseHandle(second));
@@ -92,7 +92,7 @@ TEST_F(DatabaseCalls, OpeningFailsWithItsReason) {
   CeCreateDatabase(Name(L"db"), 0, 0, nullptr);
   ExpectError(ERROR_INVALID_PARAMETER, CeOpenDatabase(&oid, Name(L"db"), kLineId, 0, nullptr),
               INVALID_HANDLE_VALUE);
-  EXPECT_EQ(oid, 0U) << "only a database that opened is named";
+  EXPECT_EQ(0U, oid) << "only a database that opened is named";
   oid = 999;
   ExpectError(ERROR_INVALID_PARAMETER, CeOpenDatabase(&oid, nullptr, 0, 0, nullptr),
               INVALID_HANDLE_VALUE);
@@ -125,10 +125,10 @@ TEST_F(DatabaseCalls, InfoTellsRecordsFromDatabasesAndFailsForTheRest) {
   const CEOID record = CeWriteRecordProps(handle, 0, 1, &value);
   CEOIDINFO info{};
   ASSERT_TRUE(CeOidGetInfo(record, &info));
-  EXPECT_EQ(info.wObjType, OBJTYPE_RECORD);
+  EXPECT_EQ(OBJTYPE_RECORD, info.wObjType);
   EXPECT_EQ(info.infRecord.oidParent, oid);
-  EXPECT_EQ(InfoOf(oid).wNumRecords, 1);
-  EXPECT_EQ(InfoOf(oid).dwSize, 2U);
+  EXPECT_EQ(1, InfoOf(oid).wNumRecords);
+  EXPECT_EQ(2U, InfoOf(oid).dwSize);
   ExpectError(ERROR_INVALID_HANDLE, CeOidGetInfo(0, &info), FALSE);
   ExpectError(ERROR_INVALID_HANDLE, CeOidGetInfo(record + 1, &info), FALSE);
   ExpectError(ERROR_INVALID_PARAMETER, CeOidGetInfo(oid, nullptr), FALSE);
@@ -139,7 +139,7 @@ TEST_F(DatabaseCalls, MoreRecordsThanAWordCountsAreManyRecords) {
   const HANDLE handle = CeOpenDatabase(&oid, nullptr, 0, 0, nullptr);
   CEPROPVAL value = Short(1, 2);
   for (int i = 0; i < 65536; ++i) CeWriteRecordProps(handle, 0, 1, &value);
-  EXPECT_EQ(InfoOf(oid).wNumRecords, 65535);
+  EXPECT_EQ(65535, InfoOf(oid).wNumRecords);
 }
 
 TEST_F(DatabaseCalls, SettingChangesWhatIsCalledValidAndNothingElse) {
@@ -151,13 +151,13 @@ TEST_F(DatabaseCalls, SettingChangesWhatIsCalledValidAndNothingElse) {
   info.rgSortSpecs[0] = {kLineId, CEDB_SORT_DESCENDING};
   info.dwFlags = CEDB_VALIDTYPE;
   EXPECT_TRUE(CeSetDatabaseInfo(oid, &info));
-  EXPECT_STREQ(InfoOf(oid).szDbaseName, L"db");
-  EXPECT_EQ(InfoOf(oid).dwDbaseType, 2U);
-  EXPECT_EQ(InfoOf(oid).wNumSortOrder, 0);
+  EXPECT_STREQ(L"db", InfoOf(oid).szDbaseName);
+  EXPECT_EQ(2U, InfoOf(oid).dwDbaseType);
+  EXPECT_EQ(0, InfoOf(oid).wNumSortOrder);
   info.dwFlags = CEDB_VALIDNAME | CEDB_VALIDSORTSPEC;
   EXPECT_TRUE(CeSetDatabaseInfo(oid, &info));
-  EXPECT_STREQ(InfoOf(oid).szDbaseName, L"renamed");
-  EXPECT_EQ(InfoOf(oid).rgSortSpecs[0].dwFlags, CEDB_SORT_DESCENDING);
+  EXPECT_STREQ(L"renamed", InfoOf(oid).szDbaseName);
+  EXPECT_EQ(CEDB_SORT_DESCENDING, InfoOf(oid).rgSortSpecs[0].dwFlags);
 
   const HANDLE handle = CeOpenDatabase(&oid, nullptr, 0, 0, nullptr);
   ExpectError(ERROR_SHARING_VIOLATION, CeSetDatabaseInfo(oid, &info), FALSE);
@@ -176,7 +176,7 @@ TEST_F(DatabaseCalls, AWalkFindsEveryDatabaseOfATypeAndEndsWhenOneIsDeleted) {
   CeCreateDatabase(Name(L"b"), 8, 0, nullptr);
   const CEOID c = CeCreateDatabase(Name(L"c"), 7, 0, nullptr);
   const HANDLE walk = CeFindFirstDatabase(7);
-  ASSERT_NE(walk, INVALID_HANDLE_VALUE);
+  ASSERT_NE(INVALID_HANDLE_VALUE, walk);
   EXPECT_EQ(CeFindNextDatabase(walk), a);
   EXPECT_EQ(CeFindNextDatabase(walk), c);
   ExpectError(ERROR_NO_MORE_ITEMS, CeFindNextDatabase(walk), CEOID{0});

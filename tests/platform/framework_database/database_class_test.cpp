@@ -11,7 +11,7 @@ class DatabaseClass : public FreshStore {
  protected:
   void SetUp() override {
     CCeDBProp orders[] = {by_line_, by_point_};
-    ASSERT_NE(database_.Create(L"lines", 42, 2, orders), 0U);
+    ASSERT_NE(0U, database_.Create(L"lines", 42, 2, orders));
     ASSERT_TRUE(database_.Open(L"lines", &by_line_));
   }
 
@@ -34,11 +34,11 @@ class DatabaseClass : public FreshStore {
 
 TEST_F(DatabaseClass, CreatingDoesNotOpenAndTellsTheTruth) {
   CCeDBDatabase other;
-  EXPECT_NE(other.Create(L"memos"), 0U);
+  EXPECT_NE(0U, other.Create(L"memos"));
   EXPECT_FALSE(other.IsOpen());
   EXPECT_TRUE(CCeDBDatabase::Exists(L"memos"));
   EXPECT_FALSE(CCeDBDatabase::Exists(L"none"));
-  EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_FILE_NOT_FOUND));
+  EXPECT_EQ(static_cast<DWORD>(ERROR_FILE_NOT_FOUND), GetLastError());
   ExpectError(ERROR_DUP_NAME, other.Create(L"memos"), CEOID{0});
   CCeDBProp five[5];
   ExpectError(ERROR_INVALID_PARAMETER, other.Create(L"more", 0, 5, five), CEOID{0});
@@ -57,30 +57,30 @@ TEST_F(DatabaseClass, TheOpenDatabaseTellsHowOftenItsRecordsChanged) {
 
 TEST_F(DatabaseClass, TheOpenDatabaseTellsWhatItIs) {
   Add(1, 1);
-  EXPECT_EQ(database_.GetName(), CString(L"lines"));
-  EXPECT_EQ(database_.GetIdent(), 42U);
-  EXPECT_EQ(database_.GetNumRecords(), 1U);
-  EXPECT_EQ(database_.GetSize(), 6U);
-  EXPECT_NE(database_.GetLastModified().dwHighDateTime, 0U);
-  EXPECT_EQ(database_.GetNumSortProps(), 2);
+  EXPECT_EQ(CString(L"lines"), database_.GetName());
+  EXPECT_EQ(42U, database_.GetIdent());
+  EXPECT_EQ(1U, database_.GetNumRecords());
+  EXPECT_EQ(6U, database_.GetSize());
+  EXPECT_NE(0U, database_.GetLastModified().dwHighDateTime);
+  EXPECT_EQ(2, database_.GetNumSortProps());
   CCeDBProp props[4];
-  EXPECT_EQ(database_.GetSortProps(props, 4), 2);
-  EXPECT_EQ(props[1].GetIdent(), 112);
-  EXPECT_EQ(props[1].GetType(), CCeDBProp::Type_Short);
-  EXPECT_EQ(props[1].GetSortFlags(), CCeDBProp::Sort_Descending);
+  EXPECT_EQ(2, database_.GetSortProps(props, 4));
+  EXPECT_EQ(112, props[1].GetIdent());
+  EXPECT_EQ(CCeDBProp::Type_Short, props[1].GetType());
+  EXPECT_EQ(CCeDBProp::Sort_Descending, props[1].GetSortFlags());
   CCeDBProp found;
   EXPECT_TRUE(database_.GetSortPropFromIdent(112, &found));
-  EXPECT_EQ(found.GetSortFlags(), CCeDBProp::Sort_Descending);
+  EXPECT_EQ(CCeDBProp::Sort_Descending, found.GetSortFlags());
   EXPECT_FALSE(database_.GetSortPropFromIdent(113, &found));
   EXPECT_TRUE(database_.SetIdent(43));
   EXPECT_TRUE(database_.SetName(L"renamed"));
-  EXPECT_EQ(database_.GetIdent(), 43U);
+  EXPECT_EQ(43U, database_.GetIdent());
   EXPECT_TRUE(CCeDBDatabase::Exists(L"renamed"));
 }
 
 TEST_F(DatabaseClass, ANumberOfRecordsPastAWordIsExact) {
-  for (int i = 0; i < 65540; ++i) ASSERT_NE(Add(1, 1), 0U);
-  EXPECT_EQ(database_.GetNumRecords(), 65540U);
+  for (int i = 0; i < 65540; ++i) ASSERT_NE(0U, Add(1, 1));
+  EXPECT_EQ(65540U, database_.GetNumRecords());
 }
 
 TEST_F(DatabaseClass, OpeningMakesTheFirstRecordCurrent) {
@@ -100,7 +100,7 @@ TEST_F(DatabaseClass, OpeningByIdentifierAndFailures) {
   CCeDBDatabase other;
   const CEOID oid = other.Create(L"memos");
   EXPECT_TRUE(other.Open(oid));
-  EXPECT_EQ(other.GetName(), CString(L"memos"));
+  EXPECT_EQ(CString(L"memos"), other.GetName());
   ExpectError(ERROR_INVALID_PARAMETER, other.Open(CEOID{0}), FALSE);
   EXPECT_FALSE(other.IsOpen());
   ExpectError(ERROR_FILE_NOT_FOUND, other.Open(L"none"), FALSE);
@@ -134,18 +134,18 @@ TEST_F(DatabaseClass, SeeksByPlace) {
   const CEOID c = Add(3, 0);
   EXPECT_EQ(database_.SeekFirst(), a);
   EXPECT_EQ(database_.SeekNext(), b);
-  EXPECT_EQ(database_.GetCurrIndex(), 1U);
+  EXPECT_EQ(1U, database_.GetCurrIndex());
   EXPECT_EQ(database_.SeekLast(), c);
   EXPECT_EQ(database_.SeekPrev(), b);
   EXPECT_EQ(database_.SeekToIndex(2), c);
   EXPECT_EQ(database_.SeekToRecord(a), a);
-  EXPECT_EQ(database_.SeekPrev(), 0U);
+  EXPECT_EQ(0U, database_.SeekPrev());
   EXPECT_TRUE(database_.m_bEOF);
-  EXPECT_EQ(database_.GetCurrRecord(), 0U);
-  EXPECT_EQ(database_.GetCurrIndex(), 0xFFFFFFFFU);
+  EXPECT_EQ(0U, database_.GetCurrRecord());
+  EXPECT_EQ(0xFFFFFFFFU, database_.GetCurrIndex());
   EXPECT_EQ(database_.SeekLast(), c);
   EXPECT_FALSE(database_.m_bEOF);
-  EXPECT_EQ(database_.SeekNext(), 0U);
+  EXPECT_EQ(0U, database_.SeekNext());
   EXPECT_TRUE(database_.m_bEOF);
   ExpectError(ERROR_INVALID_PARAMETER, database_.SeekToRecord(9999), CEOID{0});
 }
@@ -156,14 +156,14 @@ TEST_F(DatabaseClass, SeeksByValue) {
   const CEOID b2 = Add(20, 0);
   EXPECT_EQ(database_.SeekFirstEqual(CCeDBProp(short{20}, 111)), b);
   EXPECT_EQ(database_.SeekNextEqual(CCeDBProp(short{20}, 111)), b2);
-  EXPECT_EQ(database_.SeekNextEqual(CCeDBProp(short{20}, 111)), 0U);
+  EXPECT_EQ(0U, database_.SeekNextEqual(CCeDBProp(short{20}, 111)));
   EXPECT_TRUE(database_.m_bEOF);
   EXPECT_EQ(database_.SeekValueSmaller(CCeDBProp(short{20}, 111)), a);
   EXPECT_FALSE(database_.m_bEOF);
-  EXPECT_EQ(database_.SeekValueSmaller(CCeDBProp(short{10}, 111)), 0U);
+  EXPECT_EQ(0U, database_.SeekValueSmaller(CCeDBProp(short{10}, 111)));
   EXPECT_FALSE(database_.m_bEOF) << "this seek never sets it";
   EXPECT_EQ(database_.SeekValueGreater(CCeDBProp(short{11}, 111)), b);
-  EXPECT_EQ(database_.SeekValueGreater(CCeDBProp(short{21}, 111)), 0U);
+  EXPECT_EQ(0U, database_.SeekValueGreater(CCeDBProp(short{21}, 111)));
   EXPECT_TRUE(database_.m_bEOF);
   database_.SeekFirst();
   ExpectError(ERROR_INVALID_PARAMETER, database_.SeekFirstEqual(CCeDBProp(short{1}, 112)),
@@ -177,13 +177,13 @@ TEST_F(DatabaseClass, AReadGoesOnOrStaysAsToldAtAnyTime) {
   std::vector<short> lines;
   database_.SeekFirst();
   while (!database_.m_bEOF) lines.push_back(ReadLine());
-  EXPECT_EQ(lines, (std::vector<short>{1, 2, 3}));
+  EXPECT_EQ((std::vector<short>{1, 2, 3}), lines);
   ExpectError(ERROR_NO_MORE_ITEMS, ReadLine(), short{-1});
 
   database_.m_bAutoSeekNext = FALSE;
   database_.SeekFirst();
-  EXPECT_EQ(ReadLine(), 1);
-  EXPECT_EQ(ReadLine(), 1);
+  EXPECT_EQ(1, ReadLine());
+  EXPECT_EQ(1, ReadLine());
 }
 
 TEST_F(DatabaseClass, AReadRecordOwnsItsProperties) {
@@ -196,14 +196,14 @@ TEST_F(DatabaseClass, AReadRecordOwnsItsProperties) {
   CCeDBRecord read;
   read.AddProp(&foreign);
   ASSERT_TRUE(database_.ReadCurrRecord(&read));
-  ASSERT_EQ(read.GetNumProps(), 1);
+  ASSERT_EQ(1, read.GetNumProps());
   CCeDBProp changed(L"changed", 122);
   CCeDBRecord change;
   change.AddProp(&changed);
   ASSERT_TRUE(database_.WriteCurrRecord(&change));
-  EXPECT_STREQ(read.GetPropFromIdent(122)->GetString(), L"memo");
+  EXPECT_STREQ(L"memo", read.GetPropFromIdent(122)->GetString());
   ASSERT_TRUE(database_.ReadCurrRecord(&read));
-  EXPECT_STREQ(read.GetPropFromIdent(122)->GetString(), L"changed");
+  EXPECT_STREQ(L"changed", read.GetPropFromIdent(122)->GetString());
 }
 
 TEST_F(DatabaseClass, AFilterChoosesWhatIsReadAndWritten) {
@@ -213,15 +213,15 @@ TEST_F(DatabaseClass, AFilterChoosesWhatIsReadAndWritten) {
                         CCeDBProp(CCeDBProp::Type_Undefined, 113)};
   CCeDBRecord record;
   ASSERT_TRUE(database_.ReadCurrRecord(&record, 2, filter));
-  EXPECT_EQ(record.GetNumProps(), 2);
-  EXPECT_EQ(record.GetPropFromIdent(111), nullptr);
+  EXPECT_EQ(2, record.GetNumProps());
+  EXPECT_EQ(nullptr, record.GetPropFromIdent(111));
   ASSERT_TRUE(database_.ReadCurrRecord(&record));
   record.GetPropFromIdent(111)->SetShort(50);
   record.GetPropFromIdent(112)->SetShort(60);
   ASSERT_TRUE(database_.WriteCurrRecord(&record, 1, filter));
   ASSERT_TRUE(database_.ReadCurrRecord(&record));
-  EXPECT_EQ(record.GetPropFromIdent(111)->GetShort(), 1);
-  EXPECT_EQ(record.GetPropFromIdent(112)->GetShort(), 60);
+  EXPECT_EQ(1, record.GetPropFromIdent(111)->GetShort());
+  EXPECT_EQ(60, record.GetPropFromIdent(112)->GetShort());
 }
 
 TEST_F(DatabaseClass, PropertiesCanBeTakenOutOfTheCurrentRecord) {
@@ -231,8 +231,8 @@ TEST_F(DatabaseClass, PropertiesCanBeTakenOutOfTheCurrentRecord) {
   EXPECT_TRUE(database_.DeleteCurrProps(gone, 1));
   CCeDBRecord record;
   ASSERT_TRUE(database_.ReadCurrRecord(&record));
-  EXPECT_EQ(record.GetNumProps(), 2);
-  EXPECT_EQ(record.GetPropFromIdent(112), nullptr);
+  EXPECT_EQ(2, record.GetNumProps());
+  EXPECT_EQ(nullptr, record.GetPropFromIdent(112));
 }
 
 TEST_F(DatabaseClass, WritingNeedsACurrentRecord) {
@@ -243,7 +243,7 @@ TEST_F(DatabaseClass, WritingNeedsACurrentRecord) {
   record.AddProp(&prop);
   ExpectError(ERROR_INVALID_PARAMETER, database_.WriteCurrRecord(&record), FALSE);
   ExpectError(ERROR_INVALID_PARAMETER, database_.DeleteCurrRecord(), FALSE);
-  EXPECT_EQ(database_.GetNumRecords(), 1U);
+  EXPECT_EQ(1U, database_.GetNumRecords());
   CCeDBRecord empty;
   ExpectError(ERROR_INVALID_PARAMETER, database_.AddRecord(&empty), CEOID{0});
 }
@@ -255,9 +255,9 @@ TEST_F(DatabaseClass, EqualLinesCanBeDeletedWhileWalking) {
   for (CEOID record = database_.SeekFirstEqual(two); record != 0;
        record = database_.SeekNextEqual(two)) {
     EXPECT_TRUE(database_.DeleteCurrRecord());
-    EXPECT_EQ(database_.GetCurrRecord(), 0U);
+    EXPECT_EQ(0U, database_.GetCurrRecord());
   }
-  EXPECT_EQ(database_.GetNumRecords(), 2U);
+  EXPECT_EQ(2U, database_.GetNumRecords());
 }
 
 TEST_F(DatabaseClass, DeletingGoesOnToTheNextRecordWhenTold) {
@@ -267,7 +267,7 @@ TEST_F(DatabaseClass, DeletingGoesOnToTheNextRecordWhenTold) {
   EXPECT_TRUE(database_.DeleteCurrRecord());
   EXPECT_EQ(database_.GetCurrRecord(), b);
   EXPECT_TRUE(database_.DeleteCurrRecord());
-  EXPECT_EQ(database_.GetCurrRecord(), 0U);
+  EXPECT_EQ(0U, database_.GetCurrRecord());
   EXPECT_TRUE(database_.m_bEOF);
 }
 
@@ -279,8 +279,8 @@ TEST_F(DatabaseClass, TwoObjectsShareOneDatabase) {
   ASSERT_TRUE(other.Open(L"lines", &by_point_));
   EXPECT_EQ(other.GetCurrRecord(), a);
   EXPECT_TRUE(other.DeleteCurrRecord());
-  EXPECT_EQ(database_.SeekFirstEqual(CCeDBProp(short{1}, 111)), 0U);
-  EXPECT_EQ(database_.GetNumRecords(), 1U);
+  EXPECT_EQ(0U, database_.SeekFirstEqual(CCeDBProp(short{1}, 111)));
+  EXPECT_EQ(1U, database_.GetNumRecords());
 }
 
 TEST_F(DatabaseClass, NewOrdersCloseTheDatabaseAndSortIt) {
@@ -304,8 +304,8 @@ TEST_F(DatabaseClass, NothingWorksWhenNothingIsOpen) {
   CCeDBRecord record;
   ExpectError(ERROR_INVALID_PARAMETER, closed.SeekFirst(), CEOID{0});
   ExpectError(ERROR_INVALID_PARAMETER, closed.ReadCurrRecord(&record), FALSE);
-  EXPECT_EQ(closed.GetNumRecords(), 0U);
-  EXPECT_EQ(closed.GetName(), CString());
+  EXPECT_EQ(0U, closed.GetNumRecords());
+  EXPECT_EQ(CString(), closed.GetName());
   closed.Close();
 }
 
@@ -313,16 +313,16 @@ TEST_F(DatabaseClass, AnEnumerationFindsDatabasesAndStartsAnew) {
   CCeDBDatabase other;
   const CEOID memos = other.Create(L"memos", 43);
   CCeDBEnum all;
-  EXPECT_NE(all.Next(), 0U);
+  EXPECT_NE(0U, all.Next());
   EXPECT_EQ(all.Next(), memos);
   ExpectError(ERROR_NO_MORE_ITEMS, all.Next(), CEOID{0});
   EXPECT_TRUE(all.Reset(43));
   EXPECT_EQ(all.Next(), memos);
-  EXPECT_EQ(all.Next(), 0U);
+  EXPECT_EQ(0U, all.Next());
   EXPECT_TRUE(CCeDBDatabase::Delete(memos));
   ExpectError(ERROR_KEY_DELETED, all.Next(), CEOID{0});
   EXPECT_TRUE(all.Reset());
-  EXPECT_NE(all.Next(), 0U);
+  EXPECT_NE(0U, all.Next());
 }
 
 }  // namespace

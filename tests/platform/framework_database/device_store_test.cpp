@@ -25,7 +25,7 @@ TEST(DeviceStore, TheProcessHasOneOfItsOwnThatFoldsCaseAsTheSystemDoes) {
   record.AddProp(&name);
   const CEOID added = database.AddRecord(&record);
   EXPECT_EQ(database.SeekFirstEqual(CCeDBProp(L"тＯКИО É", 1)), added);
-  EXPECT_EQ(database.SeekFirstEqual(CCeDBProp(L"тＯКИО E", 1)), 0U);
+  EXPECT_EQ(0U, database.SeekFirstEqual(CCeDBProp(L"тＯКИО E", 1)));
   EXPECT_TRUE(database.Delete());
 }
 
@@ -36,8 +36,8 @@ class FailingCalls : public FreshStore {
     database_.m_bAutoSeekNext = FALSE;
     database_.Create(L"lines", 0, 1, &by_line);
     ASSERT_TRUE(database_.Open(L"lines"));
-    ASSERT_NE(AddLine(1), 0U);
-    ASSERT_NE(AddLine(2), 0U);
+    ASSERT_NE(0U, AddLine(1));
+    ASSERT_NE(0U, AddLine(2));
     second_ = database_.GetCurrRecord();
   }
   CEOID AddLine(short line) {
@@ -66,14 +66,14 @@ TEST_F(FailingCalls, EveryFailureReachesTheCallerWithItsReason) {
   ExpectError(ERROR_DUP_NAME, database_.SetName(L"taken"), failed);
   ExpectError(ERROR_OUTOFMEMORY, CeFindFirstDatabase(0), INVALID_HANDLE_VALUE);
   ExpectError(ERROR_SHARING_VIOLATION, CeOidGetInfo(1, &info), failed);
-  EXPECT_EQ(database_.GetNumRecords(), 0U);
+  EXPECT_EQ(0U, database_.GetNumRecords());
 }
 
 TEST_F(FailingCalls, AWriteThatFailsLeavesTheCurrentRecord) {
   store_.Fail(FailingStore::Operation::kWrite, StoreError::kFull);
   ExpectError(ERROR_DISK_FULL, AddLine(3), CEOID{0});
   EXPECT_EQ(database_.GetCurrRecord(), second_);
-  EXPECT_EQ(database_.GetNumRecords(), 2U);
+  EXPECT_EQ(2U, database_.GetNumRecords());
 }
 
 TEST_F(FailingCalls, ASeekThatCannotBeTriedLeavesTheCurrentRecord) {
@@ -89,7 +89,7 @@ TEST_F(FailingCalls, AReadThatFailsLeavesTheRecordAlone) {
   record.AddProp(&own);
   store_.Fail(FailingStore::Operation::kRead, StoreError::kDeleted);
   ExpectError(ERROR_KEY_DELETED, database_.ReadCurrRecord(&record), FALSE);
-  EXPECT_EQ(record.GetNumProps(), 1);
+  EXPECT_EQ(1, record.GetNumProps());
 
   WORD count = 0;
   LPBYTE buffer = nullptr;

@@ -8,63 +8,63 @@ namespace {
 
 TEST(Prop, EveryConstructorGivesItsTypeIdentifierAndValue) {
   BYTE bytes[] = {1, 2, 3};
-  EXPECT_EQ(CCeDBProp().GetType(), CCeDBProp::Type_Undefined);
+  EXPECT_EQ(CCeDBProp::Type_Undefined, CCeDBProp().GetType());
   const CCeDBProp shorter(short{-5}, 111);
-  EXPECT_EQ(shorter.GetType(), CCeDBProp::Type_Short);
-  EXPECT_EQ(shorter.GetIdent(), 111);
-  EXPECT_EQ(shorter.GetShort(), -5);
-  EXPECT_EQ(CCeDBProp(USHORT{65535}, 1).GetUShort(), 65535);
-  EXPECT_EQ(CCeDBProp(USHORT{65535}, 1).GetType(), CCeDBProp::Type_UShort);
-  EXPECT_EQ(CCeDBProp(-7L, 1).GetLong(), -7);
-  EXPECT_EQ(CCeDBProp(-7L, 1).GetType(), CCeDBProp::Type_Long);
-  EXPECT_EQ(CCeDBProp(7UL, 1).GetULong(), 7U);
-  EXPECT_EQ(CCeDBProp(7UL, 1).GetType(), CCeDBProp::Type_ULong);
-  EXPECT_EQ(CCeDBProp(FILETIME{1, 2}, 1).GetFiletime().dwHighDateTime, 2U);
-  EXPECT_EQ(CCeDBProp(FILETIME{1, 2}, 1).GetType(), CCeDBProp::Type_Filetime);
-  EXPECT_STREQ(CCeDBProp(L"text", 1).GetString(), L"text");
-  EXPECT_EQ(CCeDBProp(L"text", 1).GetType(), CCeDBProp::Type_String);
+  EXPECT_EQ(CCeDBProp::Type_Short, shorter.GetType());
+  EXPECT_EQ(111, shorter.GetIdent());
+  EXPECT_EQ(-5, shorter.GetShort());
+  EXPECT_EQ(65535, CCeDBProp(USHORT{65535}, 1).GetUShort());
+  EXPECT_EQ(CCeDBProp::Type_UShort, CCeDBProp(USHORT{65535}, 1).GetType());
+  EXPECT_EQ(-7, CCeDBProp(-7L, 1).GetLong());
+  EXPECT_EQ(CCeDBProp::Type_Long, CCeDBProp(-7L, 1).GetType());
+  EXPECT_EQ(7U, CCeDBProp(7UL, 1).GetULong());
+  EXPECT_EQ(CCeDBProp::Type_ULong, CCeDBProp(7UL, 1).GetType());
+  EXPECT_EQ(2U, CCeDBProp(FILETIME{1, 2}, 1).GetFiletime().dwHighDateTime);
+  EXPECT_EQ(CCeDBProp::Type_Filetime, CCeDBProp(FILETIME{1, 2}, 1).GetType());
+  EXPECT_STREQ(L"text", CCeDBProp(L"text", 1).GetString());
+  EXPECT_EQ(CCeDBProp::Type_String, CCeDBProp(L"text", 1).GetType());
   const CCeDBProp blob(CEBLOB{3, bytes}, 1);
-  EXPECT_EQ(blob.GetType(), CCeDBProp::Type_Blob);
-  EXPECT_EQ(blob.GetBlob().dwCount, 3U);
-  EXPECT_EQ(memcmp(blob.GetBlob().lpb, bytes, 3), 0);
+  EXPECT_EQ(CCeDBProp::Type_Blob, blob.GetType());
+  EXPECT_EQ(3U, blob.GetBlob().dwCount);
+  EXPECT_EQ(0, memcmp(blob.GetBlob().lpb, bytes, 3));
 }
 
 TEST(Prop, APropertyToSortByHasFlagsAndNoValue) {
   const CCeDBProp prop(CCeDBProp::Type_Short, 112,
                        CCeDBProp::Sort_Descending | CCeDBProp::Sort_UnknownFirst);
-  EXPECT_EQ(prop.GetType(), CCeDBProp::Type_Short);
-  EXPECT_EQ(prop.GetIdent(), 112);
-  EXPECT_EQ(prop.GetSortFlags(), CEDB_SORT_DESCENDING | CEDB_SORT_UNKNOWNFIRST);
+  EXPECT_EQ(CCeDBProp::Type_Short, prop.GetType());
+  EXPECT_EQ(112, prop.GetIdent());
+  EXPECT_EQ(CEDB_SORT_DESCENDING | CEDB_SORT_UNKNOWNFIRST, prop.GetSortFlags());
   EXPECT_EQ(prop.m_wSortFlags, prop.GetSortFlags());
 }
 
 TEST(Prop, SettingAValueSetsItsTypeAndKeepsTheIdentifier) {
   CCeDBProp prop(L"a string first", 9);
   prop.SetShort(-1);
-  EXPECT_EQ(prop.GetType(), CCeDBProp::Type_Short);
-  EXPECT_EQ(prop.GetShort(), -1);
+  EXPECT_EQ(CCeDBProp::Type_Short, prop.GetType());
+  EXPECT_EQ(-1, prop.GetShort());
   prop.SetUShort(2);
-  EXPECT_EQ(prop.GetUShort(), 2);
+  EXPECT_EQ(2, prop.GetUShort());
   prop.SetLong(3);
-  EXPECT_EQ(prop.GetLong(), 3);
+  EXPECT_EQ(3, prop.GetLong());
   prop.SetULong(4);
-  EXPECT_EQ(prop.GetULong(), 4U);
+  EXPECT_EQ(4U, prop.GetULong());
   prop.SetBool(TRUE);
-  EXPECT_EQ(prop.GetType(), CCeDBProp::Type_Bool);
+  EXPECT_EQ(CCeDBProp::Type_Bool, prop.GetType());
   EXPECT_TRUE(prop.GetBool());
   prop.SetDouble(0.5);
-  EXPECT_EQ(prop.GetType(), CCeDBProp::Type_Double);
-  EXPECT_EQ(prop.GetDouble(), 0.5);
+  EXPECT_EQ(CCeDBProp::Type_Double, prop.GetType());
+  EXPECT_EQ(0.5, prop.GetDouble());
   prop.SetFiletime({1, 2});
-  EXPECT_EQ(prop.GetFiletime().dwLowDateTime, 1U);
+  EXPECT_EQ(1U, prop.GetFiletime().dwLowDateTime);
   prop.SetString(L"again");
-  EXPECT_STREQ(prop.GetString(), L"again");
-  EXPECT_EQ(prop.GetIdent(), 9);
+  EXPECT_STREQ(L"again", prop.GetString());
+  EXPECT_EQ(9, prop.GetIdent());
   prop.SetIdent(10);
-  EXPECT_EQ(prop.GetIdent(), 10);
-  EXPECT_EQ(prop.GetType(), CCeDBProp::Type_String);
+  EXPECT_EQ(10, prop.GetIdent());
+  EXPECT_EQ(CCeDBProp::Type_String, prop.GetType());
   prop.SetSortFlags(CCeDBProp::Sort_Descending);
-  EXPECT_EQ(prop.GetSortFlags(), CCeDBProp::Sort_Descending);
+  EXPECT_EQ(CCeDBProp::Sort_Descending, prop.GetSortFlags());
 }
 
 TEST(Prop, ACopiedStringIsThePropertysOwnAndAnUncopiedOneIsNot) {
@@ -72,7 +72,7 @@ TEST(Prop, ACopiedStringIsThePropertysOwnAndAnUncopiedOneIsNot) {
   const CCeDBProp copied(text, 1);
   const CCeDBProp not_copied(text, 1, CCeDBProp::NoCopy);
   text[0] = L'n';
-  EXPECT_STREQ(copied.GetString(), L"text");
+  EXPECT_STREQ(L"text", copied.GetString());
   EXPECT_EQ(not_copied.GetString(), text);
   BYTE bytes[] = {1};
   const CCeDBProp blob(CEBLOB{1, bytes}, 1, CCeDBProp::NoCopy);
@@ -82,37 +82,37 @@ TEST(Prop, ACopiedStringIsThePropertysOwnAndAnUncopiedOneIsNot) {
 TEST(Prop, CopiesAreIndependent) {
   CCeDBProp original(L"one", 1);
   CCeDBProp copy(original);
-  EXPECT_NE(copy.GetString(), original.GetString());
+  EXPECT_NE(original.GetString(), copy.GetString());
   original.SetString(L"two");
-  EXPECT_STREQ(copy.GetString(), L"one");
+  EXPECT_STREQ(L"one", copy.GetString());
   copy = original;
   original.SetShort(1);
-  EXPECT_STREQ(copy.GetString(), L"two");
+  EXPECT_STREQ(L"two", copy.GetString());
   const CCeDBProp& itself = copy;
   copy = itself;
-  EXPECT_STREQ(copy.GetString(), L"two");
+  EXPECT_STREQ(L"two", copy.GetString());
   CCeDBProp moved(std::move(copy));
-  EXPECT_STREQ(moved.GetString(), L"two");
+  EXPECT_STREQ(L"two", moved.GetString());
   CCeDBProp assigned;
   assigned = std::move(moved);
-  EXPECT_STREQ(assigned.GetString(), L"two");
+  EXPECT_STREQ(L"two", assigned.GetString());
 }
 
 TEST(Prop, AValueMayBeSetFromItself) {
   CCeDBProp prop(L"shorten me", 1);
   prop.SetString(prop.GetString() + 8);
-  EXPECT_STREQ(prop.GetString(), L"me");
+  EXPECT_STREQ(L"me", prop.GetString());
   BYTE bytes[] = {1, 2, 3};
   prop.SetBlob({3, bytes});
   prop.SetBlob({2, prop.GetBlob().lpb + 1});
-  EXPECT_EQ(prop.GetBlob().lpb[1], 3);
+  EXPECT_EQ(3, prop.GetBlob().lpb[1]);
 }
 
 TEST(Prop, NullsStayNull) {
-  EXPECT_EQ(CCeDBProp(static_cast<LPCWSTR>(nullptr), 1).GetString(), nullptr);
-  EXPECT_EQ(CCeDBProp(CEBLOB{0, nullptr}, 1).GetBlob().lpb, nullptr);
+  EXPECT_EQ(nullptr, CCeDBProp(static_cast<LPCWSTR>(nullptr), 1).GetString());
+  EXPECT_EQ(nullptr, CCeDBProp(CEBLOB{0, nullptr}, 1).GetBlob().lpb);
   const CCeDBProp copy = CCeDBProp(static_cast<LPCWSTR>(nullptr), 1);
-  EXPECT_EQ(copy.GetString(), nullptr);
+  EXPECT_EQ(nullptr, copy.GetString());
 }
 
 }  // namespace

@@ -61,27 +61,27 @@ TEST_F(RecordCalls, EveryTypeGoesInAndComesOut) {
   in[6].val.blob = {sizeof bytes, bytes};
   in[7].val.boolVal = 42;
   in[8].val.dblVal = -0.1;
-  ASSERT_NE(CeWriteRecordProps(handle_, 0, 9, in.data()), 0U);
+  ASSERT_NE(0U, CeWriteRecordProps(handle_, 0, 9, in.data()));
 
   WORD count = 0;
   DWORD size = 0;
   const Buffer buffer = ReadAll(handle_, count, size);
-  ASSERT_EQ(count, 9);
+  ASSERT_EQ(9, count);
   const CEPROPVAL* out = Values(buffer);
   for (WORD i = 0; i < 9; ++i) {
     EXPECT_EQ(out[i].propid, in[i].propid);
-    EXPECT_EQ(out[i].wFlags, 0);
+    EXPECT_EQ(0, out[i].wFlags);
   }
-  EXPECT_EQ(out[0].val.iVal, -32768);
-  EXPECT_EQ(out[1].val.uiVal, 65535);
-  EXPECT_EQ(out[2].val.lVal, -2147483647L);
-  EXPECT_EQ(out[3].val.ulVal, 0xFFFFFFFF);
-  EXPECT_EQ(CompareFileTime(&out[4].val.filetime, &in[4].val.filetime), 0);
-  EXPECT_STREQ(out[5].val.lpwstr, L"測点 1");
-  ASSERT_EQ(out[6].val.blob.dwCount, 3U);
-  EXPECT_EQ(memcmp(out[6].val.blob.lpb, bytes, 3), 0);
-  EXPECT_EQ(out[7].val.boolVal, TRUE);
-  EXPECT_EQ(out[8].val.dblVal, -0.1);
+  EXPECT_EQ(-32768, out[0].val.iVal);
+  EXPECT_EQ(65535, out[1].val.uiVal);
+  EXPECT_EQ(-2147483647L, out[2].val.lVal);
+  EXPECT_EQ(0xFFFFFFFF, out[3].val.ulVal);
+  EXPECT_EQ(0, CompareFileTime(&out[4].val.filetime, &in[4].val.filetime));
+  EXPECT_STREQ(L"測点 1", out[5].val.lpwstr);
+  ASSERT_EQ(3U, out[6].val.blob.dwCount);
+  EXPECT_EQ(0, memcmp(out[6].val.blob.lpb, bytes, 3));
+  EXPECT_EQ(TRUE, out[7].val.boolVal);
+  EXPECT_EQ(-0.1, out[8].val.dblVal);
 }
 
 TEST_F(RecordCalls, StringsAndBlobsOfEveryLengthComeBackFromOneBuffer) {
@@ -98,11 +98,11 @@ TEST_F(RecordCalls, StringsAndBlobsOfEveryLengthComeBackFromOneBuffer) {
     blob.propid = static_cast<CEPROPID>(MAKELONG(CEVT_BLOB, i + 1));
     blob.val.blob = {static_cast<DWORD>(blobs[i].size()), blobs[i].data()};
   }
-  ASSERT_NE(CeWriteRecordProps(handle_, 0, 40, in.data()), 0U);
+  ASSERT_NE(0U, CeWriteRecordProps(handle_, 0, 40, in.data()));
   WORD count = 0;
   DWORD size = 0;
   const Buffer buffer = ReadAll(handle_, count, size);
-  ASSERT_EQ(count, 40);
+  ASSERT_EQ(40, count);
   for (WORD i = 0; i < 20; ++i) {
     EXPECT_EQ(Values(buffer)[2 * i].val.lpwstr, texts[i]);
     const CEBLOB blob = Values(buffer)[2 * i + 1].val.blob;
@@ -122,10 +122,10 @@ TEST_F(RecordCalls, ChosenPropertiesComeInTheOrderAsked) {
   EXPECT_EQ(buffer, memory);
   EXPECT_EQ(size, sizeof memory);
   const auto* out = reinterpret_cast<const CEPROPVAL*>(memory);
-  EXPECT_EQ(out[0].val.iVal, 6);
+  EXPECT_EQ(6, out[0].val.iVal);
   EXPECT_EQ(out[1].propid, wanted[1]);
-  EXPECT_EQ(out[1].wFlags, CEDB_PROPNOTFOUND);
-  EXPECT_EQ(out[2].val.iVal, 5);
+  EXPECT_EQ(CEDB_PROPNOTFOUND, out[1].wFlags);
+  EXPECT_EQ(5, out[2].val.iVal);
 }
 
 TEST_F(RecordCalls, NoneOfTheChosenPropertiesIsNoData) {
@@ -138,7 +138,7 @@ TEST_F(RecordCalls, NoneOfTheChosenPropertiesIsNoData) {
               CeReadRecordProps(handle_, CEDB_ALLOWREALLOC, &count, wanted, &buffer, &size),
               CEOID{0});
   ASSERT_EQ(size, sizeof(CEPROPVAL));
-  EXPECT_EQ(reinterpret_cast<const CEPROPVAL*>(buffer)->wFlags, CEDB_PROPNOTFOUND);
+  EXPECT_EQ(CEDB_PROPNOTFOUND, reinterpret_cast<const CEPROPVAL*>(buffer)->wFlags);
   LocalFree(buffer);
 }
 
@@ -154,8 +154,8 @@ TEST_F(RecordCalls, ABufferThatIsTooSmallSaysHowMuchAndReadsNothing) {
     ExpectError(ERROR_INSUFFICIENT_BUFFER,
                 CeReadRecordProps(going, 0, &count, nullptr, &buffer, &size), CEOID{0});
     EXPECT_EQ(size, sizeof memory);
-    EXPECT_EQ(count, 99);
-    EXPECT_EQ(memory[0], 0);
+    EXPECT_EQ(99, count);
+    EXPECT_EQ(0, memory[0]);
   }
   LPBYTE buffer = memory;
   DWORD size = sizeof memory;
@@ -217,7 +217,7 @@ TEST_F(RecordCalls, EverySeekTypeFindsItsRecord) {
   const CEOID c = Add(3, 0);
   DWORD index = 0;
   EXPECT_EQ(CeSeekDatabase(handle_, CEDB_SEEK_CEOID, c, &index), c);
-  EXPECT_EQ(index, 3U);
+  EXPECT_EQ(3U, index);
   EXPECT_EQ(Seek(CEDB_SEEK_BEGINNING, 1), b);
   EXPECT_EQ(Seek(CEDB_SEEK_END, 0), c);
   EXPECT_EQ(Seek(CEDB_SEEK_END, 3), a);
@@ -233,7 +233,7 @@ TEST_F(RecordCalls, EverySeekTypeFindsItsRecord) {
       ERROR_NO_MORE_ITEMS,
       CeSeekDatabase(handle_, CEDB_SEEK_VALUENEXTEQUAL, reinterpret_cast<DWORD_PTR>(&two), &index),
       CEOID{0});
-  EXPECT_EQ(index, 77U);
+  EXPECT_EQ(77U, index);
   ExpectError(ERROR_NO_MORE_ITEMS, Seek(CEDB_SEEK_BEGINNING, 0xFFFFFFFF), CEOID{0});
 }
 
@@ -245,9 +245,9 @@ TEST_F(RecordCalls, AWriteChangesAndDeletesInOneCall) {
   WORD count = 0;
   DWORD size = 0;
   const Buffer buffer = ReadAll(handle_, count, size);
-  ASSERT_EQ(count, 2);
-  EXPECT_EQ(Values(buffer)[0].val.iVal, 9);
-  EXPECT_STREQ(Values(buffer)[1].val.lpwstr, L"new");
+  ASSERT_EQ(2, count);
+  EXPECT_EQ(9, Values(buffer)[0].val.iVal);
+  EXPECT_STREQ(L"new", Values(buffer)[1].val.lpwstr);
 }
 
 TEST_F(RecordCalls, ADeletedRecordIsGoneForEveryHandle) {
@@ -258,13 +258,13 @@ TEST_F(RecordCalls, ADeletedRecordIsGoneForEveryHandle) {
   EXPECT_TRUE(CeDeleteRecord(handle_, a));
   WORD count = 0;
   DWORD size = 0;
-  EXPECT_EQ(ReadAll(handle_, count, size), nullptr);
-  EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_KEY_DELETED));
+  EXPECT_EQ(nullptr, ReadAll(handle_, count, size));
+  EXPECT_EQ(static_cast<DWORD>(ERROR_KEY_DELETED), GetLastError());
   ExpectError(ERROR_KEY_DELETED, Seek(CEDB_SEEK_CURRENT, 0), CEOID{0});
   ExpectError(ERROR_INVALID_PARAMETER, CeDeleteRecord(going, a), FALSE);
   const Buffer buffer = ReadAll(going, count, size);
-  ASSERT_NE(buffer, nullptr);
-  EXPECT_EQ(Values(buffer)[0].val.iVal, 2);
+  ASSERT_NE(nullptr, buffer);
+  EXPECT_EQ(2, Values(buffer)[0].val.iVal);
   EXPECT_EQ(Seek(CEDB_SEEK_CURRENT, 1), b);
 }
 

@@ -39,15 +39,15 @@ END_MESSAGE_MAP()
 TEST(HostWithoutUnicode, WindowsTextsAreWide) {
   AnsiWindow window;
   ASSERT_TRUE(window.Make());
-  EXPECT_EQ(window.created, 90);
+  EXPECT_EQ(90, window.created);
   CString text;
   window.GetWindowText(text);
-  EXPECT_EQ(text, L"測量");
+  EXPECT_EQ(L"測量", text);
   window.SetWindowText(L"境界");
-  EXPECT_EQ(window.GetWindowTextLength(), 2);
+  EXPECT_EQ(2, window.GetWindowTextLength());
   wchar_t buffer[8];
-  EXPECT_EQ(window.GetWindowText(buffer, 8), 2);
-  EXPECT_STREQ(buffer, L"境界");
+  EXPECT_EQ(2, window.GetWindowText(buffer, 8));
+  EXPECT_STREQ(L"境界", buffer);
   EXPECT_TRUE(::IsWindowUnicode(window.m_hWnd));
   EXPECT_EQ(CWnd::FindWindow(nullptr, L"境界"), &window);
 }
@@ -56,20 +56,20 @@ TEST(HostWithoutUnicode, MessagesAndItems) {
   AnsiWindow window;
   ASSERT_TRUE(window.Make());
   window.SendMessage(WM_COMMAND, 5);
-  EXPECT_EQ(window.commands, 1);
+  EXPECT_EQ(1, window.commands);
   EXPECT_TRUE(window.PostMessage(WM_NULL));
   CEdit edit;
   ASSERT_TRUE(edit.Create(0, CRect(0, 0, 50, 20), &window, 9));
   window.SetDlgItemText(9, L"点");
   CString text;
-  EXPECT_EQ(window.GetDlgItemText(9, text), 1);
-  EXPECT_EQ(text, L"点");
-  EXPECT_EQ(window.SendDlgItemMessage(9, EM_GETLIMITTEXT) != 0, true);
+  EXPECT_EQ(1, window.GetDlgItemText(9, text));
+  EXPECT_EQ(L"点", text);
+  EXPECT_EQ(true, window.SendDlgItemMessage(9, EM_GETLIMITTEXT) != 0);
   CComboBox combo;
   ASSERT_TRUE(combo.Create(CBS_DROPDOWNLIST, CRect(0, 30, 50, 90), &window, 10));
-  EXPECT_EQ(combo.AddString(L"実線"), 0);
+  EXPECT_EQ(0, combo.AddString(L"実線"));
   combo.GetLBText(0, text);
-  EXPECT_EQ(text, L"実線");
+  EXPECT_EQ(L"実線", text);
 }
 
 TEST(HostWithoutUnicode, DrawsAndMeasuresWideText) {
@@ -91,7 +91,7 @@ TEST(HostWithoutUnicode, DrawsAndMeasuresWideText) {
   logFont.lfHeight = -12;
   CFont font;
   EXPECT_TRUE(font.CreateFontIndirect(&logFont));
-  EXPECT_NE(font.GetObject(sizeof(logFont), &logFont), 0);
+  EXPECT_NE(0, font.GetObject(sizeof(logFont), &logFont));
   CFont named;
   EXPECT_TRUE(named.CreateFont(12, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, L"Tahoma"));
 }
@@ -103,11 +103,11 @@ TEST(HostWithoutUnicode, LoadsResources) {
   EXPECT_TRUE(menu.LoadMenu(IDM_MAIN));
   EXPECT_TRUE(menu.AppendMenu(MF_STRING, 7, L"七"));
   CString text;
-  EXPECT_EQ(menu.GetMenuString(7, text, MF_BYCOMMAND), 1);
+  EXPECT_EQ(1, menu.GetMenuString(7, text, MF_BYCOMMAND));
   EXPECT_TRUE(text.LoadString(IDS_BOTH));
-  EXPECT_NE(CWinApp().LoadStandardCursor(IDC_ARROW), nullptr);
+  EXPECT_NE(nullptr, CWinApp().LoadStandardCursor(IDC_ARROW));
   CFileDialog dialog(TRUE);
-  EXPECT_EQ(dialog.GetFileTitle(), L"");
+  EXPECT_EQ(L"", dialog.GetFileTitle());
 }
 
 }  // namespace

@@ -48,17 +48,17 @@ ON_COMMAND(ID_FILE_OPEN_TEST + 1, &Frame::OnOwn)
 END_MESSAGE_MAP()
 
 TEST(Application, RegistersItselfAndGoes) {
-  EXPECT_EQ(AfxGetApp(), nullptr);
-  EXPECT_EQ(AfxGetMainWnd(), nullptr);
-  EXPECT_STREQ(AfxGetAppName(), L"framework_window_tests") << "the executable's name";
+  EXPECT_EQ(nullptr, AfxGetApp());
+  EXPECT_EQ(nullptr, AfxGetMainWnd());
+  EXPECT_STREQ(L"framework_window_tests", AfxGetAppName()) << "the executable's name";
   {
     const App app(L"測量");
     EXPECT_EQ(AfxGetApp(), &app);
     EXPECT_EQ(AfxGetThread(), &app);
-    EXPECT_STREQ(AfxGetAppName(), L"測量");
-    EXPECT_STREQ(app.m_pszExeName, L"framework_window_tests");
+    EXPECT_STREQ(L"測量", AfxGetAppName());
+    EXPECT_STREQ(L"framework_window_tests", app.m_pszExeName);
   }
-  EXPECT_EQ(AfxGetApp(), nullptr);
+  EXPECT_EQ(nullptr, AfxGetApp());
 }
 
 TEST(Application, RunsUntilItsMainWindowIsGone) {
@@ -67,18 +67,18 @@ TEST(Application, RunsUntilItsMainWindowIsGone) {
   ASSERT_TRUE(frame->Create(nullptr, L"main", WS_OVERLAPPEDWINDOW, CRect(0, 0, 100, 80), nullptr,
                             MAKEINTRESOURCEW(IDM_MAIN)));
   app.m_pMainWnd = frame;
-  EXPECT_EQ(frame->created, 1);
+  EXPECT_EQ(1, frame->created);
   EXPECT_EQ(AfxGetMainWnd(), frame);
   frame->PostMessage(WM_CLOSE);
-  EXPECT_EQ(app.Run(), 0);
-  EXPECT_EQ(app.exits, 1);
-  EXPECT_EQ(app.m_pMainWnd, nullptr);
+  EXPECT_EQ(0, app.Run());
+  EXPECT_EQ(1, app.exits);
+  EXPECT_EQ(nullptr, app.m_pMainWnd);
 }
 
 TEST(Application, ExitCodeIsThatOfTheQuitMessage) {
   App app;
   AfxPostQuitMessage(17);
-  EXPECT_EQ(app.Run(), 17);
+  EXPECT_EQ(17, app.Run());
 }
 
 void CALLBACK QuitOnTimer(HWND, UINT, UINT_PTR id, DWORD) {
@@ -91,8 +91,8 @@ TEST(Application, IdlesUntilToldOtherwise) {
   ::SetTimer(nullptr, 0, 50, &QuitOnTimer);
   app.Run();
   ASSERT_GE(app.idles.size(), 3u);
-  EXPECT_EQ((std::vector<LONG>(app.idles.begin(), app.idles.begin() + 3)),
-            (std::vector<LONG>{0, 1, 2}));
+  EXPECT_EQ((std::vector<LONG>{0, 1, 2}),
+            (std::vector<LONG>(app.idles.begin(), app.idles.begin() + 3)));
 }
 
 TEST(Application, CommandsTravelFromTheFrameToIt) {
@@ -100,14 +100,14 @@ TEST(Application, CommandsTravelFromTheFrameToIt) {
   auto* frame = new Frame;
   ASSERT_TRUE(frame->Create(nullptr, L"main"));
   app.m_pMainWnd = frame;
-  EXPECT_EQ(frame->SendMessage(WM_COMMAND, ID_FILE_OPEN_TEST + 1), 1);
-  EXPECT_EQ(frame->ownCommands, 1);
-  EXPECT_EQ(frame->SendMessage(WM_COMMAND, ID_FILE_OPEN_TEST), 1);
-  EXPECT_EQ(app.opened, 1);
-  EXPECT_EQ(frame->SendMessage(WM_COMMAND, ID_FILE_OPEN_TEST + 2), 0);
+  EXPECT_EQ(1, frame->SendMessage(WM_COMMAND, ID_FILE_OPEN_TEST + 1));
+  EXPECT_EQ(1, frame->ownCommands);
+  EXPECT_EQ(1, frame->SendMessage(WM_COMMAND, ID_FILE_OPEN_TEST));
+  EXPECT_EQ(1, app.opened);
+  EXPECT_EQ(0, frame->SendMessage(WM_COMMAND, ID_FILE_OPEN_TEST + 2));
   frame->SendMessage(WM_COMMAND, 57665);  // Exit closes the frame, which ends the loop
-  EXPECT_EQ(app.m_pMainWnd, nullptr);
-  EXPECT_EQ(app.Run(), 0);
+  EXPECT_EQ(nullptr, app.m_pMainWnd);
+  EXPECT_EQ(0, app.Run());
 }
 
 TEST(Application, FrameWithoutItsMenuIsNotMade) {
@@ -118,9 +118,9 @@ TEST(Application, FrameWithoutItsMenuIsNotMade) {
 
 TEST(Application, CursorsComeFromTheSystemToo) {
   const App app;
-  EXPECT_NE(app.LoadStandardCursor(IDC_ARROW), nullptr);
-  EXPECT_NE(app.LoadStandardIcon(IDI_APPLICATION), nullptr);
-  EXPECT_EQ(app.LoadCursor(9999u), nullptr);
+  EXPECT_NE(nullptr, app.LoadStandardCursor(IDC_ARROW));
+  EXPECT_NE(nullptr, app.LoadStandardIcon(IDI_APPLICATION));
+  EXPECT_EQ(nullptr, app.LoadCursor(9999u));
 }
 
 // The entry point is tested from outside: a program that ends with a code of its own.
@@ -159,7 +159,7 @@ TEST(ProgramEntry, StartsTheApplicationWithItsArguments) {
     for (const Row& row : rows) {
       const Ended ended = RunHost(L"\"" + std::wstring(program) + L"\"" + row.arguments);
       ASSERT_TRUE(ended.started) << program;
-      EXPECT_EQ(ended.code, row.code) << program << row.arguments;
+      EXPECT_EQ(row.code, ended.code) << program << row.arguments;
     }
   }
 }

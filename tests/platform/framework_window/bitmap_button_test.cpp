@@ -125,11 +125,11 @@ TEST(BitmapButton, TakesTheSizeOfItsPicture) {
   button.SizeToContent();
   CRect rect;
   button.GetClientRect(rect);
-  EXPECT_EQ(rect.Size(), CSize(55, 54)) << "nothing loaded, nothing changed";
+  EXPECT_EQ(CSize(55, 54), rect.Size()) << "nothing loaded, nothing changed";
   ASSERT_TRUE(button.LoadBitmaps(IDB_UP));
   button.SizeToContent();
   button.GetClientRect(rect);
-  EXPECT_EQ(rect.Size(), CSize(kWidth, kHeight));
+  EXPECT_EQ(CSize(kWidth, kHeight), rect.Size());
 }
 
 TEST(BitmapButton, DrawsItselfOnTheScreenAndWhenPressed) {
@@ -159,7 +159,7 @@ TEST(BitmapButton, DrawsItselfInADialogByItsCaption) {
   ASSERT_TRUE(button.AutoLoad(IDC_BUTTON, &dialog));
   CRect rect;
   button.GetClientRect(rect);
-  EXPECT_EQ(rect.Size(), CSize(kWidth, kHeight));
+  EXPECT_EQ(CSize(kWidth, kHeight), rect.Size());
   const auto up = Picture(dialog, button, 0);
   const auto down = Picture(dialog, button, ODS_SELECTED);
   EXPECT_NE(up, RawPicture(0)) << "something is drawn";
@@ -188,7 +188,7 @@ TEST(BitmapButton, ParentsOwnHandlerComesFirst) {
   ASSERT_TRUE(button.Create(L"", WS_CHILD | BS_OWNERDRAW, CRect(0, 0, 30, 30), &parent, 7));
   ASSERT_TRUE(button.LoadBitmaps(IDB_UP));
   EXPECT_EQ(Picture(parent, button, 0), RawPicture(IDB_UP));
-  EXPECT_EQ(parent.asked, 1);
+  EXPECT_EQ(1, parent.asked);
 }
 
 }  // namespace

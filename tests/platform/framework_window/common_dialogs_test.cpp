@@ -18,11 +18,11 @@ TEST(ColorDialog, AnswersWithTheChosenColour) {
   EXPECT_TRUE(dialog.m_cc.Flags & CC_RGBINIT);
   {
     const ModalDriver driver({Command(IDOK)});
-    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(IDOK, dialog.DoModal());
   }
-  EXPECT_EQ(dialog.GetColor(), RGB(10, 20, 30));
+  EXPECT_EQ(RGB(10, 20, 30), dialog.GetColor());
   const ModalDriver driver({Command(IDCANCEL)});
-  EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+  EXPECT_EQ(IDCANCEL, dialog.DoModal());
 }
 
 // A file that exists for as long as this lives, in a folder of its own.
@@ -55,21 +55,21 @@ TEST(FileDialog, OpensWhatIsNamed) {
   CFileDialog dialog(TRUE, L"sim", file.Path(), OFN_HIDEREADONLY | OFN_FILEMUSTEXIST,
                      L"Survey|*.sim;*.csv|All|*.*||");
   const ModalDriver driver({Command(IDOK)});
-  ASSERT_EQ(dialog.DoModal(), IDOK);
-  EXPECT_EQ(dialog.GetPathName().CompareNoCase(file.Path()), 0) << dialog.GetPathName().GetString();
-  EXPECT_EQ(dialog.GetFileName(), L"area 1.local.sim");
-  EXPECT_EQ(dialog.GetFileTitle(), L"area 1.local");
-  EXPECT_EQ(dialog.GetFileExt(), L"sim");
-  EXPECT_EQ(dialog.GetFolderPath().CompareNoCase(file.Folder()), 0);
+  ASSERT_EQ(IDOK, dialog.DoModal());
+  EXPECT_EQ(0, dialog.GetPathName().CompareNoCase(file.Path())) << dialog.GetPathName().GetString();
+  EXPECT_EQ(L"area 1.local.sim", dialog.GetFileName());
+  EXPECT_EQ(L"area 1.local", dialog.GetFileTitle());
+  EXPECT_EQ(L"sim", dialog.GetFileExt());
+  EXPECT_EQ(0, dialog.GetFolderPath().CompareNoCase(file.Folder()));
   POSITION position = dialog.GetStartPosition();
   EXPECT_EQ(dialog.GetNextPathName(position), dialog.GetPathName());
-  EXPECT_EQ(position, nullptr);
+  EXPECT_EQ(nullptr, position);
 }
 
 TEST(FileDialog, CancelChoosesNothing) {
   CFileDialog dialog(FALSE, L"csv");
   const ModalDriver driver({Command(IDCANCEL)});
-  EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+  EXPECT_EQ(IDCANCEL, dialog.DoModal());
 }
 
 // What the system leaves in its buffer, without the dialog.
@@ -90,7 +90,7 @@ TEST(FileDialog, TakesSeveralNamesApart) {
     for (POSITION position = dialog.GetStartPosition(); position;) {
       paths.emplace_back(dialog.GetNextPathName(position));
     }
-    EXPECT_EQ(paths, row.paths);
+    EXPECT_EQ(row.paths, paths);
     EXPECT_EQ(dialog.GetPathName(), row.paths.empty() ? L"" : row.paths[0].c_str());
   }
 }
@@ -100,7 +100,7 @@ TEST(FileDialog, FilterBecomesTheSystems) {
   const wchar_t expected[] = L"Survey\0*.sim\0All\0*.*\0";
   EXPECT_EQ(std::wstring(dialog.m_ofn.lpstrFilter, ARRAYSIZE(expected)),
             std::wstring(expected, ARRAYSIZE(expected)));
-  EXPECT_EQ(CFileDialog(TRUE).m_ofn.lpstrFilter, nullptr);
+  EXPECT_EQ(nullptr, CFileDialog(TRUE).m_ofn.lpstrFilter);
 }
 
 }  // namespace

@@ -16,31 +16,31 @@ TEST(ComboBox, KeepsItemsAndTheirData) {
   ASSERT_TRUE(parent.Make());
   CComboBox combo;
   ASSERT_TRUE(combo.Create(CBS_DROPDOWNLIST, kRect, &parent, 1));
-  EXPECT_EQ(combo.GetCount(), 0);
-  EXPECT_EQ(combo.GetCurSel(), CB_ERR);
-  EXPECT_EQ(combo.AddString(L"実線"), 0);
-  EXPECT_EQ(combo.AddString(L"破線"), 1);
-  EXPECT_EQ(combo.InsertString(1, L"Broken line"), 1);
-  EXPECT_EQ(combo.GetCount(), 3);
-  EXPECT_NE(combo.SetItemData(2, 0xABCD), CB_ERR);
-  EXPECT_EQ(combo.GetItemData(2), 0xABCDu);
-  EXPECT_EQ(combo.SetItemData(9, 1), CB_ERR);
-  EXPECT_EQ(combo.SetCurSel(2), 2);
-  EXPECT_EQ(combo.GetCurSel(), 2);
-  EXPECT_EQ(combo.SetCurSel(-1), CB_ERR);
-  EXPECT_EQ(combo.GetCurSel(), CB_ERR);
+  EXPECT_EQ(0, combo.GetCount());
+  EXPECT_EQ(CB_ERR, combo.GetCurSel());
+  EXPECT_EQ(0, combo.AddString(L"実線"));
+  EXPECT_EQ(1, combo.AddString(L"破線"));
+  EXPECT_EQ(1, combo.InsertString(1, L"Broken line"));
+  EXPECT_EQ(3, combo.GetCount());
+  EXPECT_NE(CB_ERR, combo.SetItemData(2, 0xABCD));
+  EXPECT_EQ(0xABCDu, combo.GetItemData(2));
+  EXPECT_EQ(CB_ERR, combo.SetItemData(9, 1));
+  EXPECT_EQ(2, combo.SetCurSel(2));
+  EXPECT_EQ(2, combo.GetCurSel());
+  EXPECT_EQ(CB_ERR, combo.SetCurSel(-1));
+  EXPECT_EQ(CB_ERR, combo.GetCurSel());
   CString text;
   combo.GetLBText(1, text);
-  EXPECT_EQ(text, L"Broken line");
+  EXPECT_EQ(L"Broken line", text);
   combo.GetLBText(7, text);
   EXPECT_TRUE(text.IsEmpty());
-  EXPECT_EQ(combo.FindStringExact(-1, L"broken LINE"), 1);
-  EXPECT_EQ(combo.FindStringExact(-1, L"Broken"), CB_ERR);
-  EXPECT_EQ(combo.FindString(-1, L"Broken"), 1);
-  EXPECT_EQ(combo.SelectString(-1, L"破"), 2);
-  EXPECT_EQ(combo.DeleteString(0), 2);
+  EXPECT_EQ(1, combo.FindStringExact(-1, L"broken LINE"));
+  EXPECT_EQ(CB_ERR, combo.FindStringExact(-1, L"Broken"));
+  EXPECT_EQ(1, combo.FindString(-1, L"Broken"));
+  EXPECT_EQ(2, combo.SelectString(-1, L"破"));
+  EXPECT_EQ(2, combo.DeleteString(0));
   combo.ResetContent();
-  EXPECT_EQ(combo.GetCount(), 0);
+  EXPECT_EQ(0, combo.GetCount());
 }
 
 class SelectionParent : public FrameWindow {
@@ -63,10 +63,10 @@ TEST(ComboBox, TellsTheParentOfTheUsersChoice) {
   combo.AddString(L"a");
   combo.AddString(L"b");
   combo.SetCurSel(0);
-  EXPECT_EQ(parent.changes, 0) << "not of the program's";
+  EXPECT_EQ(0, parent.changes) << "not of the program's";
   combo.SendMessage(WM_KEYDOWN, VK_DOWN, 1);
-  EXPECT_EQ(combo.GetCurSel(), 1);
-  EXPECT_EQ(parent.changes, 1);
+  EXPECT_EQ(1, combo.GetCurSel());
+  EXPECT_EQ(1, parent.changes);
 }
 
 TEST(ListBox, KeepsItemsAndTheirData) {
@@ -74,21 +74,21 @@ TEST(ListBox, KeepsItemsAndTheirData) {
   ASSERT_TRUE(parent.Make());
   CListBox list;
   ASSERT_TRUE(list.Create(0, kRect, &parent, 2));
-  EXPECT_EQ(list.AddString(L"one"), 0);
-  EXPECT_EQ(list.InsertString(0, L"zero"), 0);
-  EXPECT_EQ(list.GetCount(), 2);
+  EXPECT_EQ(0, list.AddString(L"one"));
+  EXPECT_EQ(0, list.InsertString(0, L"zero"));
+  EXPECT_EQ(2, list.GetCount());
   list.SetItemData(1, 77);
-  EXPECT_EQ(list.GetItemData(1), 77u);
+  EXPECT_EQ(77u, list.GetItemData(1));
   CString text;
   list.GetText(1, text);
-  EXPECT_EQ(text, L"one");
+  EXPECT_EQ(L"one", text);
   list.GetText(5, text);
   EXPECT_TRUE(text.IsEmpty());
-  EXPECT_EQ(list.SetCurSel(1), 1);
-  EXPECT_EQ(list.GetCurSel(), 1);
-  EXPECT_EQ(list.FindStringExact(-1, L"ZERO"), 0);
+  EXPECT_EQ(1, list.SetCurSel(1));
+  EXPECT_EQ(1, list.GetCurSel());
+  EXPECT_EQ(0, list.FindStringExact(-1, L"ZERO"));
   list.ResetContent();
-  EXPECT_EQ(list.GetCurSel(), LB_ERR);
+  EXPECT_EQ(LB_ERR, list.GetCurSel());
 }
 
 TEST(Edit, SelectsLimitsAndReplaces) {
@@ -97,23 +97,23 @@ TEST(Edit, SelectsLimitsAndReplaces) {
   CEdit edit;
   ASSERT_TRUE(edit.Create(ES_AUTOHSCROLL, kRect, &parent, 3));
   edit.SetWindowText(L"123.456");
-  EXPECT_EQ(parent.changes, 1);
+  EXPECT_EQ(1, parent.changes);
   edit.SetSel(1, 3);
   int start = 0, end = 0;
   edit.GetSel(start, end);
-  EXPECT_EQ(start, 1);
-  EXPECT_EQ(end, 3);
+  EXPECT_EQ(1, start);
+  EXPECT_EQ(3, end);
   edit.ReplaceSel(L"xyz");
   CString text;
   edit.GetWindowText(text);
-  EXPECT_EQ(text, L"1xyz.456");
+  EXPECT_EQ(L"1xyz.456", text);
   edit.LimitText(9);
-  EXPECT_EQ(edit.GetLimitText(), 9u);
+  EXPECT_EQ(9u, edit.GetLimitText());
   edit.SetSel(-1, -1);
   edit.SetSel(0, -1);
   edit.GetSel(start, end);
-  EXPECT_EQ(start, 0);
-  EXPECT_EQ(end, 8);
+  EXPECT_EQ(0, start);
+  EXPECT_EQ(8, end);
   EXPECT_TRUE(edit.SetReadOnly());
   EXPECT_TRUE(edit.GetStyle() & ES_READONLY);
 }
@@ -125,23 +125,23 @@ TEST(SpinButton, CountsWithinItsRangeAndTellsABadBuddy) {
   ASSERT_TRUE(buddy.Create(ES_NUMBER, kRect, &parent, 3));
   CSpinButtonCtrl spin;
   ASSERT_TRUE(spin.Create(UDS_SETBUDDYINT | UDS_NOTHOUSANDS, kRect, &parent, 4));
-  EXPECT_EQ(spin.SetBuddy(&buddy), nullptr);
+  EXPECT_EQ(nullptr, spin.SetBuddy(&buddy));
   EXPECT_EQ(spin.GetBuddy(), &buddy);
   spin.SetRange(1, 50);
   int lower = 0, upper = 0;
   spin.GetRange(lower, upper);
-  EXPECT_EQ(lower, 1);
-  EXPECT_EQ(upper, 50);
+  EXPECT_EQ(1, lower);
+  EXPECT_EQ(50, upper);
   spin.SetPos(12);
   CString text;
   buddy.GetWindowText(text);
-  EXPECT_EQ(text, L"12");
-  EXPECT_EQ(spin.GetPos(), 12);
+  EXPECT_EQ(L"12", text);
+  EXPECT_EQ(12, spin.GetPos());
   buddy.SetWindowText(L"");
-  EXPECT_NE(HIWORD(spin.GetPos()), 0) << "no number in the buddy";
-  EXPECT_EQ(spin.GetBase(), 10u);
-  EXPECT_EQ(spin.SetBase(16), 10);
-  EXPECT_EQ(spin.GetBase(), 16u);
+  EXPECT_NE(0, HIWORD(spin.GetPos())) << "no number in the buddy";
+  EXPECT_EQ(10u, spin.GetBase());
+  EXPECT_EQ(10, spin.SetBase(16));
+  EXPECT_EQ(16u, spin.GetBase());
 }
 
 TEST(Button, ChecksAndPresses) {
@@ -149,12 +149,12 @@ TEST(Button, ChecksAndPresses) {
   ASSERT_TRUE(parent.Make());
   CButton button;
   ASSERT_TRUE(button.Create(L"flag", BS_AUTOCHECKBOX, kRect, &parent, 5));
-  EXPECT_EQ(button.GetCheck(), BST_UNCHECKED);
+  EXPECT_EQ(BST_UNCHECKED, button.GetCheck());
   button.SetCheck(BST_CHECKED);
-  EXPECT_EQ(button.GetCheck(), BST_CHECKED);
-  EXPECT_EQ(button.GetButtonStyle(), UINT{BS_AUTOCHECKBOX});
+  EXPECT_EQ(BST_CHECKED, button.GetCheck());
+  EXPECT_EQ(UINT{BS_AUTOCHECKBOX}, button.GetButtonStyle());
   button.SendMessage(BM_CLICK);
-  EXPECT_EQ(button.GetCheck(), BST_UNCHECKED);
+  EXPECT_EQ(BST_UNCHECKED, button.GetCheck());
 }
 
 TEST(ScrollBar, KeepsItsPosition) {
@@ -164,9 +164,9 @@ TEST(ScrollBar, KeepsItsPosition) {
   ASSERT_TRUE(bar.Create(SBS_HORZ, kRect, &parent, 6));
   bar.SetScrollRange(0, 200);
   bar.SetScrollPos(55);
-  EXPECT_EQ(bar.GetScrollPos(), 55);
+  EXPECT_EQ(55, bar.GetScrollPos());
   EXPECT_EQ(CScrollBar::FromHandle(bar.m_hWnd), &bar);
-  EXPECT_EQ(CScrollBar::FromHandle(nullptr), nullptr);
+  EXPECT_EQ(nullptr, CScrollBar::FromHandle(nullptr));
 }
 
 TEST(Static, ShowsItsText) {
@@ -174,10 +174,10 @@ TEST(Static, ShowsItsText) {
   ASSERT_TRUE(parent.Make());
   CStatic label;
   ASSERT_TRUE(label.Create(L"縮尺", SS_LEFT, kRect, &parent));
-  EXPECT_EQ(label.GetDlgCtrlID(), 0xFFFF);
+  EXPECT_EQ(0xFFFF, label.GetDlgCtrlID());
   CString text;
   label.GetWindowText(text);
-  EXPECT_EQ(text, L"縮尺");
+  EXPECT_EQ(L"縮尺", text);
 }
 
 }  // namespace

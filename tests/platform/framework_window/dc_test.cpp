@@ -115,7 +115,7 @@ TEST(DeviceContext, DrawsWhatTheRawCallsDraw) {
     Canvas ours, raw, blank;
     row.framework(ours.dc, triangle);
     row.raw(raw.dc.m_hDC, triangle);
-    EXPECT_EQ(ours.Pixels(), raw.Pixels()) << row.name;
+    EXPECT_EQ(raw.Pixels(), ours.Pixels()) << row.name;
     EXPECT_NE(ours.Pixels(), blank.Pixels()) << row.name << " drew nothing";
   }
 }
@@ -124,39 +124,39 @@ TEST(DeviceContext, BlitsFromAnother) {
   Canvas source, target;
   source.dc.FillSolidRect(0, 0, 10, 10, RGB(255, 0, 0));
   EXPECT_TRUE(target.dc.BitBlt(20, 10, 10, 10, &source.dc, 0, 0, SRCCOPY));
-  EXPECT_EQ(target.dc.GetPixel(20, 10), RGB(255, 0, 0));
-  EXPECT_EQ(target.dc.GetPixel(CPoint(19, 10)), RGB(255, 255, 255));
+  EXPECT_EQ(RGB(255, 0, 0), target.dc.GetPixel(20, 10));
+  EXPECT_EQ(RGB(255, 255, 255), target.dc.GetPixel(CPoint(19, 10)));
   EXPECT_TRUE(target.dc.StretchBlt(0, 0, 20, 20, &source.dc, 0, 0, 10, 10, SRCCOPY));
-  EXPECT_EQ(target.dc.GetPixel(19, 19), RGB(255, 0, 0));
+  EXPECT_EQ(RGB(255, 0, 0), target.dc.GetPixel(19, 19));
   EXPECT_TRUE(target.dc.BitBlt(0, 0, 5, 5, nullptr, 0, 0, BLACKNESS));
-  EXPECT_EQ(target.dc.GetPixel(0, 0), RGB(0, 0, 0));
+  EXPECT_EQ(RGB(0, 0, 0), target.dc.GetPixel(0, 0));
 }
 
 TEST(DeviceContext, StateIsSetAskedAndRestored) {
   Canvas canvas;
   const int saved = canvas.dc.SaveDC();
-  EXPECT_NE(saved, 0);
-  EXPECT_EQ(canvas.dc.SetTextColor(RGB(1, 2, 3)), RGB(0, 0, 0));
-  EXPECT_EQ(canvas.dc.SetBkMode(TRANSPARENT), OPAQUE);
-  EXPECT_EQ(canvas.dc.SetROP2(R2_XORPEN), R2_COPYPEN);
-  EXPECT_EQ(canvas.dc.GetROP2(), R2_XORPEN);
-  EXPECT_EQ(canvas.dc.MoveTo(5, 6), CPoint(0, 0));
-  EXPECT_EQ(canvas.dc.MoveTo(7, 8), CPoint(5, 6));
+  EXPECT_NE(0, saved);
+  EXPECT_EQ(RGB(0, 0, 0), canvas.dc.SetTextColor(RGB(1, 2, 3)));
+  EXPECT_EQ(OPAQUE, canvas.dc.SetBkMode(TRANSPARENT));
+  EXPECT_EQ(R2_COPYPEN, canvas.dc.SetROP2(R2_XORPEN));
+  EXPECT_EQ(R2_XORPEN, canvas.dc.GetROP2());
+  EXPECT_EQ(CPoint(0, 0), canvas.dc.MoveTo(5, 6));
+  EXPECT_EQ(CPoint(5, 6), canvas.dc.MoveTo(7, 8));
   EXPECT_TRUE(canvas.dc.RestoreDC(saved));
-  EXPECT_EQ(canvas.dc.GetROP2(), R2_COPYPEN);
-  EXPECT_EQ(canvas.dc.GetTextColor(), RGB(0, 0, 0));
-  EXPECT_EQ(canvas.dc.GetBkMode(), OPAQUE);
+  EXPECT_EQ(R2_COPYPEN, canvas.dc.GetROP2());
+  EXPECT_EQ(RGB(0, 0, 0), canvas.dc.GetTextColor());
+  EXPECT_EQ(OPAQUE, canvas.dc.GetBkMode());
   CRect clip;
   canvas.dc.GetClipBox(clip);
-  EXPECT_EQ(clip, CRect(0, 0, Canvas::kWidth, Canvas::kHeight));
+  EXPECT_EQ(CRect(0, 0, Canvas::kWidth, Canvas::kHeight), clip);
 }
 
 TEST(DeviceContext, TextExtentIsTheSystems) {
   Canvas canvas;
   SIZE raw;
   ::GetTextExtentPoint32W(canvas.dc.m_hDC, L"1234", 4, &raw);
-  EXPECT_EQ(canvas.dc.GetTextExtent(L"1234"), CSize(raw));
-  EXPECT_EQ(canvas.dc.GetTextExtent(L"1234abc", 4), CSize(raw));
+  EXPECT_EQ(CSize(raw), canvas.dc.GetTextExtent(L"1234"));
+  EXPECT_EQ(CSize(raw), canvas.dc.GetTextExtent(L"1234abc", 4));
 }
 
 TEST(DeviceContext, CreatedOneIsDeletedWithItsObject) {
@@ -168,7 +168,7 @@ TEST(DeviceContext, CreatedOneIsDeletedWithItsObject) {
     EXPECT_EQ(dc.m_hAttribDC, handle);
     EXPECT_EQ(CDC::FromHandle(handle), &dc);
   }
-  EXPECT_EQ(::GetObjectType(handle), 0u);
+  EXPECT_EQ(0u, ::GetObjectType(handle));
 }
 
 TEST(DeviceContext, DetachedOneLivesOn) {
@@ -178,12 +178,12 @@ TEST(DeviceContext, DetachedOneLivesOn) {
     ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
     handle = dc.Detach();
   }
-  EXPECT_NE(::GetObjectType(handle), 0u);
+  EXPECT_NE(0u, ::GetObjectType(handle));
   CDC* temporary = CDC::FromHandle(handle);
   EXPECT_EQ(temporary->m_hDC, handle);
   EXPECT_EQ(temporary->m_hAttribDC, handle);
   EXPECT_EQ(CDC::FromHandle(handle), temporary);
-  EXPECT_EQ(CDC::FromHandle(nullptr), nullptr);
+  EXPECT_EQ(nullptr, CDC::FromHandle(nullptr));
   ::DeleteDC(handle);
 }
 
@@ -194,8 +194,8 @@ TEST(WindowContexts, GoBackToTheSystem) {
   for (int i = 0; i < 1000; ++i) {
     CClientDC client(&window);
     CWindowDC whole(&window);
-    ASSERT_NE(client.m_hDC, nullptr);
-    ASSERT_NE(whole.m_hDC, nullptr);
+    ASSERT_NE(nullptr, client.m_hDC);
+    ASSERT_NE(nullptr, whole.m_hDC);
     EXPECT_EQ(CDC::FromHandle(client.m_hDC), &client);
   }
   EXPECT_LE(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS), before + 10);
@@ -229,10 +229,10 @@ TEST(WindowContexts, PaintContextKnowsAndValidatesItsRectangle) {
   const int before = window.paints;
   window.InvalidateRect(CRect(10, 20, 30, 40));
   window.UpdateWindow();
-  EXPECT_EQ(window.paints, before + 1);
-  EXPECT_EQ(window.painted, CRect(10, 20, 30, 40));
+  EXPECT_EQ(before + 1, window.paints);
+  EXPECT_EQ(CRect(10, 20, 30, 40), window.painted);
   window.UpdateWindow();
-  EXPECT_EQ(window.paints, before + 1);
+  EXPECT_EQ(before + 1, window.paints);
 }
 
 TEST(WindowContexts, NoWindowNoContext) {

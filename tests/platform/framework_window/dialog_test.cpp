@@ -83,12 +83,12 @@ TEST(ModalDialog, EndsWithTheCommand) {
   for (const Row& row : rows) {
     TestDialog dialog(&owner);
     const ModalDriver driver({row.step});
-    EXPECT_EQ(dialog.DoModal(), row.result) << row.name;
-    EXPECT_EQ(dialog.oks, row.oks) << row.name;
-    EXPECT_EQ(dialog.cancels, row.cancels) << row.name;
-    EXPECT_EQ(dialog.inits, 1) << row.name;
-    EXPECT_EQ(dialog.m_hWnd, nullptr) << row.name;
-    EXPECT_EQ(dialog.gone, 1) << row.name;
+    EXPECT_EQ(row.result, dialog.DoModal()) << row.name;
+    EXPECT_EQ(row.oks, dialog.oks) << row.name;
+    EXPECT_EQ(row.cancels, dialog.cancels) << row.name;
+    EXPECT_EQ(1, dialog.inits) << row.name;
+    EXPECT_EQ(nullptr, dialog.m_hWnd) << row.name;
+    EXPECT_EQ(1, dialog.gone) << row.name;
   }
 }
 
@@ -115,22 +115,22 @@ TEST(ModalDialog, OwnerWaits) {
 TEST(ModalDialog, MayEndBeforeItIsShown) {
   TestDialog dialog;
   dialog.endInInit = 55;
-  EXPECT_EQ(dialog.DoModal(), 55);
-  EXPECT_EQ(dialog.m_hWnd, nullptr);
+  EXPECT_EQ(55, dialog.DoModal());
+  EXPECT_EQ(nullptr, dialog.m_hWnd);
 }
 
 TEST(ModalDialog, CanBeUsedAgain) {
   TestDialog dialog;
   for (int i = 1; i <= 3; ++i) {
     const ModalDriver driver({Command(IDOK)});
-    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(IDOK, dialog.DoModal());
     EXPECT_EQ(dialog.inits, i);
   }
 }
 
 TEST(ModalDialog, WithoutTemplateItIsNotMade) {
   CDialog missing(9999u);
-  EXPECT_EQ(missing.DoModal(), -1);
+  EXPECT_EQ(-1, missing.DoModal());
   CDialog modeless;
   EXPECT_FALSE(modeless.Create(9999u));
 }
@@ -138,23 +138,23 @@ TEST(ModalDialog, WithoutTemplateItIsNotMade) {
 TEST(ModalDialog, EndsWhenItsWindowGoes) {
   TestDialog dialog;
   const ModalDriver driver({[](HWND window) { ::DestroyWindow(window); }});
-  EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-  EXPECT_EQ(dialog.gone, 1);
+  EXPECT_EQ(IDCANCEL, dialog.DoModal());
+  EXPECT_EQ(1, dialog.gone);
 }
 
 TEST(ModalDialog, QuitMessageEndsItAndTravelsOn) {
   TestDialog dialog;
   const ModalDriver driver({[](HWND) { ::PostQuitMessage(5); }});
-  EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+  EXPECT_EQ(IDCANCEL, dialog.DoModal());
   MSG message;
   EXPECT_FALSE(::GetMessageW(&message, nullptr, 0, 0)) << "for the loop outside";
-  EXPECT_EQ(message.wParam, 5u);
+  EXPECT_EQ(5u, message.wParam);
 }
 
 TEST(ModalDialog, EndFromASentMessageWakesTheLoop) {
   TestDialog dialog;
   ModalDriver driver({[&dialog](HWND) { dialog.EndDialog(77); }});
-  EXPECT_EQ(dialog.DoModal(), 77);
+  EXPECT_EQ(77, dialog.DoModal());
 }
 
 // What a handler does after EndDialog (a message box, say) comes when the dialog has made way.
@@ -171,7 +171,7 @@ TEST(ModalDialog, HidesAndGivesWayAtOnceWhenItEnds) {
     EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
   }});
-  EXPECT_EQ(dialog.DoModal(), IDOK);
+  EXPECT_EQ(IDOK, dialog.DoModal());
 }
 
 TEST(ModalDialog, TheFirstEndStands) {
@@ -190,7 +190,7 @@ TEST(ModalDialog, TheFirstEndStands) {
       dialog.EndDialog(77);
       row.again(dialog);
     }});
-    EXPECT_EQ(dialog.DoModal(), 77) << row.name;
+    EXPECT_EQ(77, dialog.DoModal()) << row.name;
   }
 }
 
@@ -209,8 +209,8 @@ TEST(ModalDialog, EndedBeforeItIsMadeItIsNotMade) {
   ASSERT_TRUE(owner.Make());
   TestDialog dialog(&owner);
   owner.refused = &dialog;
-  EXPECT_EQ(dialog.DoModal(), 33);
-  EXPECT_EQ(dialog.inits, 0);
+  EXPECT_EQ(33, dialog.DoModal());
+  EXPECT_EQ(0, dialog.inits);
   EXPECT_TRUE(owner.IsWindowEnabled());
 }
 
@@ -220,8 +220,8 @@ TEST(ModalDialog, TabMovesTheFocus) {
   const ModalDriver driver({[&](HWND) { first = ::GetDlgCtrlID(::GetFocus()); }, Key(VK_TAB),
                             [&](HWND) { second = ::GetDlgCtrlID(::GetFocus()); }, Command(IDOK)});
   dialog.DoModal();
-  EXPECT_EQ(first, IDC_NAME);
-  EXPECT_EQ(second, IDC_COUNT);
+  EXPECT_EQ(IDC_NAME, first);
+  EXPECT_EQ(IDC_COUNT, second);
 }
 
 TEST(ModalDialog, PreTranslationRunsInItsLoop) {
@@ -235,7 +235,7 @@ TEST(ModalDialog, PreTranslationRunsInItsLoop) {
   } dialog;
   const ModalDriver driver({Key(VK_TAB), Command(IDOK)});
   dialog.DoModal();
-  EXPECT_EQ(dialog.keys, 1);
+  EXPECT_EQ(1, dialog.keys);
 }
 
 TEST(ModalDialog, RunsUnderAnApplicationToo) {
@@ -252,7 +252,7 @@ TEST(ModalDialog, RunsUnderAnApplicationToo) {
   app.m_pMainWnd = &main;
   TestDialog dialog;
   const ModalDriver driver({Key(VK_RETURN)});
-  EXPECT_EQ(dialog.DoModal(), IDOK);
+  EXPECT_EQ(IDOK, dialog.DoModal());
   EXPECT_EQ(dialog.owner, main.m_hWnd) << "the main window owns it";
   EXPECT_GT(app.seen, 0);
   app.m_pMainWnd = nullptr;
@@ -275,24 +275,24 @@ TEST(DialogData, MovesBothWays) {
                                                       IDC_FIRST_RADIO);
                             },
                             Command(IDOK)});
-  EXPECT_EQ(dialog.DoModal(), IDOK);
-  EXPECT_EQ(nameShown, L"測点");
-  EXPECT_EQ(countShown, 3u);
-  EXPECT_EQ(flagShown, UINT{BST_CHECKED});
-  EXPECT_EQ(radioShown, UINT{BST_CHECKED});
-  EXPECT_EQ(dialog.name, L"境界");
-  EXPECT_EQ(dialog.count, 7);
+  EXPECT_EQ(IDOK, dialog.DoModal());
+  EXPECT_EQ(L"測点", nameShown);
+  EXPECT_EQ(3u, countShown);
+  EXPECT_EQ(UINT{BST_CHECKED}, flagShown);
+  EXPECT_EQ(UINT{BST_CHECKED}, radioShown);
+  EXPECT_EQ(L"境界", dialog.name);
+  EXPECT_EQ(7, dialog.count);
   EXPECT_FALSE(dialog.flag);
-  EXPECT_EQ(dialog.radio, 0);
-  EXPECT_EQ(dialog.nameEdit.m_hWnd, nullptr) << "the member's window went with the dialog";
+  EXPECT_EQ(0, dialog.radio);
+  EXPECT_EQ(nullptr, dialog.nameEdit.m_hWnd) << "the member's window went with the dialog";
 }
 
 TEST(DialogData, CancelKeepsTheMembers) {
   TestDialog dialog;
   const ModalDriver driver(
       {[](HWND window) { ::SetDlgItemTextW(window, IDC_NAME, L"x"); }, Command(IDCANCEL)});
-  EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-  EXPECT_EQ(dialog.name, L"測点");
+  EXPECT_EQ(IDCANCEL, dialog.DoModal());
+  EXPECT_EQ(L"測点", dialog.name);
 }
 
 // A refused value is told in a box, which is a dialog too; the dialog stays open.
@@ -310,10 +310,10 @@ TEST(DialogData, RefusedValueKeepsTheDialogOpen) {
                                 ::SetDlgItemTextW(window, IDC_COUNT, L" 10 ");
                                 ::PostMessageW(window, WM_COMMAND, IDOK, 0);
                               }});
-    EXPECT_EQ(dialog.DoModal(), IDOK);
-    EXPECT_EQ(dialog.oks, 2) << "refused once";
-    EXPECT_EQ(focus, IDC_COUNT);
-    EXPECT_EQ(dialog.count, 10);
+    EXPECT_EQ(IDOK, dialog.DoModal());
+    EXPECT_EQ(2, dialog.oks) << "refused once";
+    EXPECT_EQ(IDC_COUNT, focus);
+    EXPECT_EQ(10, dialog.count);
   }
 }
 
@@ -370,15 +370,15 @@ TEST(DialogCommands, TravelToTheOwner) {
   CDialog dialog;
   ASSERT_TRUE(dialog.Create(IDD_MODAL, &owner));
   dialog.SendMessage(WM_COMMAND, ID_FILE_OPEN_TEST);
-  EXPECT_EQ(owner.opens, 1);
+  EXPECT_EQ(1, owner.opens);
   dialog.GetDlgItem(IDC_FLAG)->SendMessage(BM_CLICK);
-  EXPECT_EQ(owner.clicks, 0);
+  EXPECT_EQ(0, owner.clicks);
 }
 
 TEST(MessageBoxes, AnswerWithTheChosenButton) {
   {
     const ModalDriver driver({Command(IDYES)});
-    EXPECT_EQ(AfxMessageBox(L"Delete it?", MB_YESNO), IDYES);
+    EXPECT_EQ(IDYES, AfxMessageBox(L"Delete it?", MB_YESNO));
   }
   {
     CString shown;
@@ -392,13 +392,13 @@ TEST(MessageBoxes, AnswerWithTheChosenButton) {
                                 }
                               },
                               Command(IDOK)});
-    EXPECT_EQ(AfxMessageBox(IDS_BOTH), IDOK);
-    EXPECT_EQ(shown, L"of the program");
+    EXPECT_EQ(IDOK, AfxMessageBox(IDS_BOTH));
+    EXPECT_EQ(L"of the program", shown);
   }
   FrameWindow window;
   ASSERT_TRUE(window.Make());
   const ModalDriver driver({Command(IDCANCEL)});
-  EXPECT_EQ(window.MessageBox(L"text", nullptr, MB_OKCANCEL), IDCANCEL);
+  EXPECT_EQ(IDCANCEL, window.MessageBox(L"text", nullptr, MB_OKCANCEL));
 }
 
 }  // namespace

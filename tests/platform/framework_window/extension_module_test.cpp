@@ -29,7 +29,7 @@ TEST(ResourceChain, ProgramComesFirstThenTheExtension) {
   EXPECT_EQ(WhereIsBitmap(IDB_ONLY_IN_EXTENSION), Program()) << "found nowhere: the program's";
   {
     const Extension extension;
-    ASSERT_NE(extension.Module(), nullptr);
+    ASSERT_NE(nullptr, extension.Module());
     EXPECT_EQ(WhereIsBitmap(IDB_UP), Program());
     EXPECT_EQ(WhereIsBitmap(IDB_ONLY_IN_EXTENSION), extension.Module());
     EXPECT_EQ(WhereIsBitmap(9999), Program());
@@ -44,8 +44,8 @@ TEST(ResourceChain, BitmapsLoadThroughIt) {
   EXPECT_TRUE(bitmap.LoadBitmap(IDB_ONLY_IN_EXTENSION));
   BITMAP info;
   bitmap.GetBitmap(&info);
-  EXPECT_EQ(info.bmWidth, 8);
-  EXPECT_EQ(info.bmHeight, 6);
+  EXPECT_EQ(8, info.bmWidth);
+  EXPECT_EQ(6, info.bmHeight);
   CBitmap named;
   EXPECT_TRUE(named.LoadBitmap(L"OKU"));
 }
@@ -56,9 +56,9 @@ TEST(ResourceChain, StringsLoadThroughIt) {
   const Extension extension;
   CString text;
   EXPECT_TRUE(text.LoadString(IDS_BOTH));
-  EXPECT_EQ(text, L"of the program");
+  EXPECT_EQ(L"of the program", text);
   EXPECT_TRUE(text.LoadString(IDS_ONLY_IN_EXTENSION));
-  EXPECT_EQ(text, L"only in the extension");
+  EXPECT_EQ(L"only in the extension", text);
   EXPECT_FALSE(text.LoadString(IDS_NOWHERE));
   EXPECT_TRUE(text.IsEmpty());
 }
@@ -116,19 +116,19 @@ TEST(Menus, LoadThroughTheChainAndAnswer) {
   CMenu menu;
   ASSERT_TRUE(menu.LoadMenu(IDM_MAIN));
   EXPECT_FALSE(CMenu().LoadMenu(9999u));
-  ASSERT_EQ(menu.GetMenuItemCount(), 1u);
+  ASSERT_EQ(1u, menu.GetMenuItemCount());
   CMenu* file = menu.GetSubMenu(0);
-  ASSERT_NE(file, nullptr);
+  ASSERT_NE(nullptr, file);
   EXPECT_EQ(menu.GetSubMenu(0), file) << "one object for each handle";
-  EXPECT_EQ(file->GetMenuItemID(0), UINT{ID_FILE_OPEN_TEST});
+  EXPECT_EQ(UINT{ID_FILE_OPEN_TEST}, file->GetMenuItemID(0));
   CString text;
-  EXPECT_EQ(file->GetMenuString(0, text, MF_BYPOSITION), 5);
-  EXPECT_EQ(text, L"&Open");
+  EXPECT_EQ(5, file->GetMenuString(0, text, MF_BYPOSITION));
+  EXPECT_EQ(L"&Open", text);
   file->EnableMenuItem(ID_FILE_OPEN_TEST, MF_BYCOMMAND | MF_GRAYED);
   EXPECT_TRUE(file->GetMenuState(ID_FILE_OPEN_TEST, MF_BYCOMMAND) & MF_GRAYED);
-  EXPECT_EQ(file->CheckMenuItem(ID_FILE_OPEN_TEST, MF_BYCOMMAND | MF_CHECKED), UINT{MF_UNCHECKED});
+  EXPECT_EQ(UINT{MF_UNCHECKED}, file->CheckMenuItem(ID_FILE_OPEN_TEST, MF_BYCOMMAND | MF_CHECKED));
   EXPECT_TRUE(file->GetMenuState(ID_FILE_OPEN_TEST, MF_BYCOMMAND) & MF_CHECKED);
-  EXPECT_EQ(file->EnableMenuItem(1, MF_BYCOMMAND), UINT(-1)) << "no such item";
+  EXPECT_EQ(UINT(-1), file->EnableMenuItem(1, MF_BYCOMMAND)) << "no such item";
 }
 
 TEST(Menus, HandleDiesWithItsOwner) {
@@ -137,12 +137,12 @@ TEST(Menus, HandleDiesWithItsOwner) {
     CMenu menu;
     ASSERT_TRUE(menu.CreatePopupMenu());
     EXPECT_TRUE(menu.AppendMenu(MF_STRING, 5, L"five"));
-    EXPECT_EQ(menu.GetMenuItemID(0), 5u);
+    EXPECT_EQ(5u, menu.GetMenuItemID(0));
     handle = menu.m_hMenu;
     EXPECT_EQ(CMenu::FromHandle(handle), &menu);
   }
   EXPECT_FALSE(::IsMenu(handle));
-  EXPECT_EQ(CMenu::FromHandle(nullptr), nullptr);
+  EXPECT_EQ(nullptr, CMenu::FromHandle(nullptr));
 }
 
 }  // namespace

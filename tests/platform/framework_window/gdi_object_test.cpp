@@ -43,7 +43,7 @@ TYPED_TEST(Selectable, HandleDiesWithItsOwner) {
     TypeParam object;
     ASSERT_TRUE(Maker<TypeParam>::Make(object));
     handle = object.m_hObject;
-    EXPECT_EQ(object.GetObjectType(), Maker<TypeParam>::kType);
+    EXPECT_EQ(Maker<TypeParam>::kType, object.GetObjectType());
     EXPECT_EQ(CGdiObject::FromHandle(handle), &object);
   }
   EXPECT_FALSE(IsAlive(handle));
@@ -55,7 +55,7 @@ TYPED_TEST(Selectable, DetachedHandleOutlivesTheObject) {
     TypeParam object;
     ASSERT_TRUE(Maker<TypeParam>::Make(object));
     handle = object.Detach();
-    EXPECT_EQ(object.m_hObject, nullptr);
+    EXPECT_EQ(nullptr, object.m_hObject);
     EXPECT_FALSE(object.DeleteObject());
   }
   EXPECT_TRUE(IsAlive(handle));
@@ -73,7 +73,7 @@ TYPED_TEST(Selectable, SelectReturnsTheObjectBefore) {
   ASSERT_TRUE(Maker<TypeParam>::Make(first));
   ASSERT_TRUE(Maker<TypeParam>::Make(second));
   TypeParam* original = dc.SelectObject(&first);
-  ASSERT_NE(original, nullptr);
+  ASSERT_NE(nullptr, original);
   EXPECT_EQ(dc.SelectObject(&second), &first);
   EXPECT_EQ(dc.SelectObject(original), &second);
   EXPECT_TRUE(first.DeleteObject());
@@ -87,7 +87,7 @@ TYPED_TEST(Selectable, TemporaryObjectIsOneForEachHandleAndOwnsNothing) {
   ASSERT_TRUE(Maker<TypeParam>::Make(object));
   const HGDIOBJ original = ::GetCurrentObject(dc, Maker<TypeParam>::kType);
   TypeParam* temporary = dc.SelectObject(&object);
-  EXPECT_EQ(temporary->m_hObject, original);
+  EXPECT_EQ(original, temporary->m_hObject);
   dc.SelectObject(temporary);
   EXPECT_EQ(dc.SelectObject(&object), temporary) << "the same object for the same handle";
   dc.SelectObject(temporary);
@@ -123,20 +123,20 @@ TYPED_TEST(Selectable, ScopedSelectPutsTheOldOneBack) {
     }
     EXPECT_EQ(::GetCurrentObject(dc, Maker<TypeParam>::kType), outer.m_hObject);
   }
-  EXPECT_EQ(::GetCurrentObject(dc, Maker<TypeParam>::kType), original);
+  EXPECT_EQ(original, ::GetCurrentObject(dc, Maker<TypeParam>::kType));
 }
 
 TEST(GdiObjects, DescribeThemselves) {
   CPen pen(PS_DASH, 1, RGB(9, 8, 7));
   LOGPEN logPen;
-  ASSERT_NE(pen.GetLogPen(&logPen), 0);
-  EXPECT_EQ(logPen.lopnColor, RGB(9, 8, 7));
-  EXPECT_EQ(logPen.lopnStyle, UINT{PS_DASH});
+  ASSERT_NE(0, pen.GetLogPen(&logPen));
+  EXPECT_EQ(RGB(9, 8, 7), logPen.lopnColor);
+  EXPECT_EQ(UINT{PS_DASH}, logPen.lopnStyle);
 
   CBrush brush(RGB(1, 1, 2));
   LOGBRUSH logBrush;
-  ASSERT_NE(brush.GetLogBrush(&logBrush), 0);
-  EXPECT_EQ(logBrush.lbColor, RGB(1, 1, 2));
+  ASSERT_NE(0, brush.GetLogBrush(&logBrush));
+  EXPECT_EQ(RGB(1, 1, 2), logBrush.lbColor);
 
   LOGFONTW wanted = {};
   wanted.lfHeight = -17;
@@ -145,16 +145,16 @@ TEST(GdiObjects, DescribeThemselves) {
   CFont font;
   ASSERT_TRUE(font.CreateFontIndirect(&wanted));
   LOGFONTW got;
-  ASSERT_NE(font.GetLogFont(&got), 0);
-  EXPECT_EQ(got.lfHeight, -17);
-  EXPECT_STREQ(got.lfFaceName, L"ＭＳ ゴシック");
+  ASSERT_NE(0, font.GetLogFont(&got));
+  EXPECT_EQ(-17, got.lfHeight);
+  EXPECT_STREQ(L"ＭＳ ゴシック", got.lfFaceName);
 
   CBitmap bitmap;
   ASSERT_TRUE(bitmap.CreateBitmap(7, 5, 1, 1, nullptr));
   BITMAP info;
-  ASSERT_NE(bitmap.GetBitmap(&info), 0);
-  EXPECT_EQ(info.bmWidth, 7);
-  EXPECT_EQ(info.bmHeight, 5);
+  ASSERT_NE(0, bitmap.GetBitmap(&info));
+  EXPECT_EQ(7, info.bmWidth);
+  EXPECT_EQ(5, info.bmHeight);
 }
 
 TEST(GdiObjects, PointFontFollowsTheDevice) {
@@ -187,7 +187,7 @@ void ExpectNothingStandsForStock(int index) {
     EXPECT_EQ(stock, ::GetStockObject(index));
     EXPECT_NE(T::FromHandle(holder), &holder) << index;
     EXPECT_TRUE(holder.DeleteObject()) << "harmless";
-    EXPECT_EQ(holder.m_hObject, nullptr);
+    EXPECT_EQ(nullptr, holder.m_hObject);
     T deleted_by_its_end;
     ASSERT_TRUE(deleted_by_its_end.Attach(stock));
   }
@@ -241,10 +241,10 @@ TEST(GdiObjects, RegionsCombine) {
   ASSERT_TRUE(left.CreateRectRgn(0, 0, 10, 10));
   ASSERT_TRUE(right.CreateRectRgn(5, 0, 20, 10));
   ASSERT_TRUE(both.CreateRectRgn(0, 0, 0, 0));
-  EXPECT_EQ(both.CombineRgn(&left, &right, RGN_AND), SIMPLEREGION);
+  EXPECT_EQ(SIMPLEREGION, both.CombineRgn(&left, &right, RGN_AND));
   CRect box;
   both.GetRgnBox(box);
-  EXPECT_EQ(box, CRect(5, 0, 10, 10));
+  EXPECT_EQ(CRect(5, 0, 10, 10), box);
   EXPECT_TRUE(both.PtInRegion(CPoint(5, 5)));
   EXPECT_FALSE(both.PtInRegion(CPoint(4, 5)));
 }

@@ -10,13 +10,13 @@ namespace {
 using test::MakePlainWindow;
 
 TEST(WindowFromHandle, NullOnlyForANullHandle) {
-  EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
+  EXPECT_EQ(nullptr, CWnd::FromHandle(nullptr));
   const HWND plain = MakePlainWindow();
   CWnd* temporary = CWnd::FromHandle(plain);
-  ASSERT_NE(temporary, nullptr);
-  EXPECT_EQ(temporary->m_hWnd, plain);
+  ASSERT_NE(nullptr, temporary);
+  EXPECT_EQ(plain, temporary->m_hWnd);
   EXPECT_EQ(CWnd::FromHandle(plain), temporary) << "one object for each handle";
-  EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
+  EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(plain));
   ::DestroyWindow(plain);
 }
 
@@ -40,7 +40,7 @@ TEST(WindowFromHandle, StaleObjectGivesWay) {
   CWnd current;
   current.Attach(plain);
   EXPECT_EQ(CWnd::FromHandle(plain), &current);
-  EXPECT_EQ(stale.m_hWnd, nullptr);
+  EXPECT_EQ(nullptr, stale.m_hWnd);
   EXPECT_TRUE(current.DestroyWindow());
 }
 
@@ -71,7 +71,7 @@ TEST(TemporaryObjects, LiveOnesStayWhereTheyAre) {
   Thing* first = map.Get(1);
   for (int handle = 2; handle <= 1000; ++handle) map.Get(handle);
   EXPECT_EQ(map.Get(1), first);
-  EXPECT_EQ(map.Size(), 1000u);
+  EXPECT_EQ(1000u, map.Size());
 }
 
 TEST(PermanentObjects, OnlyTheHolderLeaves) {
@@ -79,12 +79,12 @@ TEST(PermanentObjects, OnlyTheHolderLeaves) {
   Thing a, b;
   map.Set(5, &a);
   EXPECT_EQ(map.Find(5), &a);
-  EXPECT_EQ(map.Find(6), nullptr);
+  EXPECT_EQ(nullptr, map.Find(6));
   map.Set(5, &b);
   map.Remove(5, &a);
   EXPECT_EQ(map.Find(5), &b);
   map.Remove(5, &b);
-  EXPECT_EQ(map.Find(5), nullptr);
+  EXPECT_EQ(nullptr, map.Find(5));
 }
 
 }  // namespace

@@ -148,8 +148,8 @@ TEST(MessageMap, HandlersGetTheMessageTakenApart) {
       {registeredMessage, 0, 0, L"registered", 5},
   };
   for (const Row& row : rows) {
-    EXPECT_EQ(window.Send(row.message, row.wParam, row.lParam), row.call) << row.message;
-    EXPECT_EQ(window.answer, row.answer) << row.call;
+    EXPECT_EQ(row.call, window.Send(row.message, row.wParam, row.lParam)) << row.message;
+    EXPECT_EQ(row.answer, window.answer) << row.call;
   }
   ::DestroyMenu(reinterpret_cast<HMENU>(menu));
   ::ReleaseDC(window.m_hWnd, reinterpret_cast<HDC>(dc));
@@ -181,13 +181,13 @@ END_MESSAGE_MAP()
 TEST(MessageMap, NearestClassWinsAndBasesAnswerTheRest) {
   Derived window;
   window.Make();
-  EXPECT_EQ(window.Send(WM_LBUTTONUP), L"derived up");
-  EXPECT_EQ(window.Send(WM_LBUTTONDOWN), L"down 0 0,0");
-  EXPECT_EQ(window.Send(WM_MOUSEMOVE), L"move 0 0,0");
-  EXPECT_EQ(window.log.size(), 2u) << "the derived handler called the base's";
+  EXPECT_EQ(L"derived up", window.Send(WM_LBUTTONUP));
+  EXPECT_EQ(L"down 0 0,0", window.Send(WM_LBUTTONDOWN));
+  EXPECT_EQ(L"move 0 0,0", window.Send(WM_MOUSEMOVE));
+  EXPECT_EQ(2u, window.log.size()) << "the derived handler called the base's";
   BelowBetween below;
   below.Make();
-  EXPECT_EQ(below.Send(WM_LBUTTONUP), L"up 0 0,0");
+  EXPECT_EQ(L"up 0 0,0", below.Send(WM_LBUTTONUP));
 }
 
 // An inherited handler may be named without being written.
@@ -206,7 +206,7 @@ TEST(MessageMap, HandlersOfCWndPassTheMessageOn) {
   NamesInherited window;
   ASSERT_TRUE(window.CreateEx(0, nullptr, L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
   window.SendMessage(WM_CLOSE);
-  EXPECT_EQ(window.m_hWnd, nullptr) << "the default of WM_CLOSE destroys";
+  EXPECT_EQ(nullptr, window.m_hWnd) << "the default of WM_CLOSE destroys";
 }
 
 // ---- Commands
@@ -268,8 +268,8 @@ TEST(Commands, ReachTheirHandlerByIdAndCode) {
   };
   for (const Row& row : rows) {
     window.log.clear();
-    EXPECT_EQ(window.SendMessage(WM_COMMAND, row.wParam, row.lParam), row.answer) << row.wParam;
-    EXPECT_EQ(window.log.empty() ? L"" : window.log.back(), row.call) << row.wParam;
+    EXPECT_EQ(row.answer, window.SendMessage(WM_COMMAND, row.wParam, row.lParam)) << row.wParam;
+    EXPECT_EQ(row.call, window.log.empty() ? L"" : window.log.back()) << row.wParam;
   }
 }
 
@@ -277,11 +277,11 @@ TEST(Commands, NotificationsCarryTheirAnswer) {
   CommandWindow window;
   ASSERT_TRUE(window.Make());
   NMHDR click = {nullptr, 60, static_cast<UINT>(NM_CLICK)};
-  EXPECT_EQ(window.SendMessage(WM_NOTIFY, 60, reinterpret_cast<LPARAM>(&click)), 31);
-  EXPECT_EQ(window.log, std::vector<std::wstring>{L"notify 60"});
+  EXPECT_EQ(31, window.SendMessage(WM_NOTIFY, 60, reinterpret_cast<LPARAM>(&click)));
+  EXPECT_EQ(std::vector<std::wstring>{L"notify 60"}, window.log);
   click.code = static_cast<UINT>(NM_DBLCLK);
-  EXPECT_EQ(window.SendMessage(WM_NOTIFY, 60, reinterpret_cast<LPARAM>(&click)), 0);
-  EXPECT_EQ(window.SendMessage(WM_NOTIFY, 60, 0), 0) << "no header";
+  EXPECT_EQ(0, window.SendMessage(WM_NOTIFY, 60, reinterpret_cast<LPARAM>(&click)));
+  EXPECT_EQ(0, window.SendMessage(WM_NOTIFY, 60, 0)) << "no header";
 }
 
 TEST(Commands, AskingForTheHandlerCallsNothing) {
@@ -330,7 +330,7 @@ TEST(Commands, ControlMayAnswerItsOwnNotification) {
   ReflectingButton button;
   ASSERT_TRUE(button.Create(L"", 0, CRect(0, 0, 20, 20), &parent, 40));
   button.SendMessage(BM_CLICK);
-  EXPECT_EQ(button.clicks, 1);
+  EXPECT_EQ(1, button.clicks);
   EXPECT_TRUE(parent.log.empty());
 }
 

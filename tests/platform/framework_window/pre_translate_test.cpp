@@ -58,18 +58,18 @@ TEST(PreTranslation, GoesUpUntilOneHandles) {
   for (const Row& row : rows) {
     Family family(row.top, row.child, row.grandchild);
     BOOL handled = FALSE;
-    EXPECT_EQ(Walk(family.grandchild.m_hWnd, &handled), row.walk);
-    EXPECT_EQ(handled, row.handled);
-    EXPECT_EQ(Walk(family.plain, &handled), row.walkFromPlain);
+    EXPECT_EQ(row.walk, Walk(family.grandchild.m_hWnd, &handled));
+    EXPECT_EQ(row.handled, handled);
+    EXPECT_EQ(row.walkFromPlain, Walk(family.plain, &handled));
   }
 }
 
 TEST(PreTranslation, MessagesWithoutWindowAndForeignWindowsPass) {
   BOOL handled = TRUE;
-  EXPECT_EQ(Walk(nullptr, &handled), "");
+  EXPECT_EQ("", Walk(nullptr, &handled));
   EXPECT_FALSE(handled);
   const HWND plain = MakePlainWindow();
-  EXPECT_EQ(Walk(plain, &handled), "");
+  EXPECT_EQ("", Walk(plain, &handled));
   EXPECT_FALSE(handled);
   ::DestroyWindow(plain);
 }
@@ -88,7 +88,7 @@ TEST(PreTranslation, PlainLoopDoesNotDispatchWhatWasHandled) {
   window.PostMessage(WM_KEYDOWN, 'A', 1);
   window.PostMessage(WM_KEYUP, 'A', 1);
   ASSERT_TRUE(test::PumpUntil([&] { return window.keys > 0; }));
-  EXPECT_EQ(window.keys, 1) << "only the one that was not handled";
+  EXPECT_EQ(1, window.keys) << "only the one that was not handled";
 }
 
 TEST(PreTranslation, ApplicationDecidesWhereThereIsOne) {
@@ -102,15 +102,15 @@ TEST(PreTranslation, ApplicationDecidesWhereThereIsOne) {
   Family family(false, false, false);
   app.m_pMainWnd = &family.top;
   BOOL handled = FALSE;
-  EXPECT_EQ(Walk(family.grandchild.m_hWnd, &handled), "agct");
+  EXPECT_EQ("agct", Walk(family.grandchild.m_hWnd, &handled));
 
   // A window that the main window neither holds nor owns lets the main window's keys work too.
   Listener beside('b');
   beside.CreateEx(0, nullptr, L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr);
-  EXPECT_EQ(Walk(beside.m_hWnd, &handled), "abt");
+  EXPECT_EQ("abt", Walk(beside.m_hWnd, &handled));
   Listener owned('o');
   owned.CreateEx(0, nullptr, L"", WS_POPUP, 0, 0, 9, 9, family.top.m_hWnd, nullptr);
-  EXPECT_EQ(Walk(owned.m_hWnd, &handled), "aot") << "once, by way of the owner";
+  EXPECT_EQ("aot", Walk(owned.m_hWnd, &handled)) << "once, by way of the owner";
   app.m_pMainWnd = nullptr;
 }
 

@@ -44,22 +44,22 @@ TEST(WindowCreation, ChildHasItsStylePlaceIdAndText) {
   ASSERT_TRUE(child.Create(nullptr, L"text", WS_BORDER, kRect, &parent, 17));
   EXPECT_TRUE(child.GetStyle() & WS_CHILD);
   EXPECT_TRUE(child.GetStyle() & WS_BORDER);
-  EXPECT_EQ(child.GetDlgCtrlID(), 17);
+  EXPECT_EQ(17, child.GetDlgCtrlID());
   EXPECT_EQ(child.GetParent(), &parent);
   CRect rect;
   child.GetWindowRect(rect);
   parent.ScreenToClient(rect);
-  EXPECT_EQ(rect, CRect(kRect));
+  EXPECT_EQ(CRect(kRect), rect);
   CString text;
   child.GetWindowText(text);
-  EXPECT_EQ(text, L"text");
+  EXPECT_EQ(L"text", text);
 }
 
 TEST(WindowCreation, FirstMessageReachesTheObjectWithItsHandle) {
   LoggingWindow window;
   ASSERT_TRUE(window.CreateEx(0, nullptr, L"", WS_POPUP, kRect, nullptr, 0));
   ASSERT_FALSE(window.messages.empty());
-  EXPECT_EQ(window.subclassed, 1);
+  EXPECT_EQ(1, window.subclassed);
   EXPECT_EQ(window.handleWhenSubclassed, window.m_hWnd);
   EXPECT_NE(std::find(window.messages.begin(), window.messages.end(), WM_NCCREATE),
             window.messages.end());
@@ -74,14 +74,14 @@ TEST(WindowCreation, SystemClassIsSubclassedFromTheStart) {
   edit.SendMessage(WM_CHAR, L'x', 1);
   CString text;
   edit.GetWindowText(text);
-  EXPECT_EQ(text, L"x") << "the edit's own procedure still works";
+  EXPECT_EQ(L"x", text) << "the edit's own procedure still works";
 }
 
 TEST(WindowCreation, UnknownClassFailsAndTellsTheObject) {
   LoggingWindow window;
   EXPECT_FALSE(window.CreateEx(0, L"no such class", L"", WS_POPUP, kRect, nullptr, 0));
-  EXPECT_EQ(window.m_hWnd, nullptr);
-  EXPECT_EQ(window.gone, 1);
+  EXPECT_EQ(nullptr, window.m_hWnd);
+  EXPECT_EQ(1, window.gone);
 }
 
 class RefusingWindow : public LoggingWindow {
@@ -92,7 +92,7 @@ class RefusingWindow : public LoggingWindow {
 TEST(WindowCreation, PreCreateWindowMayRefuse) {
   RefusingWindow window;
   EXPECT_FALSE(window.CreateEx(0, nullptr, L"", WS_POPUP, kRect, nullptr, 0));
-  EXPECT_EQ(window.gone, 1);
+  EXPECT_EQ(1, window.gone);
 }
 
 class FailingCreate : public LoggingWindow {
@@ -107,8 +107,8 @@ END_MESSAGE_MAP()
 TEST(WindowCreation, OnCreateMayRefuseAndTheObjectIsTold) {
   FailingCreate window;
   EXPECT_FALSE(window.CreateEx(0, nullptr, L"", WS_POPUP, kRect, nullptr, 0));
-  EXPECT_EQ(window.m_hWnd, nullptr);
-  EXPECT_EQ(window.gone, 1);
+  EXPECT_EQ(nullptr, window.m_hWnd);
+  EXPECT_EQ(1, window.gone);
 }
 
 class WindowThatMakesAChild : public CWnd {
@@ -150,11 +150,11 @@ TEST(WindowEnd, ObjectEmptiesAndIsToldOnce) {
     ASSERT_TRUE(child.Create(L"BUTTON", L"", 0, kRect, &parent, 1));
     const HWND handle = child.m_hWnd;
     row.end(child, parent);
-    EXPECT_EQ(child.m_hWnd, nullptr) << row.name;
-    EXPECT_EQ(child.gone, 1) << row.name;
-    EXPECT_EQ(child.handleWhenGone, nullptr) << row.name;
+    EXPECT_EQ(nullptr, child.m_hWnd) << row.name;
+    EXPECT_EQ(1, child.gone) << row.name;
+    EXPECT_EQ(nullptr, child.handleWhenGone) << row.name;
     EXPECT_FALSE(::IsWindow(handle)) << row.name;
-    EXPECT_EQ(CWnd::FromHandlePermanent(handle), nullptr) << row.name;
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(handle)) << row.name;
     EXPECT_FALSE(child.DestroyWindow()) << row.name << ": nothing is left to destroy";
   }
 }
@@ -182,9 +182,9 @@ class SelfDeleting : public CWnd {
 TEST(WindowEnd, ObjectMayDeleteItself) {
   auto* window = new SelfDeleting;
   ASSERT_TRUE(window->CreateEx(0, nullptr, L"", WS_POPUP, kRect, nullptr, 0));
-  EXPECT_EQ(SelfDeleting::alive, 1);
+  EXPECT_EQ(1, SelfDeleting::alive);
   EXPECT_TRUE(window->DestroyWindow());
-  EXPECT_EQ(SelfDeleting::alive, 0);
+  EXPECT_EQ(0, SelfDeleting::alive);
 }
 
 class DeletesItselfEarly : public CWnd {
@@ -207,7 +207,7 @@ TEST(WindowEnd, ObjectMayDeleteItselfInItsLastHandler) {
   auto* window = new DeletesItselfEarly;
   ASSERT_TRUE(window->CreateEx(0, nullptr, L"", WS_POPUP, kRect, nullptr, 0));
   ::DestroyWindow(window->m_hWnd);
-  EXPECT_EQ(DeletesItselfEarly::alive, 0);
+  EXPECT_EQ(0, DeletesItselfEarly::alive);
 }
 
 TEST(WindowEnd, WindowCanBeMadeAgain) {
@@ -217,7 +217,7 @@ TEST(WindowEnd, WindowCanBeMadeAgain) {
     EXPECT_EQ(CWnd::FromHandle(window.m_hWnd), &window);
     EXPECT_TRUE(window.DestroyWindow());
   }
-  EXPECT_EQ(window.gone, 3);
+  EXPECT_EQ(3, window.gone);
 }
 
 TEST(WindowAttach, AttachedHandleIsGivenBack) {
@@ -226,9 +226,9 @@ TEST(WindowAttach, AttachedHandleIsGivenBack) {
   EXPECT_FALSE(window.Attach(nullptr));
   ASSERT_TRUE(window.Attach(plain));
   EXPECT_EQ(CWnd::FromHandlePermanent(plain), &window);
-  EXPECT_EQ(window.Detach(), plain);
-  EXPECT_EQ(window.m_hWnd, nullptr);
-  EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
+  EXPECT_EQ(plain, window.Detach());
+  EXPECT_EQ(nullptr, window.m_hWnd);
+  EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(plain));
   EXPECT_TRUE(::IsWindow(plain));
   ::DestroyWindow(plain);
 }
@@ -237,7 +237,7 @@ TEST(WindowAttach, DestroyWindowEmptiesAnAttachedObject) {
   CWnd window;
   ASSERT_TRUE(window.Attach(MakePlainWindow()));
   EXPECT_TRUE(window.DestroyWindow());
-  EXPECT_EQ(window.m_hWnd, nullptr);
+  EXPECT_EQ(nullptr, window.m_hWnd);
 }
 
 TEST(WindowSubclass, OldProcedureComesBack) {
@@ -248,14 +248,14 @@ TEST(WindowSubclass, OldProcedureComesBack) {
   ASSERT_TRUE(window.SubclassWindow(plain));
   EXPECT_NE(::GetWindowLongPtrW(plain, GWLP_WNDPROC), procedure);
   ::SendMessageW(plain, WM_CHAR, L'a', 1);
-  EXPECT_EQ(window.messages, std::vector<UINT>{WM_CHAR});
-  EXPECT_EQ(window.UnsubclassWindow(), plain);
+  EXPECT_EQ(std::vector<UINT>{WM_CHAR}, window.messages);
+  EXPECT_EQ(plain, window.UnsubclassWindow());
   EXPECT_EQ(::GetWindowLongPtrW(plain, GWLP_WNDPROC), procedure);
   ::SendMessageW(plain, WM_CHAR, L'b', 1);
-  EXPECT_EQ(window.messages.size(), 1u);
+  EXPECT_EQ(1u, window.messages.size());
   wchar_t text[16] = {};
   ::GetWindowTextW(plain, text, 16);
-  EXPECT_STREQ(text, L"abplain");
+  EXPECT_STREQ(L"abplain", text);
   ::DestroyWindow(plain);
 }
 
@@ -299,17 +299,17 @@ TEST(WindowProcedure, ExceptionOfAHandlerStaysInside) {
 
 TEST(WindowClass, OneForEachCombination) {
   const LPCWSTR plain = AfxRegisterWndClass(CS_DBLCLKS);
-  EXPECT_STREQ(AfxRegisterWndClass(CS_DBLCLKS), plain);
+  EXPECT_STREQ(plain, AfxRegisterWndClass(CS_DBLCLKS));
   const HCURSOR arrow = ::LoadCursorW(nullptr, IDC_ARROW);
   const LPCWSTR withCursor = AfxRegisterWndClass(CS_DBLCLKS, arrow);
   EXPECT_STRNE(withCursor, plain);
   EXPECT_STRNE(AfxRegisterWndClass(CS_HREDRAW), plain);
   WNDCLASSW info;
   ASSERT_TRUE(::GetClassInfoW(AfxGetInstanceHandle(), plain, &info));
-  EXPECT_EQ(info.hCursor, nullptr);
-  EXPECT_EQ(info.hbrBackground, nullptr);
-  EXPECT_EQ(info.hIcon, nullptr);
-  EXPECT_EQ(info.style, UINT{CS_DBLCLKS});
+  EXPECT_EQ(nullptr, info.hCursor);
+  EXPECT_EQ(nullptr, info.hbrBackground);
+  EXPECT_EQ(nullptr, info.hIcon);
+  EXPECT_EQ(UINT{CS_DBLCLKS}, info.style);
   ASSERT_TRUE(::GetClassInfoW(AfxGetInstanceHandle(), withCursor, &info));
   EXPECT_EQ(info.hCursor, arrow);
 }
@@ -346,7 +346,7 @@ TEST(WindowState, VisibleEnabledAndPlaced) {
   window.MoveWindow(CRect(5, 6, 65, 46));
   CRect rect;
   window.GetWindowRect(rect);
-  EXPECT_EQ(rect, CRect(5, 6, 65, 46));
+  EXPECT_EQ(CRect(5, 6, 65, 46), rect);
   EXPECT_TRUE(window.SetWindowPos(&CWnd::wndTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));
   EXPECT_TRUE(window.GetExStyle() & WS_EX_TOPMOST);
   EXPECT_EQ(CWnd::GetDesktopWindow()->m_hWnd, ::GetDesktopWindow());
@@ -373,22 +373,22 @@ TEST(DialogItems, TextNumbersAndChecks) {
   ASSERT_TRUE(second.Create(L"BUTTON", L"", BS_AUTORADIOBUTTON, kRect, &parent, 3));
   parent.SetDlgItemText(1, L"測点");
   CString text;
-  EXPECT_EQ(parent.GetDlgItemText(1, text), 2);
-  EXPECT_EQ(text, L"測点");
-  EXPECT_EQ(parent.GetDlgItemText(99, text), 0);
+  EXPECT_EQ(2, parent.GetDlgItemText(1, text));
+  EXPECT_EQ(L"測点", text);
+  EXPECT_EQ(0, parent.GetDlgItemText(99, text));
   EXPECT_TRUE(text.IsEmpty());
   parent.SetDlgItemInt(1, static_cast<UINT>(-12));
-  EXPECT_EQ(static_cast<int>(parent.GetDlgItemInt(1)), -12);
+  EXPECT_EQ(-12, static_cast<int>(parent.GetDlgItemInt(1)));
   parent.CheckRadioButton(2, 3, 3);
-  EXPECT_EQ(parent.IsDlgButtonChecked(2), UINT{BST_UNCHECKED});
-  EXPECT_EQ(parent.GetCheckedRadioButton(2, 3), 3);
+  EXPECT_EQ(UINT{BST_UNCHECKED}, parent.IsDlgButtonChecked(2));
+  EXPECT_EQ(3, parent.GetCheckedRadioButton(2, 3));
   parent.CheckDlgButton(2, BST_CHECKED);
-  EXPECT_EQ(parent.IsDlgButtonChecked(2), UINT{BST_CHECKED});
+  EXPECT_EQ(UINT{BST_CHECKED}, parent.IsDlgButtonChecked(2));
   HWND handle = nullptr;
   parent.GetDlgItem(1, &handle);
   EXPECT_EQ(handle, edit.m_hWnd);
-  EXPECT_EQ(parent.GetDlgItem(77), nullptr);
-  EXPECT_EQ(parent.SendDlgItemMessage(1, WM_GETTEXTLENGTH), 3);
+  EXPECT_EQ(nullptr, parent.GetDlgItem(77));
+  EXPECT_EQ(3, parent.SendDlgItemMessage(1, WM_GETTEXTLENGTH));
 }
 
 }  // namespace

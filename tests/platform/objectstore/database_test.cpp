@@ -13,22 +13,22 @@ TEST_P(DatabaseTest, NamesAreCutTo31Characters) {
   for (const std::size_t length : {32U, 33U, 300U}) {
     const std::u16string name(length, u'a');
     const ObjectId id = Store().CreateDatabase(name, 0, {}).value;
-    ASSERT_NE(id, 0U);
+    ASSERT_NE(0U, id);
     EXPECT_EQ(Store().Info(id).value.database.Name(), longest);
     EXPECT_EQ(Store().FindDatabase(name).value, id);
     EXPECT_EQ(Store().FindDatabase(longest).value, id);
-    EXPECT_EQ(Store().CreateDatabase(longest + u"b", 0, {}).error, StoreError::kDuplicateName);
-    EXPECT_EQ(Store().DeleteDatabase(id), StoreError::kNone);
+    EXPECT_EQ(StoreError::kDuplicateName, Store().CreateDatabase(longest + u"b", 0, {}).error);
+    EXPECT_EQ(StoreError::kNone, Store().DeleteDatabase(id));
   }
 }
 
 TEST_P(DatabaseTest, NamesAreUniqueAndNotEmpty) {
-  EXPECT_EQ(Store().CreateDatabase(u"", 0, {}).error, StoreError::kInvalidParameter);
+  EXPECT_EQ(StoreError::kInvalidParameter, Store().CreateDatabase(u"", 0, {}).error);
   const ObjectId lines = Store().CreateDatabase(u"lines", 0, {}).value;
-  EXPECT_EQ(Store().CreateDatabase(u"lines", 0, {}).error, StoreError::kDuplicateName);
+  EXPECT_EQ(StoreError::kDuplicateName, Store().CreateDatabase(u"lines", 0, {}).error);
   EXPECT_TRUE(Store().CreateDatabase(u"Lines", 0, {})) << "case counts in names";
   EXPECT_EQ(Store().FindDatabase(u"lines").value, lines);
-  EXPECT_EQ(Store().FindDatabase(u"memos").error, StoreError::kNotFound);
+  EXPECT_EQ(StoreError::kNotFound, Store().FindDatabase(u"memos").error);
 }
 
 TEST_P(DatabaseTest, InfoTellsWhatADatabaseIs) {
@@ -42,17 +42,17 @@ TEST_P(DatabaseTest, InfoTellsWhatADatabaseIs) {
   const ObjectId record = AddKey(handle, 1);
   const ObjectInfo info = Store().Info(database_).value;
   EXPECT_TRUE(info.is_database);
-  EXPECT_EQ(info.database.Name(), u"info");
-  EXPECT_EQ(info.database.type, 42U);
-  EXPECT_EQ(info.database.record_count, 1U);
-  ASSERT_EQ(info.database.Orders().size(), 2U);
+  EXPECT_EQ(u"info", info.database.Name());
+  EXPECT_EQ(42U, info.database.type);
+  EXPECT_EQ(1U, info.database.record_count);
+  ASSERT_EQ(2U, info.database.Orders().size());
   EXPECT_TRUE(info.database.Orders()[0].descending);
   EXPECT_EQ(info.database.Orders()[1].property, orders[1].property);
   EXPECT_TRUE(info.database.Orders()[1].unknown_first);
   EXPECT_FALSE(Store().Info(record).value.is_database);
   EXPECT_EQ(Store().Info(record).value.parent, database_);
-  EXPECT_EQ(Store().Info(0).error, StoreError::kNotFound);
-  EXPECT_EQ(Store().Info(record + 1).error, StoreError::kNotFound);
+  EXPECT_EQ(StoreError::kNotFound, Store().Info(0).error);
+  EXPECT_EQ(StoreError::kNotFound, Store().Info(record + 1).error);
 }
 
 TEST_P(DatabaseTest, NameTypeAndOrdersCanChangeTogetherOrAlone) {
@@ -62,14 +62,14 @@ TEST_P(DatabaseTest, NameTypeAndOrdersCanChangeTogetherOrAlone) {
   const auto change = [this](const DatabaseChange& to) {
     return Store().ChangeDatabase(database_, to);
   };
-  EXPECT_EQ(change({.name = u"old"}), StoreError::kNone) << "its own name is free";
-  EXPECT_EQ(change({.type = 2}), StoreError::kNone);
-  EXPECT_EQ(Store().Info(database_).value.database.Name(), u"old");
-  EXPECT_EQ(change({.name = u"new", .type = 3, .orders = std::span(&order, 1)}), StoreError::kNone);
+  EXPECT_EQ(StoreError::kNone, change({.name = u"old"})) << "its own name is free";
+  EXPECT_EQ(StoreError::kNone, change({.type = 2}));
+  EXPECT_EQ(u"old", Store().Info(database_).value.database.Name());
+  EXPECT_EQ(StoreError::kNone, change({.name = u"new", .type = 3, .orders = std::span(&order, 1)}));
   EXPECT_EQ(Store().FindDatabase(u"new").value, database_);
-  EXPECT_EQ(Store().FindDatabase(u"old").error, StoreError::kNotFound);
-  EXPECT_EQ(Store().Info(database_).value.database.type, 3U);
-  EXPECT_EQ(Store().Info(database_).value.database.Orders().size(), 1U);
+  EXPECT_EQ(StoreError::kNotFound, Store().FindDatabase(u"old").error);
+  EXPECT_EQ(3U, Store().Info(database_).value.database.type);
+  EXPECT_EQ(1U, Store().Info(database_).value.database.Orders().size());
 }
 
 TEST_P(DatabaseTest, AChangeThatFailsChangesNothing) {
@@ -87,35 +87,35 @@ TEST_P(DatabaseTest, AChangeThatFailsChangesNothing) {
         Row{{.name = u"", .type = 2}, StoreError::kInvalidParameter},
         Row{{.name = u"new", .orders = std::span(&blob, 1)}, StoreError::kInvalidParameter},
         Row{{.name = u"new", .orders = std::span(&order, 1)}, StoreError::kInUse}}) {
-    EXPECT_EQ(Store().ChangeDatabase(database_, row.change), row.error);
-    EXPECT_EQ(Store().Info(database_).value.database.Name(), u"old");
-    EXPECT_EQ(Store().Info(database_).value.database.type, 1U);
+    EXPECT_EQ(row.error, Store().ChangeDatabase(database_, row.change));
+    EXPECT_EQ(u"old", Store().Info(database_).value.database.Name());
+    EXPECT_EQ(1U, Store().Info(database_).value.database.type);
     EXPECT_TRUE(Store().Info(database_).value.database.Orders().empty());
   }
-  EXPECT_EQ(Store().ChangeDatabase(AddKey(handle, 1), {.type = 2}), StoreError::kInvalidParameter);
+  EXPECT_EQ(StoreError::kInvalidParameter, Store().ChangeDatabase(AddKey(handle, 1), {.type = 2}));
 }
 
 TEST(Database, ChangesOfRecordsAreCounted) {
   MemoryStore store;
   const ObjectId database = store.CreateDatabase(u"counted", 0, {}).value;
   const auto changes = [&] { return store.Info(database).value.database.changes; };
-  EXPECT_EQ(changes(), 0U);
+  EXPECT_EQ(0U, changes());
   const StoreHandle handle = store.Open(database, kNoSort, false).value;
   const StoreHandle other = store.Open(database, kNoSort, false).value;
   const ObjectId record = store.Write(handle, 0, Values({Property::I2(1, 1)})).value;
-  EXPECT_EQ(changes(), 1U);
+  EXPECT_EQ(1U, changes());
   store.Write(other, record, Values({Property::I2(1, 2), Property::I2(2, 3)}));
-  EXPECT_EQ(changes(), 2U) << "one for a call";
+  EXPECT_EQ(2U, changes()) << "one for a call";
   store.Write(other, record, Values({Property::I2(1, 2)}));
-  EXPECT_EQ(changes(), 3U) << "of the same value, too";
+  EXPECT_EQ(3U, changes()) << "of the same value, too";
   store.Read(handle);
   store.Write(handle, 0, {});
   store.Write(handle, record + 9, Values({Property::I2(1, 1)}));
   store.DeleteRecord(handle, record + 9);
   store.ChangeDatabase(database, {.type = 2});
-  EXPECT_EQ(changes(), 3U) << "none for what changes no record";
+  EXPECT_EQ(3U, changes()) << "none for what changes no record";
   store.DeleteRecord(other, record);
-  EXPECT_EQ(changes(), 4U);
+  EXPECT_EQ(4U, changes());
 }
 
 TEST(Database, ChangesAreTimed) {
@@ -137,7 +137,7 @@ TEST(Database, ChangesAreTimed) {
   EXPECT_EQ(modified(), last);
   EXPECT_TRUE(store.Write(handle, record, Values({Property::I2(1, 2)})));
   expect_later();
-  EXPECT_EQ(store.DeleteRecord(handle, record), StoreError::kNone);
+  EXPECT_EQ(StoreError::kNone, store.DeleteRecord(handle, record));
   expect_later();
 }
 
@@ -152,23 +152,23 @@ TEST_P(DatabaseTest, AnOpenDatabaseCannotBeDeleted) {
   const StoreHandle first = Open(kNoSort);
   const StoreHandle second = Open(kNoSort);
   const ObjectId record = AddKey(first, 1);
-  EXPECT_EQ(Store().DeleteDatabase(database_), StoreError::kInUse);
-  EXPECT_EQ(Store().Close(first), StoreError::kNone);
-  EXPECT_EQ(Store().DeleteDatabase(database_), StoreError::kInUse);
+  EXPECT_EQ(StoreError::kInUse, Store().DeleteDatabase(database_));
+  EXPECT_EQ(StoreError::kNone, Store().Close(first));
+  EXPECT_EQ(StoreError::kInUse, Store().DeleteDatabase(database_));
   EXPECT_EQ(Store().Seek(second, SeekTarget::To(kBeginning), nullptr).value, record);
-  EXPECT_EQ(Store().Close(second), StoreError::kNone);
-  EXPECT_EQ(Store().DeleteDatabase(database_), StoreError::kNone);
-  EXPECT_EQ(Store().DeleteDatabase(database_), StoreError::kInvalidParameter);
-  EXPECT_EQ(Store().Open(database_, kNoSort, false).error, StoreError::kInvalidParameter);
+  EXPECT_EQ(StoreError::kNone, Store().Close(second));
+  EXPECT_EQ(StoreError::kNone, Store().DeleteDatabase(database_));
+  EXPECT_EQ(StoreError::kInvalidParameter, Store().DeleteDatabase(database_));
+  EXPECT_EQ(StoreError::kInvalidParameter, Store().Open(database_, kNoSort, false).error);
 }
 
 TEST_P(DatabaseTest, OnlyDatabasesOpenAndGo) {
   database_ = Store().CreateDatabase(u"db", 0, {}).value;
   const ObjectId record = AddKey(Open(kNoSort), 1);
-  EXPECT_EQ(Store().Open(record, kNoSort, false).error, StoreError::kInvalidParameter);
-  EXPECT_EQ(Store().DeleteDatabase(record), StoreError::kInvalidParameter);
-  EXPECT_EQ(Store().Open(database_, PropertyId(1, PropertyType::kI2), false).error,
-            StoreError::kInvalidParameter);
+  EXPECT_EQ(StoreError::kInvalidParameter, Store().Open(record, kNoSort, false).error);
+  EXPECT_EQ(StoreError::kInvalidParameter, Store().DeleteDatabase(record));
+  EXPECT_EQ(StoreError::kInvalidParameter,
+            Store().Open(database_, PropertyId(1, PropertyType::kI2), false).error);
 }
 
 TEST_P(DatabaseTest, AClosedHandleFindsNothingAlsoWhenItsPlaceIsTakenAgain) {
@@ -180,14 +180,14 @@ TEST_P(DatabaseTest, AClosedHandleFindsNothingAlsoWhenItsPlaceIsTakenAgain) {
   EXPECT_NE(young, old);
   const Property value = Property::I2(kKey, 1);
   for (const StoreHandle bad : {old, StoreHandle{0}, ~StoreHandle{0}, young ^ 0x1000U}) {
-    EXPECT_EQ(Store().Read(bad).error, StoreError::kInvalidParameter);
-    EXPECT_EQ(Store().Peek(bad).error, StoreError::kInvalidParameter);
-    EXPECT_EQ(Store().Seek(bad, SeekTarget::To(kBeginning), nullptr).error,
-              StoreError::kInvalidParameter);
-    EXPECT_EQ(Store().Write(bad, 0, {&value, 1}).error, StoreError::kInvalidParameter);
-    EXPECT_EQ(Store().DeleteRecord(bad, record), StoreError::kInvalidParameter);
-    EXPECT_EQ(Store().NextDatabase(bad).error, StoreError::kInvalidParameter);
-    EXPECT_EQ(Store().Close(bad), StoreError::kInvalidParameter);
+    EXPECT_EQ(StoreError::kInvalidParameter, Store().Read(bad).error);
+    EXPECT_EQ(StoreError::kInvalidParameter, Store().Peek(bad).error);
+    EXPECT_EQ(StoreError::kInvalidParameter,
+              Store().Seek(bad, SeekTarget::To(kBeginning), nullptr).error);
+    EXPECT_EQ(StoreError::kInvalidParameter, Store().Write(bad, 0, {&value, 1}).error);
+    EXPECT_EQ(StoreError::kInvalidParameter, Store().DeleteRecord(bad, record));
+    EXPECT_EQ(StoreError::kInvalidParameter, Store().NextDatabase(bad).error);
+    EXPECT_EQ(StoreError::kInvalidParameter, Store().Close(bad));
   }
   EXPECT_EQ(Store().Read(young).value.id, record);
 }
@@ -200,10 +200,10 @@ TEST_P(DatabaseTest, HandlesRunOutAndComeBack) {
     handles.push_back(handle.value);
     handle = Store().Open(database_, kNoSort, false);
   }
-  EXPECT_EQ(handle.error, StoreError::kTooManyOpen);
-  EXPECT_EQ(handles.size(), 4096U);
-  EXPECT_EQ(Store().OpenEnumeration(0).error, StoreError::kTooManyOpen);
-  EXPECT_EQ(Store().Close(handles.back()), StoreError::kNone);
+  EXPECT_EQ(StoreError::kTooManyOpen, handle.error);
+  EXPECT_EQ(4096U, handles.size());
+  EXPECT_EQ(StoreError::kTooManyOpen, Store().OpenEnumeration(0).error);
+  EXPECT_EQ(StoreError::kNone, Store().Close(handles.back()));
   EXPECT_TRUE(Store().OpenEnumeration(0));
 }
 
@@ -219,13 +219,13 @@ TEST_P(DatabaseTest, AnEnumerationFindsTheDatabasesOfOneTypeOrAll) {
       found.push_back(database.value);
       database = Store().NextDatabase(walk);
     }
-    EXPECT_EQ(database.error, StoreError::kNoMoreItems);
-    EXPECT_EQ(Store().Close(walk), StoreError::kNone);
+    EXPECT_EQ(StoreError::kNoMoreItems, database.error);
+    EXPECT_EQ(StoreError::kNone, Store().Close(walk));
     return found;
   };
   EXPECT_EQ(all_of(0), (std::vector{a, b, c}));
   EXPECT_EQ(all_of(7), (std::vector{a, c}));
-  EXPECT_EQ(all_of(9), std::vector<ObjectId>());
+  EXPECT_EQ(std::vector<ObjectId>(), all_of(9));
 }
 
 TEST_P(DatabaseTest, AnEnumerationEndsWhenADatabaseGoesAndSeesNewOnes) {
@@ -234,16 +234,16 @@ TEST_P(DatabaseTest, AnEnumerationEndsWhenADatabaseGoesAndSeesNewOnes) {
   EXPECT_EQ(Store().NextDatabase(walk).value, a);
   const ObjectId b = Store().CreateDatabase(u"b", 0, {}).value;
   EXPECT_EQ(Store().NextDatabase(walk).value, b);
-  EXPECT_EQ(Store().DeleteDatabase(a), StoreError::kNone);
-  EXPECT_EQ(Store().NextDatabase(walk).error, StoreError::kDeleted);
-  EXPECT_EQ(Store().NextDatabase(walk).error, StoreError::kDeleted);
+  EXPECT_EQ(StoreError::kNone, Store().DeleteDatabase(a));
+  EXPECT_EQ(StoreError::kDeleted, Store().NextDatabase(walk).error);
+  EXPECT_EQ(StoreError::kDeleted, Store().NextDatabase(walk).error);
 }
 
 TEST_P(DatabaseTest, AnEnumerationIsNoDatabase) {
   const StoreHandle walk = Store().OpenEnumeration(0).value;
-  EXPECT_EQ(Store().Read(walk).error, StoreError::kInvalidParameter);
+  EXPECT_EQ(StoreError::kInvalidParameter, Store().Read(walk).error);
   database_ = Store().CreateDatabase(u"db", 0, {}).value;
-  EXPECT_EQ(Store().NextDatabase(Open(kNoSort)).error, StoreError::kInvalidParameter);
+  EXPECT_EQ(StoreError::kInvalidParameter, Store().NextDatabase(Open(kNoSort)).error);
 }
 
 TAVIX_STORE_TESTS(DatabaseTest);

@@ -15,7 +15,7 @@ class DeleteTest : public StoreTest {
     }
   }
   void Delete(std::size_t i) {
-    EXPECT_EQ(Store().DeleteRecord(handle_, records_[i]), StoreError::kNone);
+    EXPECT_EQ(StoreError::kNone, Store().DeleteRecord(handle_, records_[i]));
   }
   ObjectId Seek(StoreHandle handle, const SeekTarget& target) {
     return Store().Seek(handle, target, nullptr).value;
@@ -31,9 +31,9 @@ class DeleteTest : public StoreTest {
 TEST_P(DeleteTest, ADeletedRecordCannotBeReadAndTheWalkGoesOnBehindIt) {
   Seek(handle_, SeekTarget::ToObject(records_[1]));
   Delete(1);
-  EXPECT_EQ(Store().Read(handle_).error, StoreError::kDeleted);
-  EXPECT_EQ(Store().Seek(handle_, SeekTarget::To(kCurrent), nullptr).error, StoreError::kDeleted);
-  EXPECT_EQ(Store().Read(handle_).error, StoreError::kDeleted);
+  EXPECT_EQ(StoreError::kDeleted, Store().Read(handle_).error);
+  EXPECT_EQ(StoreError::kDeleted, Store().Seek(handle_, SeekTarget::To(kCurrent), nullptr).error);
+  EXPECT_EQ(StoreError::kDeleted, Store().Read(handle_).error);
   EXPECT_EQ(Seek(handle_, SeekTarget::To(kCurrent, 1)), records_[2]);
 }
 
@@ -58,11 +58,11 @@ TEST_P(DeleteTest, AllEqualOnesCanBeDeletedWhileWalking) {
       Store().Seek(handle_, SeekTarget::ToValue(kFirstEqual, Property::I2(kKey, 7)), nullptr);
   int deleted = 0;
   while (record) {
-    EXPECT_EQ(Store().DeleteRecord(handle_, record.value), StoreError::kNone);
+    EXPECT_EQ(StoreError::kNone, Store().DeleteRecord(handle_, record.value));
     ++deleted;
     record = Store().Seek(handle_, SeekTarget::ToValue(kNextEqual, Property::I2(kKey, 7)), nullptr);
   }
-  EXPECT_EQ(deleted, 4);
+  EXPECT_EQ(4, deleted);
   EXPECT_EQ(Walk(handle_), (std::vector{records_[4], records_[5]}));
 }
 
@@ -73,17 +73,17 @@ TEST_P(DeleteTest, AnIncrementingHandleGoesOnByItself) {
   EXPECT_EQ(Store().Read(going).value.id, records_[5]);
   Seek(going, SeekTarget::ToObject(records_[5]));
   Delete(5);
-  EXPECT_EQ(Store().Read(going).error, StoreError::kNoMoreItems);
+  EXPECT_EQ(StoreError::kNoMoreItems, Store().Read(going).error);
 }
 
 TEST_P(DeleteTest, TheLastRecordOfTheOrderMayGo) {
   Seek(handle_, SeekTarget::ToObject(records_[5]));
   Delete(5);
-  EXPECT_EQ(Store().Read(handle_).error, StoreError::kDeleted);
+  EXPECT_EQ(StoreError::kDeleted, Store().Read(handle_).error);
   EXPECT_EQ(Seek(handle_, SeekTarget::To(kCurrent, -1)), records_[4]);
   Delete(4);
-  EXPECT_EQ(Seek(handle_, SeekTarget::To(kCurrent, 1)), 0U);
-  EXPECT_EQ(Store().Read(handle_).error, StoreError::kNoMoreItems);
+  EXPECT_EQ(0U, Seek(handle_, SeekTarget::To(kCurrent, 1)));
+  EXPECT_EQ(StoreError::kNoMoreItems, Store().Read(handle_).error);
 }
 
 TEST_P(DeleteTest, DeletesInARowKeepThePlace) {
@@ -92,7 +92,7 @@ TEST_P(DeleteTest, DeletesInARowKeepThePlace) {
   Delete(1);
   Delete(2);
   Delete(3);
-  EXPECT_EQ(Store().Read(watching).error, StoreError::kDeleted);
+  EXPECT_EQ(StoreError::kDeleted, Store().Read(watching).error);
   EXPECT_EQ(Seek(watching, SeekTarget::To(kCurrent, 1)), records_[4]);
 }
 
@@ -101,7 +101,7 @@ TEST_P(DeleteTest, OtherRecordsMayGoWithoutMovingThePointer) {
   Delete(0);
   Delete(3);
   EXPECT_EQ(Current(handle_), records_[2]);
-  EXPECT_EQ(NextSeven(handle_), 0U);
+  EXPECT_EQ(0U, NextSeven(handle_));
 }
 
 TEST_P(DeleteTest, APointerFollowsItsRecordToItsNewPlace) {
@@ -137,9 +137,9 @@ TEST_P(DeleteTest, TwoHandlesHavePointersOfTheirOwn) {
   Seek(handle_, SeekTarget::ToObject(records_[3]));
   EXPECT_EQ(Current(other), records_[0]);
   Delete(3);
-  EXPECT_EQ(Store().Read(handle_).error, StoreError::kDeleted);
+  EXPECT_EQ(StoreError::kDeleted, Store().Read(handle_).error);
   EXPECT_EQ(Current(other), records_[0]);
-  EXPECT_EQ(Store().DeleteRecord(other, records_[3]), StoreError::kInvalidParameter);
+  EXPECT_EQ(StoreError::kInvalidParameter, Store().DeleteRecord(other, records_[3]));
 }
 
 TEST_P(DeleteTest, AHandleSeesWhatAnotherAdds) {
@@ -156,13 +156,13 @@ TEST_P(DeleteTest, IdentifiersAreNeverUsedAgain) {
     const ObjectId record = AddKey(handle_, 1);
     EXPECT_GT(record, seen.back());
     seen.push_back(record);
-    EXPECT_EQ(Store().DeleteRecord(handle_, record), StoreError::kNone);
-    EXPECT_EQ(Store().Info(record).error, StoreError::kNotFound);
+    EXPECT_EQ(StoreError::kNone, Store().DeleteRecord(handle_, record));
+    EXPECT_EQ(StoreError::kNotFound, Store().Info(record).error);
   }
   Store().Close(handle_);
-  EXPECT_EQ(Store().DeleteDatabase(database_), StoreError::kNone);
+  EXPECT_EQ(StoreError::kNone, Store().DeleteDatabase(database_));
   EXPECT_GT(Store().CreateDatabase(u"test", 0, {}).value, seen.back());
-  for (const ObjectId old : records_) EXPECT_EQ(Store().Info(old).error, StoreError::kNotFound);
+  for (const ObjectId old : records_) EXPECT_EQ(StoreError::kNotFound, Store().Info(old).error);
 }
 
 TAVIX_STORE_TESTS(DeleteTest);

@@ -53,12 +53,12 @@ TEST_F(FailingStoreTest, EveryOperationFailsAloneAndDoesNotReachTheStore) {
       {Operation::kDelete, [&] { return failing.DeleteDatabase(database); }},
   };
   for (const Row& failed : rows) failing.Fail(failed.operation, StoreError::kFull);
-  for (const Row& row : rows) EXPECT_EQ(row.call(), StoreError::kFull);
-  EXPECT_EQ(memory.Info(database).value.database.record_count, 1U);
-  EXPECT_EQ(memory.FindDatabase(u"new").error, StoreError::kNotFound);
+  for (const Row& row : rows) EXPECT_EQ(StoreError::kFull, row.call());
+  EXPECT_EQ(1U, memory.Info(database).value.database.record_count);
+  EXPECT_EQ(StoreError::kNotFound, memory.FindDatabase(u"new").error);
 
   failing.Pass(Operation::kOpen);
-  EXPECT_EQ(failing.Close(failing.Open(database, kNoSort, false).value), StoreError::kFull);
+  EXPECT_EQ(StoreError::kFull, failing.Close(failing.Open(database, kNoSort, false).value));
   failing.Pass(Operation::kOpen);
   memory.Close(memory.Open(database, kNoSort, false).value);
   // One handle was left open by the failed close above.
@@ -77,9 +77,9 @@ TEST_F(FailingStoreTest, AFailureComesAfterSomeCallsAndForSomeCalls) {
   failing.Fail(Operation::kRead, StoreError::kDeleted, 2, 1);
   std::vector<bool> passed;
   for (int i = 0; i < 5; ++i) passed.push_back(static_cast<bool>(failing.Read(handle)));
-  EXPECT_EQ(passed, (std::vector{true, true, false, true, true}));
-  EXPECT_EQ(failing.Calls(Operation::kRead), 5);
-  EXPECT_EQ(failing.Calls(Operation::kWrite), 0);
+  EXPECT_EQ((std::vector{true, true, false, true, true}), passed);
+  EXPECT_EQ(5, failing.Calls(Operation::kRead));
+  EXPECT_EQ(0, failing.Calls(Operation::kWrite));
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ TEST(PrefixCounts, SumsAndFindsWhateverWasChanged) {
     }
     std::size_t before = 0;
     for (std::size_t place = 0; place < counts.size(); ++place) {
-      EXPECT_EQ(sums.SumBefore(place), before);
+      EXPECT_EQ(before, sums.SumBefore(place));
       for (std::size_t rest = 0; rest < counts[place]; ++rest) {
         const PrefixCounts::Found found = sums.Find(before + rest);
         EXPECT_EQ(found.place, place);

@@ -96,7 +96,7 @@ class Pair {
   void AddRecord(std::size_t i) {
     const ModelRecord record = RandomRecord();
     const ObjectId id = store_.Write(handles_[i], 0, Written(record)).value;
-    ASSERT_NE(id, 0U);
+    ASSERT_NE(0U, id);
     model_.records[id] = record;
     StandOn(i, id);
   }
@@ -119,7 +119,7 @@ class Pair {
   void DeleteRecord(std::size_t i) {
     if (model_.records.empty()) return;
     const ObjectId id = AnyRecord();
-    ASSERT_EQ(store_.DeleteRecord(handles_[i], id), StoreError::kNone);
+    ASSERT_EQ(StoreError::kNone, store_.DeleteRecord(handles_[i], id));
     for (ModelCursor& cursor : cursors_) {
       if (cursor.record != id) continue;
       cursor.record = Behind(cursor, id);
@@ -221,9 +221,9 @@ class Pair {
   void CheckCursor(std::size_t i) {
     const Outcome<RecordView> view = store_.Read(handles_[i]);
     if (cursors_[i].deleted) {
-      ASSERT_EQ(view.error, StoreError::kDeleted);
+      ASSERT_EQ(StoreError::kDeleted, view.error);
     } else if (!cursors_[i].record) {
-      ASSERT_EQ(view.error, StoreError::kNoMoreItems);
+      ASSERT_EQ(StoreError::kNoMoreItems, view.error);
     } else {
       ASSERT_EQ(view.value.id, *cursors_[i].record);
     }

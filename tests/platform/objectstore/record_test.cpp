@@ -32,15 +32,15 @@ TEST_P(RecordTest, EveryTypeKeepsItsExtremes) {
                     Property::String(8, u"点Ａ"), Property::Blob(9, kBytes)});
   const RecordView view = Read();
   EXPECT_EQ(view.id, record);
-  ASSERT_EQ(view.properties.size(), 9U);
-  EXPECT_EQ(view.properties[0].AsI2(), -32768);
-  EXPECT_EQ(view.properties[1].AsUI2(), 65535);
-  EXPECT_EQ(view.properties[2].AsI4(), std::numeric_limits<int>::min());
-  EXPECT_EQ(view.properties[3].AsUI4(), 0xFFFFFFFFU);
-  EXPECT_EQ(view.properties[4].AsR8(), -1.5e-300);
+  ASSERT_EQ(9U, view.properties.size());
+  EXPECT_EQ(-32768, view.properties[0].AsI2());
+  EXPECT_EQ(65535, view.properties[1].AsUI2());
+  EXPECT_EQ(std::numeric_limits<int>::min(), view.properties[2].AsI4());
+  EXPECT_EQ(0xFFFFFFFFU, view.properties[3].AsUI4());
+  EXPECT_EQ(-1.5e-300, view.properties[4].AsR8());
   EXPECT_TRUE(view.properties[5].AsBool());
-  EXPECT_EQ(view.properties[6].AsFileTime(), 0xFFFFFFFFFFFFFFFFU);
-  EXPECT_EQ(view.properties[7].AsString(), u"点Ａ");
+  EXPECT_EQ(0xFFFFFFFFFFFFFFFFU, view.properties[6].AsFileTime());
+  EXPECT_EQ(u"点Ａ", view.properties[7].AsString());
   EXPECT_TRUE(std::ranges::equal(view.properties[8].AsBytes(), kBytes));
 }
 
@@ -50,7 +50,7 @@ TEST_P(RecordTest, StringsOfEveryLengthComeBackWithAZeroBehind) {
     Add(handle_, {Property::String(1, text)});
     const std::u16string_view read = Read().properties[0].AsString();
     EXPECT_EQ(read, text);
-    EXPECT_EQ(read.data()[length], u'\0');
+    EXPECT_EQ(u'\0', read.data()[length]);
   }
 }
 
@@ -77,9 +77,9 @@ TEST_P(RecordTest, ValuesThatCannotBeAreRefusedAndLeaveNothingBehind) {
       {Property::Blob(1, most), Property::Blob(2, most), Property::Blob(3, most)},
   };
   for (const std::vector<Property>& row : rows) {
-    EXPECT_EQ(Store().Write(handle_, 0, row).error, StoreError::kInvalidParameter);
+    EXPECT_EQ(StoreError::kInvalidParameter, Store().Write(handle_, 0, row).error);
   }
-  EXPECT_EQ(Store().Info(database_).value.database.record_count, 0U);
+  EXPECT_EQ(0U, Store().Info(database_).value.database.record_count);
 }
 
 TEST_P(RecordTest, ARecordHoldsTheMostBytesAndNotOneMore) {
@@ -88,9 +88,9 @@ TEST_P(RecordTest, ARecordHoldsTheMostBytesAndNotOneMore) {
   const std::vector<std::byte> one(1);
   const ObjectId record =
       Add(handle_, {Property::Blob(1, half), Property::Blob(2, half), Property::Blob(3, rest)});
-  EXPECT_EQ(Store().Write(handle_, record, Values({Property::Blob(4, one)})).error,
-            StoreError::kInvalidParameter);
-  EXPECT_EQ(Store().Info(database_).value.database.bytes, 131072U);
+  EXPECT_EQ(StoreError::kInvalidParameter,
+            Store().Write(handle_, record, Values({Property::Blob(4, one)})).error);
+  EXPECT_EQ(131072U, Store().Info(database_).value.database.bytes);
 }
 
 TEST_P(RecordTest, AWriteSetsAddsAndRemoves) {
@@ -101,21 +101,21 @@ TEST_P(RecordTest, AWriteSetsAddsAndRemoves) {
                                     Property::Removal(PropertyId(3, PropertyType::kI2)),
                                     Property::Removal(PropertyId(9, PropertyType::kI2))})));
   const RecordView view = Read();
-  ASSERT_EQ(view.properties.size(), 3U);
-  EXPECT_EQ(view.properties[0].AsI2(), 10);
-  EXPECT_EQ(view.properties[1].AsString(), u"new");
-  EXPECT_EQ(view.properties[2].AsI4(), 40);
+  ASSERT_EQ(3U, view.properties.size());
+  EXPECT_EQ(10, view.properties[0].AsI2());
+  EXPECT_EQ(u"new", view.properties[1].AsString());
+  EXPECT_EQ(40, view.properties[2].AsI4());
 }
 
 TEST_P(RecordTest, OneTagWithTwoTypesIsTwoProperties) {
   Add(handle_, {Property::I2(1, 10), Property::String(1, u"ten")});
-  EXPECT_EQ(Read().properties.size(), 2U);
+  EXPECT_EQ(2U, Read().properties.size());
 }
 
 TEST_P(RecordTest, TheLaterOfTwoValuesCounts) {
   Add(handle_, {Property::I2(1, 10), Property::I2(1, 11)});
-  ASSERT_EQ(Read().properties.size(), 1U);
-  EXPECT_EQ(Read().properties[0].AsI2(), 11);
+  ASSERT_EQ(1U, Read().properties.size());
+  EXPECT_EQ(11, Read().properties[0].AsI2());
 }
 
 TEST_P(RecordTest, ARecordMayLoseItsLastProperty) {
@@ -133,21 +133,21 @@ TEST_P(RecordTest, ARecordMayBeWrittenFromItsOwnValues) {
     const RecordView view = Read();
     ASSERT_TRUE(Store().Write(handle_, record, view.properties));
   }
-  EXPECT_EQ(Read().properties[1].AsString(), u"more");
+  EXPECT_EQ(u"more", Read().properties[1].AsString());
 }
 
 TEST_P(RecordTest, BytesCountTheValuesThatAreThere) {
   const auto bytes = [this] { return Store().Info(database_).value.database.bytes; };
-  EXPECT_EQ(bytes(), 0U);
+  EXPECT_EQ(0U, bytes());
   const ObjectId first =
       Add(handle_, {Property::I2(1, 1), Property::I4(2, 1), Property::R8(3, 1.0)});
-  EXPECT_EQ(bytes(), 14U);
+  EXPECT_EQ(14U, bytes());
   const ObjectId second = Add(handle_, {Property::String(4, u"abc")});
-  EXPECT_EQ(bytes(), 20U);
+  EXPECT_EQ(20U, bytes());
   ASSERT_TRUE(Store().Write(handle_, second, Values({Property::String(4, u"a")})));
-  EXPECT_EQ(bytes(), 16U);
-  EXPECT_EQ(Store().DeleteRecord(handle_, first), StoreError::kNone);
-  EXPECT_EQ(bytes(), 2U);
+  EXPECT_EQ(16U, bytes());
+  EXPECT_EQ(StoreError::kNone, Store().DeleteRecord(handle_, first));
+  EXPECT_EQ(2U, bytes());
 }
 
 TAVIX_STORE_TESTS(RecordTest);

@@ -45,12 +45,12 @@ TEST_P(SeekTest, AHandleOnNothingStartsAtTheEnd) {
   handle_ = Make(kByKey);
   EXPECT_TRUE(AtEnd());
   for (const SeekTarget::Kind kind : {kBeginning, kEnd, kCurrent}) {
-    EXPECT_EQ(Seek(SeekTarget::To(kind)).error, StoreError::kNoMoreItems);
+    EXPECT_EQ(StoreError::kNoMoreItems, Seek(SeekTarget::To(kind)).error);
   }
   for (const SeekTarget::Kind kind : {kSmaller, kFirstEqual, kGreater, kNextEqual}) {
-    EXPECT_EQ(SeekKey(kind, 1).error, StoreError::kNoMoreItems);
+    EXPECT_EQ(StoreError::kNoMoreItems, SeekKey(kind, 1).error);
   }
-  EXPECT_EQ(index_, kUntouched);
+  EXPECT_EQ(kUntouched, index_);
 }
 
 TEST_P(SeekTest, ByPlaceFromEitherEnd) {
@@ -66,7 +66,7 @@ TEST_P(SeekTest, ByPlaceFromEitherEnd) {
     for (const std::int64_t offset :
          {std::int64_t{6}, std::int64_t{0xFFFFFFFF}, std::int64_t{-1}}) {
       Seek(SeekTarget::To(kBeginning));
-      EXPECT_EQ(Seek(SeekTarget::To(kind, offset)).error, StoreError::kNoMoreItems);
+      EXPECT_EQ(StoreError::kNoMoreItems, Seek(SeekTarget::To(kind, offset)).error);
       EXPECT_TRUE(AtEnd());
     }
   }
@@ -85,7 +85,7 @@ TEST_P(SeekTest, FromHereBothWays) {
     SCOPED_TRACE(testing::Message() << row.from << " " << row.step);
     EXPECT_EQ(static_cast<bool>(found), row.to != 6);
     if (found) {
-      EXPECT_EQ(index_, row.to);
+      EXPECT_EQ(row.to, index_);
     } else {
       EXPECT_TRUE(AtEnd());
     }
@@ -95,11 +95,11 @@ TEST_P(SeekTest, FromHereBothWays) {
 TEST_P(SeekTest, ByObject) {
   Fill(kByKey);
   EXPECT_EQ(Seek(SeekTarget::ToObject(twenty_[2])).value, twenty_[2]);
-  EXPECT_EQ(index_, 3U);
+  EXPECT_EQ(3U, index_);
   EXPECT_EQ(Seek(SeekTarget::ToObject(none_)).value, none_);
-  EXPECT_EQ(index_, 5U);
+  EXPECT_EQ(5U, index_);
   for (const ObjectId no_record : {ObjectId{0}, database_, ObjectId{999}, ~ObjectId{0}}) {
-    EXPECT_EQ(Seek(SeekTarget::ToObject(no_record)).error, StoreError::kInvalidParameter);
+    EXPECT_EQ(StoreError::kInvalidParameter, Seek(SeekTarget::ToObject(no_record)).error);
     EXPECT_EQ(Current(handle_), none_) << "the pointer stays";
   }
 }
@@ -109,10 +109,10 @@ TEST_P(SeekTest, RecordsOfOtherDatabasesAreNotFound) {
   const ObjectId other = Store().CreateDatabase(u"other", 0, {}).value;
   const StoreHandle other_handle = Store().Open(other, kNoSort, false).value;
   const ObjectId record = AddKey(other_handle, 1);
-  EXPECT_EQ(Seek(SeekTarget::ToObject(record)).error, StoreError::kInvalidParameter);
-  EXPECT_EQ(Store().DeleteRecord(handle_, record), StoreError::kInvalidParameter);
-  EXPECT_EQ(Store().Write(handle_, record, Values({Property::I2(kKey, 1)})).error,
-            StoreError::kInvalidParameter);
+  EXPECT_EQ(StoreError::kInvalidParameter, Seek(SeekTarget::ToObject(record)).error);
+  EXPECT_EQ(StoreError::kInvalidParameter, Store().DeleteRecord(handle_, record));
+  EXPECT_EQ(StoreError::kInvalidParameter,
+            Store().Write(handle_, record, Values({Property::I2(kKey, 1)})).error);
 }
 
 TEST_P(SeekTest, ByValueRising) {
@@ -130,7 +130,7 @@ TEST_P(SeekTest, ByValueRising) {
         Row{kGreater, 5, ten_}, Row{kGreater, 10, ten_}, Row{kGreater, 15, twenty_[0]},
         Row{kGreater, 30, thirty_}, Row{kGreater, 31, 0}}) {
     SCOPED_TRACE(testing::Message() << static_cast<int>(row.kind) << " " << row.key);
-    EXPECT_EQ(SeekKey(row.kind, row.key).value, row.found);
+    EXPECT_EQ(row.found, SeekKey(row.kind, row.key).value);
     EXPECT_EQ(AtEnd(), row.found == 0);
   }
 }
@@ -141,9 +141,9 @@ TEST_P(SeekTest, ByValueFalling) {
   Fill(falling);
   EXPECT_EQ(SeekKey(kSmaller, 20).value, thirty_) << "before 20 in the order stands 30";
   EXPECT_EQ(SeekKey(kSmaller, 15).value, twenty_[0]);
-  EXPECT_EQ(SeekKey(kSmaller, 30).value, 0U);
+  EXPECT_EQ(0U, SeekKey(kSmaller, 30).value);
   EXPECT_EQ(SeekKey(kGreater, 25).value, twenty_[0]);
-  EXPECT_EQ(SeekKey(kGreater, 9).value, 0U);
+  EXPECT_EQ(0U, SeekKey(kGreater, 9).value);
   EXPECT_EQ(SeekKey(kFirstEqual, 20).value, twenty_[0]);
 }
 
@@ -152,30 +152,30 @@ TEST_P(SeekTest, UnknownRecordsAreNoValues) {
   unknown_first.unknown_first = true;
   Fill(unknown_first);
   EXPECT_EQ(Seek(SeekTarget::To(kBeginning)).value, none_);
-  EXPECT_EQ(SeekKey(kSmaller, 10).value, 0U);
+  EXPECT_EQ(0U, SeekKey(kSmaller, 10).value);
   EXPECT_EQ(SeekKey(kGreater, -32768).value, ten_);
-  EXPECT_EQ(SeekKey(kGreater, 31).value, 0U);
+  EXPECT_EQ(0U, SeekKey(kGreater, 31).value);
 }
 
 TEST_P(SeekTest, NextEqualWalksTheEqualOnes) {
   Fill(kByKey);
   EXPECT_EQ(SeekKey(kFirstEqual, 20).value, twenty_[0]);
   EXPECT_EQ(SeekKey(kNextEqual, 20).value, twenty_[1]);
-  EXPECT_EQ(index_, 2U);
+  EXPECT_EQ(2U, index_);
   EXPECT_EQ(SeekKey(kNextEqual, 20).value, twenty_[2]);
-  EXPECT_EQ(SeekKey(kNextEqual, 20).error, StoreError::kNoMoreItems);
+  EXPECT_EQ(StoreError::kNoMoreItems, SeekKey(kNextEqual, 20).error);
   EXPECT_TRUE(AtEnd());
-  EXPECT_EQ(SeekKey(kNextEqual, 20).error, StoreError::kNoMoreItems);
+  EXPECT_EQ(StoreError::kNoMoreItems, SeekKey(kNextEqual, 20).error);
 }
 
 TEST_P(SeekTest, NextEqualLooksOneRecordOnAndNoFurther) {
   Fill(kByKey);
   Seek(SeekTarget::ToObject(ten_));
-  EXPECT_EQ(SeekKey(kNextEqual, 30).value, 0U);
+  EXPECT_EQ(0U, SeekKey(kNextEqual, 30).value);
   Seek(SeekTarget::ToObject(ten_));
   EXPECT_EQ(SeekKey(kNextEqual, 20).value, twenty_[0]);
   Seek(SeekTarget::ToObject(thirty_));
-  EXPECT_EQ(SeekKey(kNextEqual, 0).value, 0U) << "the next record has no key";
+  EXPECT_EQ(0U, SeekKey(kNextEqual, 0).value) << "the next record has no key";
 }
 
 TEST_P(SeekTest, ValuesOfAnotherPropertyAreRefusedAndThePointerStays) {
@@ -183,7 +183,7 @@ TEST_P(SeekTest, ValuesOfAnotherPropertyAreRefusedAndThePointerStays) {
   Seek(SeekTarget::ToObject(thirty_));
   for (const SeekTarget::Kind kind : {kSmaller, kFirstEqual, kGreater, kNextEqual}) {
     for (const Property& value : {Property::I2(kOther, 1), Property::I4(kKey, 20), Property()}) {
-      EXPECT_EQ(Seek(SeekTarget::ToValue(kind, value)).error, StoreError::kInvalidParameter);
+      EXPECT_EQ(StoreError::kInvalidParameter, Seek(SeekTarget::ToValue(kind, value)).error);
       EXPECT_EQ(Current(handle_), thirty_);
     }
   }
@@ -193,9 +193,9 @@ TEST_P(SeekTest, ByValueNeedsAnOrder) {
   database_ = Store().CreateDatabase(u"plain", 0, {}).value;
   handle_ = Open(kNoSort);
   AddKey(handle_, 1);
-  EXPECT_EQ(SeekKey(kFirstEqual, 1).error, StoreError::kInvalidParameter);
-  EXPECT_EQ(Seek(SeekTarget::ToValue(kFirstEqual, Property())).error,
-            StoreError::kInvalidParameter);
+  EXPECT_EQ(StoreError::kInvalidParameter, SeekKey(kFirstEqual, 1).error);
+  EXPECT_EQ(StoreError::kInvalidParameter,
+            Seek(SeekTarget::ToValue(kFirstEqual, Property())).error);
 }
 
 TEST_P(SeekTest, ReadingStaysOrGoesOnAsOpened) {
@@ -209,8 +209,8 @@ TEST_P(SeekTest, ReadingStaysOrGoesOnAsOpened) {
   for (const ObjectId record : {ten_, twenty_[0], twenty_[1], twenty_[2], thirty_, none_}) {
     EXPECT_EQ(Store().Read(going).value.id, record);
   }
-  EXPECT_EQ(Store().Peek(going).error, StoreError::kNoMoreItems);
-  EXPECT_EQ(Store().Read(going).error, StoreError::kNoMoreItems);
+  EXPECT_EQ(StoreError::kNoMoreItems, Store().Peek(going).error);
+  EXPECT_EQ(StoreError::kNoMoreItems, Store().Read(going).error);
 }
 
 TEST_P(SeekTest, NextEqualAfterAnIncrementingReadSkipsOne) {
@@ -247,10 +247,10 @@ TEST_P(SeekTest, LongStringsAreFoundPastTheirFirstCharacters) {
   EXPECT_EQ(Walk(handle_), (std::vector{station, station_a, station_a_again, station_b}));
   EXPECT_EQ(seek(kFirstEqual, u"STATION-A"), station_a);
   EXPECT_EQ(seek(kNextEqual, u"STATION-A"), station_a_again);
-  EXPECT_EQ(seek(kFirstEqual, u"STATION-"), 0U);
+  EXPECT_EQ(0U, seek(kFirstEqual, u"STATION-"));
   EXPECT_EQ(seek(kSmaller, u"STATION-B"), station_a);
   EXPECT_EQ(seek(kGreater, u"STATION-"), station_a);
-  EXPECT_EQ(seek(kSmaller, u"STAT"), 0U);
+  EXPECT_EQ(0U, seek(kSmaller, u"STAT"));
 }
 
 TAVIX_STORE_TESTS(SeekTest);

@@ -189,9 +189,9 @@ TEST_P(SortOrderTest, OrdersThatCannotBeAreRefused) {
        {.property = PropertyId(4, PropertyType::kI2)}},
   };
   for (const std::vector<SortOrder>& row : rows) {
-    EXPECT_EQ(Store().CreateDatabase(u"bad", 0, row).error, StoreError::kInvalidParameter);
+    EXPECT_EQ(StoreError::kInvalidParameter, Store().CreateDatabase(u"bad", 0, row).error);
   }
-  EXPECT_EQ(Store().FindDatabase(u"bad").error, StoreError::kNotFound);
+  EXPECT_EQ(StoreError::kNotFound, Store().FindDatabase(u"bad").error);
 }
 
 TEST_P(SortOrderTest, NewOrdersSortWhatIsThere) {
@@ -200,13 +200,13 @@ TEST_P(SortOrderTest, NewOrdersSortWhatIsThere) {
   const ObjectId b = Add(handle, {Property::I2(kKey, 2), Property::I2(kOther, 1)});
   const SortOrder other = {.property = PropertyId(kOther, PropertyType::kI2)};
   const DatabaseChange change = {.orders = std::span(&other, 1)};
-  EXPECT_EQ(Store().ChangeDatabase(database_, change), StoreError::kInUse);
+  EXPECT_EQ(StoreError::kInUse, Store().ChangeDatabase(database_, change));
   EXPECT_EQ(Walk(handle), (std::vector{a, b}));
   Store().Close(handle);
-  EXPECT_EQ(Store().ChangeDatabase(database_, change), StoreError::kNone);
+  EXPECT_EQ(StoreError::kNone, Store().ChangeDatabase(database_, change));
   EXPECT_EQ(Walk(Open(other.property)), (std::vector{b, a}));
-  EXPECT_EQ(Store().Open(database_, PropertyId(kKey, PropertyType::kI2), false).error,
-            StoreError::kInvalidParameter);
+  EXPECT_EQ(StoreError::kInvalidParameter,
+            Store().Open(database_, PropertyId(kKey, PropertyType::kI2), false).error);
 }
 
 TAVIX_STORE_TESTS(SortOrderTest);

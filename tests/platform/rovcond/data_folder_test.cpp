@@ -31,7 +31,7 @@ struct Answer {
 
 std::wstring LocalData() {
   WCHAR folder[MAX_PATH];
-  EXPECT_EQ(SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder), S_OK);
+  EXPECT_EQ(S_OK, SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder));
   return std::wstring(folder) + L"\\Tavix\\Data";
 }
 
@@ -54,16 +54,16 @@ TEST(DataFolder, IsTheOneThatTheVariableNamesWithoutClosingBackslashes) {
     const EnvironmentVariable variable(kVariable, row.value);
     const Answer answer;
     EXPECT_TRUE(answer.found) << std::filesystem::path(row.value);
-    EXPECT_EQ(answer.Folder(), row.folder);
+    EXPECT_EQ(row.folder, answer.Folder());
     EXPECT_TRUE(answer.KeptToItsRoom());
   }
 }
 
 TEST(DataFolder, IsReadAnewAtEachCall) {
   EnvironmentVariable variable(kVariable, L"C:\\First");
-  EXPECT_EQ(Answer().Folder(), L"C:\\First");
+  EXPECT_EQ(L"C:\\First", Answer().Folder());
   variable.Set(L"C:\\Second");
-  EXPECT_EQ(Answer().Folder(), L"C:\\Second");
+  EXPECT_EQ(L"C:\\Second", Answer().Folder());
 }
 
 TEST(DataFolder, NamedByTheVariableIsNotMade) {

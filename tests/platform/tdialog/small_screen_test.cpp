@@ -47,9 +47,9 @@ TEST(SmallScreen, ChangesNothingWhereThereIsRoom) {
     ASSERT_TRUE(plain.Create(id));
     TDialog dialog;
     ASSERT_TRUE(dialog.Create(id));
-    EXPECT_EQ(FontHeight(dialog), FontHeight(plain)) << id;
-    EXPECT_EQ(PlaceOf(dialog).Width(), PlaceOf(plain).Width()) << id;
-    EXPECT_EQ(PlaceOf(dialog).TopLeft(), PlaceOf(plain).TopLeft()) << id;
+    EXPECT_EQ(FontHeight(plain), FontHeight(dialog)) << id;
+    EXPECT_EQ(PlaceOf(plain).Width(), PlaceOf(dialog).Width()) << id;
+    EXPECT_EQ(PlaceOf(plain).TopLeft(), PlaceOf(dialog).TopLeft()) << id;
   }
 }
 
@@ -90,7 +90,7 @@ TEST(SmallScreen, ModalDialogsToo) {
   ASSERT_TRUE(large.Create(IDD_FULL));
   const CRect area(0, 0, PlaceOf(large).Width() - 1, PlaceOf(large).Height());
   const ScopedWorkArea small(area);
-  EXPECT_EQ(dialog.DoModal(), IDOK);
+  EXPECT_EQ(IDOK, dialog.DoModal());
   EXPECT_TRUE(IsInside(dialog.place, area));
   EXPECT_EQ(dialog.place.TopLeft(), area.TopLeft());
 }
@@ -99,7 +99,7 @@ TEST(SmallScreen, StandsInTheCornerWhereNothingFits) {
   const ScopedWorkArea tiny({10, 10, 60, 60});
   TDialog dialog;
   ASSERT_TRUE(dialog.Create(IDD_FULL));
-  EXPECT_EQ(PlaceOf(dialog).TopLeft(), CPoint(10, 10));
+  EXPECT_EQ(CPoint(10, 10), PlaceOf(dialog).TopLeft());
   EXPECT_LT(FontHeight(dialog), -5) << "it can be read";
 }
 
@@ -127,7 +127,7 @@ TEST(SmallScreen, LeavesChildDialogsWhereTheyAre) {
   ASSERT_TRUE(child.Create(IDD_CHILD, &owner));
   CRect place = PlaceOf(child);
   owner.ScreenToClient(place);
-  EXPECT_EQ(place.TopLeft(), CPoint(0, 0));
+  EXPECT_EQ(CPoint(0, 0), place.TopLeft());
 }
 
 }  // namespace

@@ -25,10 +25,10 @@ TEST(DeviceDialog, HasAVisibleOkButtonThatHidesNothing) {
     TDialog dialog;
     ASSERT_TRUE(dialog.Create(id)) << id;
     CWnd* ok = dialog.GetDlgItem(IDOK);
-    ASSERT_NE(ok, nullptr) << id;
+    ASSERT_NE(nullptr, ok) << id;
     EXPECT_TRUE(ok->GetStyle() & WS_VISIBLE);
     EXPECT_EQ(ok->GetFont(), dialog.GetFont());
-    EXPECT_EQ(dialog.GetDefID(), UINT{IDOK});
+    EXPECT_EQ(UINT{IDOK}, dialog.GetDefID());
     const CRect button = RectInDialog(dialog, *ok);
     CRect client;
     dialog.GetClientRect(client);
@@ -67,24 +67,24 @@ TEST(DeviceDialog, KeepsTheTemplatesOwnOk) {
   ASSERT_TRUE(dialog.Create(IDD_HAS_OK));
   CString text;
   dialog.GetDlgItemText(IDOK, text);
-  EXPECT_EQ(text, L"Fertig");
+  EXPECT_EQ(L"Fertig", text);
   int buttons = 0;
   for (HWND item = ::GetWindow(dialog.m_hWnd, GW_CHILD); item;
        item = ::GetWindow(item, GW_HWNDNEXT)) {
     if (::GetDlgCtrlID(item) == IDOK) ++buttons;
   }
-  EXPECT_EQ(buttons, 1);
+  EXPECT_EQ(1, buttons);
 }
 
 TEST(DeviceDialog, WithoutTheStyleThereIsNoButton) {
   TDialog dialog;
   ASSERT_TRUE(dialog.Create(IDD_NO_STYLE));
-  EXPECT_EQ(dialog.GetDlgItem(IDOK), nullptr);
+  EXPECT_EQ(nullptr, dialog.GetDlgItem(IDOK));
 }
 
 TEST(DeviceDialog, MissingTemplateIsNoDialog) {
   TDialog dialog(9999u);
-  EXPECT_EQ(dialog.DoModal(), -1);
+  EXPECT_EQ(-1, dialog.DoModal());
   EXPECT_FALSE(TDialog().Create(9999u));
 }
 
@@ -109,7 +109,7 @@ TEST(DeviceDialog, EndsByButtonKeysAndCloseBox) {
     for (const Row& row : rows) {
       TDialog dialog(id);
       const ModalDriver driver({row.step});
-      EXPECT_EQ(dialog.DoModal(), row.result) << row.name;
+      EXPECT_EQ(row.result, dialog.DoModal()) << row.name;
     }
   }
 }
@@ -120,7 +120,7 @@ TEST(DeviceDialog, CanBeUsedAgain) {
     bool hasButton = false;
     const ModalDriver driver(
         {[&](HWND window) { hasButton = ::GetDlgItem(window, IDOK) != nullptr; }, Command(IDOK)});
-    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(IDOK, dialog.DoModal());
     EXPECT_TRUE(hasButton);
   }
 }
@@ -144,10 +144,10 @@ TEST(OkButtonPlace, FirstClearCornerElseAStripBelow) {
   for (const Row& row : rows) {
     const auto place = tdialog::PlaceOkButton(client, button, 5, row.items);
     EXPECT_TRUE(::EqualRect(&place.button, &row.place)) << row.name;
-    EXPECT_EQ(place.extraHeight, row.extraHeight) << row.name;
+    EXPECT_EQ(row.extraHeight, place.extraHeight) << row.name;
   }
   const auto narrow = tdialog::PlaceOkButton({20, 8}, button, 5, {});
-  EXPECT_EQ(narrow.extraHeight, 20) << "a dialog smaller than the button";
+  EXPECT_EQ(20, narrow.extraHeight) << "a dialog smaller than the button";
 }
 
 }  // namespace

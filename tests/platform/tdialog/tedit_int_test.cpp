@@ -44,7 +44,7 @@ TEST(TEditInt, TakesOnlyKeysThatFit) {
   for (const Row& row : rows) {
     NumberDialog number(-1, row.smallest, 999, row.digits);
     number.Type(row.keys);
-    EXPECT_EQ(number.Text(), row.text);
+    EXPECT_EQ(row.text, number.Text());
   }
 }
 
@@ -52,14 +52,14 @@ TEST(TEditInt, TypingReplacesTheSelection) {
   NumberDialog number(-1, -999, 999, 3);
   number.Type(L"123");
   number.Type(L"4");
-  EXPECT_EQ(number.Text(), L"123");
+  EXPECT_EQ(L"123", number.Text());
   number.edit.SetSel(0, -1);
   number.Type(L"-");
-  EXPECT_EQ(number.Text(), L"-");
+  EXPECT_EQ(L"-", number.Text());
   number.Type(L"45");
   number.edit.SetSel(0, 0);
   number.Type(L"9-");
-  EXPECT_EQ(number.Text(), L"-45") << "nothing goes before the minus";
+  EXPECT_EQ(L"-45", number.Text()) << "nothing goes before the minus";
 }
 
 void PutOnClipboard(HWND owner, const std::wstring& text) {
@@ -84,7 +84,7 @@ TEST(TEditInt, TakesOnlyPastedTextThatFits) {
     number.Type(row.before);
     PutOnClipboard(number.dialog.m_hWnd, row.pasted);
     number.edit.Paste();
-    EXPECT_EQ(number.Text(), row.text) << row.pasted.size();
+    EXPECT_EQ(row.text, number.Text()) << row.pasted.size();
   }
 }
 
@@ -103,9 +103,9 @@ TEST(TEditInt, ShowsAndGivesValues) {
   for (const Row& row : rows) {
     NumberDialog number(row.emptyValue, row.smallest, row.largest, 3);
     number.edit.SetValue(row.set);
-    EXPECT_EQ(number.Text(), row.text);
-    EXPECT_EQ(number.edit.GetValue(), row.get);
-    EXPECT_EQ(number.edit.IsEmpty(), row.empty);
+    EXPECT_EQ(row.text, number.Text());
+    EXPECT_EQ(row.get, number.edit.GetValue());
+    EXPECT_EQ(row.empty, number.edit.IsEmpty());
   }
 }
 
@@ -121,16 +121,16 @@ TEST(TEditInt, LeavingBringsTheTextWithinTheLimits) {
   for (const Row& row : rows) {
     NumberDialog number(-1, 10, 200, 4);
     number.Type(row.typed);
-    EXPECT_EQ(number.Text(), row.typed);
-    EXPECT_EQ(number.edit.GetValue(), row.before);
+    EXPECT_EQ(row.typed, number.Text());
+    EXPECT_EQ(row.before, number.edit.GetValue());
     number.edit.SendMessage(WM_KILLFOCUS);
-    EXPECT_EQ(number.Text(), row.left);
+    EXPECT_EQ(row.left, number.Text());
   }
   NumberDialog signedNumber(0, -5, 5, 1);
   signedNumber.Type(L"-");
   EXPECT_TRUE(signedNumber.edit.IsEmpty());
   signedNumber.edit.SendMessage(WM_KILLFOCUS);
-  EXPECT_EQ(signedNumber.Text(), L"");
+  EXPECT_EQ(L"", signedNumber.Text());
 }
 
 TEST(TEditInt, LinksOnlyWhatIsThere) {
@@ -144,19 +144,19 @@ TEST(TEditInt, LinksOnlyWhatIsThere) {
   edit.SetWindowText(L"free text");
   CString text;
   dialog.GetDlgItemText(IDC_OTHER, text);
-  EXPECT_EQ(text, L"free text");
+  EXPECT_EQ(L"free text", text);
 }
 
 TEST(IntegerText, ValuesStayWithinTheLimitsAtAnyLength) {
   const tdialog::IntegerLimits all = {INT_MIN, INT_MAX, 10};
-  EXPECT_EQ(tdialog::ValueWithin(L"2147483647", all), INT_MAX);
-  EXPECT_EQ(tdialog::ValueWithin(L"2147483648", all), INT_MAX);
-  EXPECT_EQ(tdialog::ValueWithin(L"-2147483648", all), INT_MIN);
-  EXPECT_EQ(tdialog::ValueWithin(L"-9999999999", all), INT_MIN);
-  EXPECT_EQ(tdialog::ValueWithin(std::wstring(5000, L'9'), all), INT_MAX);
-  EXPECT_EQ(tdialog::ValueWithin(L"", all), std::nullopt);
-  EXPECT_EQ(tdialog::ValueWithin(L"-", all), std::nullopt);
-  EXPECT_EQ(tdialog::ValueWithin(L"abc", all), std::nullopt);
+  EXPECT_EQ(INT_MAX, tdialog::ValueWithin(L"2147483647", all));
+  EXPECT_EQ(INT_MAX, tdialog::ValueWithin(L"2147483648", all));
+  EXPECT_EQ(INT_MIN, tdialog::ValueWithin(L"-2147483648", all));
+  EXPECT_EQ(INT_MIN, tdialog::ValueWithin(L"-9999999999", all));
+  EXPECT_EQ(INT_MAX, tdialog::ValueWithin(std::wstring(5000, L'9'), all));
+  EXPECT_EQ(std::nullopt, tdialog::ValueWithin(L"", all));
+  EXPECT_EQ(std::nullopt, tdialog::ValueWithin(L"-", all));
+  EXPECT_EQ(std::nullopt, tdialog::ValueWithin(L"abc", all));
 }
 
 }  // namespace
