@@ -38,8 +38,8 @@ struct Seen {
 
   void Add(GroundPoint point) {
     ++points;
-    mixed += (std::bit_cast<std::uint64_t>(point.x) ^ points) * 3;
-    mixed += (std::bit_cast<std::uint64_t>(point.y) ^ points) * 5;
+    mixed += (std::bit_cast<std::uint64_t>(point.north) ^ points) * 3;
+    mixed += (std::bit_cast<std::uint64_t>(point.east) ^ points) * 5;
   }
   friend bool operator==(const Seen&, const Seen&) = default;
 };

@@ -135,8 +135,8 @@ void MeasureWalk() {
   const double floor_ms = MedianMilliseconds([&] {
     flat_sum = 0.0;
     for (const LineKeys keys : lines) {
-      flat_sum += places[static_cast<std::size_t>(keys.a)].x;
-      flat_sum += places[static_cast<std::size_t>(keys.b)].y;
+      flat_sum += places[static_cast<std::size_t>(keys.a)].north;
+      flat_sum += places[static_cast<std::size_t>(keys.b)].east;
     }
   });
   const double store_ms = MedianMilliseconds([&] {
@@ -147,8 +147,8 @@ void MeasureWalk() {
     for (int code = store.First(CLinDb::Order::kById); code == 0; code = store.Next()) {
       if (store.ReadCur(&line) == 0 && points.Locate(line.keys.a, &a) &&
           points.Locate(line.keys.b, &b)) {
-        sum += a.x;
-        sum += b.y;
+        sum += a.north;
+        sum += b.east;
       }
     }
   });

@@ -123,7 +123,7 @@ class Plot {
       const std::wstring& name = scene.names[static_cast<std::size_t>(key++)];
       points_.Add({key, key, NameView(reinterpret_cast<const char16_t*>(name.data()), name.size()),
                    at, mark_});
-      Tavix_EntPnt(key, key, name.c_str(), at.x, at.y);
+      Tavix_EntPnt(key, key, name.c_str(), at.north, at.east);
     }
     for (int i = 1; i <= scene.lines; ++i) {
       std::int32_t id = 0;
@@ -141,8 +141,8 @@ class Plot {
       std::vector<double> x;
       std::vector<double> y;
       for (const GroundPoint& at : figure) {
-        x.push_back(at.x);
-        y.push_back(at.y);
+        x.push_back(at.north);
+        y.push_back(at.east);
       }
       Tavix_FigStt(number, exported_legend);
       Tavix_FigMdlPly(count, x.data(), y.data());

@@ -34,7 +34,7 @@ void AddFigures(RedrawScene& scene, std::mt19937& random) {
     for (int k = 0; k < kFigurePoints; ++k) {
       const double angle = 6.0 * k / kFigurePoints;
       const double reach = radius * (1.0 + 0.1 * std::sin(9.0 * angle));
-      figure.push_back({centre.x + reach * std::cos(angle), centre.y + reach * std::sin(angle)});
+      figure.push_back({centre.north + reach * std::cos(angle), centre.east + reach * std::sin(angle)});
     }
   }
 }
@@ -51,8 +51,8 @@ class FloorView {
         half_height_(size.cy / 2) {}
 
   [[nodiscard]] POINT ToPixel(GroundPoint at) const {
-    const double dx = (at.y - centre_.y) * scale_ + half_width_ - half_width_;
-    const double dy = (centre_.x - at.x) * scale_ + half_height_ - half_height_;
+    const double dx = (at.east - centre_.east) * scale_ + half_width_ - half_width_;
+    const double dy = (centre_.north - at.north) * scale_ + half_height_ - half_height_;
     return {static_cast<LONG>(dx * cos_a_ - dy * sin_a_ + half_width_),
             static_cast<LONG>(dy * cos_a_ + dx * sin_a_ + half_height_)};
   }

@@ -92,8 +92,8 @@ class Axis {
 }  // namespace
 
 GroundPoint StepExactly(GroundPoint at, std::span<const GroundStep> steps, std::int64_t rounds) {
-  Axis x(at.x, steps, &GroundStep::dx);
-  Axis y(at.y, steps, &GroundStep::dy);
+  Axis x(at.north, steps, &GroundStep::dx);
+  Axis y(at.east, steps, &GroundStep::dy);
   x.Advance(rounds);
   y.Advance(rounds);
   return {x.At(), y.At()};

@@ -15,7 +15,7 @@ struct GroundStep {
 };
 
 inline GroundPoint operator+(GroundPoint at, GroundStep step) {
-  return {at.x + step.dx, at.y + step.dy};
+  return {at.north + step.dx, at.east + step.dy};
 }
 
 // The position after going `rounds` times through `steps` from `at`, each step added in floating

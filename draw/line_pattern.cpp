@@ -50,11 +50,11 @@ constexpr std::array kLineStyles{
 class GroundBox {
  public:
   GroundBox(GroundPoint a, GroundPoint b)
-      : low_{std::min(a.x, b.x), std::min(a.y, b.y)},
-        high_{std::max(a.x, b.x), std::max(a.y, b.y)} {}
+      : low_{std::min(a.north, b.north), std::min(a.east, b.east)},
+        high_{std::max(a.north, b.north), std::max(a.east, b.east)} {}
 
   [[nodiscard]] bool Holds(GroundPoint at) const {
-    return low_.x <= at.x && at.x <= high_.x && low_.y <= at.y && at.y <= high_.y;
+    return low_.north <= at.north && at.north <= high_.north && low_.east <= at.east && at.east <= high_.east;
   }
 
  private:
@@ -122,7 +122,7 @@ class PatternWalk {
   }
 
  private:
-  [[nodiscard]] bool IsHere(GroundPoint at) const { return at.x == at_.x && at.y == at_.y; }
+  [[nodiscard]] bool IsHere(GroundPoint at) const { return at.north == at_.north && at.east == at_.east; }
 
   // False when the walk has ended.
   bool DrawRounds(std::int64_t rounds) {
@@ -146,8 +146,8 @@ class PatternWalk {
   // Whether nothing between two corners of a ground box comes into view.
   [[nodiscard]] bool CannotShow(GroundPoint a, GroundPoint b) const {
     const std::array<RealScreenPoint, 4> corners{
-        view_.GroundToRealScreen(a), view_.GroundToRealScreen({a.x, b.y}),
-        view_.GroundToRealScreen(b), view_.GroundToRealScreen({b.x, a.y})};
+        view_.GroundToRealScreen(a), view_.GroundToRealScreen({a.north, b.east}),
+        view_.GroundToRealScreen(b), view_.GroundToRealScreen({b.north, a.east})};
     const auto all = [&](auto outside) {
       return std::all_of(corners.begin(), corners.end(), outside);
     };
@@ -189,14 +189,14 @@ std::optional<LinePattern> PatternOf(const LegendStyle& style) {
 void WalkPattern(const CViewState& view, const LinePattern& pattern, GroundPoint start,
                  GroundPoint end, const ScreenBox& visible,
                  const std::function<void(const LinePiece&)>& draw) {
-  const double metres = std::hypot(end.x - start.x, end.y - start.y);
+  const double metres = std::hypot(end.north - start.north, end.east - start.east);
   const double pixels_per_metre = PixelsPerMetre(view, start, end, metres);
   if (!(metres > 0 && pixels_per_metre > 0 && std::isfinite(pixels_per_metre) &&
         HasLength(pattern))) {
     draw({start, start});
     return;
   }
-  const GroundStep unit{(end.x - start.x) / metres, (end.y - start.y) / metres};
+  const GroundStep unit{(end.north - start.north) / metres, (end.east - start.east) / metres};
   const auto steps = StepsOf(pattern, unit, pixels_per_metre);
   PatternWalk(view, visible, draw, std::span(steps.data(), pattern.count), start, end).Run();
 }

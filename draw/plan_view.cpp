@@ -11,7 +11,7 @@ void DrawFigure(LinePainter& painter, const Figure& figure) {
   if (figure.points.size() < 2) return;
   const auto legend = static_cast<std::int16_t>(figure.legend);
   if (figure.is_circle) {
-    painter.DrawCircle(legend, figure.points[0], figure.points[1].x);
+    painter.DrawCircle(legend, figure.points[0], figure.points[1].north);
     return;
   }
   for (std::size_t i = 1; i < figure.points.size(); ++i) {

@@ -13,7 +13,7 @@ constexpr double kTwoPi = 6.283185307179586;
 constexpr double kStep = 0.08726646259971647;  // 5 degrees
 
 bool Coincide(GroundPoint a, GroundPoint b) {
-  return std::fabs(a.x - b.x) < kGeometryZero && std::fabs(a.y - b.y) < kGeometryZero;
+  return std::fabs(a.north - b.north) < kGeometryZero && std::fabs(a.east - b.east) < kGeometryZero;
 }
 
 }  // namespace
@@ -23,8 +23,8 @@ bool Coincide(GroundPoint a, GroundPoint b) {
 std::optional<GroundPoint> TwoCircleCentre(GroundPoint p, double r1, GroundPoint q, double r2) {
   r1 = std::fabs(r1);
   r2 = std::fabs(r2);
-  const double dx = q.x - p.x;
-  const double dy = q.y - p.y;
+  const double dx = q.north - p.north;
+  const double dy = q.east - p.east;
   const double d = std::sqrt(dx * dx + dy * dy);
   if (Coincide(p, q) || d > r1 + r2) return std::nullopt;
 
@@ -34,7 +34,7 @@ std::optional<GroundPoint> TwoCircleCentre(GroundPoint p, double r1, GroundPoint
   const double direction = Direction(dx, dy);
   const double c = std::cos(direction);
   const double s = std::sin(direction);
-  return GroundPoint{p.x + c * a - s * h, p.y + s * a + c * h};
+  return GroundPoint{p.north + c * a - s * h, p.east + s * a + c * h};
 }
 
 Polyline BuildArc(GroundPoint start, GroundPoint end, double r) {
@@ -53,7 +53,7 @@ Polyline BuildArc(GroundPoint start, GroundPoint end, double r) {
   for (int k = 1;; ++k) {
     const double angle = first + k * kStep;
     if (!(angle < last)) break;
-    points.push_back({centre->x + r * std::cos(angle), centre->y + r * std::sin(angle)});
+    points.push_back({centre->north + r * std::cos(angle), centre->east + r * std::sin(angle)});
   }
   points.push_back(end);
   return points;

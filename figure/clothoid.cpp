@@ -24,17 +24,17 @@ class Placement {
   Placement(double angle, GroundPoint local, GroundPoint ground)
       : cos_(std::cos(angle)), sin_(std::sin(angle)) {
     const GroundPoint turned = Turn(local);
-    shift_ = {ground.x - turned.x, ground.y - turned.y};
+    shift_ = {ground.north - turned.north, ground.east - turned.east};
   }
 
   [[nodiscard]] GroundPoint ToGround(GroundPoint local) const {
     const GroundPoint turned = Turn(local);
-    return {turned.x + shift_.x, turned.y + shift_.y};
+    return {turned.north + shift_.north, turned.east + shift_.east};
   }
 
  private:
   [[nodiscard]] GroundPoint Turn(GroundPoint p) const {
-    return {cos_ * p.x - sin_ * p.y, sin_ * p.x + cos_ * p.y};
+    return {cos_ * p.north - sin_ * p.east, sin_ * p.north + cos_ * p.east};
   }
 
   double cos_;
@@ -79,7 +79,7 @@ GroundPoint ClothoidPoint(double tau, double a) {
 }
 
 Polyline BuildClothoid(GroundPoint start, GroundPoint end, double r1, double a, double r2) {
-  if (!AreFinite(start.x, start.y, end.x, end.y, r1, a, r2)) return {};
+  if (!AreFinite(start.north, start.east, end.north, end.east, r1, a, r2)) return {};
   if (StartsAtTheWrongEnd(r1, r2)) {
     std::swap(start, end);
     std::swap(r1, r2);
@@ -94,7 +94,7 @@ Polyline BuildClothoid(GroundPoint start, GroundPoint end, double r1, double a, 
   const double side = r2 < 0 ? -1.0 : 1.0;
   const auto local = [=](double tau) {
     const GroundPoint point = ClothoidPoint(tau, a);
-    return GroundPoint{point.x, side * point.y};
+    return GroundPoint{point.north, side * point.east};
   };
   const GroundPoint first = local(tau1);
   const double turn = InverseOf(start, end).direction - InverseOf(first, local(tau2)).direction;
@@ -106,7 +106,7 @@ Polyline BuildClothoid(GroundPoint start, GroundPoint end, double r1, double a, 
     const double tau = tau1 + k * kStep;
     if (!(tau < tau2)) break;
     const GroundPoint point = placement.ToGround(local(tau));
-    if (!AreFinite(point.x, point.y)) return {};
+    if (!AreFinite(point.north, point.east)) return {};
     points.push_back(point);
   }
   points.push_back(end);

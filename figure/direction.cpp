@@ -20,8 +20,8 @@ double Direction(double dx, double dy) {
 }
 
 Inverse InverseOf(GroundPoint from, GroundPoint to) {
-  const double dx = to.x - from.x;
-  const double dy = to.y - from.y;
+  const double dx = to.north - from.north;
+  const double dy = to.east - from.east;
   const bool coincide = std::fabs(dx) < kGeometryZero && std::fabs(dy) < kGeometryZero;
   return {std::sqrt(dy * dy + dx * dx), coincide ? 0.0 : Direction(dx, dy)};
 }

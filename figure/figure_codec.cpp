@@ -52,8 +52,8 @@ FigureRecord DecodeFigureRecord(const unsigned char* bytes) {
 
 FigurePointBytes EncodeFigurePoint(GroundPoint point) {
   FigurePointBytes bytes{};
-  Put(bytes.data(), std::bit_cast<std::uint64_t>(point.x));
-  Put(bytes.data() + 8, std::bit_cast<std::uint64_t>(point.y));
+  Put(bytes.data(), std::bit_cast<std::uint64_t>(point.north));
+  Put(bytes.data() + 8, std::bit_cast<std::uint64_t>(point.east));
   return bytes;
 }
 

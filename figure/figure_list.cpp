@@ -221,9 +221,9 @@ int CFigList::GetExtent(GroundExtent* extent) const {
   ForEach([&](const Figure& figure) {
     if (figure.is_circle && figure.points.size() >= 2) {
       const GroundPoint centre = figure.points[0];
-      const double radius = figure.points[1].x;
-      builder.Include(GroundPoint{centre.x + radius, centre.y + radius});
-      builder.Include(GroundPoint{centre.x - radius, centre.y - radius});
+      const double radius = figure.points[1].north;
+      builder.Include(GroundPoint{centre.north + radius, centre.east + radius});
+      builder.Include(GroundPoint{centre.north - radius, centre.east - radius});
       return;
     }
     for (const GroundPoint point : figure.points) builder.Include(point);

@@ -50,8 +50,8 @@ int Tavix_GetWakGen(double* X, double* Y) {
   return OnWindow([=](CPlotWnd& window) {
     if (!window.Frame().IsOn()) return kRefused;
     const tavix::GroundPoint origin = window.Frame().Origin();
-    *X = origin.x;
-    *Y = origin.y;
+    *X = origin.north;
+    *Y = origin.east;
     return 0;
   });
 }

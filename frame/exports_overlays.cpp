@@ -64,8 +64,8 @@ int Tavix_VoLst(double* X, double* Y) {
     const auto vertices = window.Traced();
     if (!vertices.empty() && !tavix::CanWrite(X, Y)) return kRefused;
     for (std::size_t i = 0; i < vertices.size(); ++i) {
-      X[i] = vertices[i].x;
-      Y[i] = vertices[i].y;
+      X[i] = vertices[i].north;
+      Y[i] = vertices[i].east;
     }
     return 0;
   });
@@ -76,8 +76,8 @@ int Tavix_VoIdx(int index, double* X, double* Y) {
     const auto vertices = window.Traced();
     const auto place = static_cast<std::size_t>(index);
     if (!tavix::CanWrite(X, Y) || index < 0 || place >= vertices.size()) return kRefused;
-    *X = vertices[place].x;
-    *Y = vertices[place].y;
+    *X = vertices[place].north;
+    *Y = vertices[place].east;
     return 0;
   });
 }

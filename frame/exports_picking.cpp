@@ -48,8 +48,8 @@ int Tavix_CrdGet(double* X, double* Y) {
   return OnWindow([=](CPlotWnd& window) {
     const auto& captured = window.Capture().Captured();
     if (!tavix::CanWrite(X, Y) || !captured) return tavix::kRefused;
-    *X = captured->x;
-    *Y = captured->y;
+    *X = captured->north;
+    *Y = captured->east;
     return 0;
   });
 }

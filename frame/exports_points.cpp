@@ -55,8 +55,8 @@ int Tavix_GetPntCrd(int key, double* x, double* y) {
     if (!tavix::CanWrite(x, y) || points.Find(key) != 0 || points.GetCurCrd(&at) != 0) {
       return kRefused;
     }
-    *x = at.x;
-    *y = at.y;
+    *x = at.north;
+    *y = at.east;
     return 0;
   });
 }
@@ -121,8 +121,8 @@ int Tavix_GetPnt3Crd(int key, double* x, double* y, double* z) {
     if (!tavix::CanWrite(x, y, z) || points.Find(key) != 0 || points.GetCurCrd(&at, z) != 0) {
       return kRefused;
     }
-    *x = at.x;
-    *y = at.y;
+    *x = at.north;
+    *y = at.east;
     return 0;
   });
 }

@@ -53,13 +53,13 @@ std::vector<CurvePlace> AlongCurve(const std::vector<ListedPlace>& places) {
   Axis x;
   Axis y;
   for (const ListedPlace& place : places) {
-    x.Include(place.at.x);
-    y.Include(place.at.y);
+    x.Include(place.at.north);
+    y.Include(place.at.east);
   }
   std::vector<CurvePlace> curve;
   curve.reserve(places.size());
   for (const ListedPlace& place : places) {
-    const std::uint64_t number = Spread(x.Number(place.at.x)) << 1 | Spread(y.Number(place.at.y));
+    const std::uint64_t number = Spread(x.Number(place.at.north)) << 1 | Spread(y.Number(place.at.east));
     curve.push_back({number, static_cast<std::uint32_t>(curve.size())});
   }
   std::sort(curve.begin(), curve.end(), [](const CurvePlace& one, const CurvePlace& other) {

@@ -5,7 +5,7 @@
 namespace tavix {
 
 int CPnt3List::Add(const Point3& point) {
-  Append({point.at.x, point.at.y, point.z, point.key, point.number, Names().Add(point.name),
+  Append({point.at.north, point.at.east, point.z, point.key, point.number, Names().Add(point.name),
           point.legend, false});
   return 0;
 }
@@ -30,8 +30,8 @@ int CPnt3List::SetCur(std::int32_t number, NameView name, GroundPoint at, double
                       std::int16_t legend) {
   Pnt3Rec* current = Records().Current();
   if (!current) return -2;
-  current->x = at.x;
-  current->y = at.y;
+  current->x = at.north;
+  current->y = at.east;
   current->z = z;
   SetCurHan(legend);
   return SetCurNoNam(number, name);

@@ -11,7 +11,7 @@ namespace tavix {
 constexpr double kSameCoordinate = 1e-5;
 
 inline bool IsSamePlace(GroundPoint a, GroundPoint b) {
-  return std::fabs(a.x - b.x) < kSameCoordinate && std::fabs(a.y - b.y) < kSameCoordinate;
+  return std::fabs(a.north - b.north) < kSameCoordinate && std::fabs(a.east - b.east) < kSameCoordinate;
 }
 
 }  // namespace tavix

@@ -6,7 +6,7 @@
 namespace tavix {
 
 int CPntList::Add(const Point& point) {
-  Append({point.at.x, point.at.y, point.key, point.number, Names().Add(point.name), point.legend,
+  Append({point.at.north, point.at.east, point.key, point.number, Names().Add(point.name), point.legend,
           false});
   return 0;
 }
@@ -21,8 +21,8 @@ int CPntList::GetCurCrd(GroundPoint* at) const {
 int CPntList::SetCurCrd(GroundPoint at) {
   PntRec* current = Records().Current();
   if (!current) return -2;
-  current->x = at.x;
-  current->y = at.y;
+  current->x = at.north;
+  current->y = at.east;
   finder_.Moved(Records().CurrentPosition());
   SetChanged(true);
   return 0;
@@ -39,7 +39,7 @@ int CPntList::FindNearest(double tolerance, GroundPoint at, std::int32_t* key) c
   *key = 0;
   if (Records().IsEmpty()) return -3;
 
-  if (!(tolerance >= 0.0) || std::isnan(at.x) || std::isnan(at.y)) return -1;  // nothing is near
+  if (!(tolerance >= 0.0) || std::isnan(at.north) || std::isnan(at.east)) return -1;  // nothing is near
 
   // Differences fall as the coordinate rises, rounded or not: those of the borders bound the
   // others.
@@ -47,14 +47,14 @@ int CPntList::FindNearest(double tolerance, GroundPoint at, std::int32_t* key) c
     return std::max(low - centre, centre - high) > tolerance;  // one branch, mostly foreseen
   };
   const auto touches = [&](const GroundExtent& box) {
-    return !too_far(at.x, box.min.x, box.max.x) && !too_far(at.y, box.min.y, box.max.y);
+    return !too_far(at.north, box.min.north, box.max.north) && !too_far(at.east, box.min.east, box.max.east);
   };
   int candidates = 0;
   double nearest = 0.0;
   finder_.ForEach(Records(), touches, [&](const PntRec& record) {
-    const double dx = at.x - record.x;
+    const double dx = at.north - record.x;
     if (!(std::fabs(dx) <= tolerance)) return true;
-    const double dy = at.y - record.y;
+    const double dy = at.east - record.y;
     if (!(std::fabs(dy) <= tolerance)) return true;
     const double distance = dx * dx + dy * dy;
     if (candidates == 0 || distance < nearest) {

@@ -3,10 +3,10 @@
 
 namespace tavix {
 
-// A position on the ground in metres: x is north, y is east.
+// A position on the ground in metres.
 struct GroundPoint {
-  double x = 0.0;
-  double y = 0.0;
+  double north = 0.0;  // the x of the exported calls
+  double east = 0.0;   // their y
 };
 
 // A position on the plot window's client area in pixels: origin top left, y downwards.

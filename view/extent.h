@@ -11,9 +11,9 @@ struct GroundExtent {
   GroundPoint max;
   GroundPoint min;
 
-  [[nodiscard]] GroundSize Size() const { return {max.y - min.y, max.x - min.x}; }
+  [[nodiscard]] GroundSize Size() const { return {max.east - min.east, max.north - min.north}; }
   [[nodiscard]] GroundPoint Centre() const {
-    return {(max.x + min.x) * 0.5, (max.y + min.y) * 0.5};
+    return {(max.north + min.north) * 0.5, (max.east + min.east) * 0.5};
   }
 };
 
@@ -26,8 +26,8 @@ class ExtentBuilder {
       any_ = true;
       return;
     }
-    Widen(point.x, extent_.max.x, extent_.min.x);
-    Widen(point.y, extent_.max.y, extent_.min.y);
+    Widen(point.north, extent_.max.north, extent_.min.north);
+    Widen(point.east, extent_.max.east, extent_.min.east);
   }
 
   void Include(const GroundExtent& extent) {

@@ -17,7 +17,7 @@ bool IsCircleInView(const CViewState& view, GroundPoint centre, double radius) {
   const double c = view.CosA();
   const double s = view.SinA();
   return std::all_of(offsets.begin(), offsets.end(), [&](GroundPoint d) {
-    return IsPointInView(view, {centre.x + (d.x * c - d.y * s), centre.y + (d.y * c + d.x * s)});
+    return IsPointInView(view, {centre.north + (d.north * c - d.east * s), centre.east + (d.east * c + d.north * s)});
   });
 }
 

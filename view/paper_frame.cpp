@@ -52,15 +52,15 @@ void PaperFrame::Layout(const CViewState& view) {
 double PaperFrame::ScaleIn(const CViewState& view) const {
   const GroundPoint bottom = view.ScreenToGround(BottomLeft());
   const GroundPoint top = view.ScreenToGround(TopLeft());
-  return sheet_height_ / std::hypot(top.x - bottom.x, top.y - bottom.y);
+  return sheet_height_ / std::hypot(top.north - bottom.north, top.east - bottom.east);
 }
 
 bool PaperFrame::SetScale(CViewState& view, int n) {
   const bool cut = view.SetFitScale(Width(), sheet_width_, 1.0 / n);
   const GroundPoint bottom_left = view.ScreenToGround(BottomLeft());
   const GroundPoint top_right = view.ScreenToGround(TopRight());
-  view.SetCentre({(top_right.x + bottom_left.x) * 0.5 + (origin_.x - bottom_left.x),
-                  (top_right.y + bottom_left.y) * 0.5 + (origin_.y - bottom_left.y)});
+  view.SetCentre({(top_right.north + bottom_left.north) * 0.5 + (origin_.north - bottom_left.north),
+                  (top_right.east + bottom_left.east) * 0.5 + (origin_.east - bottom_left.east)});
   scale_ = 1.0 / n;
   return cut;
 }
@@ -69,8 +69,8 @@ int PaperFrame::Scale() const { return TruncateToInt(1.0 / scale_); }
 
 void PaperFrame::SetOrigin(CViewState& view, GroundPoint origin) {
   const GroundPoint top_right = view.ScreenToGround(TopRight());
-  const GroundPoint middle{(origin_.x + top_right.x) * 0.5, (origin_.y + top_right.y) * 0.5};
-  view.SetCentre({origin.x - origin_.x + middle.x, origin.y - origin_.y + middle.y});
+  const GroundPoint middle{(origin_.north + top_right.north) * 0.5, (origin_.east + top_right.east) * 0.5};
+  view.SetCentre({origin.north - origin_.north + middle.north, origin.east - origin_.east + middle.east});
   origin_ = origin;
 }
 

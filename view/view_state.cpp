@@ -120,8 +120,8 @@ bool CViewState::SetFitScale(int pixels, double length, double factor) {
 
 void CViewState::ToggleHome() {
   const bool at_home = std::fabs(scale_ - home_scale_) < kSameView &&
-                       std::fabs(centre_.x - home_centre_.x) < kSameView &&
-                       std::fabs(centre_.y - home_centre_.y) < kSameView;
+                       std::fabs(centre_.north - home_centre_.north) < kSameView &&
+                       std::fabs(centre_.east - home_centre_.east) < kSameView;
   if (at_home) {
     scale_ = prev_scale_;
     centre_ = prev_centre_;
@@ -135,8 +135,8 @@ void CViewState::ToggleHome() {
 }
 
 RealScreenPoint CViewState::GroundToRealScreen(GroundPoint ground) const {
-  const double u = (ground.y - centre_.y) * scale_ + half_width_;
-  const double v = (centre_.x - ground.x) * v_scale_ + half_height_;
+  const double u = (ground.east - centre_.east) * scale_ + half_width_;
+  const double v = (centre_.north - ground.north) * v_scale_ + half_height_;
   return RotateAbout(u, v, half_width_, half_height_, {cos_a_, sin_a_});
 }
 
@@ -148,8 +148,8 @@ ScreenPoint CViewState::GroundToScreen(GroundPoint ground) const {
 GroundPoint CViewState::ScreenToGround(ScreenPoint screen) const {
   const RealScreenPoint flat =
       RotateAbout(screen.x, screen.y, half_width_, half_height_, {cos_inv_, sin_inv_});
-  return {(half_height_ - flat.y) / v_scale_ + centre_.x,
-          (flat.x - half_width_) / scale_ + centre_.y};
+  return {(half_height_ - flat.y) / v_scale_ + centre_.north,
+          (flat.x - half_width_) / scale_ + centre_.east};
 }
 
 int CViewState::LengthToPixels(double length) const { return TruncateToInt(scale_ * length); }

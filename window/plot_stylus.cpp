@@ -74,7 +74,7 @@ void CPlotWnd::FinishBand(const StylusGesture& gesture) {
   const auto corners = band_zoom_.Take(gesture, GroundUnder(gesture.down), GroundUnder(gesture.up));
   if (!corners) return;
   const auto [a, b] = *corners;
-  ZoomTo({std::fabs(b.y - a.y), std::fabs(b.x - a.x)}, {(a.x + b.x) * 0.5, (a.y + b.y) * 0.5});
+  ZoomTo({std::fabs(b.east - a.east), std::fabs(b.north - a.north)}, {(a.north + b.north) * 0.5, (a.east + b.east) * 0.5});
   EndBandZoom();
 }
 
@@ -88,7 +88,7 @@ void CPlotWnd::FinishPan(const StylusGesture& gesture) {
   }
   const GroundPoint from = GroundUnder(gesture.down);
   const GroundPoint middle = links_.view->Centre();
-  PanTo({middle.x + from.x - to.x, middle.y + from.y - to.y});
+  PanTo({middle.north + from.north - to.north, middle.east + from.east - to.east});
 }
 
 void CPlotWnd::Pick(ScreenPoint at) {

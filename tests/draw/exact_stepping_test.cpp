@@ -31,14 +31,14 @@ bool SameBits(double a, double b) {
                                                std::int64_t rounds) {
   const GroundPoint expected = StepPlainly(at, steps, rounds);
   const GroundPoint actual = StepExactly(at, steps, rounds);
-  if (SameBits(actual.x, expected.x) && SameBits(actual.y, expected.y)) {
+  if (SameBits(actual.north, expected.north) && SameBits(actual.east, expected.east)) {
     return ::testing::AssertionSuccess();
   }
   ::testing::AssertionResult failure = ::testing::AssertionFailure();
-  failure << std::hexfloat << "from " << at.x << ", " << at.y << " by";
+  failure << std::hexfloat << "from " << at.north << ", " << at.east << " by";
   for (const GroundStep& step : steps) failure << " (" << step.dx << ", " << step.dy << ")";
-  return failure << ", " << rounds << " rounds: " << actual.x << ", " << actual.y << " and not "
-                 << expected.x << ", " << expected.y;
+  return failure << ", " << rounds << " rounds: " << actual.north << ", " << actual.east << " and not "
+                 << expected.north << ", " << expected.east;
 }
 
 TEST(StepExactly, NoRoundsAndNoStepsStayInPlace) {
@@ -142,8 +142,8 @@ TEST(StepExactly, GoingOnEqualsGoingAtOnce) {
     const GroundPoint start{-35000.123, 12.5};
     const GroundPoint at_once = StepExactly(start, steps, first + second);
     const GroundPoint in_two = StepExactly(StepExactly(start, steps, first), steps, second);
-    ASSERT_TRUE(SameBits(at_once.x, in_two.x)) << first << ' ' << second;
-    ASSERT_TRUE(SameBits(at_once.y, in_two.y)) << first << ' ' << second;
+    ASSERT_TRUE(SameBits(at_once.north, in_two.north)) << first << ' ' << second;
+    ASSERT_TRUE(SameBits(at_once.east, in_two.east)) << first << ' ' << second;
   }
 }
 
@@ -169,10 +169,10 @@ TEST(StepExactly, AnyNumberOfRoundsIsPassedAtOnce) {
     Steps steps;
     for (const double step : row.steps) steps.push_back({step, -step});
     const GroundPoint end = StepExactly({row.at, -row.at}, steps, kMost);
-    EXPECT_EQ(row.end, end.x) << row.what;
-    EXPECT_EQ(end.y, -row.end) << row.what;
+    EXPECT_EQ(row.end, end.north) << row.what;
+    EXPECT_EQ(end.east, -row.end) << row.what;
   }
-  EXPECT_TRUE(std::isnan(StepExactly({std::nan(""), 0}, Steps{{1, 1}}, kMost).x));
+  EXPECT_TRUE(std::isnan(StepExactly({std::nan(""), 0}, Steps{{1, 1}}, kMost).north));
 }
 
 }  // namespace

@@ -42,7 +42,7 @@ Pieces Walk(const CViewState& view, const LinePattern& pattern, GroundPoint star
   return pieces;
 }
 
-bool SamePoint(GroundPoint a, GroundPoint b) { return a.x == b.x && a.y == b.y; }
+bool SamePoint(GroundPoint a, GroundPoint b) { return a.north == b.north && a.east == b.east; }
 bool SamePiece(const LinePiece& a, const LinePiece& b) {
   return SamePoint(a.start, b.start) && SamePoint(a.end, b.end);
 }
@@ -50,18 +50,18 @@ bool SamePiece(const LinePiece& a, const LinePiece& b) {
 // The walk as the rules tell it, one addition after the other.
 Pieces FullWalk(const CViewState& view, const LinePattern& pattern, GroundPoint start,
                 GroundPoint end) {
-  const double length = std::hypot(end.x - start.x, end.y - start.y);
+  const double length = std::hypot(end.north - start.north, end.east - start.east);
   const RealScreenPoint from = view.GroundToRealScreen(start);
   const RealScreenPoint to = view.GroundToRealScreen(end);
   const double pixels_per_metre = std::hypot(to.x - from.x, to.y - from.y) / length;
   const auto inside = [&](GroundPoint at) {
-    return std::min(start.x, end.x) <= at.x && at.x <= std::max(start.x, end.x) &&
-           std::min(start.y, end.y) <= at.y && at.y <= std::max(start.y, end.y);
+    return std::min(start.north, end.north) <= at.north && at.north <= std::max(start.north, end.north) &&
+           std::min(start.east, end.east) <= at.east && at.east <= std::max(start.east, end.east);
   };
   const auto step = [&](GroundPoint at, std::size_t i) {
     const double metres = std::abs(pattern.lengths[i % pattern.count]) / pixels_per_metre;
-    return GroundPoint{at.x + (end.x - start.x) / length * metres,
-                       at.y + (end.y - start.y) / length * metres};
+    return GroundPoint{at.north + (end.north - start.north) / length * metres,
+                       at.east + (end.east - start.east) / length * metres};
   };
   constexpr std::size_t kMost = 5000000;
   Pieces pieces;
@@ -185,9 +185,9 @@ TEST(WalkPattern, LaysThePatternAndShortensTheLastDash) {
   for (const auto& row : rows) {
     Ends ends;
     for (const LinePiece& piece : Walk(view, row.pattern, {0, 0}, {0, row.length}, kEverything)) {
-      EXPECT_EQ(0.0, piece.start.x) << row.what;
-      EXPECT_EQ(0.0, piece.end.x) << row.what;
-      ends.emplace_back(piece.start.y, piece.end.y);
+      EXPECT_EQ(0.0, piece.start.north) << row.what;
+      EXPECT_EQ(0.0, piece.end.north) << row.what;
+      ends.emplace_back(piece.start.east, piece.end.east);
     }
     EXPECT_EQ(row.ends, ends) << row.what;
   }
@@ -228,7 +228,7 @@ TEST(WalkPattern, LengthsArePixelsOfTheViewWhateverItsTurnAndRatio) {
       for (const GroundPoint way : {GroundPoint{50, 0}, {0, 50}, {-30, 40}, {-20, -50}}) {
         const CViewState view = ViewAt({-42000, 25900}, 3.0, angle, ratio);
         const GroundPoint start{-42010, 25890};
-        const GroundPoint end{start.x + way.x, start.y + way.y};
+        const GroundPoint end{start.north + way.north, start.east + way.east};
         const Pieces pieces = Walk(view, Pattern(104, 9, 5, 2), start, end, kEverything);
         ASSERT_GE(pieces.size(), 2U);
         const auto pixels = [&](GroundPoint a, GroundPoint b) {
@@ -272,12 +272,12 @@ Scene RandomScene(std::mt19937_64& random) {
                         exact(std::sin(direction * 0.017453292519943295)) * pixels / scale};
   const double before = in(0, 1);
   const double aside = in(-100, 100) / scale;
-  const GroundPoint start{centre.x - way.x * before + aside, centre.y - way.y * before};
+  const GroundPoint start{centre.north - way.north * before + aside, centre.east - way.east * before};
   return {ViewAt(centre, scale, angle, one_of({1, 1, 0.5, 4})),
           Pattern(102 + static_cast<int>(one_of({0, 1, 2, 3})), static_cast<int>(in(0, 9)),
                   static_cast<int>(in(1, 9)), static_cast<int>(in(0, 9))),
           start,
-          {start.x + way.x, start.y + way.y}};
+          {start.north + way.north, start.east + way.east}};
 }
 
 TEST(WalkPattern, WithEverythingVisibleIsTheFullWalk) {
@@ -321,8 +321,8 @@ TEST(WalkPattern, ShortSegmentsAreTheFullWalk) {
     const double far = std::pow(10, in(0, 9));
     const GroundPoint start{in(-far, far), in(-far, far)};
     const double pixels = std::pow(10, in(-6, 1.2));
-    const GroundPoint end{start.x + in(-pixels, pixels) / scale,
-                          start.y + (i % 3 == 0 ? 0 : in(-pixels, pixels)) / scale};
+    const GroundPoint end{start.north + in(-pixels, pixels) / scale,
+                          start.east + (i % 3 == 0 ? 0 : in(-pixels, pixels)) / scale};
     if (SamePoint(start, end)) continue;
     const CViewState view = ViewAt(start, scale, i % 360, i % 2 == 0 ? 1 : 3);
     const LinePattern pattern = Pattern(102 + i % 4, i % 7, 1 + i % 3, i % 2);
@@ -338,7 +338,7 @@ TEST(WalkPattern, ShortSegmentsAreTheFullWalk) {
 // the same way: the pattern drifts off the line, far over many steps. It shows where it is laid.
 TEST(WalkPattern, FollowsThePatternWhereRoundingCarriesItOffTheLine) {
   const GroundPoint start{1e9 + 0.1, 1.2e9 + 0.3};
-  const GroundPoint end{start.x + 60.03, start.y + 33.01};
+  const GroundPoint end{start.north + 60.03, start.east + 33.01};
   const CViewState from_start = ViewAt(start, 100000.0);
   const Pieces full = FullWalk(from_start, Pattern(102, 5, 4), start, end);
   ASSERT_GT(full.size(), 100000U);
@@ -366,8 +366,8 @@ TEST(WalkPattern, ALineOfTenKilometresAtTheLargestScaleCostsWhatShows) {
           const GroundPoint half{along(std::cos(radians)), along(std::sin(radians))};
           const CViewState view = ViewAt(centre, 100000.0, angle);
           const Pieces pieces =
-              Walk(view, Pattern(kind, 1, 1, 1), {centre.x - half.x, centre.y - half.y},
-                   {centre.x + half.x, centre.y + half.y}, kClient);
+              Walk(view, Pattern(kind, 1, 1, 1), {centre.north - half.north, centre.east - half.east},
+                   {centre.north + half.north, centre.east + half.east}, kClient);
           EXPECT_LT(pieces.size(), 600U) << direction << ' ' << angle << ' ' << kind;
           const bool on_axis =
               direction == 0.0 || direction == 90.0 || direction == 180.0 || direction == 270.0;

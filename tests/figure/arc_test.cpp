@@ -13,10 +13,10 @@ namespace {
 
 constexpr double kDegree = 3.141592653589793 / 180;
 
-double DistanceOf(GroundPoint a, GroundPoint b) { return std::hypot(a.x - b.x, a.y - b.y); }
+double DistanceOf(GroundPoint a, GroundPoint b) { return std::hypot(a.north - b.north, a.east - b.east); }
 
 GroundPoint OnCircle(GroundPoint centre, double r, double degrees) {
-  return {centre.x + r * std::cos(degrees * kDegree), centre.y + r * std::sin(degrees * kDegree)};
+  return {centre.north + r * std::cos(degrees * kDegree), centre.east + r * std::sin(degrees * kDegree)};
 }
 
 TEST(TwoCircleCentre, LiesOnTheSideTurnedFromXTowardY) {
@@ -37,9 +37,9 @@ TEST(TwoCircleCentre, LiesOnTheSideTurnedFromXTowardY) {
               {{0, 0}, 5, {10, 0}, 5, {5, 0}}};  // they touch
   for (const auto& row : rows) {
     const auto centre = TwoCircleCentre(row.p, row.r1, row.q, row.r2);
-    ASSERT_TRUE(centre) << row.q.x << ' ' << row.q.y;
-    EXPECT_NEAR(row.centre.x, centre->x, 1e-12);
-    EXPECT_NEAR(row.centre.y, centre->y, 1e-12);
+    ASSERT_TRUE(centre) << row.q.north << ' ' << row.q.east;
+    EXPECT_NEAR(row.centre.north, centre->north, 1e-12);
+    EXPECT_NEAR(row.centre.east, centre->east, 1e-12);
   }
 }
 
@@ -55,7 +55,7 @@ TEST(TwoCircleCentre, FailsWherePointsCoincideOrLieTooFarApart) {
               {{10, 0}, 0, 0, false},    {{0, 8}, 3, -4, false}};
   for (const auto& row : rows) {
     EXPECT_EQ(row.found, TwoCircleCentre({0, 0}, row.r1, row.q, row.r2).has_value())
-        << row.q.x << ' ' << row.q.y;
+        << row.q.north << ' ' << row.q.east;
   }
 }
 
@@ -101,7 +101,7 @@ TEST(BuildArc, IsTheShorterOne) {
     EXPECT_LE(length, 50 * 180 * kDegree) << chord;
     EXPECT_GE(length, chord - 1e-9);
     // The centre is at +y, so the arc that turns with increasing angle passes below the chord.
-    EXPECT_TRUE(std::all_of(arc.begin(), arc.end(), [](GroundPoint p) { return p.y <= 1e-9; }));
+    EXPECT_TRUE(std::all_of(arc.begin(), arc.end(), [](GroundPoint p) { return p.east <= 1e-9; }));
   }
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double kDegree = 0.017453292519943295;
 
-double DistanceOf(GroundPoint a, GroundPoint b) { return std::hypot(a.x - b.x, a.y - b.y); }
+double DistanceOf(GroundPoint a, GroundPoint b) { return std::hypot(a.north - b.north, a.east - b.east); }
 
 TEST(ClothoidPoint, BeginsAtItsOrigin) { EXPECT_EQ((GroundPoint{0, 0}), ClothoidPoint(0, 100)); }
 
@@ -47,8 +47,8 @@ TEST(ClothoidPoint, SumsAsManyTermsAsTheirSizeAsksFor) {
     }
     const double length = std::sqrt(2 * row.tau);
     const GroundPoint point = ClothoidPoint(row.tau, 1);
-    EXPECT_NEAR(point.x, length * x, 1e-15 * length) << row.tau;
-    EXPECT_NEAR(point.y, length * row.tau * y, 1e-15 * length) << row.tau;
+    EXPECT_NEAR(point.north, length * x, 1e-15 * length) << row.tau;
+    EXPECT_NEAR(point.east, length * row.tau * y, 1e-15 * length) << row.tau;
   }
 }
 
@@ -58,14 +58,14 @@ TEST(BuildClothoid, HasAPointEveryDegreeOfItsTangent) {
   for (const double r : {200.0, -200.0, 500.0, -3000.0}) {
     const double tau = a * a / (2 * r * r);
     const GroundPoint local = test::IntegratedClothoid(tau, a);
-    const GroundPoint end{1000 + local.x, 2000 + (r < 0 ? -local.y : local.y)};
+    const GroundPoint end{1000 + local.north, 2000 + (r < 0 ? -local.east : local.east)};
     const Polyline curve = BuildClothoid({1000, 2000}, end, 0, a, r);
     ASSERT_EQ(curve.size(), 2 + static_cast<std::size_t>(tau / kDegree)) << r;
     EXPECT_EQ((GroundPoint{1000, 2000}), curve.front());
     EXPECT_EQ(curve.back(), end);
     for (std::size_t i = 1; i + 1 < curve.size(); ++i) {
       const GroundPoint expected = test::IntegratedClothoid(kDegree * static_cast<double>(i), a);
-      const GroundPoint on_map{1000 + expected.x, 2000 + (r < 0 ? -expected.y : expected.y)};
+      const GroundPoint on_map{1000 + expected.north, 2000 + (r < 0 ? -expected.east : expected.east)};
       EXPECT_NEAR(0, DistanceOf(curve[i], on_map), 1e-4) << r << " point " << i;
     }
   }
@@ -101,9 +101,9 @@ TEST(BuildClothoid, KeepsToTheSideOfItsSecondRadius) {
   ASSERT_EQ(right.size(), left.size());
   ASSERT_GT(right.size(), 2U);
   for (std::size_t i = 1; i + 1 < right.size(); ++i) {
-    EXPECT_LT(right[i].y, 0) << i;  // turning from x toward y, it bulges the other way
-    EXPECT_NEAR(left[i].x, right[i].x, 1e-9);
-    EXPECT_NEAR(left[i].y, -right[i].y, 1e-9);
+    EXPECT_LT(right[i].east, 0) << i;  // turning from x toward y, it bulges the other way
+    EXPECT_NEAR(left[i].north, right[i].north, 1e-9);
+    EXPECT_NEAR(left[i].east, -right[i].east, 1e-9);
   }
 }
 
@@ -131,7 +131,7 @@ TEST(BuildClothoid, NumbersOutOfAllProportionEnd) {
       for (const double r2 : numbers) {
         for (const GroundPoint end : {GroundPoint{10, 10}, {1e300, -1e300}, {-1.7e308, 1.7e308}}) {
           for (const GroundPoint point : BuildClothoid({1.7e308, -1.7e308}, end, r1, a, r2)) {
-            EXPECT_TRUE(std::isfinite(point.x) && std::isfinite(point.y)) << r1 << a << r2;
+            EXPECT_TRUE(std::isfinite(point.north) && std::isfinite(point.east)) << r1 << a << r2;
           }
         }
       }

@@ -46,10 +46,10 @@ TEST(FigureCodec, PointsComeBackToTheLastBitFromAnyPlace) {
     std::vector<GroundPoint> read(written.size());
     DecodeFigurePoints(bytes.data() + place, read);
     for (std::size_t i = 0; i < read.size(); ++i) {
-      ASSERT_EQ(std::bit_cast<std::uint64_t>(written[i].x),
-                std::bit_cast<std::uint64_t>(read[i].x));
-      ASSERT_EQ(std::bit_cast<std::uint64_t>(written[i].y),
-                std::bit_cast<std::uint64_t>(read[i].y));
+      ASSERT_EQ(std::bit_cast<std::uint64_t>(written[i].north),
+                std::bit_cast<std::uint64_t>(read[i].north));
+      ASSERT_EQ(std::bit_cast<std::uint64_t>(written[i].east),
+                std::bit_cast<std::uint64_t>(read[i].east));
     }
   }
 }

@@ -48,7 +48,7 @@ class FiguresOnFullDisk : public testing::Test {
     std::vector<std::vector<double>> all;
     figures_.ForEach([&](const Figure& figure) {
       std::vector<double> marks;
-      for (const GroundPoint point : figure.points) marks.push_back(point.x);
+      for (const GroundPoint point : figure.points) marks.push_back(point.north);
       all.push_back(marks);
     });
     return all;

@@ -33,7 +33,7 @@ GroundPoint End(const TableRow& row) { return {row.Number("end_x"), row.Number("
 // The arc itself from `start`, turning by `turn` radians about a centre that lies to the right of
 // the way for a positive radius.
 std::vector<GroundPoint> TrueArc(GroundPoint start, GroundPoint end, double r, double turn) {
-  const double chord = std::atan2(end.y - start.y, end.x - start.x);
+  const double chord = std::atan2(end.east - start.east, end.north - start.north);
   const double side = r < 0 ? -1.0 : 1.0;
   std::vector<GroundPoint> points;
   for (int i = 0; i <= 1000; ++i) {
@@ -41,7 +41,7 @@ std::vector<GroundPoint> TrueArc(GroundPoint start, GroundPoint end, double r, d
     const double reach = 2 * std::fabs(r) * std::sin(swept / 2);
     const double direction = chord + side * (swept - turn) / 2;
     points.push_back(
-        {start.x + reach * std::cos(direction), start.y + reach * std::sin(direction)});
+        {start.north + reach * std::cos(direction), start.east + reach * std::sin(direction)});
   }
   return points;
 }
@@ -63,7 +63,7 @@ TEST_F(MeasuredCurves, AnArcKeepsWithinTheHeightOfAChordOfFiveDegrees) {
     // A millimetre for the table's decimals.
     const double height = std::fabs(r) * (1 - std::cos(2.5 * kDegree)) + 0.001;
     for (const GroundPoint p : TrueArc(Start(row), End(row), r, turn)) {
-      ASSERT_LE(test::DistanceTo(arc, p), height) << p.x << ' ' << p.y;
+      ASSERT_LE(test::DistanceTo(arc, p), height) << p.north << ' ' << p.east;
     }
     ++arcs;
   }
@@ -84,7 +84,7 @@ TEST_F(MeasuredCurves, ASpiralKeepsWithinThreeMillimetresOfTheCurve) {
     ASSERT_GT(curve.size(), 2U);
     const std::vector<GroundPoint> true_curve = test::TrueClothoid(Start(row), End(row), r1, a, r2);
     for (const GroundPoint p : curve) {
-      EXPECT_LE(test::DistanceTo(true_curve, p), 0.003) << p.x << ' ' << p.y;
+      EXPECT_LE(test::DistanceTo(true_curve, p), 0.003) << p.north << ' ' << p.east;
     }
     ++spirals;
   }
@@ -101,11 +101,11 @@ TEST_F(MeasuredCurves, AClothoidsLocalPointsAreThoseOfTheTables) {
       const std::string number = end;
       const double tau = row.Number("tau" + number + "_rad");
       const GroundPoint point = ClothoidPoint(tau, a);
-      EXPECT_NEAR(point.x, row.Number("X" + number + "_four_term"), 2e-6) << tau;
-      EXPECT_NEAR(point.y, row.Number("Y" + number + "_four_term"), 2e-6) << tau;
+      EXPECT_NEAR(point.north, row.Number("X" + number + "_four_term"), 2e-6) << tau;
+      EXPECT_NEAR(point.east, row.Number("Y" + number + "_four_term"), 2e-6) << tau;
       if (tau > 1) continue;
-      EXPECT_NEAR(point.x, row.Number("X" + number + "_exact"), 0.001) << tau;
-      EXPECT_NEAR(point.y, row.Number("Y" + number + "_exact"), 0.001) << tau;
+      EXPECT_NEAR(point.north, row.Number("X" + number + "_exact"), 0.001) << tau;
+      EXPECT_NEAR(point.east, row.Number("Y" + number + "_exact"), 0.001) << tau;
     }
   }
 }

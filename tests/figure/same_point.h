@@ -8,11 +8,11 @@
 namespace tavix {
 
 inline bool operator==(const GroundPoint& a, const GroundPoint& b) {
-  return a.x == b.x && a.y == b.y;
+  return a.north == b.north && a.east == b.east;
 }
 
 inline std::ostream& operator<<(std::ostream& out, const GroundPoint& point) {
-  return out << '(' << point.x << ", " << point.y << ')';
+  return out << '(' << point.north << ", " << point.east << ')';
 }
 
 }  // namespace tavix

@@ -17,10 +17,10 @@ GroundPoint Way(double from, double to, double a, double side, int panels) {
     const double s = from + i * h;
     const double weight = i == 0 || i == 2 * panels ? 1.0 : (i % 2 == 1 ? 4.0 : 2.0);
     const double tangent = s * s / (2 * a * a);
-    sum.x += weight * std::cos(tangent);
-    sum.y += weight * side * std::sin(tangent);
+    sum.north += weight * std::cos(tangent);
+    sum.east += weight * side * std::sin(tangent);
   }
-  return {sum.x * h / 3, sum.y * h / 3};
+  return {sum.north * h / 3, sum.east * h / 3};
 }
 
 // Arc length from the straight end to a radius; 0 is the straight end.
@@ -44,13 +44,13 @@ std::vector<GroundPoint> TrueClothoid(GroundPoint start, GroundPoint end, double
   for (int i = 0; i < kPieces; ++i) {
     const GroundPoint step =
         Way(s1 + (s2 - s1) * i / kPieces, s1 + (s2 - s1) * (i + 1) / kPieces, a, side, 1);
-    local.push_back({local.back().x + step.x, local.back().y + step.y});
+    local.push_back({local.back().north + step.north, local.back().east + step.east});
   }
   const double turn =
-      std::atan2(end.y - start.y, end.x - start.x) - std::atan2(local.back().y, local.back().x);
+      std::atan2(end.east - start.east, end.north - start.north) - std::atan2(local.back().east, local.back().north);
   const double c = std::cos(turn);
   const double s = std::sin(turn);
-  for (GroundPoint& p : local) p = {c * p.x - s * p.y + start.x, s * p.x + c * p.y + start.y};
+  for (GroundPoint& p : local) p = {c * p.north - s * p.east + start.north, s * p.north + c * p.east + start.east};
   return local;
 }
 
@@ -58,13 +58,13 @@ double DistanceTo(const std::vector<GroundPoint>& chain, GroundPoint point) {
   double nearest = std::numeric_limits<double>::infinity();
   for (std::size_t i = 1; i < chain.size(); ++i) {
     const GroundPoint from = chain[i - 1];
-    const double dx = chain[i].x - from.x;
-    const double dy = chain[i].y - from.y;
+    const double dx = chain[i].north - from.north;
+    const double dy = chain[i].east - from.east;
     const double square = dx * dx + dy * dy;
     const double along =
-        square == 0 ? 0.0 : ((point.x - from.x) * dx + (point.y - from.y) * dy) / square;
+        square == 0 ? 0.0 : ((point.north - from.north) * dx + (point.east - from.east) * dy) / square;
     const double at = std::clamp(along, 0.0, 1.0);
-    nearest = std::min(nearest, std::hypot(from.x + at * dx - point.x, from.y + at * dy - point.y));
+    nearest = std::min(nearest, std::hypot(from.north + at * dx - point.north, from.east + at * dy - point.east));
   }
   return nearest;
 }

@@ -18,8 +18,8 @@ constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 std::int32_t PlainNearest(const std::vector<Point>& points, double tolerance, GroundPoint at) {
   std::vector<std::pair<std::int32_t, double>> candidates;
   for (const Point& point : points) {
-    const double dx = at.x - point.at.x;
-    const double dy = at.y - point.at.y;
+    const double dx = at.north - point.at.north;
+    const double dy = at.east - point.at.east;
     if (!(std::fabs(dx) <= tolerance && std::fabs(dy) <= tolerance)) continue;
     candidates.emplace_back(point.key, dx * dx + dy * dy);
     if (candidates.size() == 10) break;
@@ -60,7 +60,7 @@ class PointsTwice {
     std::int32_t key = 99;
     const int code = points_.FindNearest(tolerance, at, &key);
     ASSERT_EQ(plain_.empty() ? -3 : (expected == 0 ? -1 : 0), code);
-    ASSERT_EQ(key, expected) << tolerance << " round " << at.x << ", " << at.y;
+    ASSERT_EQ(key, expected) << tolerance << " round " << at.north << ", " << at.east;
   }
 
  private:

@@ -13,7 +13,7 @@ namespace {
 using Positions = std::vector<std::uint32_t>;
 
 bool Overlap(const GroundExtent& a, const GroundExtent& b) {
-  return a.min.x <= b.max.x && b.min.x <= a.max.x && a.min.y <= b.max.y && b.min.y <= a.max.y;
+  return a.min.north <= b.max.north && b.min.north <= a.max.north && a.min.east <= b.max.east && b.min.east <= a.max.east;
 }
 
 Positions InTree(PlaceTree& tree, const GroundExtent& box, std::size_t most) {
@@ -103,8 +103,8 @@ TEST(PlaceTree, GivesTheWalkOverAllPlaces) {
         const GroundPoint at = places[random() % count].at;
         box.Include(at);
         const double reach = std::ldexp(1.0, static_cast<int>(random() % 40) - 20);
-        box.Include(GroundPoint{at.x + reach * Uniform(random, -1, 1),
-                                at.y + reach * Uniform(random, -1, 1)});
+        box.Include(GroundPoint{at.north + reach * Uniform(random, -1, 1),
+                                at.east + reach * Uniform(random, -1, 1)});
         if (i % 50 == 0) box.Include(places[random() % count].at);
         const std::size_t most = i % 3 == 0 ? count : 1 + random() % 12;
         ASSERT_EQ(InWalk(places, box.Extent(), most), InTree(tree, box.Extent(), most)) << i;
@@ -134,7 +134,7 @@ TEST(PlaceTree, LooksAtFewOfManyPlaces) {
     int looks = 0;
     for (std::size_t i = 0; i < 100; ++i) {
       const GroundPoint at = places[i * 997].at;
-      const GroundExtent box{{at.x + 0.1, at.y + 0.1}, {at.x - 0.1, at.y - 0.1}};
+      const GroundExtent box{{at.north + 0.1, at.east + 0.1}, {at.north - 0.1, at.east - 0.1}};
       tree.ForEachInOrder(
           [&](const GroundExtent& part) {
             ++looks;

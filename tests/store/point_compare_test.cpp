@@ -19,8 +19,8 @@ TEST(SamePlace, IsStrictlyCloserThanTheTolerance) {
               {{0, 5}, false},
               {{std::nan(""), 0}, false}};
   for (const auto& row : rows) {
-    EXPECT_EQ(row.same, IsSamePlace({0, 0}, row.other)) << row.other.x << ' ' << row.other.y;
-    EXPECT_EQ(row.same, IsSamePlace(row.other, {0, 0})) << row.other.x << ' ' << row.other.y;
+    EXPECT_EQ(row.same, IsSamePlace({0, 0}, row.other)) << row.other.north << ' ' << row.other.east;
+    EXPECT_EQ(row.same, IsSamePlace(row.other, {0, 0})) << row.other.north << ' ' << row.other.east;
   }
 }
 

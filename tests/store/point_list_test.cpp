@@ -31,8 +31,8 @@ TEST(PointList, KeepsEveryFieldOfAPoint) {
   EXPECT_EQ(-7, point.key);
   EXPECT_EQ(42, point.number);
   EXPECT_EQ(u"基準点", point.name);
-  EXPECT_EQ(1.5, point.at.x);
-  EXPECT_EQ(-2.5, point.at.y);
+  EXPECT_EQ(1.5, point.at.north);
+  EXPECT_EQ(-2.5, point.at.east);
   EXPECT_EQ(-1, point.legend);
   EXPECT_EQ(0, points.Close());
   EXPECT_EQ(1U, points.Count());  // closing is no work
@@ -53,12 +53,12 @@ TEST(PointList, WithoutACurrentPointNothingIsReadOrChanged) {
   EXPECT_EQ(-2, points.SetCur(5, u"other", {5, 5}, 5));
   EXPECT_EQ(99, point.key);
   EXPECT_EQ(u"kept", point.name);
-  EXPECT_EQ(9, at.x);
+  EXPECT_EQ(9, at.north);
   EXPECT_FALSE(points.Changed());
   ASSERT_EQ(0, points.First());
   ASSERT_EQ(0, points.GetCur(&point));
   EXPECT_EQ(1, point.number);
-  EXPECT_EQ(10, point.at.x);
+  EXPECT_EQ(10, point.at.north);
 }
 
 TEST(PointList, AddingAndWalkingKeepTheOrderOfEntry) {
@@ -88,8 +88,8 @@ TEST(PointList, ReplacingKeepsTheKeyAndThePlaceInTheList) {
   EXPECT_EQ(2, point.key);
   EXPECT_EQ(77, point.number);
   EXPECT_EQ(u"a longer name than before", point.name);
-  EXPECT_EQ(8, point.at.x);
-  EXPECT_EQ(9, point.at.y);
+  EXPECT_EQ(8, point.at.north);
+  EXPECT_EQ(9, point.at.east);
   EXPECT_EQ(201, point.legend);
 }
 
@@ -165,35 +165,35 @@ TEST(PointList, LocatingLeavesTheCurrentPointAlone) {
   ASSERT_EQ(0, points.Find(1));
   GroundPoint at{9, 9};
   EXPECT_FALSE(points.Locate(7, &at));
-  EXPECT_EQ(9, at.x);
+  EXPECT_EQ(9, at.north);
   EXPECT_TRUE(points.Locate(2, &at));
-  EXPECT_EQ(30, at.x);
-  EXPECT_EQ(40, at.y);
+  EXPECT_EQ(30, at.north);
+  EXPECT_EQ(40, at.east);
   ASSERT_EQ(0, points.GetCurCrd(&at));
-  EXPECT_EQ(10, at.x);
+  EXPECT_EQ(10, at.north);
 }
 
 TEST(PointList, ExtentCoversEveryPoint) {
   CPntList points(0);
   GroundExtent extent{{9, 9}, {9, 9}};
   EXPECT_EQ(-3, points.GetExtent(&extent));
-  EXPECT_EQ(0.0, extent.max.x);
-  EXPECT_EQ(0.0, extent.min.y);
+  EXPECT_EQ(0.0, extent.max.north);
+  EXPECT_EQ(0.0, extent.min.east);
   points.Add(PointAt(1, 5, -5));
   EXPECT_EQ(0, points.GetExtent(&extent));
-  EXPECT_EQ(5.0, extent.max.x);
-  EXPECT_EQ(5.0, extent.min.x);
+  EXPECT_EQ(5.0, extent.max.north);
+  EXPECT_EQ(5.0, extent.min.north);
   points.Add(PointAt(2, 7, -9));
   points.Add(PointAt(3, -1, 3));
   EXPECT_EQ(0, points.GetExtent(&extent));
-  EXPECT_EQ(7.0, extent.max.x);
-  EXPECT_EQ(3.0, extent.max.y);
-  EXPECT_EQ(-1.0, extent.min.x);
-  EXPECT_EQ(-9.0, extent.min.y);
+  EXPECT_EQ(7.0, extent.max.north);
+  EXPECT_EQ(3.0, extent.max.east);
+  EXPECT_EQ(-1.0, extent.min.north);
+  EXPECT_EQ(-9.0, extent.min.east);
   ASSERT_EQ(0, points.Remove(2));
   EXPECT_EQ(0, points.GetExtent(&extent));
-  EXPECT_EQ(5.0, extent.max.x);
-  EXPECT_EQ(-5.0, extent.min.y);
+  EXPECT_EQ(5.0, extent.max.north);
+  EXPECT_EQ(-5.0, extent.min.east);
 }
 
 TEST(PointList, NamesSurviveManyChanges) {
@@ -235,7 +235,7 @@ TEST(FindNearest, LooksInASquareBordersIncluded) {
               {"far in both", {20, 20}, false}};
   for (const auto& row : rows) {
     CPntList points(0);
-    points.Add(PointAt(7, row.point.x, row.point.y));
+    points.Add(PointAt(7, row.point.north, row.point.east));
     std::int32_t key = 99;
     EXPECT_EQ(points.FindNearest(10, {0, 0}, &key), row.found ? 0 : -1) << row.what;
     EXPECT_EQ(key, row.found ? 7 : 0) << row.what;

@@ -340,8 +340,8 @@ TEST(ClipGroundSegment, TheFirstGroundEndGetsTheFirstClippedEnd) {
   ScreenSegment clipped;
   ASSERT_TRUE(view.ClipGroundSegmentInPlace(west, east, clipped));
   EXPECT_EQ((ScreenPoint{240, 90}), clipped.start);  // the right border comes before the left one
-  EXPECT_EQ(120.0, west.y);
-  EXPECT_EQ(-120.0, east.y);
+  EXPECT_EQ(120.0, west.east);
+  EXPECT_EQ(-120.0, east.east);
 }
 
 }  // namespace

@@ -8,20 +8,20 @@ namespace {
 TEST(Extent, NothingHasZeros) {
   const ExtentBuilder builder;
   EXPECT_TRUE(builder.IsEmpty());
-  EXPECT_EQ(0.0, builder.Extent().max.x);
-  EXPECT_EQ(0.0, builder.Extent().max.y);
-  EXPECT_EQ(0.0, builder.Extent().min.x);
-  EXPECT_EQ(0.0, builder.Extent().min.y);
+  EXPECT_EQ(0.0, builder.Extent().max.north);
+  EXPECT_EQ(0.0, builder.Extent().max.east);
+  EXPECT_EQ(0.0, builder.Extent().min.north);
+  EXPECT_EQ(0.0, builder.Extent().min.east);
 }
 
 TEST(Extent, OnePointIsBothCorners) {
   ExtentBuilder builder;
   builder.Include(GroundPoint{-5, 7});
   EXPECT_FALSE(builder.IsEmpty());
-  EXPECT_EQ(-5.0, builder.Extent().max.x);
-  EXPECT_EQ(-5.0, builder.Extent().min.x);
-  EXPECT_EQ(7.0, builder.Extent().max.y);
-  EXPECT_EQ(7.0, builder.Extent().min.y);
+  EXPECT_EQ(-5.0, builder.Extent().max.north);
+  EXPECT_EQ(-5.0, builder.Extent().min.north);
+  EXPECT_EQ(7.0, builder.Extent().max.east);
+  EXPECT_EQ(7.0, builder.Extent().min.east);
 }
 
 TEST(Extent, EachAxisGrowsOnItsOwn) {
@@ -29,10 +29,10 @@ TEST(Extent, EachAxisGrowsOnItsOwn) {
   for (const GroundPoint point : {GroundPoint{1, 1}, {3, 0}, {2, 5}, {-4, 2}, {0, 0}}) {
     builder.Include(point);
   }
-  EXPECT_EQ(3.0, builder.Extent().max.x);
-  EXPECT_EQ(-4.0, builder.Extent().min.x);
-  EXPECT_EQ(5.0, builder.Extent().max.y);
-  EXPECT_EQ(0.0, builder.Extent().min.y);
+  EXPECT_EQ(3.0, builder.Extent().max.north);
+  EXPECT_EQ(-4.0, builder.Extent().min.north);
+  EXPECT_EQ(5.0, builder.Extent().max.east);
+  EXPECT_EQ(0.0, builder.Extent().min.east);
 }
 
 }  // namespace

@@ -44,8 +44,8 @@ TEST(FitToArea, LeavesAMarginOfTwentyPixels) {
     EXPECT_EQ(row.scale, view.Scale()) << row.what;
     EXPECT_EQ(row.scale, view.VScale()) << row.what;
     EXPECT_EQ(row.scale, view.HomeScale()) << row.what;
-    EXPECT_EQ(view.Centre().x, kCentre.x) << row.what;
-    EXPECT_EQ(view.Centre().y, kCentre.y) << row.what;
+    EXPECT_EQ(view.Centre().north, kCentre.north) << row.what;
+    EXPECT_EQ(view.Centre().east, kCentre.east) << row.what;
     EXPECT_FALSE(view.NoViewYet()) << row.what;
   }
 }
@@ -98,8 +98,8 @@ TEST(FitToArea, TheFirstFitIsItsOwnPreviousView) {
   EXPECT_FALSE(view.FitToArea({100, 50}, kCentre));
   view.ToggleHome();
   EXPECT_EQ(2.2, view.Scale());
-  EXPECT_EQ(view.Centre().x, kCentre.x);
-  EXPECT_EQ(view.Centre().y, kCentre.y);
+  EXPECT_EQ(view.Centre().north, kCentre.north);
+  EXPECT_EQ(view.Centre().east, kCentre.east);
 }
 
 TEST(FitToArea, ALaterFitRemembersTheViewBefore) {
@@ -109,12 +109,12 @@ TEST(FitToArea, ALaterFitRemembersTheViewBefore) {
   EXPECT_EQ(1.0, view.HomeScale());
   view.ToggleHome();
   EXPECT_EQ(2.2, view.Scale());
-  EXPECT_EQ(view.Centre().x, kCentre.x);
-  EXPECT_EQ(view.Centre().y, kCentre.y);
+  EXPECT_EQ(view.Centre().north, kCentre.north);
+  EXPECT_EQ(view.Centre().east, kCentre.east);
   EXPECT_EQ(1.0, view.HomeScale());
   view.ToggleHome();
   EXPECT_EQ(1.0, view.Scale());
-  EXPECT_EQ(-3, view.Centre().x);
+  EXPECT_EQ(-3, view.Centre().north);
 }
 
 TEST(FitToRect, TakesTheGivenSizeInPlaceOfTheClientArea) {
@@ -155,8 +155,8 @@ TEST(ZoomToArea, FillsTheClientArea) {
     EXPECT_EQ(row.cut, view.ZoomToArea(row.size, kCentre)) << row.what;
     EXPECT_EQ(row.scale, view.Scale()) << row.what;
     EXPECT_EQ(row.scale, view.VScale()) << row.what;
-    EXPECT_EQ(view.Centre().x, kCentre.x) << row.what;
-    EXPECT_EQ(view.Centre().y, kCentre.y) << row.what;
+    EXPECT_EQ(view.Centre().north, kCentre.north) << row.what;
+    EXPECT_EQ(view.Centre().east, kCentre.east) << row.what;
   }
 }
 
@@ -168,10 +168,10 @@ TEST(ZoomToArea, LeavesTheHomeViewAlone) {
   EXPECT_EQ(2.2, view.HomeScale());
   view.ToggleHome();
   EXPECT_EQ(2.2, view.Scale());
-  EXPECT_EQ(view.Centre().x, kCentre.x);
+  EXPECT_EQ(view.Centre().north, kCentre.north);
   view.ToggleHome();
   EXPECT_EQ(2.4, view.Scale());
-  EXPECT_EQ(1, view.Centre().x);
+  EXPECT_EQ(1, view.Centre().north);
 }
 
 TEST(ZoomToArea, BeforeTheFirstFitThereIsStillNoView) {
@@ -188,7 +188,7 @@ TEST(ZoomToArea, RemembersTheViewBefore) {
   EXPECT_FALSE(view.ZoomToArea({10, 10}, kCentre));
   EXPECT_FALSE(view.SetFitScale(22, 10, 1.0));  // at the home scale again
   view.ToggleHome();
-  EXPECT_EQ(510, view.Centre().x);  // what the zoom left, not the fit
+  EXPECT_EQ(510, view.Centre().north);  // what the zoom left, not the fit
 }
 
 TEST(RotatedExtent, IsTheBoxAroundTheTurnedBox) {
@@ -226,11 +226,11 @@ TEST(HomeToggle, PanningAndTogglingTwiceComesBackToThePannedView) {
   view.SetCentre({700, 800});
   EXPECT_EQ(2.2, view.Scale());
   view.ToggleHome();
-  EXPECT_EQ(view.Centre().x, kCentre.x);
-  EXPECT_EQ(view.Centre().y, kCentre.y);
+  EXPECT_EQ(view.Centre().north, kCentre.north);
+  EXPECT_EQ(view.Centre().east, kCentre.east);
   view.ToggleHome();
-  EXPECT_EQ(700, view.Centre().x);
-  EXPECT_EQ(800, view.Centre().y);
+  EXPECT_EQ(700, view.Centre().north);
+  EXPECT_EQ(800, view.Centre().east);
 }
 
 }  // namespace

@@ -183,11 +183,11 @@ TEST(ViewState, TogglingHomeTwiceReturnsToTheStart) {
   view.SetCentre({510, 610});
   view.ToggleHome();
   EXPECT_DOUBLE_EQ(2.2, view.Scale());
-  EXPECT_DOUBLE_EQ(500, view.Centre().x);
+  EXPECT_DOUBLE_EQ(500, view.Centre().north);
   view.ToggleHome();
   EXPECT_DOUBLE_EQ(2.2 * 1.5, view.Scale());
-  EXPECT_DOUBLE_EQ(510, view.Centre().x);
-  EXPECT_DOUBLE_EQ(610, view.Centre().y);
+  EXPECT_DOUBLE_EQ(510, view.Centre().north);
+  EXPECT_DOUBLE_EQ(610, view.Centre().east);
 }
 
 TEST(ViewState, NearlyHomeCountsAsHomeStrictlyBelowTheTolerance) {
@@ -195,10 +195,10 @@ TEST(ViewState, NearlyHomeCountsAsHomeStrictlyBelowTheTolerance) {
   EXPECT_FALSE(view.FitToArea({100, 50}, {0, 0}));
   view.SetCentre({0.00001, 0});  // exactly the tolerance: not home
   view.ToggleHome();
-  EXPECT_EQ(0.0, view.Centre().x);
+  EXPECT_EQ(0.0, view.Centre().north);
   view.SetCentre({0.000009, 0});  // below it: home, so the toggle goes back
   view.ToggleHome();
-  EXPECT_EQ(0.0, view.Centre().x);
+  EXPECT_EQ(0.0, view.Centre().north);
 }
 
 TEST(ViewState, CircleTouchesTheClientAreaBordersIncluded) {
@@ -216,7 +216,7 @@ TEST(ViewState, CircleTouchesTheClientAreaBordersIncluded) {
   for (const auto& row : rows) {
     at = {-7, -7};
     EXPECT_EQ(row.visible, view.CircleOnScreen(row.centre, row.radius, at))
-        << row.centre.x << ' ' << row.centre.y;
+        << row.centre.north << ' ' << row.centre.east;
     EXPECT_EQ(at == (ScreenPoint{-7, -7}), !row.visible);
   }
 }
@@ -229,12 +229,12 @@ TEST(ViewState, ClippingInPlaceMovesTheGroundEndsToTheClippedPixels) {
   ASSERT_TRUE(view.ClipGroundSegmentInPlace(start, end, clipped));
   EXPECT_EQ((ScreenPoint{120, 90}), clipped.start);
   EXPECT_EQ((ScreenPoint{240, 90}), clipped.end);
-  EXPECT_DOUBLE_EQ(0.0, start.y);
-  EXPECT_DOUBLE_EQ(120.0, end.y);
+  EXPECT_DOUBLE_EQ(0.0, start.east);
+  EXPECT_DOUBLE_EQ(120.0, end.east);
   GroundPoint left{0, -500};
   GroundPoint further{0, -400};
   EXPECT_FALSE(view.ClipGroundSegmentInPlace(left, further, clipped));
-  EXPECT_EQ(-500, left.y);
+  EXPECT_EQ(-500, left.east);
 }
 
 TEST(ViewState, HalvesOfTheScreenSizeAreWhole) {
@@ -310,8 +310,8 @@ TEST(ViewState, AnyOneDifferenceIsNotHome) {
     view.SetCentre(row.centre);  // the centre before is far away
     EXPECT_FALSE(view.ZoomIn(row.zoom));
     view.ToggleHome();
-    EXPECT_EQ(0.0, view.Centre().x) << row.zoom;
-    EXPECT_EQ(0.0, view.Centre().y) << row.zoom;
+    EXPECT_EQ(0.0, view.Centre().north) << row.zoom;
+    EXPECT_EQ(0.0, view.Centre().east) << row.zoom;
     EXPECT_EQ(2.2, view.Scale()) << row.zoom;
   }
 }
@@ -331,7 +331,7 @@ TEST(ViewState, ARatioThatIsNotFiniteIsCarriedAndHarmless) {
     const ScreenPoint at = view.GroundToScreen({5, 7});
     const GroundPoint back = view.ScreenToGround({1, 2});
     EXPECT_EQ(at.x == 127, ratio == 0.0) << ratio;  // the turn mixes what is no number into both
-    EXPECT_DOUBLE_EQ(-119.0, back.y) << ratio;
+    EXPECT_DOUBLE_EQ(-119.0, back.east) << ratio;
     ScreenSegment clipped;
     const bool visible = view.ClipGroundSegment({0, 0}, {5, 7}, clipped);
     EXPECT_EQ(visible, ratio == 0.0) << ratio;
@@ -350,7 +350,7 @@ TEST(ViewState, ACopyIsTheWholeView) {
   CViewState copy = view;
   EXPECT_FALSE(copy.NoViewYet());
   EXPECT_EQ(copy.GroundToScreen({512, 617}), view.GroundToScreen({512, 617}));
-  EXPECT_EQ(copy.ScreenToGround({3, 4}).x, view.ScreenToGround({3, 4}).x);
+  EXPECT_EQ(copy.ScreenToGround({3, 4}).north, view.ScreenToGround({3, 4}).north);
   ScreenSegment of_copy;
   ScreenSegment of_view;
   ASSERT_TRUE(copy.ClipGroundSegment({510, 610}, {910, 910}, of_copy));
@@ -360,7 +360,7 @@ TEST(ViewState, ACopyIsTheWholeView) {
   EXPECT_EQ(2.2, copy.Scale());
   copy.ToggleHome();
   EXPECT_EQ(copy.Scale(), view.Scale());
-  EXPECT_EQ(510.0, copy.Centre().x);
+  EXPECT_EQ(510.0, copy.Centre().north);
 }
 
 }  // namespace

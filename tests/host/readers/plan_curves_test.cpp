@@ -68,8 +68,8 @@ TEST(ArcAbout, IsDrawnOnItsCircleHoweverLong) {
       }
       for (const auto& chain : drawn) {
         for (const tavix::GroundPoint p : chain) {
-          EXPECT_NEAR(kRadius, std::hypot(p.x - kCentre.north, p.y - kCentre.east), 1e-6);
-          const double past = TurnAbout(kCentre, from, {p.x, p.y}, rotation);
+          EXPECT_NEAR(kRadius, std::hypot(p.north - kCentre.north, p.east - kCentre.east), 1e-6);
+          const double past = TurnAbout(kCentre, from, {p.north, p.east}, rotation);
           EXPECT_TRUE(past <= turn + 1e-6 || past >= 2 * kPi - 1e-6) << degrees << ' ' << past;
         }
       }
@@ -119,20 +119,20 @@ std::vector<tavix::GroundPoint> TrueSpiral(const SpiralShape& shape, double bear
     const double s = (i + 0.5) * step;
     const double direction = bearing + side * (shape.start_curvature * s + change * s * s / 2);
     way.push_back(
-        {way.back().x + step * std::cos(direction), way.back().y + step * std::sin(direction)});
+        {way.back().north + step * std::cos(direction), way.back().east + step * std::sin(direction)});
   }
   return way;
 }
 
 GroundPosition EndOf(const std::vector<tavix::GroundPoint>& way) {
-  return {way.back().x, way.back().y};
+  return {way.back().north, way.back().east};
 }
 
 double LongestChord(const std::vector<tavix::GroundPoint>& chain) {
   double longest = 0.0;
   for (std::size_t i = 1; i < chain.size(); ++i) {
     longest =
-        std::max(longest, std::hypot(chain[i].x - chain[i - 1].x, chain[i].y - chain[i - 1].y));
+        std::max(longest, std::hypot(chain[i].north - chain[i - 1].north, chain[i].east - chain[i - 1].east));
   }
   return longest;
 }
