@@ -22,10 +22,10 @@
 
 #include "bench/median_time.h"
 #include "bench/redraw_scene.h"
-#include "draw/bits/bits_canvas.h"
-#include "draw/bits/pixel_section.h"
+#include "draw/dib/dib_canvas.h"
+#include "draw/dib/dib_section.h"
+#include "draw/gdi_canvas.h"
 #include "draw/label_font.h"
-#include "draw/plain_canvas.h"
 #include "draw/plan_view.h"
 #include "platform/wide_text.h"
 
@@ -40,7 +40,7 @@ class Surface {
   explicit Surface(SIZE size) {
     CClientDC screen(nullptr);
     dc_.CreateCompatibleDC(&screen);
-    pixels_ = CreatePixelSection(screen, size.cx, size.cy, bitmap_);
+    pixels_ = CreateDib(screen, size.cx, size.cy, bitmap_);
     if (!pixels_.pixels) std::exit(1);
     ::SelectObject(dc_.m_hDC, bitmap_.m_hObject);
     const LOGFONTW font = LabelFont(10);
@@ -172,13 +172,13 @@ void Measure(SIZE size, Plot& plot, const RedrawScene& scene, bool whole) {
       [&] { shown = DrawRedrawFloor(floor.Dc().m_hDC, size, plot.View(), scene); });
   const double plain_ms = MedianMilliseconds([&] {
     plain.Fill();
-    PlainCanvas canvas(plain.Dc());
+    GdiCanvas canvas(plain.Dc());
     DrawPlanView(canvas, plot.Data());
     ::GdiFlush();
   });
   const double fast_ms = MedianMilliseconds([&] {
     fast.Fill();
-    BitsCanvas canvas(fast.Dc(), fast.Pixels(), learnt);
+    DibCanvas canvas(fast.Dc(), fast.Pixels(), learnt);
     DrawPlanView(canvas, plot.Data());
     ::GdiFlush();
   });

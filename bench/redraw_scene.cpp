@@ -34,7 +34,8 @@ void AddFigures(RedrawScene& scene, std::mt19937& random) {
     for (int k = 0; k < kFigurePoints; ++k) {
       const double angle = 6.0 * k / kFigurePoints;
       const double reach = radius * (1.0 + 0.1 * std::sin(9.0 * angle));
-      figure.push_back({centre.north + reach * std::cos(angle), centre.east + reach * std::sin(angle)});
+      figure.push_back(
+          {centre.north + reach * std::cos(angle), centre.east + reach * std::sin(angle)});
     }
   }
 }

@@ -54,7 +54,8 @@ class GroundBox {
         high_{std::max(a.north, b.north), std::max(a.east, b.east)} {}
 
   [[nodiscard]] bool Holds(GroundPoint at) const {
-    return low_.north <= at.north && at.north <= high_.north && low_.east <= at.east && at.east <= high_.east;
+    return low_.north <= at.north && at.north <= high_.north && low_.east <= at.east &&
+           at.east <= high_.east;
   }
 
  private:
@@ -122,7 +123,9 @@ class PatternWalk {
   }
 
  private:
-  [[nodiscard]] bool IsHere(GroundPoint at) const { return at.north == at_.north && at.east == at_.east; }
+  [[nodiscard]] bool IsHere(GroundPoint at) const {
+    return at.north == at_.north && at.east == at_.east;
+  }
 
   // False when the walk has ended.
   bool DrawRounds(std::int64_t rounds) {

@@ -11,7 +11,7 @@
 namespace tavix {
 
 // The few drawing operations the views' passes need, in pixels. Whatever implements them gives
-// the pixels of PlainCanvas, which draws each by the system's own call. Later drawings cover
+// the pixels of GdiCanvas, which draws each by the system's own call. Later drawings cover
 // earlier ones.
 //
 // A style is in use until the next one is. Its sizes are those to be drawn, see DrawnPointStyle.

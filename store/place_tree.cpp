@@ -59,7 +59,8 @@ std::vector<CurvePlace> AlongCurve(const std::vector<ListedPlace>& places) {
   std::vector<CurvePlace> curve;
   curve.reserve(places.size());
   for (const ListedPlace& place : places) {
-    const std::uint64_t number = Spread(x.Number(place.at.north)) << 1 | Spread(y.Number(place.at.east));
+    const std::uint64_t number =
+        Spread(x.Number(place.at.north)) << 1 | Spread(y.Number(place.at.east));
     curve.push_back({number, static_cast<std::uint32_t>(curve.size())});
   }
   std::sort(curve.begin(), curve.end(), [](const CurvePlace& one, const CurvePlace& other) {

@@ -11,7 +11,8 @@ namespace tavix {
 constexpr double kSameCoordinate = 1e-5;
 
 inline bool IsSamePlace(GroundPoint a, GroundPoint b) {
-  return std::fabs(a.north - b.north) < kSameCoordinate && std::fabs(a.east - b.east) < kSameCoordinate;
+  return std::fabs(a.north - b.north) < kSameCoordinate &&
+         std::fabs(a.east - b.east) < kSameCoordinate;
 }
 
 }  // namespace tavix

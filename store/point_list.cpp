@@ -6,8 +6,8 @@
 namespace tavix {
 
 int CPntList::Add(const Point& point) {
-  Append({point.at.north, point.at.east, point.key, point.number, Names().Add(point.name), point.legend,
-          false});
+  Append({point.at.north, point.at.east, point.key, point.number, Names().Add(point.name),
+          point.legend, false});
   return 0;
 }
 
@@ -39,7 +39,8 @@ int CPntList::FindNearest(double tolerance, GroundPoint at, std::int32_t* key) c
   *key = 0;
   if (Records().IsEmpty()) return -3;
 
-  if (!(tolerance >= 0.0) || std::isnan(at.north) || std::isnan(at.east)) return -1;  // nothing is near
+  if (!(tolerance >= 0.0) || std::isnan(at.north) || std::isnan(at.east))
+    return -1;  // nothing is near
 
   // Differences fall as the coordinate rises, rounded or not: those of the borders bound the
   // others.
@@ -47,7 +48,8 @@ int CPntList::FindNearest(double tolerance, GroundPoint at, std::int32_t* key) c
     return std::max(low - centre, centre - high) > tolerance;  // one branch, mostly foreseen
   };
   const auto touches = [&](const GroundExtent& box) {
-    return !too_far(at.north, box.min.north, box.max.north) && !too_far(at.east, box.min.east, box.max.east);
+    return !too_far(at.north, box.min.north, box.max.north) &&
+           !too_far(at.east, box.min.east, box.max.east);
   };
   int candidates = 0;
   double nearest = 0.0;

@@ -1,4 +1,4 @@
-// The two spaces of a plot, as distinct types, so that they are never mixed up silently.
+// Ground and screen, as distinct types, so that they are never mixed up silently.
 #pragma once
 
 namespace tavix {
@@ -7,6 +7,13 @@ namespace tavix {
 struct GroundPoint {
   double north = 0.0;  // the x of the exported calls
   double east = 0.0;   // their y
+};
+
+// A box on the ground measured along the screen's axes of an unturned view, in metres: `east` along
+// screen x, `north` along screen y. A size may be negative where a caller gave its corners so.
+struct GroundSize {
+  double east = 0.0;
+  double north = 0.0;
 };
 
 // A position on the plot window's client area in pixels: origin top left, y downwards.

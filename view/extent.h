@@ -2,7 +2,6 @@
 #pragma once
 
 #include "view/coordinates.h"
-#include "view/view_state.h"
 
 namespace tavix {
 

@@ -17,7 +17,8 @@ bool IsCircleInView(const CViewState& view, GroundPoint centre, double radius) {
   const double c = view.CosA();
   const double s = view.SinA();
   return std::all_of(offsets.begin(), offsets.end(), [&](GroundPoint d) {
-    return IsPointInView(view, {centre.north + (d.north * c - d.east * s), centre.east + (d.east * c + d.north * s)});
+    return IsPointInView(view, {centre.north + (d.north * c - d.east * s),
+                                centre.east + (d.east * c + d.north * s)});
   });
 }
 

@@ -69,8 +69,10 @@ int PaperFrame::Scale() const { return TruncateToInt(1.0 / scale_); }
 
 void PaperFrame::SetOrigin(CViewState& view, GroundPoint origin) {
   const GroundPoint top_right = view.ScreenToGround(TopRight());
-  const GroundPoint middle{(origin_.north + top_right.north) * 0.5, (origin_.east + top_right.east) * 0.5};
-  view.SetCentre({origin.north - origin_.north + middle.north, origin.east - origin_.east + middle.east});
+  const GroundPoint middle{(origin_.north + top_right.north) * 0.5,
+                           (origin_.east + top_right.east) * 0.5};
+  view.SetCentre(
+      {origin.north - origin_.north + middle.north, origin.east - origin_.east + middle.east});
   origin_ = origin;
 }
 

@@ -6,13 +6,6 @@
 
 namespace tavix {
 
-// A box on the ground measured along the screen's axes of an unturned view, in metres: `east` along
-// screen x, `north` along screen y. A size may be negative where a caller gave its corners so.
-struct GroundSize {
-  double east = 0.0;
-  double north = 0.0;
-};
-
 // The view of one plot. Ground: metres, x north, y east. Screen: pixels, origin top left of the
 // client area, y down. The unturned view has north up; a positive angle turns the picture
 // clockwise.

@@ -1,6 +1,6 @@
 #include "window/back_buffer.h"
 
-#include "draw/bits/pixel_section.h"
+#include "draw/dib/dib_section.h"
 
 namespace tavix {
 
@@ -9,7 +9,7 @@ void BackBuffer::Create(CWnd& window) {
   if (rect_.IsRectEmpty()) return;
   CClientDC client(&window);
   dc_.CreateCompatibleDC(&client);
-  pixels_ = CreatePixelSection(client, rect_.right, rect_.bottom, bitmap_);
+  pixels_ = CreateDib(client, rect_.right, rect_.bottom, bitmap_);
   if (!pixels_.pixels) bitmap_.CreateCompatibleBitmap(&client, rect_.right, rect_.bottom);
   selected_.emplace(dc_, bitmap_);
   Fill();

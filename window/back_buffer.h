@@ -6,7 +6,7 @@
 
 #include <optional>
 
-#include "draw/bits/pixel_block.h"
+#include "draw/dib/pixel_block.h"
 
 namespace tavix {
 

@@ -74,7 +74,8 @@ void CPlotWnd::FinishBand(const StylusGesture& gesture) {
   const auto corners = band_zoom_.Take(gesture, GroundUnder(gesture.down), GroundUnder(gesture.up));
   if (!corners) return;
   const auto [a, b] = *corners;
-  ZoomTo({std::fabs(b.east - a.east), std::fabs(b.north - a.north)}, {(a.north + b.north) * 0.5, (a.east + b.east) * 0.5});
+  ZoomTo({std::fabs(b.east - a.east), std::fabs(b.north - a.north)},
+         {(a.north + b.north) * 0.5, (a.east + b.east) * 0.5});
   EndBandZoom();
 }
 

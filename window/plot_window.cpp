@@ -3,9 +3,9 @@
 #include <cmath>
 #include <cstdint>
 
-#include "draw/bits/bits_canvas.h"
+#include "draw/dib/dib_canvas.h"
+#include "draw/gdi_canvas.h"
 #include "draw/label_font.h"
-#include "draw/plain_canvas.h"
 #include "draw/side_view.h"
 #include "view/scale_bar.h"
 #include "window/client_surface.h"
@@ -143,10 +143,10 @@ int CPlotWnd::Redraw() {
   if (!m_hWnd) return 0;
   buffer_.Fill();
   if (buffer_.Pixels().pixels) {
-    BitsCanvas canvas(buffer_.Dc(), buffer_.Pixels(), learnt_);
+    DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), learnt_);
     DrawEntities(canvas);
   } else {
-    PlainCanvas canvas(buffer_.Dc());
+    GdiCanvas canvas(buffer_.Dc());
     DrawEntities(canvas);
   }
   if (display_3d_) {
@@ -209,11 +209,11 @@ void CPlotWnd::DrawAtOnce(Draw draw) {
   if (IsWindowVisible()) {
     const RubberBand::Hidden hidden(band_, *this);
     ClientSurface screen(*this);
-    PlainCanvas canvas(screen.Dc());
+    GdiCanvas canvas(screen.Dc());
     draw(canvas);
   }
   {
-    PlainCanvas canvas(buffer_.Dc());
+    GdiCanvas canvas(buffer_.Dc());
     draw(canvas);
   }
   FlipOverlays();

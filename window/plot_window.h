@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "draw/bits/learnt_drawing.h"
+#include "draw/dib/learnt_drawing.h"
 #include "draw/group_picture.h"
 #include "draw/plan_view.h"
 #include "draw/side_projection.h"

@@ -1,6 +1,6 @@
 #include "draw/ink/ink_canvas.h"
 
-#include "draw/bits/mark_proof.h"
+#include "draw/dib/mark_proof.h"
 #include "draw/point_label.h"
 
 namespace tavix {

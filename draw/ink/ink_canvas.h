@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <optional>
 
-#include "draw/bits/few_looks.h"
-#include "draw/bits/lazy_plain.h"
+#include "draw/dib/few_looks.h"
+#include "draw/dib/lazy_plain.h"
 #include "draw/ink/ink_block.h"
 #include "draw/ink/ink_labels.h"
 #include "draw/ink/ink_mark.h"
@@ -14,7 +14,7 @@
 
 namespace tavix {
 
-// The pixels of PlainCanvas in a fraction of its time: marks and labels that have been learnt of
+// The pixels of GdiCanvas in a fraction of its time: marks and labels that have been learnt of
 // the system are drawn here. All else goes through a plain canvas, in the order it comes.
 class InkCanvas : public PlanCanvas {
  public:

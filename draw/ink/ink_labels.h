@@ -3,8 +3,8 @@
 
 #include <optional>
 
-#include "draw/bits/label_alphabet.h"
-#include "draw/bits/label_room.h"
+#include "draw/dib/label_alphabet.h"
+#include "draw/dib/label_room.h"
 #include "draw/drawn_size.h"
 #include "draw/ink/ink_sample.h"
 #include "draw/ink/ink_shape.h"

@@ -1,6 +1,6 @@
 #include "draw/ink/ink_mark.h"
 
-#include "draw/bits/mark_proof.h"
+#include "draw/dib/mark_proof.h"
 #include "draw/ink/ink_sample.h"
 
 namespace tavix {
@@ -14,7 +14,7 @@ std::optional<InkMark> InkMark::Learn(const LegendStyle& style) {
   if (!sample.IsMade()) return std::nullopt;
   LegendStyle in_ink = style;
   in_ink.color = kBlack;
-  PlainCanvas plain(sample.Dc());
+  GdiCanvas plain(sample.Dc());
   plain.UsePointStyle(in_ink);
   plain.Mark(middle);
   const InkMark mark{InkShape::FromPicture(sample.Pixels(), middle), style.color == kBlack};

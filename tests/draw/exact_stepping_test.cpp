@@ -37,8 +37,8 @@ bool SameBits(double a, double b) {
   ::testing::AssertionResult failure = ::testing::AssertionFailure();
   failure << std::hexfloat << "from " << at.north << ", " << at.east << " by";
   for (const GroundStep& step : steps) failure << " (" << step.dx << ", " << step.dy << ")";
-  return failure << ", " << rounds << " rounds: " << actual.north << ", " << actual.east << " and not "
-                 << expected.north << ", " << expected.east;
+  return failure << ", " << rounds << " rounds: " << actual.north << ", " << actual.east
+                 << " and not " << expected.north << ", " << expected.east;
 }
 
 TEST(StepExactly, NoRoundsAndNoStepsStayInPlace) {

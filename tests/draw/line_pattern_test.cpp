@@ -55,7 +55,8 @@ Pieces FullWalk(const CViewState& view, const LinePattern& pattern, GroundPoint 
   const RealScreenPoint to = view.GroundToRealScreen(end);
   const double pixels_per_metre = std::hypot(to.x - from.x, to.y - from.y) / length;
   const auto inside = [&](GroundPoint at) {
-    return std::min(start.north, end.north) <= at.north && at.north <= std::max(start.north, end.north) &&
+    return std::min(start.north, end.north) <= at.north &&
+           at.north <= std::max(start.north, end.north) &&
            std::min(start.east, end.east) <= at.east && at.east <= std::max(start.east, end.east);
   };
   const auto step = [&](GroundPoint at, std::size_t i) {
@@ -272,7 +273,8 @@ Scene RandomScene(std::mt19937_64& random) {
                         exact(std::sin(direction * 0.017453292519943295)) * pixels / scale};
   const double before = in(0, 1);
   const double aside = in(-100, 100) / scale;
-  const GroundPoint start{centre.north - way.north * before + aside, centre.east - way.east * before};
+  const GroundPoint start{centre.north - way.north * before + aside,
+                          centre.east - way.east * before};
   return {ViewAt(centre, scale, angle, one_of({1, 1, 0.5, 4})),
           Pattern(102 + static_cast<int>(one_of({0, 1, 2, 3})), static_cast<int>(in(0, 9)),
                   static_cast<int>(in(1, 9)), static_cast<int>(in(0, 9))),
@@ -365,9 +367,9 @@ TEST(WalkPattern, ALineOfTenKilometresAtTheLargestScaleCostsWhatShows) {
           };
           const GroundPoint half{along(std::cos(radians)), along(std::sin(radians))};
           const CViewState view = ViewAt(centre, 100000.0, angle);
-          const Pieces pieces =
-              Walk(view, Pattern(kind, 1, 1, 1), {centre.north - half.north, centre.east - half.east},
-                   {centre.north + half.north, centre.east + half.east}, kClient);
+          const Pieces pieces = Walk(view, Pattern(kind, 1, 1, 1),
+                                     {centre.north - half.north, centre.east - half.east},
+                                     {centre.north + half.north, centre.east + half.east}, kClient);
           EXPECT_LT(pieces.size(), 600U) << direction << ' ' << angle << ' ' << kind;
           const bool on_axis =
               direction == 0.0 || direction == 90.0 || direction == 180.0 || direction == 270.0;

@@ -13,10 +13,13 @@ namespace {
 
 constexpr double kDegree = 3.141592653589793 / 180;
 
-double DistanceOf(GroundPoint a, GroundPoint b) { return std::hypot(a.north - b.north, a.east - b.east); }
+double DistanceOf(GroundPoint a, GroundPoint b) {
+  return std::hypot(a.north - b.north, a.east - b.east);
+}
 
 GroundPoint OnCircle(GroundPoint centre, double r, double degrees) {
-  return {centre.north + r * std::cos(degrees * kDegree), centre.east + r * std::sin(degrees * kDegree)};
+  return {centre.north + r * std::cos(degrees * kDegree),
+          centre.east + r * std::sin(degrees * kDegree)};
 }
 
 TEST(TwoCircleCentre, LiesOnTheSideTurnedFromXTowardY) {

@@ -13,7 +13,9 @@ namespace {
 
 constexpr double kDegree = 0.017453292519943295;
 
-double DistanceOf(GroundPoint a, GroundPoint b) { return std::hypot(a.north - b.north, a.east - b.east); }
+double DistanceOf(GroundPoint a, GroundPoint b) {
+  return std::hypot(a.north - b.north, a.east - b.east);
+}
 
 TEST(ClothoidPoint, BeginsAtItsOrigin) { EXPECT_EQ((GroundPoint{0, 0}), ClothoidPoint(0, 100)); }
 
@@ -65,7 +67,8 @@ TEST(BuildClothoid, HasAPointEveryDegreeOfItsTangent) {
     EXPECT_EQ(curve.back(), end);
     for (std::size_t i = 1; i + 1 < curve.size(); ++i) {
       const GroundPoint expected = test::IntegratedClothoid(kDegree * static_cast<double>(i), a);
-      const GroundPoint on_map{1000 + expected.north, 2000 + (r < 0 ? -expected.east : expected.east)};
+      const GroundPoint on_map{1000 + expected.north,
+                               2000 + (r < 0 ? -expected.east : expected.east)};
       EXPECT_NEAR(0, DistanceOf(curve[i], on_map), 1e-4) << r << " point " << i;
     }
   }

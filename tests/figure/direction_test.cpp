@@ -91,7 +91,8 @@ TEST(InverseOf, PointsThatCoincideHaveNoDirection) {
               {{1 - 2e-7, 1}, kPi}};
   for (const auto& row : rows) {
     const Inverse inverse = InverseOf({1, 1}, row.to);
-    EXPECT_DOUBLE_EQ(row.direction, inverse.direction) << row.to.north - 1 << ' ' << row.to.east - 1;
+    EXPECT_DOUBLE_EQ(row.direction, inverse.direction)
+        << row.to.north - 1 << ' ' << row.to.east - 1;
     EXPECT_DOUBLE_EQ(inverse.distance, std::hypot(row.to.north - 1, row.to.east - 1));
   }
 }

@@ -46,11 +46,12 @@ std::vector<GroundPoint> TrueClothoid(GroundPoint start, GroundPoint end, double
         Way(s1 + (s2 - s1) * i / kPieces, s1 + (s2 - s1) * (i + 1) / kPieces, a, side, 1);
     local.push_back({local.back().north + step.north, local.back().east + step.east});
   }
-  const double turn =
-      std::atan2(end.east - start.east, end.north - start.north) - std::atan2(local.back().east, local.back().north);
+  const double turn = std::atan2(end.east - start.east, end.north - start.north) -
+                      std::atan2(local.back().east, local.back().north);
   const double c = std::cos(turn);
   const double s = std::sin(turn);
-  for (GroundPoint& p : local) p = {c * p.north - s * p.east + start.north, s * p.north + c * p.east + start.east};
+  for (GroundPoint& p : local)
+    p = {c * p.north - s * p.east + start.north, s * p.north + c * p.east + start.east};
   return local;
 }
 
@@ -62,9 +63,11 @@ double DistanceTo(const std::vector<GroundPoint>& chain, GroundPoint point) {
     const double dy = chain[i].east - from.east;
     const double square = dx * dx + dy * dy;
     const double along =
-        square == 0 ? 0.0 : ((point.north - from.north) * dx + (point.east - from.east) * dy) / square;
+        square == 0 ? 0.0
+                    : ((point.north - from.north) * dx + (point.east - from.east) * dy) / square;
     const double at = std::clamp(along, 0.0, 1.0);
-    nearest = std::min(nearest, std::hypot(from.north + at * dx - point.north, from.east + at * dy - point.east));
+    nearest = std::min(
+        nearest, std::hypot(from.north + at * dx - point.north, from.east + at * dy - point.east));
   }
   return nearest;
 }

@@ -13,7 +13,8 @@ namespace {
 using Positions = std::vector<std::uint32_t>;
 
 bool Overlap(const GroundExtent& a, const GroundExtent& b) {
-  return a.min.north <= b.max.north && b.min.north <= a.max.north && a.min.east <= b.max.east && b.min.east <= a.max.east;
+  return a.min.north <= b.max.north && b.min.north <= a.max.north && a.min.east <= b.max.east &&
+         b.min.east <= a.max.east;
 }
 
 Positions InTree(PlaceTree& tree, const GroundExtent& box, std::size_t most) {

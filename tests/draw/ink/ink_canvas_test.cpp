@@ -7,7 +7,7 @@
 #include <random>
 #include <vector>
 
-#include "draw/plain_canvas.h"
+#include "draw/gdi_canvas.h"
 
 namespace tavix::test {
 namespace {
@@ -119,7 +119,7 @@ class InkScenes : public testing::TestWithParam<Scene> {
   std::mt19937 random_{GetParam().seed};
   OneBitCanvas plain_picture_{GetParam().width, GetParam().height};
   OneBitCanvas ink_picture_{GetParam().width, GetParam().height};
-  PlainCanvas plain_{plain_picture_.Dc()};
+  GdiCanvas plain_{plain_picture_.Dc()};
   InkCanvas ink_{ink_picture_, GetParam().width, GetParam().height};
 };
 

@@ -118,8 +118,8 @@ std::vector<tavix::GroundPoint> TrueSpiral(const SpiralShape& shape, double bear
   for (int i = 0; i < kSteps; ++i) {
     const double s = (i + 0.5) * step;
     const double direction = bearing + side * (shape.start_curvature * s + change * s * s / 2);
-    way.push_back(
-        {way.back().north + step * std::cos(direction), way.back().east + step * std::sin(direction)});
+    way.push_back({way.back().north + step * std::cos(direction),
+                   way.back().east + step * std::sin(direction)});
   }
   return way;
 }
@@ -131,8 +131,8 @@ GroundPosition EndOf(const std::vector<tavix::GroundPoint>& way) {
 double LongestChord(const std::vector<tavix::GroundPoint>& chain) {
   double longest = 0.0;
   for (std::size_t i = 1; i < chain.size(); ++i) {
-    longest =
-        std::max(longest, std::hypot(chain[i].north - chain[i - 1].north, chain[i].east - chain[i - 1].east));
+    longest = std::max(longest, std::hypot(chain[i].north - chain[i - 1].north,
+                                           chain[i].east - chain[i - 1].east));
   }
   return longest;
 }

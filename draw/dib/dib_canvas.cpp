@@ -1,0 +1,72 @@
+#include "draw/dib/dib_canvas.h"
+
+#include "draw/point_label.h"
+
+namespace tavix {
+namespace {
+
+bool IsOnePixelPen(const LegendStyle& style) { return style.width == 0 || style.width == 1; }
+
+bool IsNear(ScreenPoint at) {
+  return at.x >= -kFarthestStep && at.x <= kFarthestStep && at.y >= -kFarthestStep &&
+         at.y <= kFarthestStep;
+}
+
+}  // namespace
+
+DibCanvas::DibCanvas(CDC& dc, const PixelBlock& block, LearntDrawing& learnt)
+    : plain_(dc, block), learnt_(learnt), text_color_(dc.GetTextColor()) {
+  learnt_.FollowSettings();
+}
+
+void DibCanvas::UseLineStyle(const LegendStyle& style) {
+  plain_.UseLineStyle(style);
+  const std::optional<std::uint32_t> value = PixelBlock::ValueOf(style.color);
+  lines_ = IsOnePixelPen(style) && value ? learnt_.Lines() : nullptr;
+  line_color_ = value.value_or(0);
+}
+
+void DibCanvas::Line(const ScreenSegment& segment) {
+  if (lines_ && IsNear(segment.start) && IsNear(segment.end)) {
+    StepLine(plain_.Bits(), *lines_, segment, line_color_);
+  } else {
+    plain_.Line(segment);
+  }
+}
+
+void DibCanvas::Circle(ScreenPoint centre, int radius) { plain_.Circle(centre, radius); }
+
+void DibCanvas::UsePointStyle(const LegendStyle& style) {
+  plain_.UsePointStyle(style);
+  mark_ = style.prm1 > 0 ? learnt_.Mark(style) : nullptr;
+  LookUpLabels();
+}
+
+void DibCanvas::UseTextColor(std::uint32_t color) {
+  if (color == text_color_) return;
+  text_color_ = color;
+  plain_.UseTextColor(color);
+  LookUpLabels();
+}
+
+void DibCanvas::LookUpLabels() {
+  const int height = plain_.Style().prm2;
+  labels_ = height > 0 ? learnt_.Labels(height, text_color_) : nullptr;
+}
+
+void DibCanvas::Mark(ScreenPoint at) {
+  if (mark_) {
+    mark_->Draw(plain_.Bits(), at);
+  } else {
+    plain_.Mark(at);
+  }
+}
+
+void DibCanvas::Label(ScreenPoint at, NameView text) {
+  const LegendStyle& style = plain_.Style();
+  const LabelBox box = PlaceLabel(at, style.prm1, style.prm2, static_cast<int>(text.size()));
+  plain_.PaintsText();
+  if (!labels_ || !labels_->Draw(plain_.Bits(), {box.left, box.top}, text)) plain_.Label(at, text);
+}
+
+}  // namespace tavix

@@ -1,0 +1,125 @@
+// The plain canvas behind one that draws into bits itself.
+#pragma once
+
+#include <afxwin.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <optional>
+
+#include "draw/dib/painted_area.h"
+#include "draw/dib/pixel_block.h"
+#include "draw/gdi_canvas.h"
+
+namespace tavix {
+
+// Leaves to the system what it has to draw, at the least cost: the objects of a style are made when
+// they are first needed, what would only paint over its own colour is not drawn, and the system is
+// waited for when the bits are reached for after it has drawn.
+template <class Block>
+class LazyPlain {
+ public:
+  // `block` is what `dc` draws into.
+  LazyPlain(CDC& dc, const Block& block) : plain_(dc), block_(block), painted_(block_) {}
+
+  [[nodiscard]] ScreenBox Visible() const { return plain_.Visible(); }
+
+  void UseLineStyle(const LegendStyle& style) { Use(style, Pending::kLineStyle); }
+  void UsePointStyle(const LegendStyle& style) { Use(style, Pending::kPointStyle); }
+  void UseTextColor(std::uint32_t color) { plain_.UseTextColor(color); }
+
+  // Of the lines or the points, whichever was taken into use last.
+  [[nodiscard]] const LegendStyle& Style() const { return style_; }
+
+  void Line(const ScreenSegment& segment) {
+    const auto [start, end] = segment;
+    const auto [left, right] = std::minmax(start.x, end.x);
+    const auto [top, bottom] = std::minmax(start.y, end.y);
+    if (!IsPainted({left, top}, {right, bottom}, 0)) Made().Line(segment);
+  }
+
+  void Circle(ScreenPoint centre, int radius) {
+    if (PassesBy(centre, radius) || IsPainted(centre, centre, std::abs(radius))) return;
+    Made().Circle(centre, radius);
+  }
+
+  void Mark(ScreenPoint at) {
+    if (!IsPainted(at, at, style_.prm1)) Made().Mark(at);
+  }
+
+  void Label(ScreenPoint at, NameView text) {
+    painted_.Forget();
+    Made().Label(at, text);
+  }
+
+  // The bits with all that has been drawn, to be drawn into in the style's colour or, after a call
+  // of PaintsText, in any.
+  [[nodiscard]] const Block& Bits() {
+    Settle();
+    return block_;
+  }
+  void PaintsText() { painted_.Forget(); }
+
+ private:
+  enum class Pending { kNothing, kLineStyle, kPointStyle };
+
+  void Use(const LegendStyle& style, Pending pending) {
+    style_ = style;
+    pending_ = pending;
+    if (const auto value = Block::ValueOf(style.color)) {
+      painted_.Use(*value);
+    } else {
+      painted_.Forget();
+    }
+  }
+
+  // Whether a circle's outline, the one thing that is drawn of it, runs beside the picture or all
+  // around it. The system would walk along it pixel by pixel.
+  [[nodiscard]] bool PassesBy(ScreenPoint centre, int radius) const {
+    const double r = std::fabs(static_cast<double>(radius));
+    const double slack = std::abs(style_.width) + 3.0;
+    const double left = centre.x;  // from the picture's edges to the centre
+    const double top = centre.y;
+    const double right = block_.width - left;
+    const double bottom = block_.height - top;
+    const double nearest =
+        std::hypot(std::max({-left, -right, 0.0}), std::max({-top, -bottom, 0.0}));
+    const double farthest = std::hypot(std::max(left, right), std::max(top, bottom));
+    return nearest > r + slack || farthest < r - slack;
+  }
+
+  // Whether what is drawn around the box between two corners, `reach` pixels and a pen's width
+  // away, is there already.
+  [[nodiscard]] bool IsPainted(ScreenPoint low, ScreenPoint high, int reach) {
+    constexpr int kFar = 1 << 28;  // no sum of pixels leaves the 32-bit range
+    const int around = std::min(reach, kFar) + std::abs(style_.width) + 2;
+    const auto held = [=](int pixel) { return std::clamp(pixel, -kFar, kFar); };
+    Settle();
+    return painted_.Covers(
+        {held(low.x) - around, held(low.y) - around, held(high.x) + around, held(high.y) + around});
+  }
+
+  void Settle() {
+    if (may_lag_) ::GdiFlush();
+    may_lag_ = false;
+  }
+
+  // The canvas with the style in use, to be drawn on.
+  [[nodiscard]] PlanCanvas& Made() {
+    if (pending_ == Pending::kLineStyle) plain_.UseLineStyle(style_);
+    if (pending_ == Pending::kPointStyle) plain_.UsePointStyle(style_);
+    pending_ = Pending::kNothing;
+    may_lag_ = true;
+    return plain_;
+  }
+
+  GdiCanvas plain_;
+  Block block_;
+  PaintedArea<Block> painted_;
+  LegendStyle style_;
+  Pending pending_ = Pending::kNothing;
+  bool may_lag_ = true;  // the system may hold back what it has been told to draw
+};
+
+}  // namespace tavix

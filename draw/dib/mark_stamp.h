@@ -1,0 +1,18 @@
+// Stamps of point marks, taken from the system's own drawing.
+#pragma once
+
+#include <optional>
+
+#include "draw/dib/stamp.h"
+#include "store/legend_table.h"
+
+namespace tavix {
+
+// The mark of a style; none where it is too large to be worth it, or is not the same everywhere.
+[[nodiscard]] std::optional<Stamp> MakeMarkStamp(const LegendStyle& style);
+
+// Whether `stamp` is what the system draws as the style's mark, over any picture and cut by its
+// edges.
+[[nodiscard]] bool IsSystemsMark(const Stamp& stamp, const LegendStyle& style);
+
+}  // namespace tavix

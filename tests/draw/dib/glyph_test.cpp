@@ -1,0 +1,87 @@
+#include "draw/dib/glyph.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/draw/dib/block_picture.h"
+
+namespace tavix::test {
+namespace {
+
+constexpr std::uint32_t kGrey80 = 0x00808080;
+
+// A level that takes everything down by its own share, and black.
+SmoothBlend Blend() {
+  SmoothBlend blend;
+  for (const int level : {0, 0x80}) {
+    BlendRamp ramp;
+    for (int value = 0; value < 256; ++value) {
+      ramp.at(static_cast<std::size_t>(value)) = static_cast<std::uint8_t>(value * level / 255);
+    }
+    blend.Learn(static_cast<std::uint8_t>(level), ramp);
+  }
+  return blend;
+}
+
+// A black and a grey pixel below each other, in a cell of two columns.
+BlockPicture CharacterPicture() {
+  BlockPicture picture(7, 6);
+  picture.Set(3, 3, 0);
+  picture.Set(3, 4, kGrey80);
+  return picture;
+}
+
+TEST(Glyphs, RememberTheirPixelsAndTheWayToTheNext) {
+  const auto glyph = Glyph::FromPicture(CharacterPicture().Block(), {2, 2}, 2);
+  ASSERT_TRUE(glyph);
+  EXPECT_EQ(2, glyph->Advance());
+  ASSERT_EQ(2u, glyph->Pixels().size());
+  EXPECT_EQ(0, glyph->Pixels()[0].level);
+  EXPECT_EQ(1, glyph->Pixels()[1].x);
+  EXPECT_EQ(2, glyph->Pixels()[1].y);
+  EXPECT_EQ(0x80, glyph->Pixels()[1].level);
+}
+
+TEST(Glyphs, DarkenWhatLiesBelow) {
+  const auto glyph = Glyph::FromPicture(CharacterPicture().Block(), {2, 2}, 2);
+  const SmoothBlend blend = Blend();
+  BlockPicture drawn(4, 4, 0x00FF8040);
+  glyph->Draw(drawn.Block(), blend, {0, 0});
+  EXPECT_EQ(0u, drawn.At(1, 1));
+  EXPECT_EQ(0x00804020u, drawn.At(1, 2));
+  glyph->Draw(drawn.Block(), blend, {0, 0});
+  EXPECT_EQ(0x00402010u, drawn.At(1, 2)) << "twice as much by two";
+}
+
+TEST(Glyphs, AreCutAtEachEdge) {
+  const auto glyph = Glyph::FromPicture(CharacterPicture().Block(), {2, 2}, 2);
+  const SmoothBlend blend = Blend();
+  const struct {
+    ScreenPoint at;
+    const char* picture;
+  } rows[] = {{{0, -2}, ".#\n..\n"}, {{0, 0}, "..\n.#\n"},  {{-1, -1}, "#.\n#.\n"},
+              {{-2, 0}, "..\n..\n"}, {{1, -1}, "..\n..\n"}, {{0, 9}, "..\n..\n"}};
+  for (const auto& [at, picture] : rows) {
+    const BlockPicture drawn(2, 2);
+    glyph->Draw(drawn.Block(), blend, at);
+    EXPECT_EQ(picture, drawn.Text()) << at.x << ", " << at.y;
+  }
+}
+
+TEST(Glyphs, AreNotMadeOfColour) {
+  for (const std::uint32_t color : {0x00808081u, 0x00818080u, 0x00808180u, 0x01808080u}) {
+    BlockPicture picture = CharacterPicture();
+    picture.Set(2, 2, color);
+    EXPECT_FALSE(Glyph::FromPicture(picture.Block(), {2, 2}, 2)) << std::hex << color;
+  }
+}
+
+TEST(Glyphs, AreNotMadeOfInkBesideTheirCell) {
+  for (const int x : {1, 4}) {
+    BlockPicture picture = CharacterPicture();
+    picture.Set(x, 3, 0);
+    EXPECT_FALSE(Glyph::FromPicture(picture.Block(), {2, 2}, 2)) << x;
+  }
+}
+
+}  // namespace
+}  // namespace tavix::test
