@@ -10,8 +10,8 @@
 //     down. A ground position becomes a pixel by truncation toward zero, not by rounding.
 //  3. Flags are bytes: zero is off, anything else is on.
 //  4. A key is a number the host chooses to name a point. The point number is shown as a label and
-//     names nothing.
-//  5. A legend number names the look of a point or a line: 1 to 11 are the built-in point marks,
+//     identifies nothing.
+//  5. A legend number names the symbol of a point or a line: 1 to 11 are the built-in point marks,
 //     101 to 105 the built-in line styles, from 201 up the entries the host adds.
 //  6. Strings are CString objects, by value on the way in, by pointer on the way out. Every pointer
 //     is the caller's: the library writes through it during the call and keeps nothing of it. A
@@ -33,6 +33,40 @@
 //     lie in FIGn.DAT and FIGn.XY, while it exists, in the folder that CE_DEVICE_ROOT names, else
 //     in one that the process has to itself and that is removed with it. A host that sets these
 //     variables does so before Tavix_Crt.
+//
+// Terms:
+//
+//     ground            the plane in which the survey's coordinates lie, in metres
+//     plan, side view   the map, north up when it is not turned; the oblique view of the 3-D points
+//     azimuth           a direction on the ground, clockwise from north
+//     extents           the smallest ground box, sides north and east, around a set of points
+//     zoom extents      fitting the view to the extents of the data: the button shows this view and
+//                       the one before it in turn
+//     zoom window       fitting the view to a rectangle that the user drags
+//     vertical ratio    the factor by which the plan stretches the screen's vertical
+//     legend            the numbered table of symbols
+//     symbol            how a point or a line is drawn: mark, size, label and pen; line style,
+//                       dashes and pen
+//     figure            lines, circles, polylines, arcs and clothoids under one figure number; a
+//                       piece is one of them
+//     clothoid          the curve whose curvature grows with its length L: L times radius = A^2
+//     paper frame       the outline of a sheet over the plan
+//     one-bit picture   a picture of ink and white, one bit a pixel, for a printer
+//
+// Parts of the calls' names:
+//
+//     Ang angle             Ent enter              Mem memo             Sel select
+//     Btn buttons           Fig figure             MvPnt moved point    Stt, End start, end
+//     Chg change            Flg flag               NoNam number, name   Tat vertical (tate)
+//     Chk check             Gen origin (genten)    Pic pick             Ttl title
+//     Cir circle            Grp one-bit picture    Ply polyline         Vo traced polyline
+//     Clo clothoid          Han legend (hanrei)    Pnt point            Wak paper frame (waku)
+//     Clr clear             Hid legend number      Pnt3 3-D point       Wnd window
+//     Crd coordinates       Idx index              Rct rectangle        Yok horizontal (yoko)
+//     Crt, Del make, delete Lin line               Rub rubber line      Zom zoom
+//     Drw draw              Lnk link a window      Scl scale
+//     Dsp show              Lst last; list         SclBar scale bar
+//                           Mdl piece of a figure
 //
 #pragma once
 
@@ -127,7 +161,8 @@ TAVIX_CALL int Tavix_GetTatYok(int* tate, int* yoko);
 
 // Shows a ground box in the whole window, without a margin. (X1, Y1) is the south-west corner:
 // sizes are not made positive, and a box that is negative both ways is shown at 1 pixel per metre.
-// The home view stays. Redraws; returns 0. Needs a linked window (-1 without).
+// The view that the zoom-extents button returns to stays. Redraws; returns 0. Needs a linked window
+// (-1 without).
 TAVIX_CALL int Tavix_Zom(double X1, double Y1, double X2, double Y2);
 
 // The same for the square around a circle; radius in metres.
@@ -207,8 +242,8 @@ TAVIX_CALL int Tavix_DelEntPnt(int key);
 // The legend file keeps a width and parameters of 0..99; for points one of them may have three
 // digits. A value that does not fit cuts its record short: the next load finds a bad file, and the
 // whole legend is the built-in one again.
-// Compatibility: an entity whose legend number has no entry looks like the entity before it in the
-// same drawing pass (points, lines or figures). The first of a pass draws nothing, but for a
+// Compatibility: an entity whose legend number has no entry is drawn like the entity before it in
+// the same drawing pass (points, lines or figures). The first of a pass draws nothing, but for a
 // circle, which is then black.
 
 // Adds a point legend and writes its number, from 201 up. Such entries are not saved. Returns 0.
@@ -316,8 +351,8 @@ TAVIX_CALL int Tavix_FigMdlLin(double x1, double y1, double x2, double y2);
 // 0.
 TAVIX_CALL int Tavix_FigMdlCir(double x, double y, double radius);
 
-// A polyline of `count` vertices; one of none is kept and draws nothing. Returns 0, or -1 when
-// vertices are promised and an array is null.
+// A polyline of `count` vertices; one without vertices is kept and draws nothing. Returns 0, or -1
+// for a null array when `count` is above 0.
 TAVIX_CALL int Tavix_FigMdlPly(int count, const double* x, const double* y);
 
 // The shorter arc of a radius in metres. A positive radius turns from x (north) toward y (east),
@@ -335,8 +370,8 @@ TAVIX_CALL int Tavix_FigMdlClo(double startX, double startY, double endX, double
 // Ends a figure; with auto-redraw on the window is redrawn. Returns 0.
 TAVIX_CALL int Tavix_FigEnd(void);
 
-// Deletes every piece of a figure number, and redraws as Tavix_FigEnd. Returns 0 also when none has
-// the number, -1 when there are no figures at all.
+// Deletes every piece of a figure number, and redraws as Tavix_FigEnd. Returns 0 also for a number
+// without pieces, -1 when there are no figures at all.
 TAVIX_CALL int Tavix_DelFig(int figure);
 
 // ---- Paper frame and scale bar -----------------------------------------------------------------
@@ -372,8 +407,8 @@ TAVIX_CALL int Tavix_SclBarDsp(BYTE show);
 //
 // A mark, and a line to it, that follow a position over the plot. All need a linked window (-1).
 
-// Takes the look of a point legend; nothing is drawn. Returns -1 for an unknown legend, -2 for one
-// that is no point legend; the state is then as it was.
+// Takes the symbol of a point legend; nothing is drawn. Returns -1 for an unknown legend, -2 for
+// one that is not a point legend; the state is then as it was.
 TAVIX_CALL int Tavix_MvPntStt(int legend);
 
 // From the next move on a line runs from (X, Y) to the mark. To be called before the first move.
@@ -406,7 +441,7 @@ TAVIX_CALL int Tavix_VoGet(int* count);
 // there are none. Returns 0.
 TAVIX_CALL int Tavix_VoLst(double* X, double* Y);
 
-// Writes one vertex, counted from 0. Returns -1 when there is none of that index.
+// Writes one vertex, counted from 0. Returns -1 for an index outside the polyline.
 TAVIX_CALL int Tavix_VoIdx(int index, double* X, double* Y);
 
 // Takes the polyline off and forgets it. Returns 0.
