@@ -44,14 +44,13 @@ GuardedCall::GuardedCall(const CallOn& call, bool outputs_given)
   if (refusal_) return;
   ++t_depth;
   Tavix_GetIdx(&index_before_);
-  if (call.instance != kNoInstance) Tavix_SetIdx(call.instance);
+  if (call.instance) Tavix_SetIdx(*call.instance);
 }
 
 std::optional<int> GuardedCall::Refuse(bool outputs_given) const {
   ForgetReason();
-  const bool outside = call_.instance < 0 || call_.instance >= kInstances;
-  if (call_.instance != kNoInstance && outside) {
-    KeepReason(call_.name, L"there is no instance %d, they are 0 to 4", call_.instance);
+  if (call_.instance && (*call_.instance < 0 || *call_.instance >= kInstances)) {
+    KeepReason(call_.name, L"there is no instance %d, they are 0 to 4", *call_.instance);
     return TAVIX_C_NO_SUCH_INSTANCE;
   }
   if (!outputs_given) {
@@ -67,9 +66,9 @@ std::optional<int> GuardedCall::Refuse(bool outputs_given) const {
 
 GuardedCall::~GuardedCall() {
   if (refusal_) return;
-  const int index_after = call_.restores_index ? index_before_ : call_.instance;
+  const int index_after = call_.restores_index ? index_before_ : *call_.instance;
   --t_depth;
-  const bool is_left = call_.instance != kNoInstance && Exists(call_.instance);
+  const bool is_left = call_.instance && Exists(*call_.instance);
   if (t_depth == 0 && !is_left && !AnyExists()) g_thread = 0;
   Tavix_SetIdx(index_after);
 }

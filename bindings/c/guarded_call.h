@@ -5,13 +5,10 @@
 
 namespace tavix_c {
 
-// For the calls that concern no instance.
-constexpr int kNoInstance = -1;
-
 struct CallOn {
   const char* name;
-  int instance;         // 0 to 4, or kNoInstance
-  bool restores_index;  // whether tavix.dll's current instance is as before afterwards
+  std::optional<int> instance;  // none for a call that concerns no instance
+  bool restores_index;          // whether tavix.dll's current instance is as before afterwards
 };
 
 // Makes the call's instance current while it lives.

@@ -110,7 +110,7 @@ def _definition(call):
                 "return code;"]
     else:
         body = [f"return {inner};"]
-    instance = {"SetIdx": "index", "GetIdx": "kNoInstance"}.get(call.name, "instance")
+    instance = {"SetIdx": "index", "GetIdx": "std::nullopt"}.get(call.name, "instance")
     keeps = "false" if call.name == "SetIdx" else "true"
     asked = "OnWindowOf" if call.result == "window" else "On"
     lines = _folded(f"{c_result(call)} TAVIX_C_CDECL {name}(", c_parameters(call) or ["void"],
@@ -127,7 +127,7 @@ def definitions(description):
     lines = ["// Made from tavix.h by bindings/make_bindings.py: every call of the C layer.",
              "#include <tavix/tavix.h>", "#include <tavix/tavix_c.h>", "",
              '#include "bindings/c/guarded_call.h"', '#include "bindings/c/text_output.h"', "",
-             "using tavix_c::kNoInstance;", "using tavix_c::On;", "using tavix_c::OnWindowOf;",
+             "using tavix_c::On;", "using tavix_c::OnWindowOf;",
              "using tavix_c::TextOutput;"]
     for call in description.calls:
         lines += [""] + _definition(call)

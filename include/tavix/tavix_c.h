@@ -26,9 +26,10 @@
 //     call that is refused leaves its outputs untouched unless the call says otherwise.
 //  9. All calls and all window messages of all instances run on one thread: the one that made the
 //     first instance, until the last one is deleted.
-// 10. Calls return 0 for success. Refusals are negative: -1 to -7 come from the library and are said
-//     with each call; the layer's own are those of the enumeration below. TavixC_LastError gives the
-//     reason in words. No C++ exception leaves a call.
+// 10. Calls return 0 for success. Refusals are negative: -1 to -7 come from the library and are
+// said
+//     with each call; the layer's own are those of the enumeration below. TavixC_LastError gives
+//     the reason in words. No C++ exception leaves a call.
 // 11. Messages: a tap on a point posts WM_COMMAND to the window's parent, see "Picking". A message
 //     loop hands every message to TavixC_PreTranslate first, so that the arrow keys pan.
 //
@@ -141,7 +142,6 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Drw(int instance, int keepView);
 // instance its figures.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DrwClr(int instance);
 
-
 // ---- View ---------------------------------------------------------------------------------------
 
 // Turns the view: whole degrees 0..359, positive turns the picture clockwise. Does not redraw.
@@ -175,7 +175,6 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Pan(int instance, double X, double Y);
 // Does nothing and returns 0; kept for hosts that call it.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Mov(int instance);
 
-
 // ---- Picking ------------------------------------------------------------------------------------
 
 // A tap on a point posts WM_COMMAND to the window's parent, with the notify id given at the link in
@@ -203,7 +202,6 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_CrdGet(int instance, double* X, double* Y)
 
 // Ends coordinate capture and forgets the coordinate. Returns 0.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_CrdEnd(int instance);
-
 
 // ---- Points -------------------------------------------------------------------------------------
 
@@ -233,7 +231,6 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetPntCrd(int instance, int key, double* x
 // Removes a point and its memo. Never redraws. Returns -1 for an unknown key; a memo kept under it
 // is removed all the same.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DelEntPnt(int instance, int key);
-
 
 // ---- Legend -------------------------------------------------------------------------------------
 
@@ -285,7 +282,6 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetLinHan(int instance, short number, int*
 // Selects the legend that lines entered from now on receive; it need not exist. -1 at first.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SelLinHan(int instance, short number);
 
-
 // ---- Lines --------------------------------------------------------------------------------------
 
 // A line joins two points, named by their keys; the points need not exist yet, and a line is drawn
@@ -309,7 +305,6 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DelEntLin(int instance, int keyA, int keyB
 // that could not be deleted is opened again with its lines: 0.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ClrEntLin(int instance);
 
-
 // ---- Memos --------------------------------------------------------------------------------------
 
 // Keeps a text for a point key (16 bits of it, as lines do); the point need not exist. An empty
@@ -321,7 +316,6 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_EntPntMem(int instance, int key, const wch
 // Writes the memo of a key; an empty one when there is none or it cannot be read. Returns 0.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetPntMem(int instance, int key, wchar_t* memo, int capacity,
                                                 int* length);
-
 
 // ---- 3-D points ---------------------------------------------------------------------------------
 
@@ -347,7 +341,6 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetPnt3Crd(int instance, int key, double* 
 
 // Removes a point; a memo of its key stays.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DelEntPnt3(int instance, int key);
-
 
 // ---- Figures ------------------------------------------------------------------------------------
 
@@ -393,7 +386,6 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_FigEnd(int instance);
 // without pieces, -1 when there are no figures at all.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DelFig(int instance, int figure);
 
-
 // ---- Paper frame and scale bar ------------------------------------------------------------------
 
 // The outline of a sheet of paper over the plan. It keeps its place on the screen; the view decides
@@ -423,7 +415,6 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetWakGen(int instance, double* X, double*
 // Shows or hides the scale bar, from the next paint on. Returns 0.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SclBarDsp(int instance, int show);
 
-
 // ---- Moving a point -----------------------------------------------------------------------------
 
 // A mark, and a line to it, that follow a position over the plot. All need a linked window (-1).
@@ -441,7 +432,6 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_MvPntMov(int instance, double X, double Y)
 
 // Takes the mark and the line off. Returns 0.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_MvPntEnd(int instance);
-
 
 // ---- Traced polyline ----------------------------------------------------------------------------
 
@@ -468,7 +458,6 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_VoIdx(int instance, int index, double* X, 
 
 // Takes the polyline off and forgets it. Returns 0.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_VoEnd(int instance);
-
 
 // ---- One-bit picture ----------------------------------------------------------------------------
 
