@@ -12,7 +12,7 @@ import sys
 from pathlib import Path
 
 from description import read_header
-from writers import c_layer, c_test_table
+from writers import c_layer, c_test_table, csharp, go, javascript, pascal, python_ctypes
 
 ROOT = Path(__file__).resolve().parent.parent
 
@@ -21,6 +21,11 @@ def kept_files(description):
     """The made files that are kept in the project: path and text."""
     template = (ROOT / "bindings/c/tavix_c.h.in").read_text(encoding="utf-8")
     yield "include/tavix/tavix_c.h", c_layer.header(description, template)
+    yield "bindings/csharp/Calls.cs", csharp.declarations(description)
+    yield "bindings/python/tavix_calls.py", python_ctypes.declarations(description)
+    yield "bindings/go/calls.go", go.declarations(description)
+    yield "bindings/pascal/TavixCalls.pas", pascal.declarations(description)
+    yield "bindings/javascript/tavix_calls.js", javascript.declarations(description)
 
 
 def main():

@@ -1,37 +1,16 @@
 """The plain C layer: its header, and the calls behind it."""
 
-from description import ARRAY, ARRAY_OUTPUTS, OUTPUT, TEXT, TEXT_OUTPUT, WINDOW
+from description import ARRAY_OUTPUTS, TEXT, TEXT_OUTPUT, WINDOW
+from writers.flat import HANDLE, INT, PREFIX, flat_parameters
 from writers.wording import as_comment, comment_of, reworded
 
-PREFIX = "TavixC_"
-# These say in a parameter of their own which instance they mean.
-ON_NO_INSTANCE = {"SetIdx", "GetIdx"}
 
-_VALUES = {"int": "int", "short": "short", "double": "double", "unsigned": "unsigned",
-           "flag": "int"}
+def _c_parameters(call):
+    return [f"{p.type} {p.name}" for p in flat_parameters(call)] or ["void"]
 
 
-def c_parameters(call):
-    """The parameters of a call as C writes them."""
-    written = [] if call.name in ON_NO_INSTANCE else ["int instance"]
-    for p in call.parameters:
-        if p.kind == TEXT:
-            written.append(f"const wchar_t* {p.name}")
-        elif p.kind == TEXT_OUTPUT:
-            written += [f"wchar_t* {p.name}", "int capacity", "int* length"]
-        elif p.kind == WINDOW:
-            written.append(f"void* {p.name}")
-        elif p.kind == OUTPUT:
-            written.append(f"{_VALUES[p.type]}* {p.name}")
-        elif p.kind == ARRAY:
-            written.append(f"const {_VALUES[p.type]}* {p.name}")
-        else:
-            written.append(f"{_VALUES[p.type]} {p.name}")
-    return written
-
-
-def c_result(call):
-    return "void*" if call.result == "window" else "int"
+def _c_result(call):
+    return HANDLE if call.result == "window" else INT
 
 
 def _folded(head, items, tail, width=100):
@@ -48,15 +27,15 @@ def _folded(head, items, tail, width=100):
 
 
 def _declaration(call):
-    head = f"TAVIX_C_CALL {c_result(call)} TAVIX_C_CDECL {PREFIX}{call.name}("
-    return _folded(head, c_parameters(call) or ["void"], ");")
+    head = f"TAVIX_C_CALL {_c_result(call)} TAVIX_C_CDECL {PREFIX}{call.name}("
+    return _folded(head, _c_parameters(call), ");")
 
 
 def header(description, template):
     """The text of tavix_c.h: the template with the version and the calls filled in."""
     lines = []
     for family in description.families:
-        lines += ["", f"// ---- {family.title} ".ljust(100, "-"), ""]
+        lines += [f"// ---- {family.title} ".ljust(100, "-"), ""]
         if family.comment:
             lines += as_comment(reworded(family.comment, PREFIX), "//")
             lines.append("")
@@ -113,7 +92,7 @@ def _definition(call):
     instance = {"SetIdx": "index", "GetIdx": "std::nullopt"}.get(call.name, "instance")
     keeps = "false" if call.name == "SetIdx" else "true"
     asked = "OnWindowOf" if call.result == "window" else "On"
-    lines = _folded(f"{c_result(call)} TAVIX_C_CDECL {name}(", c_parameters(call) or ["void"],
+    lines = _folded(f"{_c_result(call)} TAVIX_C_CDECL {name}(", _c_parameters(call),
                     ") {")
     if text:
         lines.append(f"  const TextOutput output{{{text.name}, capacity, length}};")

@@ -1,7 +1,7 @@
 """Every call of the C layer beside its twin in tavix.dll, as a table for the tests."""
 
 from description import ARRAY, OUTPUT, TEXT, TEXT_OUTPUT, VALUE, WINDOW
-from writers.c_layer import ON_NO_INSTANCE, PREFIX
+from writers.flat import ON_NO_INSTANCE, PREFIX
 
 
 def _arguments(call, null=None):

@@ -3,6 +3,8 @@
 import re
 import textwrap
 
+MADE_FROM = "Made from tavix.h by bindings/make_bindings.py; changes belong there."
+
 # What the calls on the current instance say where there is none of it.
 _OWN_COMMENTS = {
     "SetIdx": ["Makes instance `index` current for the calls of tavix.dll itself. No call of this "
@@ -56,3 +58,10 @@ def as_comment(paragraphs, mark, width=100, indent=""):
                                break_long_words=False, break_on_hyphens=False) or [""]
         lines += [f"{indent}{mark} {line}".rstrip() for line in filled]
     return lines
+
+
+def words_of(flat_call, mark):
+    """The comment of a call of the C layer as lines that begin with `mark`."""
+    if not flat_call.call:
+        return []
+    return as_comment(comment_of(flat_call.call, "TavixC_"), mark)

@@ -27,9 +27,8 @@
 //  9. All calls and all window messages of all instances run on one thread: the one that made the
 //     first instance, until the last one is deleted.
 // 10. Calls return 0 for success. Refusals are negative: -1 to -7 come from the library and are
-// said
-//     with each call; the layer's own are those of the enumeration below. TavixC_LastError gives
-//     the reason in words. No C++ exception leaves a call.
+//     said with each call; the layer's own are those of the enumeration below. TavixC_LastError
+//     gives the reason in words. No C++ exception leaves a call.
 // 11. Messages: a tap on a point posts WM_COMMAND to the window's parent, see "Picking". A message
 //     loop hands every message to TavixC_PreTranslate first, so that the arrow keys pan.
 //
