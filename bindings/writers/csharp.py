@@ -1,5 +1,7 @@
 """C#: the calls as P/Invoke declarations."""
 
+from xml.sax.saxutils import escape
+
 from description import ARRAY_OUTPUTS
 from writers.flat import (BUFFER, DOUBLE, DOUBLE_OUT, DOUBLES, HANDLE, INT, INT_OUT, SHORT,
                           SHORT_OUT, TEXT_IN, UNSIGNED, all_calls)
@@ -9,6 +11,13 @@ _TYPES = {INT: "int", SHORT: "short", DOUBLE: "double", UNSIGNED: "uint", HANDLE
           TEXT_IN: "string", BUFFER: "char[]", INT_OUT: "out int", SHORT_OUT: "out short",
           DOUBLE_OUT: "out double", DOUBLES: "double[]"}
 _RESERVED = {"on"}
+
+
+def _summary(call):
+    lines = [escape(line) for line in words_of(call, "        ///")]
+    if not lines:
+        return []
+    return ["        /// <summary>"] + lines + ["        /// </summary>"]
 
 
 def _parameter(call, p):
@@ -25,13 +34,12 @@ def declarations(description):
              "using System.Runtime.InteropServices;", "", "namespace Tavix", "{",
              "    // The calls of tavix_c.dll, one to one.", "    public static class Calls", "    {"]
     for title, calls in all_calls(description):
-        lines += ["", f"        // ---- {title}"]
+        lines += [f"        // ---- {title}", ""]
         for call in calls:
-            lines.append("")
-            lines += words_of(call, "        ///")
+            lines += _summary(call)
             result = "IntPtr" if call.result == HANDLE else "int"
             parameters = ", ".join(_parameter(call, p) for p in call.parameters)
-            lines += ['        [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl, '
-                      "CharSet = CharSet.Unicode, ExactSpelling = true)]",
-                      f"        public static extern {result} {call.name}({parameters});"]
-    return "\n".join(lines + ["    }", "}"]) + "\n"
+            lines += ['        [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,',
+                      "                   CharSet = CharSet.Unicode, ExactSpelling = true)]",
+                      f"        public static extern {result} {call.name}({parameters});", ""]
+    return "\n".join(lines[:-1] + ["    }", "}"]) + "\n"
