@@ -4,6 +4,7 @@
     bindings/make_bindings.py                    rewrites what is kept in the project
     bindings/make_bindings.py --check            names the files that are not current, and fails
     bindings/make_bindings.py --definitions OUT  writes the calls of the C layer, for the build
+    bindings/make_bindings.py --module OUT       writes the list of its exports (.def), for the build
     bindings/make_bindings.py --test-table OUT   writes the table of all calls for the tests
 """
 
@@ -33,14 +34,16 @@ def main():
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--check", action="store_true")
     parser.add_argument("--definitions", type=Path)
+    parser.add_argument("--module", type=Path)
     parser.add_argument("--test-table", type=Path)
     arguments = parser.parse_args()
     description = read_header()
-    if arguments.definitions:
-        arguments.definitions.write_text(c_layer.definitions(description), encoding="utf-8")
-        return 0
-    if arguments.test_table:
-        arguments.test_table.write_text(c_test_table.table(description), encoding="utf-8")
+    for_the_build = [(arguments.definitions, c_layer.definitions),
+                     (arguments.module, c_layer.module),
+                     (arguments.test_table, c_test_table.table)]
+    made = [path.write_text(write(description), encoding="utf-8")
+            for path, write in for_the_build if path]
+    if made:
         return 0
     stale = 0
     for name, text in kept_files(description):

@@ -1,7 +1,7 @@
 """The plain C layer: its header, and the calls behind it."""
 
 from description import ARRAY_OUTPUTS, TEXT, TEXT_OUTPUT, WINDOW
-from writers.flat import HANDLE, INT, PREFIX, flat_parameters
+from writers.flat import HANDLE, INT, PREFIX, all_calls, flat_parameters
 from writers.wording import as_comment, comment_of, reworded
 
 
@@ -111,3 +111,9 @@ def definitions(description):
     for call in description.calls:
         lines += [""] + _definition(call)
     return "\n".join(lines) + "\n"
+
+
+def module(description):
+    """The text of tavix_c.def."""
+    names = sorted(call.name for _, calls in all_calls(description) for call in calls)
+    return "\n".join(["LIBRARY tavix_c", "EXPORTS"] + [f"  {name}" for name in names]) + "\n"

@@ -46,7 +46,7 @@
 #define TAVIX_C_CALL
 #elif defined(TAVIX_C_LIBRARY_BUILD)
 #define TAVIX_C_CDECL __cdecl
-#define TAVIX_C_CALL __declspec(dllexport)
+#define TAVIX_C_CALL
 #else
 #define TAVIX_C_CDECL __cdecl
 #define TAVIX_C_CALL __declspec(dllimport)
