@@ -19,9 +19,7 @@ from pathlib import Path
 LAYERS = {
     "numbers": (
         "view/*",
-        "figure/arc.*",
-        "figure/clothoid.*",
-        "figure/direction.*",
+        "figure/curves/*",
         "figure/figure_codec.*",
         "store/legend_codec.*",
         "store/legend_table.*",
