@@ -75,8 +75,6 @@ class CFigList {
   [[nodiscard]] bool Changed() const { return changed_; }
   void SetChanged(bool changed) { changed_ = changed; }
 
-  [[nodiscard]] int Instance() const { return instance_; }
-
  private:
   void Append(std::int32_t point_count, bool is_circle, std::span<const GroundPoint> points);
 

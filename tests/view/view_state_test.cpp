@@ -331,7 +331,7 @@ TEST(ViewState, ARatioThatIsNotFiniteIsCarriedAndHarmless) {
     view.SetRatio(ratio);
     const ScreenPoint at = view.GroundToScreen({5, 7});
     const GroundPoint back = view.ScreenToGround({1, 2});
-    EXPECT_EQ(at.x == 127, ratio == 0.0) << ratio;  // the turn mixes what is no number into both
+    EXPECT_EQ(at.x == 127, ratio == 0.0) << ratio;  // the rotation carries NaN into both
     EXPECT_DOUBLE_EQ(-119.0, back.east) << ratio;
     ScreenSegment clipped;
     const bool visible = view.ClipGroundSegment({0, 0}, {5, 7}, clipped);
