@@ -152,7 +152,7 @@ class Plot {
 
   CViewState view_;
   LegendTable legend_;
-  CPntList points_{kInstance};
+  CPntList points_;
   CLinDb lines_;
   CFigList figures_;
   std::int16_t mark_ = 0;

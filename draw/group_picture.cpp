@@ -7,7 +7,7 @@
 
 #include "draw/ink/ink_canvas.h"
 #include "draw/ink_legend.h"
-#include "view/truncate.h"
+#include "view/coordinates.h"
 
 namespace tavix {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "draw/drawn_size.h"
 #include "draw/screen_line.h"
-#include "view/truncate.h"
+#include "view/coordinates.h"
 
 namespace tavix {
 namespace {

@@ -8,9 +8,9 @@
 #include "draw/line_pattern.h"
 #include "draw/point_label.h"
 #include "draw/point_look.h"
-#include "draw/side_projection.h"
 #include "platform/wide_text.h"
-#include "view/truncate.h"
+#include "view/coordinates.h"
+#include "view/side_projection.h"
 
 namespace tavix {
 namespace {

@@ -1,7 +1,7 @@
 // What an instance does when points, lines and figures are entered and changed.
 #include "frame/instance.h"
 #include "frame/instance_parts.h"
-#include "store/point_compare.h"
+#include "store/point_list.h"
 #include "window/plot_window.h"
 
 namespace tavix {
@@ -28,7 +28,7 @@ int Instance::EnterPoint(const Point& entered) {
       point.key,
       [&](const Point& old) {
         return old.number == point.number && old.name == point.name &&
-               IsSamePlace(old.at, point.at) && old.legend == point.legend;
+               IsSamePosition(old.at, point.at) && old.legend == point.legend;
       },
       [&](CPntList& points) {
         return points.SetCur(point.number, point.name, point.at, point.legend);
@@ -58,7 +58,7 @@ int Instance::ChangePointNumberAndName(const Point& point) {
 
 int Instance::ChangePointPosition(const Point& point) {
   return ChangePoint(
-      point.key, [&](const Point& old) { return IsSamePlace(old.at, point.at); },
+      point.key, [&](const Point& old) { return IsSamePosition(old.at, point.at); },
       [&](CPntList& points) { return points.SetCurCrd(point.at); });
 }
 

@@ -13,20 +13,9 @@ import statistics
 import sys
 from pathlib import Path
 
-from check_includes import circle, includes, sources
+from check_includes import circle, includes, seen_from, sources
 
 CRUMB = 30  # lines
-
-
-def seen_from(path, graph):
-    """The files that `path` includes, directly or through another."""
-    found, waiting = set(), [path]
-    while waiting:
-        for target in graph.get(waiting.pop(), ()):
-            if target not in found:
-                found.add(target)
-                waiting.append(target)
-    return found
 
 
 def main():

@@ -92,7 +92,7 @@ void CPlotWnd::OnWholeView() {
   if (TakeStale()) {
     FitView();
   } else {
-    links_.view->ToggleHome();
+    links_.view->ToggleExtents();
   }
   ZoomedByButton();
 }

@@ -1,6 +1,6 @@
 // The arrow keys of the plot window: in the plan each press pans by half the drawing area, in the
 // side view it turns the view or shifts its height base.
-#include "view/height_step.h"
+#include "view/scale_bar.h"
 #include "window/plot_window.h"
 
 namespace tavix {
@@ -20,8 +20,7 @@ BOOL CPlotWnd::PreTranslateMessage(MSG* message) {
 }
 
 void CPlotWnd::TurnByKey(WPARAM key) {
-  constexpr int kMeasure = 30;  // pixels
-  const double step = HeightStep(links_.view->PixelsToLength(kMeasure));
+  const double step = DatumStep(*links_.view);
   switch (key) {
     case VK_LEFT:
       return RotateBy(RotationStep());

@@ -164,40 +164,40 @@ TEST(ViewState, FirstFitScaleIsItsOwnPreviousScale) {
   CViewState view = ViewOf(240, 180);
   EXPECT_FALSE(view.SetFitScale(200, 100.0, 0.5));
   EXPECT_DOUBLE_EQ(1.0, view.Scale());
-  EXPECT_DOUBLE_EQ(1.0, view.HomeScale());
+  EXPECT_DOUBLE_EQ(1.0, view.ExtentsScale());
   EXPECT_FALSE(view.NoViewYet());
-  view.ToggleHome();  // at home: goes to the previous view, which is the same
+  view.ToggleExtents();  // shows the extents: goes to the view before, which is the same
   EXPECT_DOUBLE_EQ(1.0, view.Scale());
   EXPECT_FALSE(view.SetFitScale(200, 100.0, 2.0));
-  EXPECT_DOUBLE_EQ(4.0, view.HomeScale());
-  view.ToggleHome();
+  EXPECT_DOUBLE_EQ(4.0, view.ExtentsScale());
+  view.ToggleExtents();
   EXPECT_DOUBLE_EQ(1.0, view.Scale());
   EXPECT_TRUE(view.SetFitScale(200, 0.001, 1.0));
-  EXPECT_EQ(100000.0, view.HomeScale());
+  EXPECT_EQ(100000.0, view.ExtentsScale());
 }
 
-TEST(ViewState, TogglingHomeTwiceReturnsToTheStart) {
+TEST(ViewState, TogglingTheExtentsTwiceReturnsToTheStart) {
   CViewState view = ViewOf(240, 180);
   EXPECT_FALSE(view.FitToArea({100, 50}, {500, 600}));
   EXPECT_FALSE(view.ZoomIn(1.5));
   view.SetCentre({510, 610});
-  view.ToggleHome();
+  view.ToggleExtents();
   EXPECT_DOUBLE_EQ(2.2, view.Scale());
   EXPECT_DOUBLE_EQ(500, view.Centre().north);
-  view.ToggleHome();
+  view.ToggleExtents();
   EXPECT_DOUBLE_EQ(2.2 * 1.5, view.Scale());
   EXPECT_DOUBLE_EQ(510, view.Centre().north);
   EXPECT_DOUBLE_EQ(610, view.Centre().east);
 }
 
-TEST(ViewState, NearlyHomeCountsAsHomeStrictlyBelowTheTolerance) {
+TEST(ViewState, NearlyTheExtentsCountsAsTheExtentsStrictlyBelowTheTolerance) {
   CViewState view = ViewOf(240, 180);
   EXPECT_FALSE(view.FitToArea({100, 50}, {0, 0}));
-  view.SetCentre({0.00001, 0});  // exactly the tolerance: not home
-  view.ToggleHome();
+  view.SetCentre({0.00001, 0});  // exactly the tolerance: not the extents
+  view.ToggleExtents();
   EXPECT_EQ(0.0, view.Centre().north);
-  view.SetCentre({0.000009, 0});  // below it: home, so the toggle goes back
-  view.ToggleHome();
+  view.SetCentre({0.000009, 0});  // below it: the toggle goes back
+  view.ToggleExtents();
   EXPECT_EQ(0.0, view.Centre().north);
 }
 
@@ -269,22 +269,23 @@ TEST(ViewState, OtherAnglesAreThoseOfTheCosineAndSine) {
 TEST(ViewState, ZoomingRemembersTheScaleBefore) {
   CViewState view = ViewAtScale(240, 180, 2.0);
   EXPECT_FALSE(view.ZoomIn(1.5));
-  EXPECT_FALSE(view.SetFitScale(5, 1.0, 1.0));  // home is 5 now, and the scale before it 3
-  view.ToggleHome();
+  EXPECT_FALSE(
+      view.SetFitScale(5, 1.0, 1.0));  // that of the extents is 5 now, and the one before 3
+  view.ToggleExtents();
   EXPECT_DOUBLE_EQ(3.0, view.Scale());
   view.ZoomOut(3.0);
   EXPECT_DOUBLE_EQ(1.0, view.Scale());
-  view.ToggleHome();  // away from home: goes there
+  view.ToggleExtents();  // goes to the extents
   EXPECT_DOUBLE_EQ(5.0, view.Scale());
-  view.ToggleHome();
+  view.ToggleExtents();
   EXPECT_DOUBLE_EQ(1.0, view.Scale());
 }
 
-TEST(ViewState, ZoomedBackToTheHomeScaleTheToggleGoesToTheScaleBefore) {
+TEST(ViewState, ZoomedBackToTheExtentsTheToggleGoesToTheScaleBefore) {
   CViewState view = ViewAtScale(240, 180, 2.0);
   EXPECT_FALSE(view.ZoomIn(2.0));
-  view.ZoomOut(2.0);  // home again; the scale before was 4
-  view.ToggleHome();
+  view.ZoomOut(2.0);  // the extents again; the scale before was 4
+  view.ToggleExtents();
   EXPECT_DOUBLE_EQ(4.0, view.Scale());
 }
 
@@ -292,13 +293,13 @@ TEST(ViewState, TheToggleKeepsTheVerticalScaleInStep) {
   CViewState view = ViewAtScale(240, 180, 2.0);
   EXPECT_FALSE(view.ZoomIn(2.0));
   view.SetRatio(3.0);
-  view.ToggleHome();
+  view.ToggleExtents();
   EXPECT_DOUBLE_EQ(6.0, view.VScale());
-  view.ToggleHome();
+  view.ToggleExtents();
   EXPECT_DOUBLE_EQ(12.0, view.VScale());
 }
 
-TEST(ViewState, AnyOneDifferenceIsNotHome) {
+TEST(ViewState, AnyOneDifferenceIsNotTheExtents) {
   const struct {
     GroundPoint centre;
     double zoom;
@@ -309,7 +310,7 @@ TEST(ViewState, AnyOneDifferenceIsNotHome) {
     view.SetCentre({900, 900});
     view.SetCentre(row.centre);  // the centre before is far away
     EXPECT_FALSE(view.ZoomIn(row.zoom));
-    view.ToggleHome();
+    view.ToggleExtents();
     EXPECT_EQ(0.0, view.Centre().north) << row.zoom;
     EXPECT_EQ(0.0, view.Centre().east) << row.zoom;
     EXPECT_EQ(2.2, view.Scale()) << row.zoom;
@@ -320,7 +321,7 @@ TEST(ViewState, ACutZoomStillRemembersTheScaleBefore) {
   CViewState view = ViewAtScale(240, 180, 80000.0);
   EXPECT_TRUE(view.ZoomIn(1.5));
   EXPECT_TRUE(view.SetFitScale(240, 0.0001, 1.0));
-  view.ToggleHome();  // home is at the cap, and so was the view before
+  view.ToggleExtents();  // the extents are at the cap, and so was the view before
   EXPECT_EQ(100000.0, view.Scale());
 }
 
@@ -330,7 +331,7 @@ TEST(ViewState, ARatioThatIsNotFiniteIsCarriedAndHarmless) {
     view.SetRatio(ratio);
     const ScreenPoint at = view.GroundToScreen({5, 7});
     const GroundPoint back = view.ScreenToGround({1, 2});
-    EXPECT_EQ(at.x == 127, ratio == 0.0) << ratio;  // the turn mixes what is no number into both
+    EXPECT_EQ(at.x == 127, ratio == 0.0) << ratio;  // the rotation carries NaN into both
     EXPECT_DOUBLE_EQ(-119.0, back.east) << ratio;
     ScreenSegment clipped;
     const bool visible = view.ClipGroundSegment({0, 0}, {5, 7}, clipped);
@@ -356,9 +357,9 @@ TEST(ViewState, ACopyIsTheWholeView) {
   ASSERT_TRUE(copy.ClipGroundSegment({510, 610}, {910, 910}, of_copy));
   ASSERT_TRUE(view.ClipGroundSegment({510, 610}, {910, 910}, of_view));
   EXPECT_EQ(of_copy.end, of_view.end);
-  copy.ToggleHome();
+  copy.ToggleExtents();
   EXPECT_EQ(2.2, copy.Scale());
-  copy.ToggleHome();
+  copy.ToggleExtents();
   EXPECT_EQ(copy.Scale(), view.Scale());
   EXPECT_EQ(510.0, copy.Centre().north);
 }

@@ -31,7 +31,7 @@ class DibSideView : public testing::TestWithParam<unsigned> {
   Dice dice_{GetParam()};
   CViewState view_;
   LegendTable legend_;
-  CPnt3List points_{0};
+  CPnt3List points_;
 };
 
 TEST_P(DibSideView, IsTheSystems) {

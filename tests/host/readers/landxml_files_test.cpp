@@ -8,7 +8,7 @@
 
 #include "host/readers/survey_formats.h"
 #include "host/survey_counts.h"
-#include "tests/figure/table_file.h"
+#include "tests/figure/curves/table_file.h"
 #include "tests/host/readers/real_file.h"
 
 namespace fieldhost {

@@ -8,9 +8,9 @@
 #include <numbers>
 #include <vector>
 
-#include "figure/arc.h"
-#include "figure/clothoid.h"
-#include "tests/figure/true_curve.h"
+#include "figure/curves/arc.h"
+#include "figure/curves/clothoid.h"
+#include "tests/figure/curves/true_curve.h"
 
 namespace fieldhost {
 namespace {

@@ -4,11 +4,11 @@
 
 #include <cmath>
 
-#include "figure/arc.h"
-#include "figure/clothoid.h"
-#include "tests/figure/same_point.h"
-#include "tests/figure/table_file.h"
-#include "tests/figure/true_curve.h"
+#include "figure/curves/arc.h"
+#include "figure/curves/clothoid.h"
+#include "tests/figure/curves/same_point.h"
+#include "tests/figure/curves/table_file.h"
+#include "tests/figure/curves/true_curve.h"
 
 namespace tavix {
 namespace {
@@ -39,9 +39,9 @@ std::vector<GroundPoint> TrueArc(GroundPoint start, GroundPoint end, double r, d
   for (int i = 0; i <= 1000; ++i) {
     const double swept = turn * i / 1000;
     const double reach = 2 * std::fabs(r) * std::sin(swept / 2);
-    const double direction = chord + side * (swept - turn) / 2;
+    const double azimuth = chord + side * (swept - turn) / 2;
     points.push_back(
-        {start.north + reach * std::cos(direction), start.east + reach * std::sin(direction)});
+        {start.north + reach * std::cos(azimuth), start.east + reach * std::sin(azimuth)});
   }
   return points;
 }

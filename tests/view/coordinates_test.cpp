@@ -1,4 +1,4 @@
-#include "view/truncate.h"
+#include "view/coordinates.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// The fit, the host's zoom, and what they do to the home view and the view before.
+// Zoom extents, zoom window, and what they do to the extents and the view before.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -43,7 +43,7 @@ TEST(FitToArea, LeavesAMarginOfTwentyPixels) {
     EXPECT_EQ(row.cut, view.FitToArea(row.size, kCentre)) << row.what;
     EXPECT_EQ(row.scale, view.Scale()) << row.what;
     EXPECT_EQ(row.scale, view.VScale()) << row.what;
-    EXPECT_EQ(row.scale, view.HomeScale()) << row.what;
+    EXPECT_EQ(row.scale, view.ExtentsScale()) << row.what;
     EXPECT_EQ(view.Centre().north, kCentre.north) << row.what;
     EXPECT_EQ(view.Centre().east, kCentre.east) << row.what;
     EXPECT_FALSE(view.NoViewYet()) << row.what;
@@ -96,7 +96,7 @@ TEST(FitToArea, TheFirstFitIsItsOwnPreviousView) {
   CViewState view = ViewOf(240, 180);
   view.SetCentre({7, 8});
   EXPECT_FALSE(view.FitToArea({100, 50}, kCentre));
-  view.ToggleHome();
+  view.ToggleExtents();
   EXPECT_EQ(2.2, view.Scale());
   EXPECT_EQ(view.Centre().north, kCentre.north);
   EXPECT_EQ(view.Centre().east, kCentre.east);
@@ -106,13 +106,13 @@ TEST(FitToArea, ALaterFitRemembersTheViewBefore) {
   CViewState view = ViewOf(240, 180);
   EXPECT_FALSE(view.FitToArea({100, 50}, kCentre));
   EXPECT_FALSE(view.FitToArea({220, 10}, {-3, -4}));
-  EXPECT_EQ(1.0, view.HomeScale());
-  view.ToggleHome();
+  EXPECT_EQ(1.0, view.ExtentsScale());
+  view.ToggleExtents();
   EXPECT_EQ(2.2, view.Scale());
   EXPECT_EQ(view.Centre().north, kCentre.north);
   EXPECT_EQ(view.Centre().east, kCentre.east);
-  EXPECT_EQ(1.0, view.HomeScale());
-  view.ToggleHome();
+  EXPECT_EQ(1.0, view.ExtentsScale());
+  view.ToggleExtents();
   EXPECT_EQ(1.0, view.Scale());
   EXPECT_EQ(-3, view.Centre().north);
 }
@@ -133,7 +133,7 @@ TEST(FitToRect, TakesTheGivenSizeInPlaceOfTheClientArea) {
     CViewState view = ViewOf(240, 180);
     EXPECT_FALSE(view.FitToRect(row.width, row.height, row.size, kCentre));
     EXPECT_EQ(row.scale, view.Scale());
-    EXPECT_EQ(row.scale, view.HomeScale());
+    EXPECT_EQ(row.scale, view.ExtentsScale());
     EXPECT_EQ((ScreenPoint{120, 90}), view.GroundToScreen(kCentre));  // still mid client area
     EXPECT_FALSE(view.NoViewYet());
   }
@@ -160,16 +160,16 @@ TEST(ZoomToArea, FillsTheClientArea) {
   }
 }
 
-TEST(ZoomToArea, LeavesTheHomeViewAlone) {
+TEST(ZoomToArea, LeavesTheExtentsAlone) {
   CViewState view = ViewOf(240, 180);
   EXPECT_FALSE(view.FitToArea({100, 50}, kCentre));
   EXPECT_FALSE(view.ZoomToArea({100, 50}, {1, 2}));
   EXPECT_EQ(2.4, view.Scale());
-  EXPECT_EQ(2.2, view.HomeScale());
-  view.ToggleHome();
+  EXPECT_EQ(2.2, view.ExtentsScale());
+  view.ToggleExtents();
   EXPECT_EQ(2.2, view.Scale());
   EXPECT_EQ(view.Centre().north, kCentre.north);
-  view.ToggleHome();
+  view.ToggleExtents();
   EXPECT_EQ(2.4, view.Scale());
   EXPECT_EQ(1, view.Centre().north);
 }
@@ -178,7 +178,7 @@ TEST(ZoomToArea, BeforeTheFirstFitThereIsStillNoView) {
   CViewState view = ViewOf(240, 180);
   EXPECT_FALSE(view.ZoomToArea({100, 50}, {1, 2}));
   EXPECT_TRUE(view.NoViewYet());
-  EXPECT_EQ(1.0, view.HomeScale());
+  EXPECT_EQ(1.0, view.ExtentsScale());
 }
 
 TEST(ZoomToArea, RemembersTheViewBefore) {
@@ -186,8 +186,8 @@ TEST(ZoomToArea, RemembersTheViewBefore) {
   EXPECT_FALSE(view.FitToArea({100, 50}, kCentre));
   view.SetCentre({510, 610});
   EXPECT_FALSE(view.ZoomToArea({10, 10}, kCentre));
-  EXPECT_FALSE(view.SetFitScale(22, 10, 1.0));  // at the home scale again
-  view.ToggleHome();
+  EXPECT_FALSE(view.SetFitScale(22, 10, 1.0));  // at the scale of the extents again
+  view.ToggleExtents();
   EXPECT_EQ(510, view.Centre().north);  // what the zoom left, not the fit
 }
 
@@ -220,15 +220,15 @@ TEST(RotatedExtent, IsExactAtRightAngles) {
   }
 }
 
-TEST(HomeToggle, PanningAndTogglingTwiceComesBackToThePannedView) {
+TEST(ToggleExtents, PanningAndTogglingTwiceComesBackToThePannedView) {
   CViewState view = ViewOf(240, 180);
   EXPECT_FALSE(view.FitToArea({100, 50}, kCentre));
   view.SetCentre({700, 800});
   EXPECT_EQ(2.2, view.Scale());
-  view.ToggleHome();
+  view.ToggleExtents();
   EXPECT_EQ(view.Centre().north, kCentre.north);
   EXPECT_EQ(view.Centre().east, kCentre.east);
-  view.ToggleHome();
+  view.ToggleExtents();
   EXPECT_EQ(700, view.Centre().north);
   EXPECT_EQ(800, view.Centre().east);
 }

@@ -1,9 +1,9 @@
-#include "figure/clothoid.h"
+#include "figure/curves/clothoid.h"
 
 #include <cmath>
 #include <utility>
 
-#include "figure/direction.h"
+#include "figure/curves/azimuth.h"
 
 namespace tavix {
 namespace {
@@ -18,22 +18,22 @@ double TangentAngle(double a, double r) {
   return twice_r_squared > kGeometryZero ? a * a / twice_r_squared : twice_r_squared;
 }
 
-// Turns and moves local coordinates onto the ground so that `local` comes to lie on `ground`.
+// Rotates local coordinates by `angle` and shifts them, so that `local` lies on `ground`.
 class Placement {
  public:
   Placement(double angle, GroundPoint local, GroundPoint ground)
       : cos_(std::cos(angle)), sin_(std::sin(angle)) {
-    const GroundPoint turned = Turn(local);
-    shift_ = {ground.north - turned.north, ground.east - turned.east};
+    const GroundPoint rotated = Rotate(local);
+    shift_ = {ground.north - rotated.north, ground.east - rotated.east};
   }
 
   [[nodiscard]] GroundPoint ToGround(GroundPoint local) const {
-    const GroundPoint turned = Turn(local);
-    return {turned.north + shift_.north, turned.east + shift_.east};
+    const GroundPoint rotated = Rotate(local);
+    return {rotated.north + shift_.north, rotated.east + shift_.east};
   }
 
  private:
-  [[nodiscard]] GroundPoint Turn(GroundPoint p) const {
+  [[nodiscard]] GroundPoint Rotate(GroundPoint p) const {
     return {cos_ * p.north - sin_ * p.east, sin_ * p.north + cos_ * p.east};
   }
 
@@ -54,7 +54,7 @@ bool StartsAtTheWrongEnd(double r1, double r2) {
 
 }  // namespace
 
-// The power series of the Fresnel integrals:
+// The power series of the Fresnel integrals, X to the north and Y to the east:
 //   X = L (1 - tau^2/10 + tau^4/216 - tau^6/9360),  Y = L tau (1/3 - tau^2/42 + tau^4/1320 -
 //   tau^6/75600),  L = A sqrt(2 tau); it ends early once a term of X falls below 1e-5.
 GroundPoint ClothoidPoint(double tau, double a) {
@@ -88,7 +88,7 @@ Polyline BuildClothoid(GroundPoint start, GroundPoint end, double r1, double a, 
   }
   const double tau1 = TangentAngle(a, r1);
   const double tau2 = TangentAngle(a, r2);
-  const double steps = (tau2 - tau1) / kStep;  // not a number where both angles overflow
+  const double steps = (tau2 - tau1) / kStep;  // NaN where both angles overflow
   if (!(steps <= kMostPoints - 1)) return {};
 
   const double side = r2 < 0 ? -1.0 : 1.0;
@@ -97,8 +97,8 @@ Polyline BuildClothoid(GroundPoint start, GroundPoint end, double r1, double a, 
     return GroundPoint{point.north, side * point.east};
   };
   const GroundPoint first = local(tau1);
-  const double turn = InverseOf(start, end).direction - InverseOf(first, local(tau2)).direction;
-  const Placement placement(turn, first, start);
+  const double rotation = InverseOf(start, end).azimuth - InverseOf(first, local(tau2)).azimuth;
+  const Placement placement(rotation, first, start);
 
   Polyline points{start};
   if (steps > 1) points.reserve(static_cast<std::size_t>(steps) + 2);

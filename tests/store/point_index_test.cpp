@@ -1,4 +1,4 @@
-// The search for the nearest point beside the walk over the list that it stands for.
+// The search for the nearest point, compared with a plain scan of the list.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -14,14 +14,14 @@ namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 
-// The rule taken literally: gather up to ten candidates in list order, then choose.
+// The rule, literally: gather up to ten candidates in list order, then choose.
 std::int32_t PlainNearest(const std::vector<Point>& points, double tolerance, GroundPoint at) {
   std::vector<std::pair<std::int32_t, double>> candidates;
   for (const Point& point : points) {
-    const double dx = at.north - point.at.north;
-    const double dy = at.east - point.at.east;
-    if (!(std::fabs(dx) <= tolerance && std::fabs(dy) <= tolerance)) continue;
-    candidates.emplace_back(point.key, dx * dx + dy * dy);
+    const double north = at.north - point.at.north;
+    const double east = at.east - point.at.east;
+    if (!(std::fabs(north) <= tolerance && std::fabs(east) <= tolerance)) continue;
+    candidates.emplace_back(point.key, north * north + east * east);
     if (candidates.size() == 10) break;
   }
   if (candidates.empty()) return 0;
@@ -32,7 +32,7 @@ std::int32_t PlainNearest(const std::vector<Point>& points, double tolerance, Gr
   return nearest.first;
 }
 
-// A list under test and a plain row of points beside it. No key is 0.
+// A list under test and a plain vector of the same points. No key is 0.
 class PointsTwice {
  public:
   void Add(std::int32_t key, GroundPoint at) {
@@ -53,7 +53,7 @@ class PointsTwice {
     plain_.clear();
   }
   [[nodiscard]] std::size_t Count() const { return plain_.size(); }
-  [[nodiscard]] GroundPoint PlaceOf(std::size_t which) const { return plain_[which].at; }
+  [[nodiscard]] GroundPoint PositionOf(std::size_t which) const { return plain_[which].at; }
 
   void ExpectSameNearest(double tolerance, GroundPoint at) const {
     const std::int32_t expected = PlainNearest(plain_, tolerance, at);
@@ -64,12 +64,12 @@ class PointsTwice {
   }
 
  private:
-  CPntList points_{0};
+  CPntList points_;
   std::vector<Point> plain_;
 };
 
 // `whole`: coordinates are whole numbers, so that there are ties and points on the border;
-// `changes`: in a thousand steps; `strange`: some coordinates are no numbers or not finite.
+// `changes`: in a thousand steps; `strange`: some coordinates are not finite.
 void CompareInRandomUse(unsigned seed, int points, int side, bool whole, unsigned changes,
                         bool strange) {
   SCOPED_TRACE(testing::Message() << "seed " << seed);
@@ -82,30 +82,31 @@ void CompareInRandomUse(unsigned seed, int points, int side, bool whole, unsigne
     const double value = std::uniform_real_distribution<double>(-side, side)(random);
     return whole ? std::floor(value) : value;
   };
-  const auto some_place = [&] { return GroundPoint{coordinate(), coordinate()}; };
+  const auto some_position = [&] { return GroundPoint{coordinate(), coordinate()}; };
   PointsTwice lists;
   std::int32_t key = 0;
-  for (int i = 0; i < points; ++i) lists.Add(++key, some_place());
+  for (int i = 0; i < points; ++i) lists.Add(++key, some_position());
   for (int step = 0; step < 3000; ++step) {
     if (random() % 1000 < changes) {
       const auto choice = static_cast<unsigned>(random() % 100);
       const std::size_t which = lists.Count() == 0 ? 0 : random() % lists.Count();
       if (choice < 45 || lists.Count() == 0) {
-        lists.Add(++key, some_place());
+        lists.Add(++key, some_position());
       } else if (choice < 70) {
-        lists.Move(which, some_place());
+        lists.Move(which, some_position());
       } else if (choice < 99) {
         lists.Remove(which);
       } else if (random() % 8 == 0) {
         lists.Clear();
-        for (int i = 0; i < points; ++i) lists.Add(++key, some_place());
+        for (int i = 0; i < points; ++i) lists.Add(++key, some_position());
       } else {  // many at once, so that the list closes its holes
         while (lists.Count() > static_cast<std::size_t>(points) / 3)
           lists.Remove(random() % lists.Count());
       }
     }
     const bool at_a_point = lists.Count() > 0 && random() % 3 == 0;
-    const GroundPoint at = at_a_point ? lists.PlaceOf(random() % lists.Count()) : some_place();
+    const GroundPoint at =
+        at_a_point ? lists.PositionOf(random() % lists.Count()) : some_position();
     double tolerance = std::ldexp(1.0, static_cast<int>(random() % 24) - 10);
     if (whole) tolerance = static_cast<double>(random() % 12);
     if (strange && random() % 30 == 0) tolerance = random() % 2 == 0 ? kInfinity : kNoNumber;
@@ -113,7 +114,7 @@ void CompareInRandomUse(unsigned seed, int points, int side, bool whole, unsigne
   }
 }
 
-TEST(NearestPoint, IsTheOneTheWalkFinds) {
+TEST(NearestPoint, IsTheOneAScanFinds) {
   unsigned seed = 70;
   for (const int points : {5, 140, 1500}) {
     for (const int side : {12, 60, 3000}) {

@@ -1,12 +1,12 @@
-#include "figure/clothoid.h"
+#include "figure/curves/clothoid.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 
-#include "tests/figure/same_point.h"
-#include "tests/figure/true_curve.h"
+#include "tests/figure/curves/same_point.h"
+#include "tests/figure/curves/true_curve.h"
 
 namespace tavix {
 namespace {
@@ -104,7 +104,7 @@ TEST(BuildClothoid, KeepsToTheSideOfItsSecondRadius) {
   ASSERT_EQ(right.size(), left.size());
   ASSERT_GT(right.size(), 2U);
   for (std::size_t i = 1; i + 1 < right.size(); ++i) {
-    EXPECT_LT(right[i].east, 0) << i;  // turning from x toward y, it bulges the other way
+    EXPECT_LT(right[i].east, 0) << i;  // bending to the right, it bulges to the left
     EXPECT_NEAR(left[i].north, right[i].north, 1e-9);
     EXPECT_NEAR(left[i].east, -right[i].east, 1e-9);
   }

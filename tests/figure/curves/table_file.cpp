@@ -1,4 +1,4 @@
-#include "tests/figure/table_file.h"
+#include "tests/figure/curves/table_file.h"
 
 #include <fstream>
 #include <sstream>

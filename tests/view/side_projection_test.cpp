@@ -1,4 +1,4 @@
-#include "draw/side_projection.h"
+#include "view/side_projection.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// The curves themselves, worked out another way than the library does: by integration along the
+// The true curves, computed in another way than by the library: by integration along the
 // curve, and by measuring distances.
 #pragma once
 
@@ -11,7 +11,7 @@ namespace tavix::test {
 // A clothoid's point at tangent angle `tau` (radians) for parameter `a`, by Simpson's rule.
 [[nodiscard]] GroundPoint IntegratedClothoid(double tau, double a);
 
-// The clothoid between two radii (0 is straight; the sign tells the side) laid from `start` so that
+// The clothoid between two radii (0 is straight; the sign is the side) laid from `start` so that
 // its chord points at `end`, as a chain of 4000 short chords.
 [[nodiscard]] std::vector<GroundPoint> TrueClothoid(GroundPoint start, GroundPoint end, double r1,
                                                     double a, double r2);

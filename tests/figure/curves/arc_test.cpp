@@ -1,4 +1,4 @@
-#include "figure/arc.h"
+#include "figure/curves/arc.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <cmath>
 #include <limits>
 
-#include "tests/figure/same_point.h"
+#include "tests/figure/curves/same_point.h"
 
 namespace tavix {
 namespace {
@@ -22,7 +22,7 @@ GroundPoint OnCircle(GroundPoint centre, double r, double degrees) {
           centre.east + r * std::sin(degrees * kDegree)};
 }
 
-TEST(TwoCircleCentre, LiesOnTheSideTurnedFromXTowardY) {
+TEST(TwoCircleCentre, LiesOnTheRightOfTheWay) {
   const struct {
     GroundPoint p;
     double r1;
@@ -103,7 +103,7 @@ TEST(BuildArc, IsTheShorterOne) {
     for (std::size_t i = 1; i < arc.size(); ++i) length += DistanceOf(arc[i - 1], arc[i]);
     EXPECT_LE(length, 50 * 180 * kDegree) << chord;
     EXPECT_GE(length, chord - 1e-9);
-    // The centre is at +y, so the arc that turns with increasing angle passes below the chord.
+    // The centre is east of the chord, so the clockwise arc passes west of it.
     EXPECT_TRUE(std::all_of(arc.begin(), arc.end(), [](GroundPoint p) { return p.east <= 1e-9; }));
   }
 }

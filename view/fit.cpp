@@ -1,4 +1,4 @@
-// The view's operations that show a ground box: the host's zoom and the fit to the data.
+// How the view shows a ground box: zoom window (the host's zoom) and zoom extents (the fit).
 #include <array>
 #include <cmath>
 
@@ -11,7 +11,7 @@ constexpr double kNoSize = 0.00001;  // metres; the test is on signed sizes
 constexpr double kFitMargin = 20.0;  // pixels left free by a fit, both sides together
 constexpr double kPointScale = 1.0;  // pixels per metre for a box without size
 
-// Two times the outermost distance on each axis is kept as |largest| + |smallest|.
+// The range of one coordinate of a box around the origin.
 struct Range {
   double low = 0.0;
   double high = 0.0;
@@ -28,9 +28,8 @@ struct Range {
 
 bool HasNoSize(double size) { return size < kNoSize; }
 
-// The scale at which a turned box fills an area of `width` x `height` pixels less `margin`. Which
-// side limits is decided by the full proportions while the scale leaves the margin: the asymmetry
-// is meant.
+// The scale at which a rotated box fills an area of `width` x `height` pixels less `margin`.
+// Compatibility: the full proportions decide which side limits, and only then the margin is left.
 double ScaleToFill(GroundSize box, double width, double height, double margin) {
   const bool width_limits = HasNoSize(box.north) ||
                             (!HasNoSize(box.east) && width / height < box.east * (1.0 / box.north));
@@ -82,8 +81,8 @@ bool CViewState::FitToSize(double width, double height, GroundSize size, GroundP
   }
   const bool cut = SetScaleCapped(ScaleToShow(size, width, height, kFitMargin));
   centre_ = centre;
-  home_centre_ = centre;
-  home_scale_ = scale_;
+  extents_centre_ = centre;
+  extents_scale_ = scale_;
   if (no_view_yet_) {
     prev_scale_ = scale_;
     prev_centre_ = centre;

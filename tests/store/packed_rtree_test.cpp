@@ -1,4 +1,4 @@
-#include "store/place_tree.h"
+#include "store/packed_rtree.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@ bool Overlap(const GroundExtent& a, const GroundExtent& b) {
          b.min.east <= a.max.east;
 }
 
-Positions InTree(PlaceTree& tree, const GroundExtent& box, std::size_t most) {
+Positions InTree(PackedRTree& tree, const GroundExtent& box, std::size_t most) {
   Positions found;
   tree.ForEachInOrder([&](const GroundExtent& part) { return Overlap(part, box); },
                       [&](std::uint32_t position) {
@@ -27,13 +27,13 @@ Positions InTree(PlaceTree& tree, const GroundExtent& box, std::size_t most) {
   return found;
 }
 
-// The walk over all places, which have been put in the order of their positions.
-Positions InWalk(const std::vector<ListedPlace>& places, const GroundExtent& box,
+// A scan of all entries, which are in the order of their positions.
+Positions InScan(const std::vector<PackedRTree::Entry>& entries, const GroundExtent& box,
                  std::size_t most) {
   Positions found;
-  for (const ListedPlace& place : places) {
-    if (!Overlap({place.at, place.at}, box)) continue;
-    found.push_back(place.position);
+  for (const PackedRTree::Entry& entry : entries) {
+    if (!Overlap({entry.at, entry.at}, box)) continue;
+    found.push_back(entry.position);
     if (found.size() == most) break;
   }
   return found;
@@ -41,7 +41,7 @@ Positions InWalk(const std::vector<ListedPlace>& places, const GroundExtent& box
 
 struct Spread {
   const char* name;
-  std::function<GroundPoint(std::mt19937&)> place;
+  std::function<GroundPoint(std::mt19937&)> point;
 };
 
 double Uniform(std::mt19937& random, double low, double high) {
@@ -57,11 +57,11 @@ const Spread kSpreads[] = {
      [](std::mt19937& r) {
        return GroundPoint{Uniform(r, -5, 5), Uniform(r, -5, 5)};
      }},
-    {"a grid with repeated places",
+    {"a grid with repeated points",
      [](std::mt19937& r) {
        return GroundPoint{std::floor(Uniform(r, 0, 20)), std::floor(Uniform(r, 0, 20))};
      }},
-    {"one place",
+    {"one point",
      [](std::mt19937&) {
        return GroundPoint{-7.0, 3e5};
      }},
@@ -74,7 +74,7 @@ const Spread kSpreads[] = {
        const double town = std::floor(Uniform(r, 0, 4)) * 1e5;
        return GroundPoint{town + Uniform(r, 0, 30), -town + Uniform(r, 0, 30)};
      }},
-    {"a few beyond all measure",
+    {"a few extremely far away",
      [](std::mt19937& r) {
        const double far = Uniform(r, 0, 100) < 1 ? 1e300 : 1.0;
        return GroundPoint{far * Uniform(r, -1e3, 1e3), far * Uniform(r, -1e3, 1e3)};
@@ -85,37 +85,37 @@ const Spread kSpreads[] = {
      }},
 };
 
-TEST(PlaceTree, GivesTheWalkOverAllPlaces) {
+TEST(PackedRTree, GivesWhatAScanGives) {
   for (const Spread& spread : kSpreads) {
     for (const std::size_t count : {1U, 16U, 17U, 129U, 2500U}) {
       SCOPED_TRACE(testing::Message() << spread.name << ", " << count);
       std::mt19937 random(61);
-      std::vector<ListedPlace> places;
+      std::vector<PackedRTree::Entry> entries;
       std::uint32_t position = 0;
       for (std::size_t i = 0; i < count; ++i) {
         position += 1 + static_cast<std::uint32_t>(random() % 3);
-        places.push_back({spread.place(random), position});
+        entries.push_back({spread.point(random), position});
       }
-      PlaceTree tree;
-      tree.Build(places);
+      PackedRTree tree;
+      tree.Build(entries);
       for (int i = 0; i < 300; ++i) {
-        // A box at one of the places or between two: from nothing to all.
+        // A box at one of the points or between two: from nothing to all.
         ExtentBuilder box;
-        const GroundPoint at = places[random() % count].at;
+        const GroundPoint at = entries[random() % count].at;
         box.Include(at);
         const double reach = std::ldexp(1.0, static_cast<int>(random() % 40) - 20);
         box.Include(GroundPoint{at.north + reach * Uniform(random, -1, 1),
                                 at.east + reach * Uniform(random, -1, 1)});
-        if (i % 50 == 0) box.Include(places[random() % count].at);
+        if (i % 50 == 0) box.Include(entries[random() % count].at);
         const std::size_t most = i % 3 == 0 ? count : 1 + random() % 12;
-        ASSERT_EQ(InWalk(places, box.Extent(), most), InTree(tree, box.Extent(), most)) << i;
+        ASSERT_EQ(InScan(entries, box.Extent(), most), InTree(tree, box.Extent(), most)) << i;
       }
     }
   }
 }
 
-TEST(PlaceTree, WithoutPlacesVisitsNothing) {
-  PlaceTree tree;
+TEST(PackedRTree, WithoutPointsVisitsNothing) {
+  PackedRTree tree;
   EXPECT_TRUE(tree.IsEmpty());
   EXPECT_TRUE(InTree(tree, {{1, 1}, {-1, -1}}, 10).empty());
   tree.Build({{{0, 0}, 5}});
@@ -125,25 +125,25 @@ TEST(PlaceTree, WithoutPlacesVisitsNothing) {
   EXPECT_TRUE(InTree(tree, {{1, 1}, {-1, -1}}, 10).empty());
 }
 
-TEST(PlaceTree, LooksAtFewOfManyPlaces) {
+TEST(PackedRTree, TestsFewOfManyPoints) {
   std::mt19937 random(62);
   for (const Spread& spread : {kSpreads[0], kSpreads[5], kSpreads[6]}) {
-    std::vector<ListedPlace> places;
-    for (std::uint32_t i = 0; i < 100000; ++i) places.push_back({spread.place(random), i});
-    PlaceTree tree;
-    tree.Build(places);
-    int looks = 0;
+    std::vector<PackedRTree::Entry> entries;
+    for (std::uint32_t i = 0; i < 100000; ++i) entries.push_back({spread.point(random), i});
+    PackedRTree tree;
+    tree.Build(entries);
+    int tests = 0;
     for (std::size_t i = 0; i < 100; ++i) {
-      const GroundPoint at = places[i * 997].at;
+      const GroundPoint at = entries[i * 997].at;
       const GroundExtent box{{at.north + 0.1, at.east + 0.1}, {at.north - 0.1, at.east - 0.1}};
       tree.ForEachInOrder(
           [&](const GroundExtent& part) {
-            ++looks;
+            ++tests;
             return Overlap(part, box);
           },
           [](std::uint32_t) { return true; });
     }
-    EXPECT_LT(looks / 100, 400) << spread.name;
+    EXPECT_LT(tests / 100, 400) << spread.name;
   }
 }
 

@@ -1,4 +1,4 @@
-#include "tests/figure/true_curve.h"
+#include "tests/figure/curves/true_curve.h"
 
 #include <algorithm>
 #include <cmath>

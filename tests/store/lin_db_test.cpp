@@ -24,7 +24,7 @@ class LineStore : public testing::Test {
 
 TEST_F(LineStore, IsOpenAndUnchangedAfterClearingThoughItsDatabaseCouldNotBeDeleted) {
   CLinDb lines(0);
-  EXPECT_EQ(1, lines.Open());
+  EXPECT_TRUE(lines.Open());
   std::int32_t id = 0;
   ASSERT_EQ(0, lines.Add({1, 2}, 101, &id));
   ASSERT_EQ(0, lines.Add({1, 3}, 101, &id));
@@ -34,7 +34,7 @@ TEST_F(LineStore, IsOpenAndUnchangedAfterClearingThoughItsDatabaseCouldNotBeDele
   store_.Fail(FailingStore::Operation::kDelete, StoreError::kInUse, 0, 1);
   EXPECT_EQ(0, lines.Clear());
   EXPECT_FALSE(lines.Changed());
-  EXPECT_EQ(-2, lines.Open()) << "it is open already";
+  EXPECT_FALSE(lines.Open()) << "it is open already";
   EXPECT_EQ(0, lines.Find({1, 3})) << "with what it held";
   EXPECT_EQ(0, lines.Add({1, 4}, 101, &id));
   EXPECT_EQ(1, id) << "ids start at 1 again";
@@ -42,16 +42,16 @@ TEST_F(LineStore, IsOpenAndUnchangedAfterClearingThoughItsDatabaseCouldNotBeDele
 
 TEST_F(LineStore, IsClosedAndUnchangedAfterClearingWhenItsDatabaseCannotBeOpened) {
   CLinDb lines(0);
-  EXPECT_EQ(1, lines.Open());
+  EXPECT_TRUE(lines.Open());
   std::int32_t id = 0;
   ASSERT_EQ(0, lines.Add({1, 2}, 101, &id));
 
   store_.Fail(FailingStore::Operation::kOpen, StoreError::kTooManyOpen);
   EXPECT_EQ(-1, lines.Clear());
   EXPECT_FALSE(lines.Changed());
-  EXPECT_EQ(-1, lines.Close()) << "it is closed";
+  EXPECT_FALSE(lines.Close()) << "it is closed";
   store_.Pass(FailingStore::Operation::kOpen);
-  EXPECT_EQ(1, lines.Open());
+  EXPECT_TRUE(lines.Open());
 }
 
 }  // namespace
