@@ -1,6 +1,6 @@
 #include "host/tools/capture_tool.h"
 
-#include "host/measure_text.h"
+#include "host/app/measure_text.h"
 
 namespace fieldhost {
 

@@ -1,7 +1,7 @@
 #include "host/tools/circle_tool.h"
 
-#include "host/measure_text.h"
-#include "host/tools/ground_geometry.h"
+#include "host/app/measure_text.h"
+#include "host/survey/ground_geometry.h"
 
 namespace fieldhost {
 

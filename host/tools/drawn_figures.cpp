@@ -2,7 +2,7 @@
 
 #include <tavix/tavix.h>
 
-#include "host/plot_pane.h"
+#include "host/plot/plot_pane.h"
 
 namespace fieldhost {
 

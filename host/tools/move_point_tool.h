@@ -3,8 +3,8 @@
 
 #include <optional>
 
-#include "host/plot_pane.h"
-#include "host/side/side_pane.h"
+#include "host/plot/plot_pane.h"
+#include "host/plot/side_pane.h"
 #include "host/tools/plan_tool.h"
 #include "host/tools/position_mark.h"
 

@@ -1,7 +1,7 @@
 // A mark over the plan where the user is at work.
 #pragma once
 
-#include "host/ground_position.h"
+#include "host/survey/ground_position.h"
 
 namespace fieldhost {
 

@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "host/ground_position.h"
+#include "host/survey/ground_position.h"
 
 namespace fieldhost {
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "host/resource.h"
+#include "host/app/wide_text.h"
+#include "host/resources/fieldhost_ids.h"
 #include "host/tools/sheet_scale.h"
-#include "host/wide_text.h"
 
 namespace fieldhost {
 namespace {

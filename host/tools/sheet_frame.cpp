@@ -2,10 +2,10 @@
 
 #include <tavix/tavix.h>
 
-#include "host/measure_text.h"
-#include "host/plot_pane.h"
+#include "host/app/measure_text.h"
+#include "host/app/wide_text.h"
+#include "host/plot/plot_pane.h"
 #include "host/tools/sheet_scale.h"
-#include "host/wide_text.h"
 
 namespace fieldhost {
 namespace {

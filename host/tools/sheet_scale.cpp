@@ -1,6 +1,6 @@
 #include "host/tools/sheet_scale.h"
 
-#include "host/readers/field_text.h"
+#include "host/formats/field_text.h"
 
 namespace fieldhost {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "host/resource.h"
+#include "host/resources/fieldhost_ids.h"
 #include "host/tools/sheet_dialog.h"
 
 namespace fieldhost {

@@ -5,15 +5,15 @@
 
 #include <array>
 
-#include "host/plot_pane.h"
-#include "host/side/side_pane.h"
+#include "host/plot/plot_pane.h"
+#include "host/plot/side_pane.h"
+#include "host/plot/tool_legends.h"
 #include "host/tools/capture_tool.h"
 #include "host/tools/circle_tool.h"
 #include "host/tools/drawn_figures.h"
 #include "host/tools/move_point_tool.h"
 #include "host/tools/move_sheet_tool.h"
 #include "host/tools/sheet_frame.h"
-#include "host/tools/tool_legends.h"
 #include "host/tools/trace_tool.h"
 
 namespace fieldhost {

@@ -5,9 +5,9 @@
 #include <span>
 #include <utility>
 
-#include "host/measure_text.h"
-#include "host/tools/boundary_crossing.h"
-#include "host/tools/ground_geometry.h"
+#include "host/app/measure_text.h"
+#include "host/survey/boundary_crossing.h"
+#include "host/survey/ground_geometry.h"
 
 namespace fieldhost {
 namespace {
