@@ -5,7 +5,7 @@
 #include <iterator>
 
 #include "host/formats/field_text.h"
-#include "host/pictures/one_bit_format.h"
+#include "host/pictures/one_bit_picture.h"
 
 namespace fieldhost {
 namespace {

@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "host/app/command_line.h"
+#include "host/app/display_text.h"
 #include "host/app/headless.h"
 #include "host/app/main_window.h"
-#include "host/app/utf8_path.h"
-#include "host/app/wide_text.h"
+#include "host/survey/disk_file.h"
 
 namespace fieldhost {
 namespace {

@@ -2,14 +2,15 @@
 
 #include <cstdio>
 #include <optional>
+#include <utility>
 
 #include "host/app/main_window.h"
-#include "host/app/utf8_path.h"
-#include "host/pictures/group_picture.h"
-#include "host/pictures/one_bit_writer.h"
 #include "host/pictures/picture_writer.h"
+#include "host/pictures/plan_picture.h"
 #include "host/plot/plot_pane.h"
+#include "host/survey/disk_file.h"
 #include "host/survey/load_report.h"
+#include "host/survey/survey_document.h"
 #include "host/survey/survey_loader.h"
 
 namespace fieldhost {
@@ -51,19 +52,19 @@ std::string SizeProblem(const CommandLine& line) {
 
 int ResolutionFor(const CommandLine& line) { return line.resolution.value_or(ScreenResolution()); }
 
-// What came of writing a picture.
+// The result of writing a picture.
 struct Written {
   std::string problem;  // empty when all went well
   SurveyCounts shown;
 };
 
-Written WriteWindow(const LoadedSurvey& loaded, const CommandLine& line) {
+Written WriteWindow(LoadedSurvey loaded, const CommandLine& line) {
   auto* window = new CMainWindow;  // deletes itself with its window
   if (!window->CreateForPicture(line.size.value_or(kUsualSize))) {
     return {CannotWrite(line.picture), {}};
   }
-  window->Show(loaded);
-  Written written{"", window->Counts()};
+  window->Show(std::move(loaded));
+  Written written{"", window->Document().Counts()};
   if (line.side && !window->ShowView(PlotView::kSide)) {
     written.problem = "No point has a height; leave out --side.";
   } else {
@@ -84,23 +85,23 @@ struct DrawnPlan {
 };
 
 // The plot has the picture's proportions, so that what fits the one fits the other.
-DrawnPlan DrawPlan(CWnd& parent, const LoadedSurvey& loaded, const PictureSize& size) {
+DrawnPlan DrawPlan(CWnd& parent, LoadedSurvey loaded, const PictureSize& size) {
   constexpr int kLongestPlot = 1000;  // pixels
   const PictureSize plot_size = Within(size, kLongestPlot);
   CRect rect(0, 0, plot_size.width, plot_size.height);
   ::AdjustWindowRectEx(&rect, WS_CHILD | WS_BORDER, FALSE, WS_EX_CLIENTEDGE);
-  PlotPane plot;
+  SurveyDocument document;
+  PlotPane plot(document);
   plot.ShowButtons(false);
   if (!plot.Place(parent, rect, 0)) return {};
-  SurveyCounts shown = CountsOf(loaded);
-  shown.TakeOut(plot.Add(loaded.survey));
-  return {DrawGroupPicture(size), shown};
+  document.Add(std::move(loaded));
+  return {DrawPlanPicture(size), document.Counts()};
 }
 
-Written WriteOneBit(const LoadedSurvey& loaded, const CommandLine& line) {
+Written WriteOneBit(LoadedSurvey loaded, const CommandLine& line) {
   auto* frame = new CFrameWnd;  // deletes itself with its window
   if (!frame->Create(nullptr, L"", WS_POPUP)) return {CannotWrite(line.one_bit), {}};
-  const DrawnPlan plan = DrawPlan(*frame, loaded, line.size.value_or(kUsualSize));
+  const DrawnPlan plan = DrawPlan(*frame, std::move(loaded), line.size.value_or(kUsualSize));
   frame->DestroyWindow();
   if (!plan.picture) {
     return {"There is no room for so large a picture; choose a smaller --size.", {}};
@@ -118,15 +119,16 @@ Written WriteOneBit(const LoadedSurvey& loaded, const CommandLine& line) {
 int DrawPicture(const CommandLine& line) {
   if (const std::string problem = SizeProblem(line); !problem.empty()) return Fail(problem);
 
-  const LoadedSurvey loaded = LoadSurveyFiles(PathsOf(line.files));
+  LoadedSurvey loaded = LoadSurveyFiles(PathsOf(line.files));
   std::fputs(Complaints(loaded, kMostLines).c_str(), stderr);
   if (!line.files.empty() && !loaded.survey.HasAnythingToDraw()) return kFailed;
 
-  const Written written =
-      line.one_bit.empty() ? WriteWindow(loaded, line) : WriteOneBit(loaded, line);
+  const bool all_read = loaded.refusals.empty();
+  const Written written = line.one_bit.empty() ? WriteWindow(std::move(loaded), line)
+                                               : WriteOneBit(std::move(loaded), line);
   if (!written.problem.empty()) return Fail(written.problem);
   std::printf("%s\n", Summary(written.shown).c_str());
-  return loaded.refusals.empty() ? kDone : kFailed;
+  return all_read ? kDone : kFailed;
 }
 
 }  // namespace fieldhost

@@ -4,13 +4,14 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "host/app/measure_text.h"
+#include "host/app/display_text.h"
 #include "host/app/open_dialog.h"
-#include "host/app/wide_text.h"
 #include "host/plot/point_memo.h"
 #include "host/resources/fieldhost_ids.h"
+#include "host/survey/load_report.h"
 #include "host/survey/memo_text.h"
 
 namespace fieldhost {
@@ -81,17 +82,14 @@ BOOL CMainWindow::CreateForPicture(const PictureSize& size) {
 
 void CMainWindow::OpenFiles(std::span<const std::filesystem::path> files) {
   constexpr std::size_t kMostLines = 8;  // that a message box holds well
-  const LoadedSurvey loaded = LoadSurveyFiles(files);
-  if (loaded.survey.HasAnythingToDraw()) Show(loaded);
+  LoadedSurvey loaded = LoadSurveyFiles(files);
   const std::string complaints = Complaints(loaded, kMostLines);
+  if (loaded.survey.HasAnythingToDraw()) Show(std::move(loaded));
   if (!complaints.empty()) AfxMessageBox(WideOf(complaints), MB_OK | MB_ICONWARNING);
 }
 
-void CMainWindow::Show(const LoadedSurvey& loaded) {
-  const SurveyCounts refused = plot_.Add(loaded.survey);
-  side_.Add(loaded.survey);
-  counts_ += CountsOf(loaded);
-  counts_.TakeOut(refused);
+void CMainWindow::Show(LoadedSurvey loaded) {
+  document_.Add(std::move(loaded));
   ShowSummary();
 }
 
@@ -159,16 +157,17 @@ void CMainWindow::LayOut() {
   }
 }
 
-// A star tells of a memo even where its beginning has no room.
+// A star shows that there is a memo even where its beginning has no room.
 void CMainWindow::ShowPoint(int key) {
   constexpr std::size_t kMostOfMemo = 40;
-  const std::optional<TappedPoint> point = PlotPane::PointOf(key);
+  const SurveyPoint* const point = document_.FindPoint(key);
   if (!point) return;
   tapped_key_ = key;
   const CString memo = MemoOf(key);
   CString text;
-  text.Format(L"%d %s%s  ", point->number, point->name.GetString(), memo.IsEmpty() ? L"" : L" *");
-  text += PositionText({point->north, point->east});
+  text.Format(L"%d %s%s  ", point->number, WideOf(point->name).GetString(),
+              memo.IsEmpty() ? L"" : L" *");
+  text += PositionText(point->Position());
   if (!memo.IsEmpty()) text += L"  " + WideOf(MemoBeginning(Utf8Of(memo), kMostOfMemo));
   info_.Show(text);
 }
@@ -187,7 +186,7 @@ void CMainWindow::ShowSummary() {
   if (tools_.IsToolInUse()) {
     info_.Show(tools_.Text());
   } else {
-    info_.Show(sheet.IsEmpty() ? WideOf(Summary(counts_)) : sheet);
+    info_.Show(sheet.IsEmpty() ? WideOf(Summary(document_.Counts())) : sheet);
   }
 }
 
@@ -225,11 +224,9 @@ void CMainWindow::OnOpen() {
 
 void CMainWindow::OnCloseAll() {
   ShowView(PlotView::kPlan);
-  tools_.CloseSurvey();
-  plot_.Clear();
-  side_.Clear();
+  tools_.Stop();
+  document_.Clear();
   tapped_key_.reset();
-  counts_ = {};
   ShowSummary();
 }
 

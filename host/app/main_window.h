@@ -13,7 +13,7 @@
 #include "host/app/view_tabs.h"
 #include "host/plot/plot_pane.h"
 #include "host/plot/side_pane.h"
-#include "host/survey/load_report.h"
+#include "host/survey/survey_document.h"
 #include "host/survey/survey_loader.h"
 #include "host/tools/toolbox.h"
 
@@ -31,14 +31,15 @@ class CMainWindow : public CFrameWnd {
   void OpenFiles(std::span<const std::filesystem::path> files);
 
   // Shows a survey beside those already open, and counts it in the information line.
-  void Show(const LoadedSurvey& loaded);
-  [[nodiscard]] const SurveyCounts& Counts() const { return counts_; }
+  void Show(LoadedSurvey loaded);
+  [[nodiscard]] const SurveyDocument& Document() const { return document_; }
 
-  // Turns to the plan or the side view, or tells why the side view cannot be shown: false.
+  // Turns to the plan or the side view; false, with the reason in the information line, when there
+  // is no side view.
   bool ShowView(PlotView view);
 
-  // Keeps up with the view, which the plot's own buttons change without a word: the sheet's scale
-  // and origin are told anew. For idle times.
+  // Polls the view, which the plot's own buttons change without notifying, and shows the sheet's
+  // new scale and origin. For idle times.
   void FollowView();
 
  protected:
@@ -77,17 +78,17 @@ class CMainWindow : public CFrameWnd {
   void ShowPlanInfo();
   void ShowHeights();
 
-  PlotPane plot_;
-  SidePane side_;
-  Toolbox tools_{plot_, side_};
+  SurveyDocument document_;
+  PlotPane plot_{document_};
+  SidePane side_{document_};
+  Toolbox tools_{document_, plot_};
   ViewTabs tabs_;  // none in a picture
   InformationLine info_;
-  CString sheet_text_;    // told last
+  CString sheet_text_;    // shown last
   CSize laid_out_{0, 0};  // the client size that the children fit
   bool for_user_ = false;
   bool sizing_ = false;            // the user is dragging an edge
   std::optional<int> tapped_key_;  // of the point tapped last
-  SurveyCounts counts_;            // of all that is shown
 };
 
 }  // namespace fieldhost

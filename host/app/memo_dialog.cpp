@@ -1,7 +1,8 @@
 #include "host/app/memo_dialog.h"
 
-#include "host/app/measure_text.h"
-#include "host/plot/point_memo.h"
+#include <tavix/tavix.h>
+
+#include "host/app/display_text.h"
 #include "host/resources/fieldhost_ids.h"
 
 namespace fieldhost {
@@ -10,19 +11,19 @@ BEGIN_MESSAGE_MAP(MemoDialog, CDialog)
 ON_EN_MAXTEXT(IDC_MEMO_TEXT, &MemoDialog::OnFull)
 END_MESSAGE_MAP()
 
-MemoDialog::MemoDialog(CWnd& parent, const TappedPoint& point, const CString& memo)
+MemoDialog::MemoDialog(CWnd& parent, const SurveyPoint& point, const CString& memo)
     : CDialog(IDD_MEMO, &parent), point_(point), memo_(memo) {}
 
 BOOL MemoDialog::OnInitDialog() {
   CDialog::OnInitDialog();
   CenterWindow();
   CString line;
-  line.Format(L"%d  %s", point_.number, point_.name.GetString());
+  line.Format(L"%d  %s", point_.number, WideOf(point_.name).GetString());
   SetDlgItemText(IDC_MEMO_POINT, line);
-  SetDlgItemText(IDC_MEMO_PLACE, PositionText({point_.north, point_.east}));
+  SetDlgItemText(IDC_MEMO_PLACE, PositionText(point_.Position()));
 
   auto& text = *static_cast<CEdit*>(GetDlgItem(IDC_MEMO_TEXT));
-  text.SetLimitText(kLongestMemo);
+  text.SetLimitText(kTavixLongestMemo);
   text.SetWindowText(memo_);
   text.SetSel(memo_.GetLength(), memo_.GetLength());
   text.SetFocus();
@@ -45,10 +46,11 @@ void MemoDialog::OnOK() {
   CDialog::OnOK();
 }
 
-// The edit refused what was typed or pasted, or a part of it.
+// The edit control cut what was typed or pasted.
 void MemoDialog::OnFull() {
   CString text;
-  text.Format(L"A memo holds at most %d characters: what went beyond was left out.", kLongestMemo);
+  text.Format(L"A memo holds at most %d characters: what went beyond was left out.",
+              kTavixLongestMemo);
   AfxMessageBox(text, MB_OK | MB_ICONINFORMATION);
 }
 

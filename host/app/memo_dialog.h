@@ -3,14 +3,14 @@
 
 #include <afxwin.h>
 
-#include "host/plot/plot_pane.h"
+#include "host/survey/survey.h"
 
 namespace fieldhost {
 
 class MemoDialog : public CDialog {
  public:
   // Shows the point and its memo for editing. Ends with IDOK when the user wants Memo() kept.
-  MemoDialog(CWnd& parent, const TappedPoint& point, const CString& memo);
+  MemoDialog(CWnd& parent, const SurveyPoint& point, const CString& memo);
 
   // Without blanks at its end, its lines ended by CR LF.
   [[nodiscard]] const CString& Memo() const { return memo_; }
@@ -25,7 +25,7 @@ class MemoDialog : public CDialog {
   DECLARE_MESSAGE_MAP()
 
  private:
-  TappedPoint point_;
+  SurveyPoint point_;
   CString memo_;
 };
 

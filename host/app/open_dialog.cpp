@@ -2,7 +2,7 @@
 
 #include <afxdlgs.h>
 
-#include "host/app/wide_text.h"
+#include "host/app/display_text.h"
 #include "host/formats/survey_formats.h"
 
 namespace fieldhost {

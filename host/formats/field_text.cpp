@@ -128,4 +128,22 @@ std::string Quoted(std::string_view field) {
   return quoted;
 }
 
+bool IsOnGround(double metres) {
+  constexpr double kFarthest = 1e8;  // metres
+  return std::abs(metres) <= kFarthest;
+}
+
+std::optional<double> GroundNumber(std::string_view field, DecimalMark mark) {
+  const std::optional<double> number = RealNumber(field, mark);
+  return number && IsOnGround(*number) ? number : std::nullopt;
+}
+
+std::string NoGroundNumber(std::string_view what, std::string_view field, DecimalMark mark) {
+  std::string sentence = "the ";
+  sentence += what;
+  if (field.empty()) return sentence + " is missing";
+  sentence += ' ' + Quoted(field);
+  return sentence + (RealNumber(field, mark) ? " lies beyond any ground" : " is not a number");
+}
+
 }  // namespace fieldhost

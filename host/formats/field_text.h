@@ -1,4 +1,4 @@
-// Fields of a line: where they begin and end, and the text and the numbers in them.
+// Fields of a line: where they begin and end, and the text, numbers and coordinates in them.
 #pragma once
 
 #include <cstddef>
@@ -36,5 +36,18 @@ enum class DecimalMark { kPoint, kComma };
 
 // The field in quotes for a message: cut when long, without control characters.
 [[nodiscard]] std::string Quoted(std::string_view field);
+
+// False past 100,000 km.
+[[nodiscard]] bool IsOnGround(double metres);
+
+// A coordinate or height in metres. Nothing for text that is no number, and for numbers past
+// 100,000 km: no grid on earth reaches so far, and one such slip of a decimal point would shrink
+// the rest of the survey to a dot.
+[[nodiscard]] std::optional<double> GroundNumber(std::string_view field,
+                                                 DecimalMark mark = DecimalMark::kPoint);
+
+// What is wrong with a field that GroundNumber refused.
+[[nodiscard]] std::string NoGroundNumber(std::string_view what, std::string_view field,
+                                         DecimalMark mark = DecimalMark::kPoint);
 
 }  // namespace fieldhost

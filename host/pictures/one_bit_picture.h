@@ -1,8 +1,11 @@
-// A picture of ink and paper.
+// One-bit pictures: ink and paper, and the formats of their files.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace fieldhost {
@@ -40,5 +43,16 @@ class OneBitPicture {
   std::size_t stride_;
   std::vector<std::uint8_t> rows_;
 };
+
+enum class OneBitFormat {
+  kPng,
+  kPbm,  // portable bitmap, the raw form
+};
+
+// By the ending of the file's name, in upper or lower case.
+[[nodiscard]] std::optional<OneBitFormat> OneBitFormatOf(std::string_view file_name);
+
+// The bytes of a portable bitmap file: "P4", the sides in digits, then the rows.
+[[nodiscard]] std::string PortableBitmap(const OneBitPicture& picture);
 
 }  // namespace fieldhost

@@ -1,9 +1,11 @@
-// A window's picture as a file.
+// Pictures as files.
 #pragma once
 
 #include <afxwin.h>
 
 #include <filesystem>
+
+#include "host/pictures/one_bit_picture.h"
 
 namespace fieldhost {
 
@@ -15,5 +17,10 @@ namespace fieldhost {
 // The screen's dots an inch: a picture for which nobody chose a resolution is as large on paper as
 // it is on the screen.
 [[nodiscard]] int ScreenResolution();
+
+// Writes the file, in place of one that is there. `resolution` in dots an inch; a portable bitmap
+// holds none. False when it cannot be written.
+[[nodiscard]] bool WriteOneBitPicture(const OneBitPicture& picture, OneBitFormat format,
+                                      int resolution, const std::filesystem::path& file);
 
 }  // namespace fieldhost

@@ -1,57 +1,58 @@
 #include "host/plot/plot_pane.h"
 
-#include <tavix/tavix.h>
+#include "host/plot/plot_instance.h"
 
 namespace fieldhost {
-namespace {
 
-constexpr int kSlot = 0;
-constexpr BYTE kOff = 0;
-constexpr BYTE kOn = 1;
-constexpr BYTE kFitView = 0;
-constexpr BYTE kKeepView = 1;
-
-}  // namespace
-
-PlotPane::PlotPane() {
-  Tavix_SetIdx(kSlot);
+PlotPane::Instance::Instance() {
+  Tavix_SetIdx(kPlanSlot);
   Tavix_Crt();
-  entry_.AddLegends();
 }
 
-PlotPane::~PlotPane() {
-  Tavix_SetIdx(kSlot);
+PlotPane::Instance::~Instance() {
+  Tavix_SetIdx(kPlanSlot);
   Tavix_Del();
 }
+
+PlotPane::PlotPane(SurveyDocument& document) : document_(document) { document_.Attach(*this); }
+
+PlotPane::~PlotPane() { document_.Detach(*this); }
 
 bool PlotPane::Place(CWnd& parent, const CRect& rect, UINT notify_id) {
   if (Tavix_LnkRct(&parent, rect.left, rect.top, rect.right, rect.bottom, notify_id) != 0) {
     return false;
   }
   Tavix_SetBtn(shows_buttons_ ? kOn : kOff);
-  // The modes were the old window's.
+  // The modes went with the old window.
   if (captures_) Tavix_CrdStt(static_cast<int>(capture_id_));
   Tavix_SclBarDsp(shows_scale_bar_ ? kOn : kOff);
   Show(shown_);
   return true;
 }
 
-SurveyCounts PlotPane::Add(const Survey& survey) {
+void PlotPane::SurveyAdded(const SurveyAddition& addition) {
   Tavix_DrwFlg(kOff);
-  const SurveyCounts refused = entry_.Enter(survey);
+  entry_.Enter(addition);
   Tavix_Drw(kFitView);
-  return refused;
 }
 
-bool PlotPane::MovePoint(int key, const GroundPosition& place) {
-  if (!entry_.MovePoint(key, place)) return false;
-  Redraw();
-  return true;
-}
-
-void PlotPane::Clear() {
+void PlotPane::SurveyCleared() {
   Tavix_DrwClr();
-  entry_.StartOver();
+  Redraw();
+}
+
+void PlotPane::PointMoved(int key) {
+  entry_.FollowPoint(key);
+  Redraw();
+}
+
+void PlotPane::FigureDrawn(const DrawnFigure& figure) {
+  entry_.Enter(figure);
+  Redraw();
+}
+
+void PlotPane::FigureDeleted(int number) {
+  Tavix_DelFig(number);
   Redraw();
 }
 
@@ -95,15 +96,6 @@ std::optional<GroundPosition> PlotPane::CapturedCoordinate() {
   GroundPosition position;
   if (Tavix_CrdGet(&position.north, &position.east) != 0) return std::nullopt;
   return position;
-}
-
-std::optional<TappedPoint> PlotPane::PointOf(int key) {
-  TappedPoint point;
-  if (Tavix_GetPntNoNam(key, &point.number, &point.name) != 0 ||
-      Tavix_GetPntCrd(key, &point.north, &point.east) != 0) {
-    return std::nullopt;
-  }
-  return point;
 }
 
 }  // namespace fieldhost

@@ -1,4 +1,4 @@
-// The plot inside the main window: one instance of the library.
+// The plan inside the main window: a view of the document on one instance of the library.
 #pragma once
 
 #include <afxwin.h>
@@ -6,23 +6,16 @@
 #include <optional>
 
 #include "host/plot/survey_entry.h"
-#include "host/survey/ground_position.h"
-#include "host/survey/survey.h"
-#include "host/survey/survey_counts.h"
+#include "host/survey/ground_geometry.h"
+#include "host/survey/survey_document.h"
 
 namespace fieldhost {
 
-struct TappedPoint {
-  int number = 0;
-  CString name;
-  double north = 0.0;  // metres
-  double east = 0.0;
-};
-
-// Holds slot 0 from construction to destruction.
-class PlotPane {
+// Holds slot 0, which is the current one, from construction to destruction.
+class PlotPane : private SurveyView {
  public:
-  PlotPane();
+  // The document, which must outlive the pane, is empty.
+  explicit PlotPane(SurveyDocument& document);
   ~PlotPane();
   PlotPane(const PlotPane&) = delete;
   PlotPane& operator=(const PlotPane&) = delete;
@@ -32,14 +25,7 @@ class PlotPane {
   // False when the window could not be made.
   bool Place(CWnd& parent, const CRect& rect, UINT notify_id);
 
-  // Adds a survey and shows all there is. Returns what the library refused.
-  SurveyCounts Add(const Survey& survey);
-
-  // Moves a point and shows it at its new place. False for an unknown key.
-  bool MovePoint(int key, const GroundPosition& place);
-
-  void Clear();
-  // Shows the plot window, drawn anew, or hides it; the view, marks and modes stay.
+  // Redraws and shows the plot window, or hides it; the view, marks and modes stay.
   void Show(bool show);
   void ShowWholeView();
   void ShowButtons(bool show);
@@ -53,16 +39,32 @@ class PlotPane {
   // Gives the plot window the keyboard: the arrow keys pan.
   void TakeFocus();
 
-  // While on, each tap is reported under `capture_id`, and CapturedCoordinate tells where it was.
+  // While on, each tap is reported under `capture_id`, and CapturedCoordinate returns its position.
   void CaptureCoordinates(bool on, UINT capture_id);
   [[nodiscard]] bool CapturesCoordinates() const { return captures_; }
   [[nodiscard]] static std::optional<GroundPosition> CapturedCoordinate();
 
-  // The point of a key that the plot window reported; nothing when it is no longer there.
-  [[nodiscard]] static std::optional<TappedPoint> PointOf(int key);
+  // The legend of a position that a tool works on.
+  [[nodiscard]] short WorkMarkLegend() const { return entry_.Legends().work_mark; }
 
  private:
-  SurveyEntry entry_;
+  // Makes the instance before the entry adds its legends.
+  struct Instance {
+    Instance();
+    ~Instance();
+    Instance(const Instance&) = delete;
+    Instance& operator=(const Instance&) = delete;
+  };
+
+  void SurveyAdded(const SurveyAddition& addition) override;
+  void SurveyCleared() override;
+  void PointMoved(int key) override;
+  void FigureDrawn(const DrawnFigure& figure) override;
+  void FigureDeleted(int number) override;
+
+  SurveyDocument& document_;
+  Instance instance_;
+  SurveyEntry entry_{document_};
   bool shown_ = true;
   bool shows_buttons_ = true;
   bool shows_scale_bar_ = false;

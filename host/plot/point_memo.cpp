@@ -2,11 +2,9 @@
 
 #include <tavix/tavix.h>
 
-#include <limits>
-
 namespace fieldhost {
 
-bool CanHaveMemo(int key) { return key > 0 && key <= std::numeric_limits<short>::max(); }
+bool CanHaveMemo(int key) { return key > 0 && key <= kTavixLargestLineKey; }
 
 CString MemoOf(int key) {
   CString memo;
@@ -15,7 +13,7 @@ CString MemoOf(int key) {
 }
 
 bool SetMemo(int key, const CString& memo) {
-  if (!CanHaveMemo(key) || memo.GetLength() > kLongestMemo) return false;
+  if (!CanHaveMemo(key) || memo.GetLength() > kTavixLongestMemo) return false;
   // The library would keep an empty memo for a point without one.
   if (memo.IsEmpty() && MemoOf(key).IsEmpty()) return true;
   return Tavix_EntPntMem(key, memo) == 0;

@@ -10,13 +10,6 @@ namespace {
 
 constexpr double kMargin = 20.0;      // pixels, for marks and labels
 constexpr double kNoReach = 0.00001;  // metres
-
-// The side view of a pixel `right` of the window's left edge and `up` from its bottom edge stands
-// kAcross * (kFar * up + kNear * right) from the left edge, and half the difference of the two
-// products above the window's middle.
-constexpr double kFar = 0.7;
-constexpr double kNear = 0.9;
-constexpr double kAcross = std::numbers::sqrt3 / 2;
 constexpr double kHalf = 0.5;
 
 // Ground directions of the turned view, in metres.
@@ -67,15 +60,16 @@ Corner BottomLeft(std::span<const HighPoint> points, const Turn& turn) {
 }
 
 Reach ReachOf(std::span<const HighPoint> points, const Turn& turn, const Corner& corner,
-              double height_base) {
+              double height_base, const SideProjection& projection) {
   Reach reach;
   for (const HighPoint& point : points) {
     const double right = turn.Right(point) - corner.right;
     const double up = turn.Up(point) - corner.up;
-    const double above = kHalf * (kFar * up - kNear * right);
+    const double above = projection.rise * (projection.up * up - projection.right * right);
     reach.right = std::max(reach.right, right);
     reach.up = std::max(reach.up, up);
-    reach.side_right = std::max(reach.side_right, kAcross * (kFar * up + kNear * right));
+    reach.side_right = std::max(
+        reach.side_right, projection.across * (projection.up * up + projection.right * right));
     reach.side_up = std::max(reach.side_up, above + point.height - height_base);
     reach.side_down = std::max(reach.side_down, -above);
   }
@@ -88,9 +82,9 @@ double ScaleFor(double reach, double room) {
 }
 
 // The corner stands the margin from both edges, so that the points begin where the side view does.
-double ScaleFor(const Reach& reach, const SideWindow& window) {
-  const double corner_across = kAcross * (kFar + kNear) * kMargin;
-  const double corner_above = kHalf * (kFar - kNear) * kMargin;
+double ScaleFor(const Reach& reach, const SideWindow& window, const SideProjection& projection) {
+  const double corner_across = projection.across * (projection.up + projection.right) * kMargin;
+  const double corner_above = projection.rise * (projection.up - projection.right) * kMargin;
   const double middle = window.height * kHalf;
   return std::min({ScaleFor(reach.right, window.width - 2 * kMargin),
                    ScaleFor(reach.up, window.height - 2 * kMargin),
@@ -101,12 +95,12 @@ double ScaleFor(const Reach& reach, const SideWindow& window) {
 
 }  // namespace
 
-std::optional<GroundSquare> FitSideView(std::span<const HighPoint> points,
-                                        const SideWindow& window) {
+std::optional<GroundSquare> FitSideView(std::span<const HighPoint> points, const SideWindow& window,
+                                        const SideProjection& projection) {
   const Turn turn(window.degrees);
   const Corner corner = BottomLeft(points, turn);
-  const Reach reach = ReachOf(points, turn, corner, window.height_base);
-  const double scale = ScaleFor(reach, window);
+  const Reach reach = ReachOf(points, turn, corner, window.height_base, projection);
+  const double scale = ScaleFor(reach, window, projection);
   if (std::max(reach.right, reach.up) < kNoReach || scale <= 0.0) return std::nullopt;
   const double right = corner.right + (window.width * kHalf - kMargin) / scale;
   const double up = corner.up + (window.height * kHalf - kMargin) / scale;

@@ -1,8 +1,6 @@
-// Which ground the side view has to show for every point to be seen.
-//
-// The library fits the side view as it fits the plan: into a window seen from above. It then lays
-// that window flat, seen from the side, and in a window that is not very wide the far right of it
-// lies outside. What is found here is smaller, and stands further left.
+// The ground that the side view has to show so that every point is seen. The library fits the side
+// view as seen from above, and its far right may then lie outside of the window; what is found here
+// is smaller and stands further left.
 #pragma once
 
 #include <optional>
@@ -14,6 +12,15 @@ struct HighPoint {
   double north = 0.0;  // metres
   double east = 0.0;
   double height = 0.0;
+};
+
+// The factors of the side view's projection: see kTavixSideRight and its neighbours in
+// <tavix/tavix.h>.
+struct SideProjection {
+  double right = 0.0;
+  double up = 0.0;
+  double across = 0.0;
+  double rise = 0.0;
 };
 
 struct SideWindow {
@@ -32,6 +39,7 @@ struct GroundSquare {
 
 // The square to zoom to. Nothing where all points stand in one place or the window has no room.
 [[nodiscard]] std::optional<GroundSquare> FitSideView(std::span<const HighPoint> points,
-                                                      const SideWindow& window);
+                                                      const SideWindow& window,
+                                                      const SideProjection& projection);
 
 }  // namespace fieldhost

@@ -1,37 +1,32 @@
 #include "host/plot/side_pane.h"
 
-#include <tavix/tavix.h>
-
 #include <cmath>
 #include <optional>
 
-#include "host/app/wide_text.h"
-#include "host/plot/current_slot.h"
-#include "host/plot/plot_area.h"
-#include "host/plot/point_legends.h"
+#include "host/app/display_text.h"
+#include "host/plot/plot_instance.h"
+#include "host/plot/plot_legends.h"
 
 namespace fieldhost {
 namespace {
 
-constexpr int kPlanSlot = 0;
-constexpr int kSlot = 1;
-constexpr BYTE kOff = 0;
-constexpr BYTE kOn = 1;
-constexpr BYTE kFitView = 0;
-constexpr BYTE kKeepView = 1;
 constexpr UINT kNoNotification = 0;  // the side view reports no taps
+constexpr SideProjection kProjection = {kTavixSideRight, kTavixSideUp, kTavixSideAcross,
+                                        kTavixSideRise};
 
 }  // namespace
 
-SidePane::SidePane() {
-  const CurrentSlot current(kSlot);
+SidePane::SidePane(SurveyDocument& document) : document_(document) {
+  const CurrentSlot current(kSideSlot);
   Tavix_Crt();
   PreparePointLegends();
+  document_.Attach(*this);
 }
 
 SidePane::~SidePane() {
-  if (shown_) KeepLook();
-  const CurrentSlot current(kSlot);
+  document_.Detach(*this);
+  if (shown_) KeepLegends();
+  const CurrentSlot current(kSideSlot);
   Tavix_Del();
 }
 
@@ -42,47 +37,39 @@ void SidePane::SetPlace(CWnd& parent, const CRect& rect) {
   if (shown_) Show();
 }
 
-void SidePane::Add(const Survey& survey) {
-  const CurrentSlot current(kSlot);
-  for (const SurveyPoint& point : survey.points) {
-    legends_.push_back(PointLegend(point.kind));
-    if (!point.height) continue;
-    const int key = static_cast<int>(legends_.size());
-    Tavix_SelPntHan(legends_.back());
-    Tavix_EntPnt3(key, point.number, WideOf(point.name), point.north, point.east, *point.height);
-  }
-  heights_.Include(survey);
+void SidePane::SurveyAdded(const SurveyAddition& addition) {
+  const CurrentSlot current(kSideSlot);
+  const std::size_t end = document_.Contents().points.size();
+  for (std::size_t i = addition.first_point; i < end; ++i) Enter(i);
   needs_fit_ = true;
   if (shown_) Show();
 }
 
-// Entering a key again replaces all of its point, the legend by the one that is selected.
-void SidePane::MovePoint(int key, const GroundPosition& place) {
-  const CurrentSlot current(kSlot);
-  int number = 0;
-  CString name;
-  double north = 0.0;
-  double east = 0.0;
-  double height = 0.0;
-  if (Tavix_GetPnt3NoNam(key, &number, &name) != 0 ||
-      Tavix_GetPnt3Crd(key, &north, &east, &height) != 0) {
-    return;
-  }
-  Tavix_SelPntHan(legends_[static_cast<std::size_t>(key) - 1]);
-  Tavix_EntPnt3(key, number, name, place.north, place.east, height);
+// Entering a key again replaces all of its point.
+void SidePane::Enter(std::size_t point) const {
+  const SurveyPoint& entered = document_.Contents().points[point];
+  if (!entered.height) return;
+  Tavix_SelPntHan(PointLegend(entered.kind));
+  Tavix_EntPnt3(SurveyDocument::KeyOf(point), entered.number, WideOf(entered.name), entered.north,
+                entered.east, *entered.height);
+}
+
+void SidePane::PointMoved(int key) {
+  const CurrentSlot current(kSideSlot);
+  const std::size_t point = SurveyDocument::PlaceOf(key);
+  if (!document_.Contents().points[point].height) return;
+  Enter(point);
   needs_fit_ = true;
 }
 
-void SidePane::Clear() {
-  const CurrentSlot current(kSlot);
+void SidePane::SurveyCleared() {
+  const CurrentSlot current(kSideSlot);
   Tavix_DrwClr();
-  heights_ = {};
-  legends_.clear();
   needs_fit_ = true;
 }
 
 bool SidePane::Show() {
-  const CurrentSlot current(kSlot);
+  const CurrentSlot current(kSideSlot);
   if (needs_window_ && !MakeWindow()) return false;
   if (!shown_) CopyPointLegends(kPlanSlot);
   if (needs_fit_) {
@@ -111,31 +98,30 @@ bool SidePane::MakeWindow() {
   return true;
 }
 
-void SidePane::KeepLook() {
+void SidePane::KeepLegends() {
   const CurrentSlot plan(kPlanSlot);
-  CopyPointLegends(kSlot);
+  CopyPointLegends(kSideSlot);
 }
 
 void SidePane::Hide() {
-  KeepLook();
-  const CurrentSlot current(kSlot);
+  KeepLegends();
+  const CurrentSlot current(kSideSlot);
   Tavix_Dsp(kOff);
   shown_ = false;
 }
 
 void SidePane::ShowWholeView() {
-  const CurrentSlot current(kSlot);
+  const CurrentSlot current(kSideSlot);
   Fit();
 }
 
-// The library's own fit sets the height base, below the lowest point; the zoom then brings all into
-// the window.
+// The library's own fit sets the height base; the zoom then brings all points into the window.
 void SidePane::Fit() {
   Tavix_Drw(kFitView);
-  const PictureSize area = PlotArea(*Tavix_Wnd(), shows_buttons_);
-  SideWindow window{area.width, area.height, 0, std::floor(heights_.lowest)};
+  const PictureSize area = DrawingArea(*Tavix_Wnd(), shows_buttons_);
+  SideWindow window{area.width, area.height, 0, std::floor(document_.Heights().lowest)};
   Tavix_GetAng(&window.degrees);
-  if (const std::optional<GroundSquare> square = FitSideView(Points(), window)) {
+  if (const auto square = FitSideView(Points(), window, kProjection)) {
     const double half = square->side / 2;
     Tavix_Zom(square->north - half, square->east - half, square->north + half, square->east + half);
   }
@@ -144,24 +130,21 @@ void SidePane::Fit() {
 
 std::vector<HighPoint> SidePane::Points() const {
   std::vector<HighPoint> points;
-  for (int key = 1; key <= static_cast<int>(legends_.size()); ++key) {
-    HighPoint point;
-    if (Tavix_GetPnt3Crd(key, &point.north, &point.east, &point.height) == 0) {
-      points.push_back(point);
-    }
+  for (const SurveyPoint& point : document_.Contents().points) {
+    if (point.height) points.push_back({point.north, point.east, *point.height});
   }
   return points;
 }
 
 void SidePane::ShowButtons(bool show) {
-  const CurrentSlot current(kSlot);
+  const CurrentSlot current(kSideSlot);
   shows_buttons_ = show;
   Tavix_SetBtn(show ? kOn : kOff);
   if (shown_) Tavix_Drw(kKeepView);
 }
 
 void SidePane::TakeFocus() {
-  const CurrentSlot current(kSlot);
+  const CurrentSlot current(kSideSlot);
   if (CWnd* window = Tavix_Wnd()) window->SetFocus();
 }
 

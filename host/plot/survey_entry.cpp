@@ -2,109 +2,133 @@
 
 #include <tavix/tavix.h>
 
-#include <limits>
-#include <optional>
+#include <algorithm>
+#include <variant>
+#include <vector>
 
-#include "host/app/wide_text.h"
-#include "host/plot/figure_entry.h"
-#include "host/plot/line_look.h"
-#include "host/plot/point_legends.h"
+#include "host/app/display_text.h"
 
 namespace fieldhost {
 namespace {
 
-// A line keeps 16 bits of a key; beyond that it would join other points.
-bool CanEndALine(int key) { return key <= std::numeric_limits<short>::max(); }
+// A line keeps 16 bits of a key: with a larger one it would join other points.
+bool CanEndALine(int key) { return key <= kTavixLargestLineKey; }
 
-std::optional<GroundPosition> PlaceOf(int key) {
-  GroundPosition place;
-  if (Tavix_GetPntCrd(key, &place.north, &place.east) != 0) return std::nullopt;
-  return place;
+// Enters a piece of the figure that is started. Each call returns 0 when the piece was entered.
+struct PieceEntry {
+  int operator()(const PlanStraight& line) const {
+    return Tavix_FigMdlLin(line.from.north, line.from.east, line.to.north, line.to.east);
+  }
+  int operator()(const PlanArc& arc) const {
+    return Tavix_FigMdlArc(arc.from.north, arc.from.east, arc.to.north, arc.to.east, arc.radius);
+  }
+  int operator()(const PlanClothoid& clothoid) const {
+    return Tavix_FigMdlClo(clothoid.from.north, clothoid.from.east, clothoid.to.north,
+                           clothoid.to.east, clothoid.start_radius, clothoid.parameter,
+                           clothoid.end_radius);
+  }
+  int operator()(const PlanPolyline& polyline) const {
+    std::vector<double> x;
+    std::vector<double> y;
+    for (const GroundPosition& vertex : polyline.vertices) {
+      x.push_back(vertex.north);
+      y.push_back(vertex.east);
+    }
+    return Tavix_FigMdlPly(static_cast<int>(x.size()), x.data(), y.data());
+  }
+  int operator()(const DrawnCircle& circle) const {
+    return Tavix_FigMdlCir(circle.centre.north, circle.centre.east, circle.radius);
+  }
+};
+
+bool EnterElement(const PlanElement& element) {
+  return std::count_if(element.begin(), element.end(), [](const PlanPiece& piece) {
+           return std::visit(PieceEntry(), piece) != 0;
+         }) == 0;
 }
 
 }  // namespace
 
-void SurveyEntry::AddLegends() {
+SurveyEntry::SurveyEntry(SurveyDocument& document) : document_(document) {
   PreparePointLegends();
-  for (const LineLook& look : LineLooks()) {
-    Tavix_AddLinHan(look.style, look.dash, look.gap, 0, look.pen_width,
-                    static_cast<int>(look.color), &line_legends_[look.kind]);
+  legends_ = AddPlanLegends();
+}
+
+void SurveyEntry::Enter(const SurveyAddition& addition) {
+  const Survey& survey = document_.Contents();
+  for (std::size_t i = addition.first_point; i < survey.points.size(); ++i) EnterPoint(i);
+  Tavix_SelLinHan(legends_.lines[LineKind::kParcel]);
+  for (std::size_t i = addition.first_parcel; i < survey.parcels.size(); ++i) EnterParcel(i);
+  for (std::size_t i = addition.first_line; i < survey.lines.size(); ++i) EnterLine(i);
+}
+
+void SurveyEntry::EnterPoint(std::size_t point) {
+  const SurveyPoint& entered = document_.Contents().points[point];
+  const int key = SurveyDocument::KeyOf(point);
+  Tavix_SelPntHan(PointLegend(entered.kind));
+  if (Tavix_EntPnt(key, entered.number, WideOf(entered.name), entered.north, entered.east) != 0) {
+    document_.RefusePoint(key);
   }
 }
 
-SurveyCounts SurveyEntry::Enter(const Survey& survey) {
-  SurveyCounts refused;
-  const int first_key = next_key_;
-  for (const SurveyPoint& point : survey.points) {
-    Tavix_SelPntHan(PointLegend(point.kind));
-    if (Tavix_EntPnt(next_key_++, point.number, WideOf(point.name), point.north, point.east) != 0) {
-      ++refused.points;
-    }
-  }
-  Tavix_SelLinHan(line_legends_[LineKind::kLot]);
-  for (const SurveyLot& lot : survey.lots) {
-    if (!EnterLot(lot, first_key)) ++refused.lots;
-  }
-  for (const SurveyLine& line : survey.lines) refused += EnterLine(line);
-  return refused;
-}
-
-// Of an alignment that is refused in part, the rest is there.
-SurveyCounts SurveyEntry::EnterLine(const SurveyLine& line) {
-  const std::size_t refused = EnterFigure(line, next_figure_++, line_legends_[line.kind]);
-  if (refused == 0) return {};
-  SurveyCounts counts = CountsOf(line);
-  if (line.kind == LineKind::kAlignment) counts.alignment_elements = refused;
-  return counts;
-}
-
-// Each corner is joined to the next, and the last to the first where the lot is closed.
-bool SurveyEntry::EnterLot(const SurveyLot& lot, int first_key) {
+// Each vertex is joined to the next, and the last to the first where the parcel is closed.
+void SurveyEntry::EnterParcel(std::size_t parcel) {
+  const auto& [name, closed, vertices] = document_.Contents().parcels[parcel];
   bool entered = true;
-  const std::size_t sides = lot.corners.size() - (lot.closed || lot.corners.empty() ? 0 : 1);
+  const std::size_t sides = vertices.size() - (closed || vertices.empty() ? 0 : 1);
   for (std::size_t i = 0; i < sides; ++i) {
-    const int from = first_key + static_cast<int>(lot.corners[i]);
-    const int to = first_key + static_cast<int>(lot.corners[(i + 1) % lot.corners.size()]);
-    if (!EnterSide({from, to})) entered = false;
+    const ParcelSide side{SurveyDocument::KeyOf(vertices[i]),
+                          SurveyDocument::KeyOf(vertices[(i + 1) % vertices.size()])};
+    if (!EnterSide(side)) entered = false;
   }
-  return entered;
+  if (!entered) document_.RefuseParcel(parcel);
 }
 
-// A figure looks as a line does. As with lines, the side that two lots share is there once.
-bool SurveyEntry::EnterSide(const Side& side) {
-  const auto [from, to] = side;
-  if (from == to) return true;
-  if (CanEndALine(from) && CanEndALine(to)) return Tavix_EntLin(from, to) == 0;
-  if (figure_sides_.contains(side) || figure_sides_.contains({to, from})) return true;
-  const int figure = next_figure_++;
-  figure_sides_.emplace(side, figure);
-  return EnterAsFigure(side, figure);
+// A figure is drawn as a line is.
+bool SurveyEntry::EnterSide(const ParcelSide& side) {
+  if (side.from == side.to) return true;
+  if (CanEndALine(side.from) && CanEndALine(side.to)) return Tavix_EntLin(side.from, side.to) == 0;
+  const std::optional<int> figure = document_.GiveFigure(side);
+  return !figure || EnterAsFigure(side, *figure);
 }
 
-bool SurveyEntry::EnterAsFigure(const Side& side, int figure) {
-  const std::optional<GroundPosition> from = PlaceOf(side.first);
-  const std::optional<GroundPosition> to = PlaceOf(side.second);
+bool SurveyEntry::EnterAsFigure(const ParcelSide& side, int figure) {
+  const SurveyPoint* const from = document_.FindPoint(side.from);
+  const SurveyPoint* const to = document_.FindPoint(side.to);
   if (!from || !to) return false;
-  Tavix_FigStt(figure, line_legends_[LineKind::kLot]);
-  const int refused = Tavix_FigMdlLin(from->north, from->east, to->north, to->east);
+  Tavix_FigStt(figure, legends_.lines[LineKind::kParcel]);
+  const int refused = PieceEntry()(PlanStraight{from->Position(), to->Position()});
   Tavix_FigEnd();
   return refused == 0;
 }
 
-// Lines know their points, figures do not.
-bool SurveyEntry::MovePoint(int key, const GroundPosition& place) {
-  if (Tavix_ChgPntCrd(key, place.north, place.east) != 0) return false;
-  for (const auto& [side, figure] : figure_sides_) {
-    if (side.first != key && side.second != key) continue;
+void SurveyEntry::EnterLine(std::size_t line) {
+  const SurveyLine& entered = document_.Contents().lines[line];
+  Tavix_FigStt(document_.FigureOf(line), legends_.lines[entered.kind]);
+  std::size_t refused = 0;
+  for (const PlanElement& element : entered.elements) {
+    if (!EnterElement(element)) ++refused;
+  }
+  Tavix_FigEnd();
+  if (refused > 0) document_.RefuseElements(line, refused);
+}
+
+void SurveyEntry::Enter(const DrawnFigure& figure) {
+  Tavix_FigStt(figure.number, legends_.drawn_figure);
+  std::visit(PieceEntry(), figure.shape);
+  Tavix_FigEnd();
+}
+
+// Lines follow their points, figures do not.
+void SurveyEntry::FollowPoint(int key) {
+  const SurveyPoint* const point = document_.FindPoint(key);
+  if (!point) return;
+  Tavix_ChgPntCrd(key, point->north, point->east);
+  for (const auto& [side, figure] : document_.SideFigures()) {
+    if (side.from != key && side.to != key) continue;
     Tavix_DelFig(figure);
     EnterAsFigure(side, figure);
   }
-  return true;
-}
-
-void SurveyEntry::StartOver() {
-  figure_sides_.clear();
-  next_key_ = next_figure_ = 1;
 }
 
 }  // namespace fieldhost

@@ -1,43 +1,38 @@
-// Enters surveys into the current plot instance.
+// Enters a document into the plan's instance.
 #pragma once
 
-#include <map>
-#include <utility>
+#include <cstddef>
 
-#include "host/survey/ground_position.h"
-#include "host/survey/survey.h"
-#include "host/survey/survey_counts.h"
+#include "host/plot/plot_legends.h"
+#include "host/survey/survey_document.h"
 
 namespace fieldhost {
 
-// Keys and figure numbers are given in the order of entry, up from 1.
+// Works on the current instance, which must exist throughout. Reports to the document what the
+// library refuses.
 class SurveyEntry {
  public:
-  // Gives the current instance, which must exist, the host's legends.
-  void AddLegends();
+  // Adds the host's legends to the instance. The document must outlive the object.
+  explicit SurveyEntry(SurveyDocument& document);
 
-  // Enters all points, the lots as lines between them, and all other lines as figures. Returns what
-  // the library refused.
-  SurveyCounts Enter(const Survey& survey);
+  [[nodiscard]] const PlanLegends& Legends() const { return legends_; }
 
-  // Moves a point; the sides of lots that end there follow it. False for an unknown key.
-  bool MovePoint(int key, const GroundPosition& place);
+  // Enters all points, the parcels as lines between them, and all other lines as figures.
+  void Enter(const SurveyAddition& addition);
+  void Enter(const DrawnFigure& figure);
 
-  // The next key and figure are 1 again; for an instance that was emptied.
-  void StartOver();
+  // Moves a point to where the document has it; the sides of parcels that end there follow.
+  void FollowPoint(int key);
 
  private:
-  using Side = std::pair<int, int>;  // the keys of its ends, as entered
+  void EnterPoint(std::size_t point);
+  void EnterParcel(std::size_t parcel);
+  void EnterLine(std::size_t line);
+  bool EnterSide(const ParcelSide& side);
+  bool EnterAsFigure(const ParcelSide& side, int figure);
 
-  bool EnterLot(const SurveyLot& lot, int first_key);
-  bool EnterSide(const Side& side);
-  bool EnterAsFigure(const Side& side, int figure);
-  [[nodiscard]] SurveyCounts EnterLine(const SurveyLine& line);
-
-  std::map<LineKind, short> line_legends_;
-  std::map<Side, int> figure_sides_;  // figure numbers of the sides that no line can be
-  int next_key_ = 1;
-  int next_figure_ = 1;
+  SurveyDocument& document_;
+  PlanLegends legends_;
 };
 
 }  // namespace fieldhost

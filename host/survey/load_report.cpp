@@ -16,7 +16,7 @@ std::string Counted(std::size_t count, std::string_view noun) {
   return text;
 }
 
-// What there is any of.
+// The counts above zero.
 std::string Listed(std::initializer_list<std::pair<std::size_t, std::string_view>> counts,
                    std::string_view between) {
   std::string text;
@@ -30,16 +30,31 @@ std::string Listed(std::initializer_list<std::pair<std::size_t, std::string_view
 
 }  // namespace
 
-SurveyCounts CountsOf(const LoadedSurvey& loaded) {
-  SurveyCounts counts = CountsOf(loaded.survey);
-  counts.skipped_lines = loaded.skipped_lines;
-  counts.skipped_elements = loaded.skipped_elements;
+void SurveyCounts::CountLine(LineKind kind, std::size_t elements) {
+  switch (kind) {
+    case LineKind::kAlignment:
+      alignment_elements += elements;
+      break;
+    case LineKind::kParcel:
+      ++parcels;
+      break;
+    default:
+      ++polylines;
+      break;
+  }
+}
+
+SurveyCounts CountsOf(const Survey& survey) {
+  SurveyCounts counts;
+  counts.points = survey.points.size();
+  counts.parcels = survey.parcels.size();
+  for (const SurveyLine& line : survey.lines) counts.CountLine(line.kind, line.elements.size());
   return counts;
 }
 
 std::string Summary(const SurveyCounts& counts) {
   std::string text = Listed({{counts.points, "point"},
-                             {counts.lots, "lot"},
+                             {counts.parcels, "parcel"},
                              {counts.polylines, "polyline"},
                              {counts.alignment_elements, "alignment element"}},
                             ", ");
@@ -57,9 +72,9 @@ std::string Sentence(const Diagnostic& diagnostic) {
 std::string Complaints(const LoadedSurvey& loaded, std::size_t most_lines) {
   std::string text;
   for (const std::string& refusal : loaded.refusals) text += refusal + '\n';
-  const std::size_t told = std::min(most_lines, loaded.diagnostics.size());
-  for (std::size_t i = 0; i < told; ++i) text += Sentence(loaded.diagnostics[i]) + '\n';
-  if (told < loaded.diagnostics.size()) {
+  const std::size_t shown = std::min(most_lines, loaded.diagnostics.size());
+  for (std::size_t i = 0; i < shown; ++i) text += Sentence(loaded.diagnostics[i]) + '\n';
+  if (shown < loaded.diagnostics.size()) {
     text +=
         Listed({{loaded.skipped_lines, "line"}, {loaded.skipped_elements, "element"}}, " and ") +
         " were skipped in all.\n";

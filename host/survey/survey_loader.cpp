@@ -4,9 +4,8 @@
 #include <string_view>
 #include <utility>
 
-#include "host/app/utf8_path.h"
 #include "host/formats/survey_formats.h"
-#include "host/survey/file_bytes.h"
+#include "host/survey/disk_file.h"
 
 namespace fieldhost {
 namespace {
@@ -16,7 +15,7 @@ std::string NameOf(const std::filesystem::path& file) {
   return name.empty() ? Utf8Of(file) : name;
 }
 
-// UTF-16 is full of null characters: without a word of its own each of its lines would be refused.
+// UTF-16 is full of null characters: without this check each of its lines would be refused.
 bool IsUtf16(std::string_view bytes) {
   return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
 }
@@ -77,11 +76,14 @@ void Append(Survey addition, Survey& survey) {
     return;
   }
   const std::size_t before = survey.points.size();
+  survey.points.reserve(before + addition.points.size());
+  survey.parcels.reserve(survey.parcels.size() + addition.parcels.size());
+  survey.lines.reserve(survey.lines.size() + addition.lines.size());
   survey.points.insert(survey.points.end(), std::make_move_iterator(addition.points.begin()),
                        std::make_move_iterator(addition.points.end()));
-  for (SurveyLot& lot : addition.lots) {
-    for (std::size_t& corner : lot.corners) corner += before;
-    survey.lots.push_back(std::move(lot));
+  for (SurveyParcel& parcel : addition.parcels) {
+    for (std::size_t& vertex : parcel.vertices) vertex += before;
+    survey.parcels.push_back(std::move(parcel));
   }
   survey.lines.insert(survey.lines.end(), std::make_move_iterator(addition.lines.begin()),
                       std::make_move_iterator(addition.lines.end()));

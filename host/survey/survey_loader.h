@@ -23,7 +23,8 @@ struct LoadedSurvey {
 // Reads the files one after the other. A file without anything to draw is refused.
 [[nodiscard]] LoadedSurvey LoadSurveyFiles(std::span<const std::filesystem::path> files);
 
-// Adds points, lots and lines behind those that are there.
+// Adds points, parcels and lines behind those that are there. When memory runs out
+// (std::bad_alloc) the survey is as it was.
 void Append(Survey addition, Survey& survey);
 
 }  // namespace fieldhost

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "host/formats/field_text.h"
-#include "host/formats/ground_number.h"
 
 namespace fieldhost {
 namespace {

@@ -116,9 +116,9 @@ PlanElement ReadSpiral(const Source& source, GroundPosition start, GroundPositio
   if (!Agree(ChordOf(shape), Distance(start, end), shape.length)) {
     source.Refuse("does not reach from its Start to its End by its radii and its length");
   }
-  if (const auto corner = source.Position("PI")) {
+  if (const auto vertex = source.Position("PI")) {
     const bool clockwise = shape.rotation == Rotation::kClockwise;
-    const double bend = BendAt(start, *corner, end);
+    const double bend = BendAt(start, *vertex, end);
     if (std::abs(bend) > 0.01 * shape.length && (bend > 0.0) != clockwise) {
       source.Refuse("turns another way by its PI than by its rot");
     }

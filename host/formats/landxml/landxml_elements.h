@@ -5,8 +5,8 @@
 
 #include "host/formats/landxml/landxml_ground.h"
 #include "host/formats/xml/xml_node.h"
-#include "host/survey/ground_position.h"
-#include "host/survey/plan_element.h"
+#include "host/survey/ground_geometry.h"
+#include "host/survey/survey.h"
 
 namespace fieldhost {
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "host/formats/field_text.h"
-#include "host/formats/ground_number.h"
 
 namespace fieldhost {
 namespace {

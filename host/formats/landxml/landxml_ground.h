@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "host/formats/xml/xml_node.h"
-#include "host/survey/ground_position.h"
+#include "host/survey/ground_geometry.h"
 
 namespace fieldhost {
 

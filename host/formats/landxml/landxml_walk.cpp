@@ -23,7 +23,7 @@ struct LineHolder {
 
 constexpr LineHolder kLineHolders[] = {
     {"Alignment", LineKind::kAlignment}, {"Breakline", LineKind::kBreakline},
-    {"PlanFeature", LineKind::kFeature}, {"Parcel", LineKind::kLot},
+    {"PlanFeature", LineKind::kFeature}, {"Parcel", LineKind::kParcel},
     {"Boundary", LineKind::kBoundary},   {"Contour", LineKind::kContour},
 };
 

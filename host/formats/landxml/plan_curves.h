@@ -3,8 +3,8 @@
 
 #include <optional>
 
-#include "host/survey/ground_position.h"
-#include "host/survey/plan_element.h"
+#include "host/survey/ground_geometry.h"
+#include "host/survey/survey.h"
 
 namespace fieldhost {
 
@@ -15,8 +15,8 @@ enum class Rotation { kClockwise, kCounterClockwise };  // as seen on the map
 [[nodiscard]] double TurnAbout(GroundPosition centre, GroundPosition from, GroundPosition to,
                                Rotation rotation);
 
-// Above 0 when the way over the corner bends clockwise, below 0 when the other way.
-[[nodiscard]] double BendAt(GroundPosition from, GroundPosition corner, GroundPosition to);
+// Above 0 when the way over the vertex bends clockwise, below 0 when the other way.
+[[nodiscard]] double BendAt(GroundPosition from, GroundPosition vertex, GroundPosition to);
 
 // The arc from `from` to `to` that turns by `turn` about `centre`: several arcs when it is long.
 [[nodiscard]] PlanElement ArcAbout(GroundPosition centre, GroundPosition from, GroundPosition to,

@@ -9,8 +9,7 @@
 #include <vector>
 
 #include "host/formats/field_text.h"
-#include "host/formats/ground_number.h"
-#include "host/formats/sima/sima_lots.h"
+#include "host/formats/sima/sima_parcels.h"
 #include "host/formats/sima/sima_record.h"
 
 namespace fieldhost {
@@ -50,14 +49,14 @@ class Reader {
       case SimaRecordKind::kPoint:
         TakePoint(line.number);
         break;
-      case SimaRecordKind::kLotBegin:
-        lots_.Begin(line.number, record_);
+      case SimaRecordKind::kParcelBegin:
+        parcels_.Begin(line.number, record_);
         break;
-      case SimaRecordKind::kLotCorner:
-        lots_.AddCorner(line.number, record_, log_);
+      case SimaRecordKind::kParcelVertex:
+        parcels_.AddVertex(line.number, record_, log_);
         break;
-      case SimaRecordKind::kLotEnd:
-        lots_.End();
+      case SimaRecordKind::kParcelEnd:
+        parcels_.End();
         break;
       case SimaRecordKind::kNoData:
         break;
@@ -71,7 +70,7 @@ class Reader {
   }
 
   Survey Finish() {
-    lots_.Resolve(numbers_, survey_, log_);
+    parcels_.Resolve(numbers_, survey_, log_);
     unknown_.Report(log_);
     return std::move(survey_);
   }
@@ -104,8 +103,8 @@ class Reader {
   ReadLog& log_;
   SimaRecord record_;
   Survey survey_;
-  std::vector<std::string> numbers_;  // of the points, as lots refer to them
-  SimaLots lots_;
+  std::vector<std::string> numbers_;  // of the points, as parcels refer to them
+  SimaParcels parcels_;
   UnknownRecords unknown_;
 };
 

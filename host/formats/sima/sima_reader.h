@@ -1,5 +1,5 @@
-// SIMA, the survey exchange format of Japan in its text edition: points and lots. Routes and other
-// records are skipped.
+// SIMA, the survey exchange format of Japan in its text edition: points and parcels. Routes and
+// other records are skipped.
 #pragma once
 
 #include "host/formats/read_log.h"
@@ -8,8 +8,8 @@
 
 namespace fieldhost {
 
-// Reads all points and lots. Skipped and said: points without coordinates, corners without a point
-// or a lot, lots without corners, and, once for each code, records of unknown codes.
+// Reads all points and parcels. Skipped and said: points without coordinates, vertices without a
+// point or a parcel, parcels without vertices, and, once for each code, records of unknown codes.
 [[nodiscard]] Survey ReadSima(const TextLines& lines, ReadLog& log);
 
 }  // namespace fieldhost

@@ -16,12 +16,12 @@ struct KnownRecord {
 };
 
 constexpr KnownRecord kKnownRecords[] = {
-    {"A01", SimaRecordKind::kPoint},    {"B01", SimaRecordKind::kLotCorner},
-    {"D00", SimaRecordKind::kLotBegin}, {"D99", SimaRecordKind::kLotEnd},
-    {"G00", SimaRecordKind::kNoData},   {"G01", SimaRecordKind::kNoData},
-    {"G99", SimaRecordKind::kNoData},   {"Z00", SimaRecordKind::kNoData},
-    {"Z01", SimaRecordKind::kNoData},   {"A00", SimaRecordKind::kNoData},
-    {"A99", SimaRecordKind::kNoData},   {"C03", SimaRecordKind::kNoData},
+    {"A01", SimaRecordKind::kPoint},       {"B01", SimaRecordKind::kParcelVertex},
+    {"D00", SimaRecordKind::kParcelBegin}, {"D99", SimaRecordKind::kParcelEnd},
+    {"G00", SimaRecordKind::kNoData},      {"G01", SimaRecordKind::kNoData},
+    {"G99", SimaRecordKind::kNoData},      {"Z00", SimaRecordKind::kNoData},
+    {"Z01", SimaRecordKind::kNoData},      {"A00", SimaRecordKind::kNoData},
+    {"A99", SimaRecordKind::kNoData},      {"C03", SimaRecordKind::kNoData},
 };
 
 bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }

@@ -8,13 +8,13 @@
 namespace fieldhost {
 
 enum class SimaRecordKind {
-  kPoint,      // A01: number, name, north, east, height
-  kLotBegin,   // D00: number, name, 1 for closed
-  kLotCorner,  // B01: number and name of a point
-  kLotEnd,     // D99
-  kNoData,     // known, and nothing in it to show: titles, section ends, derived sides
-  kUnknown,    // a record code, but none we know
-  kNoRecord,   // no record code
+  kPoint,         // A01: number, name, north, east, height
+  kParcelBegin,   // D00: number, name, 1 for closed
+  kParcelVertex,  // B01: number and name of a point
+  kParcelEnd,     // D99
+  kNoData,        // known, and nothing in it to show: titles, section ends, derived sides
+  kUnknown,       // a record code, but none we know
+  kNoRecord,      // no record code
 };
 
 // Valid as long as the line it was cut from. Serves one line after another.

@@ -28,15 +28,15 @@ TEST_F(Headless, DrawsTheSampleSurvey) {
   HostProcess host(folder_, {Sample(L"site.csv"), Sample(L"site.sim"), L"--picture", In(L"絵.png"),
                              L"--size", L"300x400"});
   ASSERT_EQ(0, host.Wait()) << host.Errors();
-  EXPECT_EQ("94 points, 4 lots\n", host.Output());
+  EXPECT_EQ("94 points, 4 parcels\n", host.Output());
   EXPECT_EQ("", host.Errors());
   EXPECT_TRUE(BeginsLikePng(In(L"絵.png")));
 
   const PictureImage image = DecodePicture(In(L"絵.png"));
   ASSERT_EQ(300, image.width);
   ASSERT_EQ(400, image.height);
-  // The triangles of the control points, the corners of the lots, the rings of the trees, and the
-  // lots' sides.
+  // The triangles of the control points, the vertices of the parcels, the rings of the trees, and
+  // the parcels' sides.
   EXPECT_GT(Count(image, 0xC80000), 50);
   EXPECT_GT(Count(image, 0x0000C8), 50);
   EXPECT_GT(Count(image, 0x008000), 50);
@@ -203,7 +203,7 @@ TEST_F(Headless, FailsForAFileThatCannotBeRead) {
 TEST_F(Headless, DrawsTheOthersOfAFileThatCannotBeRead) {
   HostProcess host(folder_, {folder_.wstring(), Sample(L"site.sim"), L"--picture", In(L"p.png")});
   EXPECT_EQ(1, host.Wait());
-  EXPECT_EQ("20 points, 4 lots\n", host.Output());
+  EXPECT_EQ("20 points, 4 parcels\n", host.Output());
   EXPECT_NE(std::string::npos, host.Errors().find("is a folder")) << host.Errors();
   EXPECT_TRUE(BeginsLikePng(In(L"p.png")));
 }

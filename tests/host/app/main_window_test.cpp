@@ -23,7 +23,7 @@ TEST_F(MainWindow, HasTheAskedClientSize) {
 
 TEST_F(MainWindow, OpensFilesAndClosesThemAll) {
   ASSERT_NO_FATAL_FAILURE(Open({Sample(L"site.csv"), Sample(L"site.sim")}));
-  ExpectInfo(L"94 points, 4 lots");
+  ExpectInfo(L"94 points, 4 parcels");
   Command(ID_SURVEY_CLOSE_ALL);
   ExpectInfo(L"0 points");
   Exit();
@@ -85,7 +85,7 @@ TEST_F(MainWindow, SizesThePlotOnceAfterTheEdgeWasDragged) {
 TEST_F(MainWindow, InformationLineIsLaidOutAnewWithTheWindowsWidth) {
   ASSERT_NO_FATAL_FAILURE(
       Open({Sample(L"site.csv"), Sample(L"site.sim"), Sample(L"site.xml"), L"--size", L"480x600"}));
-  ExpectInfo(L"94 points, 4 lots, 1 polyline, 5 alignment elements");
+  ExpectInfo(L"94 points, 4 parcels, 1 polyline, 5 alignment elements");
   const auto has_text = [&](int top, int bottom) {
     const tavix::test::Picture line = ShownBy(Info());
     int ink = 0;
@@ -135,7 +135,7 @@ TEST_F(MainWindow, SaysInABoxWhatCannotBeRead) {
   EXPECT_TRUE(said);
   ::PostMessageW(box, WM_COMMAND, IDOK, 0);
   EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
-  ExpectInfo(L"20 points, 4 lots");
+  ExpectInfo(L"20 points, 4 parcels");
   Exit();
 }
 

@@ -14,32 +14,32 @@ TEST_F(RealFile, RegistryMapOfManyControlPoints) {
   ASSERT_NO_FATAL_FAILURE(Load("moj-registry-map/12103-0400-76.sim"));
   if (IsSkipped()) return;
   ASSERT_EQ(610U, survey.points.size());
-  ASSERT_EQ(1U, survey.lots.size());
+  ASSERT_EQ(1U, survey.parcels.size());
   EXPECT_EQ("020100", survey.points[0].name);
-  EXPECT_EQ("194-1", survey.lots[0].name);
-  EXPECT_EQ((std::vector<std::size_t>{606, 608, 609, 607}), survey.lots[0].corners);
+  EXPECT_EQ("194-1", survey.parcels[0].name);
+  EXPECT_EQ((std::vector<std::size_t>{606, 608, 609, 607}), survey.parcels[0].vertices);
   ExpectExtent(-42737.116, -42104.611, 25739.966, 26695.870);
 }
 
-TEST_F(RealFile, RegistryMapOfManyLots) {
+TEST_F(RealFile, RegistryMapOfManyParcels) {
   ASSERT_NO_FATAL_FAILURE(Load("moj-registry-map/46505-3411-1.sim"));
   if (IsSkipped()) return;
   ASSERT_EQ(164U, survey.points.size());
-  ASSERT_EQ(8U, survey.lots.size());
-  EXPECT_EQ("2740-1", survey.lots[0].name);
-  EXPECT_EQ(109U, survey.lots[0].corners.size());
-  EXPECT_EQ("別図-5", survey.lots[2].name);
-  EXPECT_EQ("地区外-43774", survey.lots[3].name);
-  std::size_t corners = 0;
-  for (const SurveyLot& lot : survey.lots) {
-    EXPECT_TRUE(lot.closed);
-    corners += lot.corners.size();
+  ASSERT_EQ(8U, survey.parcels.size());
+  EXPECT_EQ("2740-1", survey.parcels[0].name);
+  EXPECT_EQ(109U, survey.parcels[0].vertices.size());
+  EXPECT_EQ("別図-5", survey.parcels[2].name);
+  EXPECT_EQ("地区外-43774", survey.parcels[3].name);
+  std::size_t vertices = 0;
+  for (const SurveyParcel& parcel : survey.parcels) {
+    EXPECT_TRUE(parcel.closed);
+    vertices += parcel.vertices.size();
   }
-  EXPECT_EQ(282U, corners);
+  EXPECT_EQ(282U, vertices);
   ExpectExtent(-297829.398, -297229.380, -34617.994, -33817.987);
 }
 
-TEST_F(RealFile, PaddedLotEqualsThePlainOne) {
+TEST_F(RealFile, PaddedParcelEqualsThePlainOne) {
   ASSERT_NO_FATAL_FAILURE(Load("sima-minimal/lot-446-2.sim"));
   if (IsSkipped()) return;
   const Survey plain = survey;
@@ -52,8 +52,8 @@ TEST_F(RealFile, PaddedLotEqualsThePlainOne) {
     EXPECT_EQ(plain.points[i].north, survey.points[i].north);
     EXPECT_EQ(plain.points[i].east, survey.points[i].east);
   }
-  ASSERT_EQ(1U, survey.lots.size());
-  EXPECT_EQ((std::vector<std::size_t>{3, 2, 1, 0}), survey.lots[0].corners);
+  ASSERT_EQ(1U, survey.parcels.size());
+  EXPECT_EQ((std::vector<std::size_t>{3, 2, 1, 0}), survey.parcels[0].vertices);
 }
 
 TEST_F(RealFile, ListWithAHeaderEqualsTheSimaFile) {

@@ -15,7 +15,7 @@ std::string_view NameOfFormat(std::string_view file_name, std::string_view bytes
   ReadLog log("x");
   const Survey survey = ReadSurvey(file_name, bytes, log);
   if (!log.Refusal().empty()) return "LandXML";
-  return survey.lots.empty() ? "Coordinate lists" : "SIMA";
+  return survey.parcels.empty() ? "Coordinate lists" : "SIMA";
 }
 
 constexpr std::string_view kSima =

@@ -23,7 +23,7 @@ TEST_F(OneBitHeadless, BothFormatsHoldTheSamePixels) {
     HostProcess host(folder_, {Sample(L"site.csv"), Sample(L"site.sim"), L"--one-bit", In(file),
                                L"--size", L"333x257"});
     ASSERT_EQ(0, host.Wait()) << host.Errors();
-    EXPECT_EQ("94 points, 4 lots\n", host.Output());
+    EXPECT_EQ("94 points, 4 parcels\n", host.Output());
   }
   const std::string header = "P4\n333 257\n";
   const std::string bytes = BytesOf(In(L"絵.pbm"));

@@ -12,6 +12,8 @@ namespace {
 
 using Points = std::vector<HighPoint>;
 
+constexpr SideProjection kProjection = {0.9, 0.7, 0.8660254037844387, 0.5};
+
 struct Pixel {
   double x = 0.0;
   double y = 0.0;  // down
@@ -39,9 +41,10 @@ class Picture {
 
   [[nodiscard]] Pixel Foot(const HighPoint& point) const {
     const Pixel plan = Plan(point);
-    const double a = (window_.height - plan.y) * 0.7;
-    const double b = plan.x * 0.9;
-    return {(a + b) * 0.8660254037844387, window_.height - ((a - b) * 0.5 + window_.height * 0.5)};
+    const double a = (window_.height - plan.y) * kProjection.up;
+    const double b = plan.x * kProjection.right;
+    return {(a + b) * kProjection.across,
+            window_.height - ((a - b) * kProjection.rise + window_.height * 0.5)};
   }
 
   [[nodiscard]] Pixel Mark(const HighPoint& point) const {
@@ -73,7 +76,7 @@ TEST(SideFit, BringsAllPointsIntoTheWindow) {
     for (const auto& [width, height] : {std::pair{216, 260}, {460, 555}, {900, 300}, {300, 300}}) {
       for (const int degrees : {0, 30, 90, 200, 315}) {
         const SideWindow window{width, height, degrees, std::floor(lowest)};
-        const std::optional<GroundSquare> square = FitSideView(points, window);
+        const std::optional<GroundSquare> square = FitSideView(points, window, kProjection);
         ASSERT_TRUE(square);
         const Picture picture(*square, window);
         double slack = width;
@@ -108,7 +111,7 @@ TEST(SideFit, HasNothingToZoomToWithoutAnExtentOrRoom) {
       {kSite, {460, 30, 0, 13}},
       {kSite, {0, 0, 0, 13}},
   };
-  for (const auto& row : rows) EXPECT_FALSE(FitSideView(row.points, row.window));
+  for (const auto& row : rows) EXPECT_FALSE(FitSideView(row.points, row.window, kProjection));
 }
 
 }  // namespace

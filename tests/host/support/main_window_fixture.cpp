@@ -28,10 +28,10 @@ int WidthOf(HWND window) {
 tavix::test::Picture ShownBy(HWND window) {
   RECT client = {};
   ::GetClientRect(window, &client);
-  POINT corner = {0, 0};
-  ::ClientToScreen(window, &corner);
+  POINT vertex = {0, 0};
+  ::ClientToScreen(window, &vertex);
   const HDC screen = ::GetDC(nullptr);
-  ::SetViewportOrgEx(screen, corner.x, corner.y, nullptr);
+  ::SetViewportOrgEx(screen, vertex.x, vertex.y, nullptr);
   tavix::test::Picture picture = tavix::test::TakePicture(screen, client.right, client.bottom);
   ::ReleaseDC(nullptr, screen);
   return picture;

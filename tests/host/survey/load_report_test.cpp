@@ -10,10 +10,10 @@ TEST(Summary, CountsWhatThereIs) {
     SurveyCounts counts;
     const char* text;
   } rows[] = {
-      {{610, 1, 0, 0, 2, 0}, "610 points, 1 lot, 2 lines skipped"},
+      {{610, 1, 0, 0, 2, 0}, "610 points, 1 parcel, 2 lines skipped"},
       {{1, 0, 0, 0, 0, 0}, "1 point"},
       {{0, 0, 0, 0, 0, 0}, "0 points"},
-      {{2, 3, 0, 0, 0, 0}, "2 points, 3 lots"},
+      {{2, 3, 0, 0, 0, 0}, "2 points, 3 parcels"},
       {{2, 0, 0, 0, 1, 0}, "2 points, 1 line skipped"},
       {{0, 0, 67, 15, 0, 0}, "67 polylines, 15 alignment elements"},
       {{0, 0, 1, 0, 0, 1}, "1 polyline, 1 element skipped"},
@@ -22,34 +22,20 @@ TEST(Summary, CountsWhatThereIs) {
   for (const auto& row : rows) EXPECT_EQ(row.text, Summary(row.counts));
 }
 
-TEST(SurveyCounts, AddUpOverSeveralLoads) {
-  LoadedSurvey loaded;
-  loaded.survey.points.resize(2);
-  loaded.survey.lots.resize(1);
-  loaded.skipped_lines = 3;
-  loaded.skipped_elements = 4;
-  loaded.survey.lines = {{"a", LineKind::kAlignment, {{}, {}}},
-                         {"b", LineKind::kBreakline, {{}}},
-                         {"c", LineKind::kLot, {{}, {}, {}}}};
-  SurveyCounts counts{10, 20, 30, 40, 50, 60};
-  counts += CountsOf(loaded);
-  EXPECT_EQ(12U, counts.points);
-  EXPECT_EQ(22U, counts.lots);
-  EXPECT_EQ(31U, counts.polylines);
-  EXPECT_EQ(42U, counts.alignment_elements);
-  EXPECT_EQ(53U, counts.skipped_lines);
-  EXPECT_EQ(64U, counts.skipped_elements);
-}
-
-TEST(SurveyCounts, CountRefusedLinesAsSkipped) {
-  SurveyCounts counts{10, 20, 30, 40, 50, 60};
-  counts.TakeOut({1, 2, 3, 4, 0, 0});
-  EXPECT_EQ(9U, counts.points);
-  EXPECT_EQ(18U, counts.lots);
-  EXPECT_EQ(27U, counts.polylines);
-  EXPECT_EQ(36U, counts.alignment_elements);
-  EXPECT_EQ(50U, counts.skipped_lines);
-  EXPECT_EQ(69U, counts.skipped_elements);
+TEST(CountsOf, CountsAlignmentsByTheirElements) {
+  Survey survey;
+  survey.points.resize(2);
+  survey.parcels.resize(1);
+  survey.lines = {{"a", LineKind::kAlignment, {{}, {}}},
+                  {"b", LineKind::kBreakline, {{}}},
+                  {"c", LineKind::kParcel, {{}, {}, {}}}};
+  const SurveyCounts counts = CountsOf(survey);
+  EXPECT_EQ(2U, counts.points);
+  EXPECT_EQ(2U, counts.parcels);
+  EXPECT_EQ(1U, counts.polylines);
+  EXPECT_EQ(2U, counts.alignment_elements);
+  EXPECT_EQ(0U, counts.skipped_lines);
+  EXPECT_EQ(0U, counts.skipped_elements);
 }
 
 TEST(Sentence, NamesFileAndLine) {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/app/utf8_path.h"
+#include "host/survey/disk_file.h"
 
 namespace fieldhost {
 namespace {
@@ -39,7 +39,7 @@ class SurveyLoader : public testing::Test {
 
 TEST_F(SurveyLoader, JoinsSeveralFiles) {
   const Files files = {
-      Write("a.sim", "A01,1,P,1,2,\nA01,2,Q,3,4,\nD00,1,lot,1,\nB01,1,P,\nB01,2,Q,\nD99,\n"),
+      Write("a.sim", "A01,1,P,1,2,\nA01,2,Q,3,4,\nD00,1,parcel,1,\nB01,1,P,\nB01,2,Q,\nD99,\n"),
       Write("点.csv", "1,5,6,7,tree\n"),
       Write("c.sim", "A01,1,R,1,2,\nA01,2,S,3,4,\nD00,1,other,1,\nB01,2,S,\nB01,1,R,\nD99,\n"),
   };
@@ -47,9 +47,9 @@ TEST_F(SurveyLoader, JoinsSeveralFiles) {
   EXPECT_TRUE(loaded.refusals.empty());
   ASSERT_EQ(5U, loaded.survey.points.size());
   EXPECT_EQ("tree", loaded.survey.points[2].name);
-  ASSERT_EQ(2U, loaded.survey.lots.size());
-  EXPECT_EQ((std::vector<std::size_t>{0, 1}), loaded.survey.lots[0].corners);
-  EXPECT_EQ((std::vector<std::size_t>{4, 3}), loaded.survey.lots[1].corners);
+  ASSERT_EQ(2U, loaded.survey.parcels.size());
+  EXPECT_EQ((std::vector<std::size_t>{0, 1}), loaded.survey.parcels[0].vertices);
+  EXPECT_EQ((std::vector<std::size_t>{4, 3}), loaded.survey.parcels[1].vertices);
 }
 
 TEST_F(SurveyLoader, SaysWhichLinesOfWhichFileItSkipped) {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "host/formats/survey_formats.h"
-#include "host/survey/survey_counts.h"
+#include "host/survey/load_report.h"
 #include "tests/figure/table_file.h"
 #include "tests/host/formats/real_file.h"
 
@@ -44,7 +44,7 @@ TEST_F(RealFile, HoldsWhatItsTagsCount) {
     EXPECT_EQ(row.points, counts.points);
     EXPECT_EQ(row.polylines, counts.polylines);
     EXPECT_EQ(row.alignment_elements, counts.alignment_elements);
-    EXPECT_EQ(0U, counts.lots);
+    EXPECT_EQ(0U, counts.parcels);
   }
 }
 

@@ -148,7 +148,7 @@ TEST(LandXmlReader, ReadsLinesOfEachKind) {
       {"a parcel",
        "<Parcel name=\"L\"><CoordGeom><IrregularLine><Start>1 2</Start><End>1 2</End>"
        "<PntList2D>3 4 5 6</PntList2D></IrregularLine></CoordGeom></Parcel>",
-       LineKind::kLot, 4},
+       LineKind::kParcel, 4},
       {"any other list", "<Thing><PntList2D>1 2 3 4</PntList2D></Thing>", LineKind::kOther, 2},
   };
   for (const auto& row : rows) {

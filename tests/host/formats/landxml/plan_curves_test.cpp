@@ -18,8 +18,8 @@ namespace {
 constexpr double kPi = std::numbers::pi;
 constexpr GroundPosition kCentre{6783000.0, 21530000.0};
 
-GroundPosition OnCircle(double radius, double bearing) {
-  return {kCentre.north + radius * std::cos(bearing), kCentre.east + radius * std::sin(bearing)};
+GroundPosition OnCircle(double radius, double azimuth) {
+  return {kCentre.north + radius * std::cos(azimuth), kCentre.east + radius * std::sin(azimuth)};
 }
 
 tavix::GroundPoint Of(GroundPosition p) { return {p.north, p.east}; }
@@ -109,7 +109,7 @@ TEST(CentreOf, LiesOnTheSideTheArcTurnsTo) {
 }
 
 // A spiral that sets out from the centre in a direction, by fine steps along it.
-std::vector<tavix::GroundPoint> TrueSpiral(const SpiralShape& shape, double bearing) {
+std::vector<tavix::GroundPoint> TrueSpiral(const SpiralShape& shape, double azimuth) {
   constexpr int kSteps = 20000;
   const double side = shape.rotation == Rotation::kClockwise ? 1.0 : -1.0;
   const double step = shape.length / kSteps;
@@ -117,7 +117,7 @@ std::vector<tavix::GroundPoint> TrueSpiral(const SpiralShape& shape, double bear
   std::vector<tavix::GroundPoint> way{Of(kCentre)};
   for (int i = 0; i < kSteps; ++i) {
     const double s = (i + 0.5) * step;
-    const double direction = bearing + side * (shape.start_curvature * s + change * s * s / 2);
+    const double direction = azimuth + side * (shape.start_curvature * s + change * s * s / 2);
     way.push_back(
         {way.back().x + step * std::cos(direction), way.back().y + step * std::sin(direction)});
   }

@@ -11,7 +11,7 @@
 namespace fieldhost {
 namespace {
 
-using Corners = std::vector<std::size_t>;
+using Vertices = std::vector<std::size_t>;
 
 struct Read {
   Survey survey;
@@ -61,28 +61,28 @@ TEST(SimaReader, ReadsPaddedAndQuotedFields) {
   EXPECT_EQ("4", read.survey.points[3].name);
 }
 
-TEST(SimaReader, ReadsLots) {
+TEST(SimaReader, ReadsParcels) {
   const Read read = ReadFile(std::string(kPoints) +
                              "D00,1,446-2,1,\n"
                              "B01,3,T-3,\nC03,9.485,340.5218,\nB01,1,T-1,\nB01,2,T-2,\nD99,\n"
                              "D00,2,\x95\xCA\x90\x7D-5,0,\nB01,1,T-1,\nB01,2,T-2,\nD99,\n"
                              "D00,3,,,\nB01,2,T-2,\nG99,\n");
   EXPECT_EQ(0U, read.log.SkippedLines());
-  const std::vector<SurveyLot>& lots = read.survey.lots;
-  ASSERT_EQ(3U, lots.size());
-  EXPECT_EQ("446-2", lots[0].name);
-  EXPECT_TRUE(lots[0].closed);
-  EXPECT_EQ((Corners{2, 0, 1}), lots[0].corners);
-  EXPECT_EQ("別図-5", lots[1].name);
-  EXPECT_FALSE(lots[1].closed);
-  EXPECT_EQ((Corners{0, 1}), lots[1].corners);
-  EXPECT_EQ("3", lots[2].name);
-  EXPECT_FALSE(lots[2].closed);
+  const std::vector<SurveyParcel>& parcels = read.survey.parcels;
+  ASSERT_EQ(3U, parcels.size());
+  EXPECT_EQ("446-2", parcels[0].name);
+  EXPECT_TRUE(parcels[0].closed);
+  EXPECT_EQ((Vertices{2, 0, 1}), parcels[0].vertices);
+  EXPECT_EQ("別図-5", parcels[1].name);
+  EXPECT_FALSE(parcels[1].closed);
+  EXPECT_EQ((Vertices{0, 1}), parcels[1].vertices);
+  EXPECT_EQ("3", parcels[2].name);
+  EXPECT_FALSE(parcels[2].closed);
 }
 
-TEST(SimaReader, FindsCornersByNumberThenByName) {
+TEST(SimaReader, FindsVerticesByNumberThenByName) {
   const struct {
-    std::string_view corner;
+    std::string_view vertex;
     std::size_t point;
   } rows[] = {
       {"B01,2,T-2,", 1}, {"B01, 002 ,,", 1}, {"B01,2,T-3,", 1},
@@ -90,14 +90,14 @@ TEST(SimaReader, FindsCornersByNumberThenByName) {
   };
   for (const auto& row : rows) {
     const Read read =
-        ReadFile(std::string(kPoints) + "D00,1,a,1,\n" + std::string(row.corner) + "\nD99,\n");
-    EXPECT_EQ(0U, read.log.SkippedLines()) << row.corner;
-    ASSERT_EQ(1U, read.survey.lots.size()) << row.corner;
-    EXPECT_EQ(Corners{row.point}, read.survey.lots[0].corners) << row.corner;
+        ReadFile(std::string(kPoints) + "D00,1,a,1,\n" + std::string(row.vertex) + "\nD99,\n");
+    EXPECT_EQ(0U, read.log.SkippedLines()) << row.vertex;
+    ASSERT_EQ(1U, read.survey.parcels.size()) << row.vertex;
+    EXPECT_EQ(Vertices{row.point}, read.survey.parcels[0].vertices) << row.vertex;
   }
 }
 
-TEST(SimaReader, CornersAreBoundaryPoints) {
+TEST(SimaReader, VerticesAreBoundaryPoints) {
   const Read read = ReadFile(std::string(kPoints) + "D00,1,a,1,\nB01,2,T-2,\nB01,1,T-1,\nD99,\n");
   ASSERT_EQ(3U, read.survey.points.size());
   EXPECT_EQ("boundary", read.survey.points[0].kind);
@@ -105,10 +105,10 @@ TEST(SimaReader, CornersAreBoundaryPoints) {
   EXPECT_EQ("", read.survey.points[2].kind);
 }
 
-TEST(SimaReader, LotsMayComeBeforeThePoints) {
+TEST(SimaReader, ParcelsMayComeBeforeThePoints) {
   const Read read = ReadFile("D00,1,a,1,\nB01,2,T-2,\nB01,1,T-1,\nD99,\n" + std::string(kPoints));
-  ASSERT_EQ(1U, read.survey.lots.size());
-  EXPECT_EQ((Corners{1, 0}), read.survey.lots[0].corners);
+  ASSERT_EQ(1U, read.survey.parcels.size());
+  EXPECT_EQ((Vertices{1, 0}), read.survey.parcels[0].vertices);
 }
 
 TEST(SimaReader, SkipsAndSaysBadRecords) {
@@ -123,8 +123,8 @@ TEST(SimaReader, SkipsAndSaysBadRecords) {
       {"A01,9,x,1,2,high,", "the height 'high' is not a number"},
       {"A01,9,x,1e99,2,", "the X coordinate '1e99' lies beyond any ground"},
       {"A01,,,1,2,", "the point has neither a number nor a name"},
-      {"B01,1,T-1,", "the corner belongs to no lot"},
-      {"D00,1,empty,1,", "the lot 'empty' has no corners"},
+      {"B01,1,T-1,", "the vertex belongs to no parcel"},
+      {"D00,1,empty,1,", "the parcel 'empty' has no vertices"},
       {"hello", "the line does not begin with a record code"},
       {"a01,9,x,1,2", "the line does not begin with a record code"},
       {"F01,1,2,", "records F01 are not known here, 1 of them were skipped"},
@@ -132,7 +132,7 @@ TEST(SimaReader, SkipsAndSaysBadRecords) {
   for (const auto& row : rows) {
     const Read read = ReadFile(std::string(kPoints) + std::string(row.record) + "\n");
     EXPECT_EQ(3U, read.survey.points.size()) << row.record;
-    EXPECT_TRUE(read.survey.lots.empty()) << row.record;
+    EXPECT_TRUE(read.survey.parcels.empty()) << row.record;
     EXPECT_EQ(1U, read.log.SkippedLines()) << row.record;
     ASSERT_EQ(1U, read.log.Diagnostics().size()) << row.record;
     EXPECT_EQ(7, read.log.Diagnostics()[0].line) << row.record;
@@ -140,14 +140,14 @@ TEST(SimaReader, SkipsAndSaysBadRecords) {
   }
 }
 
-TEST(SimaReader, LeavesOutACornerWithoutAPoint) {
+TEST(SimaReader, LeavesOutAVertexWithoutAPoint) {
   const Read read =
       ReadFile(std::string(kPoints) + "D00,1,a,1,\nB01,1,T-1,\nB01,8,T-8,\nB01,2,T-2,\nD99,\n");
-  ASSERT_EQ(1U, read.survey.lots.size());
-  EXPECT_EQ((Corners{0, 1}), read.survey.lots[0].corners);
+  ASSERT_EQ(1U, read.survey.parcels.size());
+  EXPECT_EQ((Vertices{0, 1}), read.survey.parcels[0].vertices);
   ASSERT_EQ(1U, read.log.Diagnostics().size());
   EXPECT_EQ(9, read.log.Diagnostics()[0].line);
-  EXPECT_EQ("the corner '8 T-8' is no point of this file", read.log.Diagnostics()[0].sentence);
+  EXPECT_EQ("the vertex '8 T-8' is no point of this file", read.log.Diagnostics()[0].sentence);
 }
 
 TEST(SimaReader, SaysUnknownRecordsOnceForEachCode) {
