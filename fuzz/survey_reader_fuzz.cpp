@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "host/readers/survey_formats.h"
-#include "host/readers/text_encoding.h"
+#include "host/formats/survey_formats.h"
+#include "host/formats/text_encoding.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 
-#include "host/ground_position.h"
+#include "host/survey/ground_geometry.h"
 
 namespace fieldhost {
 

@@ -1,10 +1,11 @@
-// The sheet's frame over the plan.
+// The sheet's frame over the plan, and the tool that moves it.
 #pragma once
 
 #include <afxwin.h>
 
 #include <optional>
 
+#include "host/tools/plan_tool.h"
 #include "host/tools/sheet.h"
 
 namespace fieldhost {
@@ -33,10 +34,28 @@ class SheetFrame {
   [[nodiscard]] static GroundPosition Origin();
   static void PutOriginOn(const GroundPosition& place);
   void TurnOn() const;
+  void SetScale(int scale);
 
   std::optional<Sheet> sheet_;  // with the scale that was set last
+  GivenScale given_scale_;
   GroundPosition kept_origin_;
   bool placed_ = false;
+};
+
+// The next tap is the place of the sheet's bottom left corner.
+class MoveSheetTool : public PlanTool {
+ public:
+  // The frame must outlive the tool.
+  explicit MoveSheetTool(SheetFrame& frame) : frame_(frame) {}
+
+  Progress Begin() override;
+  Progress PositionTapped(const GroundPosition& position) override;
+  Progress Finish(Ending ending) override;
+
+ private:
+  void AskForPlace();
+
+  SheetFrame& frame_;
 };
 
 }  // namespace fieldhost

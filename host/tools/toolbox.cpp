@@ -2,18 +2,28 @@
 
 #include <optional>
 
-#include "host/resource.h"
+#include "host/app/display_text.h"
+#include "host/resources/fieldhost_ids.h"
 #include "host/tools/sheet_dialog.h"
 
 namespace fieldhost {
 
-Toolbox::Toolbox(PlotPane& plot, SidePane& side)
-    : plot_(plot),
-      legends_(AddToolLegends()),
-      figures_(legends_.line),
-      circle_(figures_, legends_.mark),
-      trace_(figures_, legends_.mark),
-      move_point_(plot, side, legends_.mark),
+Progress CaptureTool::Begin() {
+  Say(L"Tap a place to capture its coordinates.");
+  return Progress::kGoesOn;
+}
+
+Progress CaptureTool::PositionTapped(const GroundPosition& position) {
+  Say(L"Captured  " + PositionText(position));
+  return Progress::kGoesOn;
+}
+
+Toolbox::Toolbox(SurveyDocument& document, PlotPane& plot)
+    : document_(document),
+      plot_(plot),
+      circle_(document, plot.WorkMarkLegend()),
+      trace_(document, plot.WorkMarkLegend()),
+      move_point_(document, plot.WorkMarkLegend()),
       move_sheet_(sheet_),
       tools_({{{ID_SURVEY_CAPTURE, &capture_},
                {ID_TOOL_CIRCLE, &circle_},
@@ -103,12 +113,12 @@ bool Toolbox::HandleStep(UINT command) {
 bool Toolbox::HandleFigure(UINT command) {
   switch (command) {
     case ID_FIGURE_DELETE_CIRCLE:
-      text_ = figures_.DeleteLastCircle() ? L"The last circle is deleted."
-                                          : L"There is no circle to delete.";
+      text_ = document_.DeleteLastCircle() ? L"The last circle is deleted."
+                                           : L"There is no circle to delete.";
       return true;
     case ID_FIGURE_DELETE_BOUNDARY:
-      text_ = figures_.DeleteLastBoundary() ? L"The last boundary is deleted."
-                                            : L"There is no boundary to delete.";
+      text_ = document_.DeleteLastBoundary() ? L"The last boundary is deleted."
+                                             : L"There is no boundary to delete.";
       return true;
     default:
       return false;
@@ -142,15 +152,10 @@ void Toolbox::UpdateMenu(CMenu& menu) const {
   for (const UINT step : {ID_TOOL_UNDO, ID_TOOL_FINISH, ID_TOOL_FINISH_CLOSED, ID_TOOL_CANCEL}) {
     enable(step, tool_ != nullptr);
   }
-  enable(ID_FIGURE_DELETE_CIRCLE, figures_.HasCircles());
-  enable(ID_FIGURE_DELETE_BOUNDARY, figures_.HasBoundaries());
+  enable(ID_FIGURE_DELETE_CIRCLE, document_.HasCircles());
+  enable(ID_FIGURE_DELETE_BOUNDARY, document_.HasBoundaries());
   enable(ID_TOOL_MOVE_SHEET, sheet_.Now().has_value());
   enable(ID_SHEET_REMOVE, sheet_.Now().has_value());
-}
-
-void Toolbox::CloseSurvey() {
-  Stop();
-  figures_.Forget();
 }
 
 void Toolbox::RestoreOnNewPlot() {

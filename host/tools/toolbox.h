@@ -5,23 +5,26 @@
 
 #include <array>
 
-#include "host/plot_pane.h"
-#include "host/side/side_pane.h"
-#include "host/tools/capture_tool.h"
+#include "host/plot/plot_pane.h"
+#include "host/survey/survey_document.h"
 #include "host/tools/circle_tool.h"
-#include "host/tools/drawn_figures.h"
 #include "host/tools/move_point_tool.h"
-#include "host/tools/move_sheet_tool.h"
 #include "host/tools/sheet_frame.h"
-#include "host/tools/tool_legends.h"
 #include "host/tools/trace_tool.h"
 
 namespace fieldhost {
 
+// Capturing coordinates: each tap shows its position.
+class CaptureTool : public PlanTool {
+ public:
+  Progress Begin() override;
+  Progress PositionTapped(const GroundPosition& position) override;
+};
+
 class Toolbox {
  public:
-  // The panes must outlive the toolbox.
-  Toolbox(PlotPane& plot, SidePane& side);
+  // Both must outlive the toolbox.
+  Toolbox(SurveyDocument& document, PlotPane& plot);
 
   // Does what a command asks for, a report of the plot window included, whose point key is `key`.
   // False for a command that is none of the tools', and for a tapped point that no tool waits for.
@@ -37,8 +40,8 @@ class Toolbox {
   // Shows in a menu what is in use and what can be done now.
   void UpdateMenu(CMenu& menu) const;
 
-  // Ends the tool in use. Before the survey is closed.
-  void CloseSurvey();
+  // Ends the tool in use, without a trace. Before the document is emptied.
+  void Stop();
 
   // Around a change of the plot window's size, and around a new one.
   void KeepForNewPlot() { sheet_.Keep(); }
@@ -51,7 +54,6 @@ class Toolbox {
   };
 
   void Choose(PlanTool& tool);
-  void Stop();
   void Went(Progress progress);
   void AskWhatIsWanted();
   bool HandleTap(UINT command, int key);
@@ -59,9 +61,8 @@ class Toolbox {
   bool HandleFigure(UINT command);
   bool HandleSheet(UINT command, CWnd& dialog_parent);
 
+  SurveyDocument& document_;
   PlotPane& plot_;
-  ToolLegends legends_;
-  DrawnFigures figures_;
   SheetFrame sheet_;
   CaptureTool capture_;
   CircleTool circle_;

@@ -3,7 +3,7 @@
 // positions.
 #pragma once
 
-#include "tests/host/window_test.h"
+#include "tests/host/support/main_window_fixture.h"
 
 namespace fieldhost {
 
