@@ -25,6 +25,7 @@ LAYERS = {
         "figure/figure_codec.*",
         "store/legend_codec.*",
         "store/legend_table.*",
+        "store/symbols.*",
     ),
     "public": ("include/*", "platform/*/include/*"),
     "platform": ("platform/*",),
