@@ -25,7 +25,7 @@
 #include "draw/dib/dib_canvas.h"
 #include "draw/dib/dib_section.h"
 #include "draw/gdi_canvas.h"
-#include "draw/label_font.h"
+#include "draw/gdi_scopes.h"
 #include "draw/plan_view.h"
 #include "platform/wide_text.h"
 

@@ -1,7 +1,7 @@
 #include "draw/gdi_canvas.h"
 
+#include "draw/labels.h"
 #include "draw/marks.h"
-#include "draw/point_label.h"
 #include "platform/wide_text.h"
 
 namespace tavix {
@@ -13,8 +13,6 @@ ScreenBox GdiCanvas::Visible() const {
           static_cast<int>(box.bottom)};
 }
 
-void GdiCanvas::UseLineStyle(const LegendStyle& style) { objects_.UseForLines(style); }
-
 void GdiCanvas::Line(const ScreenSegment& segment) {
   dc_.MoveTo(segment.start.x, segment.start.y);
   dc_.LineTo(segment.end.x, segment.end.y);
@@ -25,16 +23,16 @@ void GdiCanvas::Circle(ScreenPoint centre, int radius) {
   dc_.Ellipse(centre.x + radius, centre.y + radius, centre.x - radius, centre.y - radius);
 }
 
-void GdiCanvas::UsePointStyle(const LegendStyle& style) {
-  style_ = style;
-  objects_.UseForPoints(style);
+void GdiCanvas::UsePointSymbol(const PointSymbol& symbol) {
+  symbol_ = symbol;
+  gdi_.Use(symbol);
 }
 
-void GdiCanvas::Mark(ScreenPoint at) { DrawMark(dc_, style_.kind, style_.prm1, at); }
+void GdiCanvas::Mark(ScreenPoint at) { DrawMark(dc_, symbol_.mark, symbol_.size, at); }
 
 void GdiCanvas::Label(ScreenPoint at, NameView text) {
   const int length = static_cast<int>(text.size());
-  const LabelBox box = PlaceLabel(at, style_.prm1, style_.prm2, length);
+  const LabelBox box = PlaceLabel(at, symbol_, length);
   RECT rect{box.left, box.top, box.right, box.bottom};
   dc_.DrawText(AsWide(text.data()), length, &rect, DT_NOCLIP);
 }

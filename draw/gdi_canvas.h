@@ -1,27 +1,27 @@
-// The plan view drawn by the system's own calls.
+// The plan view and the side view drawn by GDI.
 #pragma once
 
 #include <afxwin.h>
 
+#include "draw/gdi_scopes.h"
+#include "draw/gdi_symbol.h"
 #include "draw/plan_canvas.h"
-#include "draw/style_objects.h"
-#include "draw/transparent_background.h"
 
 namespace tavix {
 
-// Draws into any device context, one call of the system an operation. It is what every other canvas
-// is measured by. What it changes of the device context the destructor puts back.
+// Draws into any device context, one GDI call an operation. Every other canvas has to give its
+// pixels. What it changes of the device context the destructor puts back.
 class GdiCanvas : public PlanCanvas {
  public:
   explicit GdiCanvas(CDC& dc)
-      : dc_(dc), transparent_(dc), objects_(dc), old_text_color_(dc.GetTextColor()) {}
+      : dc_(dc), transparent_(dc), gdi_(dc), old_text_color_(dc.GetTextColor()) {}
   ~GdiCanvas() override { dc_.SetTextColor(old_text_color_); }
 
   [[nodiscard]] ScreenBox Visible() const override;
-  void UseLineStyle(const LegendStyle& style) override;
+  void UsePen(const Pen& pen) override { gdi_.Use(pen); }
   void Line(const ScreenSegment& segment) override;
   void Circle(ScreenPoint centre, int radius) override;
-  void UsePointStyle(const LegendStyle& style) override;
+  void UsePointSymbol(const PointSymbol& symbol) override;
   void Mark(ScreenPoint at) override;
   void UseTextColor(std::uint32_t color) override { dc_.SetTextColor(color); }
   void Label(ScreenPoint at, NameView text) override;
@@ -29,9 +29,9 @@ class GdiCanvas : public PlanCanvas {
  private:
   CDC& dc_;
   TransparentBackground transparent_;
-  StyleObjects objects_;
+  GdiSymbol gdi_;
   COLORREF old_text_color_;
-  LegendStyle style_;  // of the points
+  PointSymbol symbol_;
 };
 
 }  // namespace tavix

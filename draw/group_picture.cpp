@@ -6,7 +6,6 @@
 #include <array>
 
 #include "draw/ink/ink_canvas.h"
-#include "draw/ink_legend.h"
 #include "view/coordinates.h"
 
 namespace tavix {
@@ -27,6 +26,23 @@ CViewState PictureView(const CViewState& window_view, const PaperFrame& frame, i
   }
   return view;
 }
+
+// Turns every colour but white to black: a one-bit bitmap would map light colours to white, and
+// what is drawn in them would be lost.
+class BlackInkCanvas : public InkCanvas {
+ public:
+  using InkCanvas::InkCanvas;
+
+  void UsePen(const Pen& pen) override { InkCanvas::UsePen(InBlack(pen)); }
+  void UsePointSymbol(const PointSymbol& symbol) override {
+    PointSymbol ink = symbol;
+    ink.pen = InBlack(symbol.pen);
+    InkCanvas::UsePointSymbol(ink);
+  }
+
+ private:
+  static Pen InBlack(const Pen& pen) { return {pen.width, InkColor(pen.color)}; }
+};
 
 // A bar across and a one-sided arrow along north, turned with the view.
 void DrawArrow(CDC& dc, ScreenPoint centre, const CViewState& view) {
@@ -59,10 +75,9 @@ bool GroupPicture::Build(const PlotData& data, const PaperFrame& frame, int heig
   const CViewState view = PictureView(data.view, frame, height, width, cut);
   auto canvas = std::make_unique<OneBitCanvas>(width, height);
   if (!canvas->IsMade()) return cut;
-  const LegendTable legend = InkLegend(data.legend);
   {
-    InkCanvas ink(*canvas, width, height);
-    DrawPlanView(ink, {view, legend, data.points, data.lines, data.figures, data.draws_lines});
+    BlackInkCanvas ink(*canvas, width, height);
+    DrawPlanView(ink, {view, data.legend, data.points, data.lines, data.figures, data.draws_lines});
   }
 
   height_ = height;
@@ -82,9 +97,9 @@ void GroupPicture::Release() {
   canvas_.reset();
 }
 
-// The square whose one base comes from the width is scanned with that base as its row, while the
-// arrow is drawn with it as its column: on a picture that is not square the two are mirrored. Meant
-// so.
+// Compatibility: the square whose one base comes from the width is scanned with that base as its
+// row, while the arrow is drawn with it as its column: on a picture that is not square the two are
+// mirrored.
 ScreenPoint GroupPicture::FindFreeCorner(const PaperFrame& frame) const {
   constexpr int kMargin = 10;
   constexpr int kFar = 130;

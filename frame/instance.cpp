@@ -66,10 +66,10 @@ void Instance::ShowSideView(bool show) {
 
 int Instance::StartMovePoint(int legend) {
   const auto number = static_cast<std::int16_t>(legend);
-  HanRec entry;
-  if (!window_ || number != legend || Legend().Get(number, &entry) != 0) return -1;
-  if (!entry.is_point) return -2;
-  window_->StartMovePoint(entry.style);
+  const HanRec* entry = Legend().Find(number);
+  if (!window_ || number != legend || !entry) return -1;
+  if (!entry->is_point) return -2;
+  window_->StartMovePoint(Decode<PointSymbol>(entry->values));
   return 0;
 }
 

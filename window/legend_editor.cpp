@@ -6,17 +6,9 @@ namespace tavix {
 namespace {
 
 constexpr int kPixelsPerLine = 2;
-constexpr int kLastLine = LegendEditor::kLines - 1;
 
-// The line of a size, which is cut to the last line's when it is larger.
-int LineOf(std::int32_t& size) {
-  const int line = size / kPixelsPerLine;
-  if (line > kLastLine) {
-    size = kLastLine * kPixelsPerLine;
-    return kLastLine;
-  }
-  return std::max(line, 0);
-}
+// The line of a size; the last line's for a larger one.
+int LineOf(int size) { return std::clamp(size / kPixelsPerLine, 0, LegendEditor::kLines - 1); }
 
 }  // namespace
 
@@ -29,29 +21,27 @@ LegendEditor::LegendEditor(const LegendTable& legend) {
 
 LegendChoice LegendEditor::Select(int entry) {
   selected_ = static_cast<std::size_t>(entry);
-  LegendStyle& style = Current();
-  return {LineOf(style.prm1), LineOf(style.prm2), style.prm3 != 0};
+  const PointSymbol symbol = Current();
+  return {LineOf(symbol.size), LineOf(symbol.label_height), symbol.label == LabelContent::kNumber};
 }
 
 void LegendEditor::Take(const LegendChoice& choice) {
-  LegendStyle& style = Current();
-  style.prm1 = std::max(choice.mark_line, 0) * kPixelsPerLine;
-  style.prm2 = std::max(choice.text_line, 0) * kPixelsPerLine;
-  style.prm3 = choice.shows_number ? 1 : 0;
+  entries_[selected_].values.SetMarkAndLabel(
+      std::max(choice.mark_line, 0) * kPixelsPerLine,
+      std::max(choice.text_line, 0) * kPixelsPerLine,
+      choice.shows_number ? LabelContent::kNumber : LabelContent::kName);
 }
 
 void LegendEditor::CopyToAll() {
-  const LegendStyle from = Current();
+  const PointSymbol from = Current();
   for (HanRec& entry : entries_) {
-    entry.style.prm1 = from.prm1;
-    entry.style.prm2 = from.prm2;
-    entry.style.prm3 = from.prm3;
-    entry.style.color = from.color;
+    entry.values.SetMarkAndLabel(from.size, from.label_height, from.label);
+    entry.values.color = from.pen.color;
   }
 }
 
 void LegendEditor::Save(LegendTable& legend) const {
-  for (const HanRec& entry : entries_) legend.Change(entry.number, true, entry.style);
+  for (const HanRec& entry : entries_) legend.Change(entry.number, true, entry.values);
 }
 
 }  // namespace tavix

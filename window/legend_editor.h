@@ -23,8 +23,8 @@ class LegendEditor {
 
   explicit LegendEditor(const LegendTable& legend);
 
-  // Makes an entry (0..10) current and says what to show for it. A size above 20 pixels is cut
-  // to 20.
+  // Makes an entry (0..10) current and says what to show for it. A size above 20 pixels shows as
+  // 20.
   LegendChoice Select(int entry);
   [[nodiscard]] int Selected() const { return static_cast<int>(selected_); }
 
@@ -34,8 +34,8 @@ class LegendEditor {
   // Takes what the controls say into the current entry.
   void Take(const LegendChoice& choice);
 
-  [[nodiscard]] std::int32_t Color() const { return Current().color; }
-  void SetColor(std::int32_t color) { Current().color = color; }
+  [[nodiscard]] std::int32_t Color() const { return entries_[selected_].values.color; }
+  void SetColor(std::int32_t color) { entries_[selected_].values.color = color; }
 
   // Gives the ten other entries the sizes, the label and the colour of the current one.
   void CopyToAll();
@@ -51,8 +51,9 @@ class LegendEditor {
   [[nodiscard]] const std::u16string& Title(std::size_t entry) const { return titles_[entry]; }
 
  private:
-  [[nodiscard]] LegendStyle& Current() { return entries_[selected_].style; }
-  [[nodiscard]] const LegendStyle& Current() const { return entries_[selected_].style; }
+  [[nodiscard]] PointSymbol Current() const {
+    return Decode<PointSymbol>(entries_[selected_].values);
+  }
 
   std::array<HanRec, LegendTable::kPointLegends> entries_;
   std::array<std::u16string, LegendTable::kPointLegends> titles_;

@@ -2,21 +2,19 @@
 
 #include <framework/scoped_select.h>
 
-#include "draw/drawn_size.h"
+#include "draw/gdi_scopes.h"
 #include "draw/marks.h"
-#include "draw/screen_line.h"
-#include "draw/xor_drawing.h"
+#include "draw/screen.h"
 #include "window/client_surface.h"
 
 namespace tavix {
 
-void MovePoint::Start(CWnd& window, const CViewState& view, const LegendStyle& style) {
+void MovePoint::Start(CWnd& window, const CViewState& view, const PointSymbol& symbol) {
   End(window, view);
-  color_ = static_cast<COLORREF>(style.color) ^ kWhite;
-  const LegendStyle drawn = DrawnPointStyle(style);
-  pen_width_ = drawn.width;
-  mark_ = drawn.kind;
-  mark_size_ = drawn.prm1;
+  color_ = static_cast<COLORREF>(symbol.pen.color) ^ kWhite;
+  pen_width_ = symbol.pen.width;
+  mark_ = symbol.mark;
+  mark_size_ = symbol.size;
   position_ = {};
 }
 

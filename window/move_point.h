@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 
-#include "store/legend_table.h"
+#include "store/symbols.h"
 #include "view/view_state.h"
 
 namespace tavix {
@@ -12,9 +12,9 @@ namespace tavix {
 // takes it off. A position off the screen is remembered and not drawn.
 class MovePoint {
  public:
-  // Takes the look of a point mark; what was on the screen is taken off. Without a start the mark
-  // is a black circle of 10 pixels.
-  void Start(CWnd& window, const CViewState& view, const LegendStyle& style);
+  // Takes the mark and the pen of a symbol; what was on the screen is taken off. Without a start
+  // the mark is a black circle of 10 pixels.
+  void Start(CWnd& window, const CViewState& view, const PointSymbol& symbol);
 
   // From the next move on a line runs from `anchor` to the mark. A mark that is on the screen is
   // then taken off together with a line that was not there: the host sets the anchor before the

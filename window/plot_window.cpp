@@ -5,7 +5,7 @@
 
 #include "draw/dib/dib_canvas.h"
 #include "draw/gdi_canvas.h"
-#include "draw/label_font.h"
+#include "draw/gdi_scopes.h"
 #include "draw/side_view.h"
 #include "view/scale_bar.h"
 #include "window/client_surface.h"

@@ -103,8 +103,8 @@ class CPlotWnd : public CWnd {
   bool SetFrameOrigin(GroundPoint origin);
   void ShowScaleBar(bool shown) { scale_bar_shown_ = shown; }
 
-  // The move-point band. Start takes the look of a point legend.
-  void StartMovePoint(const LegendStyle& style) { move_point_.Start(*this, *links_.view, style); }
+  // The move-point band. Start takes the symbol of a point legend.
+  void StartMovePoint(const PointSymbol& symbol) { move_point_.Start(*this, *links_.view, symbol); }
   void SetMoveAnchor(GroundPoint anchor) { move_point_.SetAnchor(anchor); }
   void MovePointTo(GroundPoint at) { move_point_.MoveTo(*this, *links_.view, at, !display_3d_); }
   void EndMovePoint() { move_point_.End(*this, *links_.view); }

@@ -1,6 +1,6 @@
 #include "window/rubber_band.h"
 
-#include "draw/xor_drawing.h"
+#include "draw/gdi_scopes.h"
 #include "window/client_surface.h"
 
 namespace tavix {

@@ -71,7 +71,7 @@ void SettingsDialog::FillEntryList() {
   for (std::size_t entry = 0; entry < editor_.Entries().size(); ++entry) {
     const std::u16string& title = editor_.Title(entry);
     if (title.empty()) continue;
-    const MarkShape* mark = FindMark(editor_.Entries()[entry].style.kind);
+    const MarkShape* mark = FindMark(editor_.Entries()[entry].values.kind);
     if (mark) kind_name = mark->name;
     CString line;
     line.Format(L"%s（%s）", kind_name.GetString(), AsWide(title.c_str()));

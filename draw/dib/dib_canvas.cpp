@@ -1,11 +1,11 @@
 #include "draw/dib/dib_canvas.h"
 
-#include "draw/point_label.h"
+#include "draw/labels.h"
 
 namespace tavix {
 namespace {
 
-bool IsOnePixelPen(const LegendStyle& style) { return style.width == 0 || style.width == 1; }
+bool IsOnePixelWide(const Pen& pen) { return pen.width == 0 || pen.width == 1; }
 
 bool IsNear(ScreenPoint at) {
   return at.x >= -kFarthestStep && at.x <= kFarthestStep && at.y >= -kFarthestStep &&
@@ -19,10 +19,10 @@ DibCanvas::DibCanvas(CDC& dc, const PixelBlock& block, LearntDrawing& learnt)
   learnt_.FollowSettings();
 }
 
-void DibCanvas::UseLineStyle(const LegendStyle& style) {
-  plain_.UseLineStyle(style);
-  const std::optional<std::uint32_t> value = PixelBlock::ValueOf(style.color);
-  lines_ = IsOnePixelPen(style) && value ? learnt_.Lines() : nullptr;
+void DibCanvas::UsePen(const Pen& pen) {
+  plain_.UsePen(pen);
+  const std::optional<std::uint32_t> value = PixelBlock::ValueOf(pen.color);
+  lines_ = IsOnePixelWide(pen) && value ? learnt_.Lines() : nullptr;
   line_color_ = value.value_or(0);
 }
 
@@ -36,9 +36,9 @@ void DibCanvas::Line(const ScreenSegment& segment) {
 
 void DibCanvas::Circle(ScreenPoint centre, int radius) { plain_.Circle(centre, radius); }
 
-void DibCanvas::UsePointStyle(const LegendStyle& style) {
-  plain_.UsePointStyle(style);
-  mark_ = style.prm1 > 0 ? learnt_.Mark(style) : nullptr;
+void DibCanvas::UsePointSymbol(const PointSymbol& symbol) {
+  plain_.UsePointSymbol(symbol);
+  mark_ = symbol.size > 0 ? learnt_.Mark(symbol) : nullptr;
   LookUpLabels();
 }
 
@@ -50,7 +50,7 @@ void DibCanvas::UseTextColor(std::uint32_t color) {
 }
 
 void DibCanvas::LookUpLabels() {
-  const int height = plain_.Style().prm2;
+  const int height = plain_.Symbol().label_height;
   labels_ = height > 0 ? learnt_.Labels(height, text_color_) : nullptr;
 }
 
@@ -63,8 +63,7 @@ void DibCanvas::Mark(ScreenPoint at) {
 }
 
 void DibCanvas::Label(ScreenPoint at, NameView text) {
-  const LegendStyle& style = plain_.Style();
-  const LabelBox box = PlaceLabel(at, style.prm1, style.prm2, static_cast<int>(text.size()));
+  const LabelBox box = PlaceLabel(at, plain_.Symbol(), static_cast<int>(text.size()));
   plain_.PaintsText();
   if (!labels_ || !labels_->Draw(plain_.Bits(), {box.left, box.top}, text)) plain_.Label(at, text);
 }

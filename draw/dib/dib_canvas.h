@@ -21,10 +21,10 @@ class DibCanvas : public PlanCanvas {
   DibCanvas(CDC& dc, const PixelBlock& block, LearntDrawing& learnt);
 
   [[nodiscard]] ScreenBox Visible() const override { return plain_.Visible(); }
-  void UseLineStyle(const LegendStyle& style) override;
+  void UsePen(const Pen& pen) override;
   void Line(const ScreenSegment& segment) override;
   void Circle(ScreenPoint centre, int radius) override;
-  void UsePointStyle(const LegendStyle& style) override;
+  void UsePointSymbol(const PointSymbol& symbol) override;
   void Mark(ScreenPoint at) override;
   void UseTextColor(std::uint32_t color) override;
   void Label(ScreenPoint at, NameView text) override;

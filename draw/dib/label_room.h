@@ -20,9 +20,9 @@ class LabelRoom {
         right_(height * 2 + widest_ * length),
         sample_(right_, height * 3),
         plain_(sample_.Dc()) {
-    LegendStyle style;
-    style.prm2 = height;
-    plain_.UsePointStyle(style);
+    PointSymbol symbol;
+    symbol.label_height = height;
+    plain_.UsePointSymbol(symbol);
     plain_.UseTextColor(color);
   }
 

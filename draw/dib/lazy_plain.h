@@ -14,9 +14,9 @@
 
 namespace tavix {
 
-// Leaves to the system what it has to draw, at the least cost: the objects of a style are made when
-// they are first needed, what would only paint over its own colour is not drawn, and the system is
-// waited for when the bits are reached for after it has drawn.
+// Leaves to the system what it has to draw, at the least cost: the objects of a symbol are made
+// when they are first needed, what would only paint over its own colour is not drawn, and the
+// system is waited for when the bits are reached for after it has drawn.
 template <class Block>
 class LazyPlain {
  public:
@@ -25,12 +25,15 @@ class LazyPlain {
 
   [[nodiscard]] ScreenBox Visible() const { return plain_.Visible(); }
 
-  void UseLineStyle(const LegendStyle& style) { Use(style, Pending::kLineStyle); }
-  void UsePointStyle(const LegendStyle& style) { Use(style, Pending::kPointStyle); }
+  void UsePen(const Pen& pen) { Use(pen, Pending::kPen); }
+  void UsePointSymbol(const PointSymbol& symbol) {
+    symbol_ = symbol;
+    Use(symbol.pen, Pending::kPointSymbol);
+  }
   void UseTextColor(std::uint32_t color) { plain_.UseTextColor(color); }
 
-  // Of the lines or the points, whichever was taken into use last.
-  [[nodiscard]] const LegendStyle& Style() const { return style_; }
+  // Of the marks and labels.
+  [[nodiscard]] const PointSymbol& Symbol() const { return symbol_; }
 
   void Line(const ScreenSegment& segment) {
     const auto [start, end] = segment;
@@ -45,7 +48,7 @@ class LazyPlain {
   }
 
   void Mark(ScreenPoint at) {
-    if (!IsPainted(at, at, style_.prm1)) Made().Mark(at);
+    if (!IsPainted(at, at, symbol_.size)) Made().Mark(at);
   }
 
   void Label(ScreenPoint at, NameView text) {
@@ -53,7 +56,7 @@ class LazyPlain {
     Made().Label(at, text);
   }
 
-  // The bits with all that has been drawn, to be drawn into in the style's colour or, after a call
+  // The bits with all that has been drawn, to be drawn into in the pen's colour or, after a call
   // of PaintsText, in any.
   [[nodiscard]] const Block& Bits() {
     Settle();
@@ -62,12 +65,12 @@ class LazyPlain {
   void PaintsText() { painted_.Forget(); }
 
  private:
-  enum class Pending { kNothing, kLineStyle, kPointStyle };
+  enum class Pending { kNothing, kPen, kPointSymbol };
 
-  void Use(const LegendStyle& style, Pending pending) {
-    style_ = style;
+  void Use(const Pen& pen, Pending pending) {
+    pen_ = pen;
     pending_ = pending;
-    if (const auto value = Block::ValueOf(style.color)) {
+    if (const auto value = Block::ValueOf(pen.color)) {
       painted_.Use(*value);
     } else {
       painted_.Forget();
@@ -78,7 +81,7 @@ class LazyPlain {
   // around it. The system would walk along it pixel by pixel.
   [[nodiscard]] bool PassesBy(ScreenPoint centre, int radius) const {
     const double r = std::fabs(static_cast<double>(radius));
-    const double slack = std::abs(style_.width) + 3.0;
+    const double slack = std::abs(pen_.width) + 3.0;
     const double left = centre.x;  // from the picture's edges to the centre
     const double top = centre.y;
     const double right = block_.width - left;
@@ -93,7 +96,7 @@ class LazyPlain {
   // away, is there already.
   [[nodiscard]] bool IsPainted(ScreenPoint low, ScreenPoint high, int reach) {
     constexpr int kFar = 1 << 28;  // no sum of pixels leaves the 32-bit range
-    const int around = std::min(reach, kFar) + std::abs(style_.width) + 2;
+    const int around = std::min(reach, kFar) + std::abs(pen_.width) + 2;
     const auto held = [=](int pixel) { return std::clamp(pixel, -kFar, kFar); };
     Settle();
     return painted_.Covers(
@@ -105,10 +108,10 @@ class LazyPlain {
     may_lag_ = false;
   }
 
-  // The canvas with the style in use, to be drawn on.
+  // The canvas with the symbol in use, to be drawn on.
   [[nodiscard]] PlanCanvas& Made() {
-    if (pending_ == Pending::kLineStyle) plain_.UseLineStyle(style_);
-    if (pending_ == Pending::kPointStyle) plain_.UsePointStyle(style_);
+    if (pending_ == Pending::kPen) plain_.UsePen(pen_);
+    if (pending_ == Pending::kPointSymbol) plain_.UsePointSymbol(symbol_);
     pending_ = Pending::kNothing;
     may_lag_ = true;
     return plain_;
@@ -117,7 +120,8 @@ class LazyPlain {
   GdiCanvas plain_;
   Block block_;
   PaintedArea<Block> painted_;
-  LegendStyle style_;
+  PointSymbol symbol_;
+  Pen pen_;  // of the lines or of the points, whichever came into use last
   Pending pending_ = Pending::kNothing;
   bool may_lag_ = true;  // the system may hold back what it has been told to draw
 };

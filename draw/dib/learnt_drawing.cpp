@@ -6,7 +6,7 @@
 
 namespace tavix {
 
-LearntDrawing::LearntMark::LearntMark(const LegendStyle& style) : stamp(MakeMarkStamp(style)) {}
+LearntDrawing::LearntMark::LearntMark(const PointSymbol& symbol) : stamp(MakeMarkStamp(symbol)) {}
 
 LearntDrawing::LearntLabels::LearntLabels(const SmoothHand& hand)
     : glyphs(hand), font(FontLook::OfLabels(hand.Height())) {}
@@ -29,8 +29,8 @@ const LineRule* LearntDrawing::Lines() {
   return lines_ ? &*lines_ : nullptr;
 }
 
-const Stamp* LearntDrawing::Mark(const LegendStyle& style) {
-  const LegendStyle mark = MarkOnly(style);
+const Stamp* LearntDrawing::Mark(const PointSymbol& symbol) {
+  const PointSymbol mark = MarkOnly(symbol);
   const LearntMark* learnt = marks_.Get(mark, mark);
   return learnt && learnt->stamp ? &*learnt->stamp : nullptr;
 }

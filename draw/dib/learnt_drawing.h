@@ -11,7 +11,7 @@
 #include "draw/dib/smooth_blend.h"
 #include "draw/dib/stamp.h"
 #include "draw/dib/system_look.h"
-#include "store/legend_table.h"
+#include "store/symbols.h"
 
 namespace tavix {
 
@@ -34,15 +34,15 @@ class LearntDrawing {
   // Solid lines of one pixel.
   [[nodiscard]] const LineRule* Lines();
 
-  // The mark of a style.
-  [[nodiscard]] const Stamp* Mark(const LegendStyle& style);
+  // The mark of a symbol.
+  [[nodiscard]] const Stamp* Mark(const PointSymbol& symbol);
 
   // Labels of this height in pixels and this colour.
   [[nodiscard]] LabelGlyphs* Labels(int height, std::uint32_t color = 0);
 
  private:
   struct LearntMark {
-    explicit LearntMark(const LegendStyle& style);
+    explicit LearntMark(const PointSymbol& symbol);
     std::optional<Stamp> stamp;
   };
 
@@ -59,7 +59,7 @@ class LearntDrawing {
 
   bool lines_learnt_ = false;
   std::optional<LineRule> lines_;
-  FewLooks<LegendStyle, LearntMark, kMostMarks> marks_;
+  FewLooks<PointSymbol, LearntMark, kMostMarks> marks_;
   std::map<std::uint32_t, SmoothBlend> blends_;  // by the text's colour
   FewLooks<LabelKey, LearntLabels, kMostFonts> labels_;
   ScreenLook look_;

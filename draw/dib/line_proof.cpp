@@ -8,12 +8,7 @@
 namespace tavix {
 namespace {
 
-LegendStyle LineStyle(int width, std::uint32_t red) {
-  LegendStyle style;
-  style.width = width;
-  style.color = static_cast<std::int32_t>(red);
-  return style;
-}
+Pen RedPen(int width, std::uint32_t red) { return {width, static_cast<std::int32_t>(red)}; }
 
 // Draws the same lines by the system and by a rule. A pen's colour has red in its low byte: shades
 // of red keep the two notations apart.
@@ -24,7 +19,7 @@ class BothWays {
 
   void Use(int width, std::uint32_t red) {
     red_ = red;
-    plain_.UseLineStyle(LineStyle(width, red));
+    plain_.UsePen(RedPen(width, red));
   }
 
   void Draw(const ScreenSegment& segment) {
@@ -91,7 +86,7 @@ bool StepsAtOnce(SystemSample& sample, int dx, int dy) {
   constexpr ScreenPoint kStart{4, 4};
   sample.Fill(0);
   GdiCanvas plain(sample.Dc());
-  plain.UseLineStyle(LineStyle(1, 255));
+  plain.UsePen(RedPen(1, 255));
   plain.Line({kStart, {kStart.x + dx, kStart.y + dy}});
   const auto sign = [](int step) { return step < 0 ? -1 : 1; };
   return *sample.Pixels().At(kStart.x + sign(dx), kStart.y + sign(dy)) != 0;

@@ -4,15 +4,15 @@
 #include <optional>
 
 #include "draw/dib/stamp.h"
-#include "store/legend_table.h"
+#include "store/symbols.h"
 
 namespace tavix {
 
-// The mark of a style; none where it is too large to be worth it, or is not the same everywhere.
-[[nodiscard]] std::optional<Stamp> MakeMarkStamp(const LegendStyle& style);
+// The mark of a symbol; none where it is too large to be worth it, or is not the same everywhere.
+[[nodiscard]] std::optional<Stamp> MakeMarkStamp(const PointSymbol& symbol);
 
-// Whether `stamp` is what the system draws as the style's mark, over any picture and cut by its
+// Whether `stamp` is what the system draws as the symbol's mark, over any picture and cut by its
 // edges.
-[[nodiscard]] bool IsSystemsMark(const Stamp& stamp, const LegendStyle& style);
+[[nodiscard]] bool IsSystemsMark(const Stamp& stamp, const PointSymbol& symbol);
 
 }  // namespace tavix

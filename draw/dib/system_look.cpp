@@ -3,7 +3,7 @@
 #include <afxwin.h>
 #include <framework/scoped_select.h>
 
-#include "draw/label_font.h"
+#include "draw/gdi_scopes.h"
 
 namespace tavix {
 namespace {

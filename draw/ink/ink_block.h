@@ -7,6 +7,14 @@
 
 namespace tavix {
 
+// The colour of a legend in a picture that knows only ink and white: white stays white, with
+// whatever high byte, and any other becomes black.
+inline std::int32_t InkColor(std::int32_t color) {
+  constexpr std::int32_t kWhite = 0x00FFFFFF;
+  constexpr std::int32_t kBlack = 0;
+  return (color & kWhite) == kWhite ? color : kBlack;
+}
+
 // The pixels of a one-bit bitmap section, owned by the bitmap: rows from the bottom up, the most
 // significant bit first. A bit that is set is ink.
 struct InkBlock {

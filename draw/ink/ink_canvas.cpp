@@ -1,19 +1,20 @@
 #include "draw/ink/ink_canvas.h"
 
 #include "draw/dib/mark_proof.h"
-#include "draw/point_label.h"
+#include "draw/labels.h"
 
 namespace tavix {
 
 InkCanvas::InkCanvas(OneBitCanvas& picture, int width, int height)
     : plain_(picture.Dc(), {picture.Bits(), width, height, picture.Stride()}) {}
 
-void InkCanvas::UsePointStyle(const LegendStyle& style) {
-  plain_.UsePointStyle(style);
-  const LegendStyle mark = MarkOnly(style);
-  const LearntMark* learnt = style.prm1 > 0 ? marks_.Get(mark, mark) : nullptr;
+void InkCanvas::UsePointSymbol(const PointSymbol& symbol) {
+  plain_.UsePointSymbol(symbol);
+  const PointSymbol mark = MarkOnly(symbol);
+  const LearntMark* learnt = symbol.size > 0 ? marks_.Get(mark, mark) : nullptr;
   mark_ = learnt && learnt->mark ? &*learnt->mark : nullptr;
-  labels_ = style.prm2 > 0 ? fonts_.Get(style.prm2, InkHand(style.prm2)) : nullptr;
+  const int height = symbol.label_height;
+  labels_ = height > 0 ? fonts_.Get(height, InkHand(height)) : nullptr;
 }
 
 void InkCanvas::UseTextColor(std::uint32_t color) {
@@ -30,8 +31,7 @@ void InkCanvas::Mark(ScreenPoint at) {
 }
 
 void InkCanvas::Label(ScreenPoint at, NameView text) {
-  const LegendStyle& style = plain_.Style();
-  const LabelBox box = PlaceLabel(at, style.prm1, style.prm2, static_cast<int>(text.size()));
+  const LabelBox box = PlaceLabel(at, plain_.Symbol(), static_cast<int>(text.size()));
   plain_.PaintsText();
   if (!labels_ || !text_is_black_ || !labels_->Draw(plain_.Bits(), {box.left, box.top}, text)) {
     plain_.Label(at, text);

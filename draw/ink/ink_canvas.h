@@ -22,22 +22,22 @@ class InkCanvas : public PlanCanvas {
   InkCanvas(OneBitCanvas& picture, int width, int height);
 
   [[nodiscard]] ScreenBox Visible() const override { return plain_.Visible(); }
-  void UseLineStyle(const LegendStyle& style) override { plain_.UseLineStyle(style); }
+  void UsePen(const Pen& pen) override { plain_.UsePen(pen); }
   void Line(const ScreenSegment& segment) override { plain_.Line(segment); }
   void Circle(ScreenPoint centre, int radius) override { plain_.Circle(centre, radius); }
-  void UsePointStyle(const LegendStyle& style) override;
+  void UsePointSymbol(const PointSymbol& symbol) override;
   void UseTextColor(std::uint32_t color) override;
   void Mark(ScreenPoint at) override;
   void Label(ScreenPoint at, NameView text) override;
 
  private:
   struct LearntMark {
-    explicit LearntMark(const LegendStyle& style) : mark(InkMark::Learn(style)) {}
+    explicit LearntMark(const PointSymbol& symbol) : mark(InkMark::Learn(symbol)) {}
     std::optional<InkMark> mark;
   };
 
   LazyPlain<InkBlock> plain_;
-  FewLooks<LegendStyle, LearntMark, kMostMarks> marks_;
+  FewLooks<PointSymbol, LearntMark, kMostMarks> marks_;
   FewLooks<int, InkLabels, kMostFonts> fonts_;  // by height
   bool text_is_black_ = true;
 

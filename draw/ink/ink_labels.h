@@ -5,9 +5,9 @@
 
 #include "draw/dib/label_alphabet.h"
 #include "draw/dib/label_room.h"
-#include "draw/drawn_size.h"
 #include "draw/ink/ink_sample.h"
 #include "draw/ink/ink_shape.h"
+#include "store/symbols.h"
 
 namespace tavix {
 

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "draw/ink/ink_shape.h"
-#include "store/legend_table.h"
+#include "store/symbols.h"
 
 namespace tavix {
 
@@ -12,7 +12,7 @@ namespace tavix {
 struct InkMark {
   // None where the mark is too large to be worth it, has another colour than black or white, or is
   // not the same everywhere.
-  static std::optional<InkMark> Learn(const LegendStyle& style);
+  static std::optional<InkMark> Learn(const PointSymbol& symbol);
 
   void Draw(const InkBlock& block, ScreenPoint at) const { shape.Draw(block, at, is_black); }
 

@@ -69,7 +69,7 @@ TEST_F(LinePainterOn, ADotAtTheEndOfTheRangeOfPixelsStaysThere) {
   EXPECT_EQ((Notes{"pen 1", "line " + end + ",90 " + end + ",90"}), canvas_.Take());
 }
 
-// The sanitizers look at the arithmetic on the way.
+// The sanitizers check the arithmetic on the way.
 TEST_F(LinePainterOn, NumbersOutOfAllProportionStayInRange) {
   constexpr int kMost = std::numeric_limits<int>::max();
   constexpr int kLeast = std::numeric_limits<int>::min();

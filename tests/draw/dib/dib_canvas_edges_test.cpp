@@ -9,27 +9,29 @@ namespace {
 constexpr int kWidth = 70;
 constexpr int kHeight = 50;
 
+using enum LabelContent;
+
 class BitsEdges : public testing::TestWithParam<int> {
  protected:
   // Draws one point after another, a pixel further each time, across the top left corner or the
   // bottom right one.
-  void DrawAcross(ScreenPoint corner, const LegendStyle& style, NameView text) {
+  void DrawAcross(ScreenPoint corner, const PointSymbol& symbol, NameView text) {
     TwinCanvases twins(kWidth, kHeight, learnt_);
-    twins.UsePointStyle(style);
+    twins.UsePointSymbol(symbol);
     for (int step = -45; step <= 45; ++step) {
       for (const ScreenPoint& at : {ScreenPoint{corner.x + step, corner.y},
                                     {corner.x, corner.y + step},
                                     {corner.x + step, corner.y - step},
                                     {corner.x - step, corner.y - step}}) {
-        if (style.prm1 > 0) twins.Mark(at);
-        if (style.prm2 > 0) twins.Label(at, text);
+        if (symbol.size > 0) twins.Mark(at);
+        if (symbol.label_height > 0) twins.Label(at, text);
       }
     }
-    EXPECT_TRUE(twins.AreSame()) << style.kind << ", " << style.prm1;
+    EXPECT_TRUE(twins.AreSame()) << symbol.mark << ", " << symbol.size;
     // A dot, and the circles and polygons of a single pixel, have no outline.
-    const bool has_shape = style.prm2 > 0 || (style.kind != 1 && style.prm1 > 1);
+    const bool has_shape = symbol.label_height > 0 || (symbol.mark != 1 && symbol.size > 1);
     if (has_shape) {
-      EXPECT_TRUE(twins.ShowSomething()) << style.kind << ", " << style.prm1;
+      EXPECT_TRUE(twins.ShowSomething()) << symbol.mark << ", " << symbol.size;
     }
   }
 
@@ -40,7 +42,7 @@ TEST_P(BitsEdges, CutMarks) {
   for (const int size : {1, 2, 9, 10, 25}) {
     for (const int width : {1, 3}) {
       for (const ScreenPoint& corner : {ScreenPoint{0, 0}, {kWidth, kHeight}}) {
-        DrawAcross(corner, {GetParam(), size, 0, 0, width, 0x00C08040}, u"");
+        DrawAcross(corner, {GetParam(), size, 0, kName, {width, 0x00C08040}}, u"");
       }
     }
   }
@@ -52,8 +54,8 @@ class BitsLabelEdges : public BitsEdges {};
 
 TEST_P(BitsLabelEdges, CutLabels) {
   for (const ScreenPoint& corner : {ScreenPoint{0, 0}, {kWidth, kHeight}}) {
-    DrawAcross(corner, {2, 10, GetParam(), 0, 1, 0x00FF0000}, u"P12345");
-    DrawAcross(corner, {0, 0, GetParam(), 0, 1, 0}, u"g");
+    DrawAcross(corner, {2, 10, GetParam(), kName, {1, 0x00FF0000}}, u"P12345");
+    DrawAcross(corner, {0, 0, GetParam(), kName, {1, 0}}, u"g");
   }
 }
 

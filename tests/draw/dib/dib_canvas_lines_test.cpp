@@ -16,7 +16,7 @@ class BitsLines : public testing::Test {
  protected:
   void TearDown() override { EXPECT_TRUE(twins_.ShowSomething()); }
 
-  void Use(int width) { twins_.UseLineStyle({101, 0, 0, 0, width, dice_.Color()}); }
+  void Use(int width) { twins_.UsePen({width, dice_.Color()}); }
 
   LearntDrawing learnt_;
   TwinCanvases twins_{kWidth, kHeight, learnt_};
@@ -93,7 +93,7 @@ TEST_F(BitsLines, OfWidePensAreTheSystems) {
 
 TEST_F(BitsLines, OfColoursThatAreNoneAreTheSystems) {
   for (const std::int32_t high_byte : {0x01, 0x02, 0x10, 0x7F}) {
-    twins_.UseLineStyle({101, 0, 0, 0, 1, high_byte << 24 | 0x000003});
+    twins_.UsePen({1, high_byte << 24 | 0x000003});
     twins_.Line({{high_byte, 5}, {high_byte + 90, 150}});
   }
   EXPECT_TRUE(twins_.AreSame());

@@ -11,7 +11,7 @@ namespace {
 constexpr int kWidth = 150;
 constexpr int kHeight = 90;
 constexpr ScreenSegment kAcross{{-20, 45}, {170, 45}};
-constexpr LegendStyle kWide{101, 0, 0, 0, 100, 0};
+constexpr Pen kWide{100, 0};
 
 // From now on each stroke that the system draws turns colours over.
 void ShowEveryStroke(CDC& dc) { dc.SetROP2(R2_NOT); }
@@ -21,7 +21,7 @@ TEST(PaintedBits, AreNotPaintedAgain) {
   sample.Fill(0x00FFFFFF);
   LearntDrawing learnt;
   DibCanvas canvas(sample.Dc(), sample.Pixels(), learnt);
-  canvas.UseLineStyle(kWide);
+  canvas.UsePen(kWide);
   canvas.Line(kAcross);
   const OwnSample painted(sample);
   EXPECT_TRUE(sample.Pixels().Has(0, 0, 0));
@@ -29,7 +29,7 @@ TEST(PaintedBits, AreNotPaintedAgain) {
   canvas.Line(kAcross);
   canvas.Circle({70, 40}, 30);
   EXPECT_TRUE(painted.Equals(sample));
-  canvas.UseLineStyle({101, 0, 0, 0, 100, 255});
+  canvas.UsePen({100, 255});
   canvas.Line(kAcross);
   EXPECT_FALSE(painted.Equals(sample)) << "another colour is drawn";
 }
@@ -39,7 +39,7 @@ TEST(PaintedBits, ArePaintedAgainAfterALabel) {
   sample.Fill(0);
   LearntDrawing learnt;
   DibCanvas canvas(sample.Dc(), sample.Pixels(), learnt);
-  canvas.UsePointStyle({2, 300, 10, 0, 1, 0});
+  canvas.UsePointSymbol({2, 300, 10, LabelContent::kName, {1, 0}});
   const OwnSample painted(sample);
   ShowEveryStroke(sample.Dc());
   canvas.Mark({70, 40});
@@ -54,7 +54,7 @@ TEST(CirclesThatPassBy, AreNotDrawn) {
   sample.Fill(0x00FFFFFF);
   LearntDrawing learnt;
   DibCanvas canvas(sample.Dc(), sample.Pixels(), learnt);
-  canvas.UseLineStyle({101, 0, 0, 0, 3, 0});
+  canvas.UsePen({3, 0});
   canvas.Line({{10, 10}, {20, 20}});
   const OwnSample before(sample);
   // From now on a circle that the system draws is filled.
@@ -70,7 +70,7 @@ TEST(CirclesThatPassBy, AreNotDrawn) {
 TEST(PaintedInk, IsNotPaintedAgain) {
   OneBitCanvas picture(kWidth, kHeight);
   InkCanvas canvas(picture, kWidth, kHeight);
-  canvas.UseLineStyle(kWide);
+  canvas.UsePen(kWide);
   canvas.Line(kAcross);
   const std::vector<std::uint8_t> painted(picture.Bits(),
                                           picture.Bits() + picture.Stride() * kHeight);
@@ -80,7 +80,7 @@ TEST(PaintedInk, IsNotPaintedAgain) {
   ShowEveryStroke(picture.Dc());
   canvas.Line(kAcross);
   EXPECT_TRUE(is_painted());
-  canvas.UseLineStyle({101, 0, 0, 0, 100, 0x00FFFFFF});
+  canvas.UsePen({100, 0x00FFFFFF});
   canvas.Line(kAcross);
   EXPECT_FALSE(is_painted());
 }

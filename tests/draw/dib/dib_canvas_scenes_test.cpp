@@ -45,9 +45,14 @@ struct Scene {
 
 class BitsScenes : public testing::TestWithParam<Scene> {
  protected:
+  Pen AnyPen(int most_width) {
+    const int width = dice_.Between(0, most_width);
+    return {width, dice_.Color()};
+  }
+
   void DrawLine(TwinCanvases& twins) {
     const Scene& scene = GetParam();
-    twins.UseLineStyle({101, 0, 0, 0, dice_.Between(0, scene.most_width), dice_.Color()});
+    twins.UsePen(AnyPen(scene.most_width));
     for (int i = dice_.Between(1, 4); i > 0; --i) {
       const ScreenPoint start = dice_.Place(scene.width, scene.height, 5);
       twins.Line({start, dice_.Place(scene.width, scene.height, 5)});
@@ -56,17 +61,14 @@ class BitsScenes : public testing::TestWithParam<Scene> {
 
   void DrawPoints(TwinCanvases& twins) {
     const Scene& scene = GetParam();
-    const LegendStyle style{dice_.Between(0, 12),
-                            dice_.Between(0, scene.most_size),
-                            dice_.Between(0, 3) == 0 ? dice_.Between(1, 40) : dice_.Between(9, 12),
-                            0,
-                            dice_.Between(0, scene.most_width),
-                            dice_.Color()};
-    twins.UsePointStyle(style);
+    const PointSymbol symbol{dice_.Between(0, 12), dice_.Between(0, scene.most_size),
+                             dice_.Between(0, 3) == 0 ? dice_.Between(1, 40) : dice_.Between(9, 12),
+                             LabelContent::kName, AnyPen(scene.most_width)};
+    twins.UsePointSymbol(symbol);
     twins.UseTextColor(dice_.Between(0, 3) == 0 ? kGrey : 0);
     for (int i = dice_.Between(1, 6); i > 0; --i) {
       const ScreenPoint at = dice_.Place(scene.width, scene.height, 20);
-      if (style.prm1 > 0) twins.Mark(at);
+      if (symbol.size > 0) twins.Mark(at);
       twins.Label(at, kNames[dice_.Between(0, static_cast<int>(std::size(kNames)) - 1)]);
     }
   }
@@ -81,7 +83,7 @@ TEST_P(BitsScenes, AreTheSystems) {
   for (int i = 0; i < scene.entities; ++i) {
     switch (dice_.Between(0, 9)) {
       case 0:
-        twins.UseLineStyle({101, 0, 0, 0, 1, dice_.Color()});
+        twins.UsePen({1, dice_.Color()});
         twins.Circle(dice_.Place(scene.width, scene.height, 9), dice_.Between(-30, 30));
         break;
       case 1:

@@ -24,9 +24,9 @@ class DibPainters : public testing::TestWithParam<int> {
 
   void TearDown() override { EXPECT_TRUE(twins_.ShowSomething()); }
 
-  std::int16_t Add(bool is_point, const LegendStyle& style) {
+  std::int16_t Add(bool is_point, const LegendValues& values) {
     std::int16_t number = 0;
-    legend_.Add(is_point, style, &number);
+    legend_.Add(is_point, values, &number);
     return number;
   }
 
@@ -77,7 +77,7 @@ TEST_P(DibPainters, DrawPointsOfEveryKind) {
   EXPECT_TRUE(twins_.AreSame());
 }
 
-// The first of each pass has no look before it; all others have that of the one before.
+// The first of each pass has no symbol before it; all others have that of the one before.
 TEST_P(DibPainters, DrawWhatHasNoLegendEntry) {
   constexpr std::int16_t kUnknown = 999;
   constexpr std::int16_t kNone = -1;

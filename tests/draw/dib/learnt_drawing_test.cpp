@@ -10,6 +10,10 @@
 namespace tavix::test {
 namespace {
 
+PointSymbol Symbol(int mark, int size, int color) {
+  return {mark, size, 10, LabelContent::kName, {1, color}};
+}
+
 class Learnt : public testing::Test {
  protected:
   // Whether a label is drawn here and not left to the system.
@@ -43,21 +47,21 @@ TEST_F(Learnt, LinesAreKept) {
 }
 
 TEST_F(Learnt, MarksAreKeptWhateverTheLabel) {
-  const Stamp* stamp = learnt_.Mark({2, 10, 10, 0, 1, 0x00FF0000});
+  const Stamp* stamp = learnt_.Mark(Symbol(2, 10, 0x00FF0000));
   ASSERT_TRUE(stamp);
-  EXPECT_EQ(stamp, learnt_.Mark({2, 10, 14, 1, 1, 0x00FF0000}));
-  EXPECT_NE(stamp, learnt_.Mark({2, 10, 10, 0, 1, 0x00FF0001}));
-  EXPECT_NE(stamp, learnt_.Mark({3, 10, 10, 0, 1, 0x00FF0000}));
+  EXPECT_EQ(stamp, learnt_.Mark({2, 10, 14, LabelContent::kNumber, {1, 0x00FF0000}}));
+  EXPECT_NE(stamp, learnt_.Mark(Symbol(2, 10, 0x00FF0001)));
+  EXPECT_NE(stamp, learnt_.Mark(Symbol(3, 10, 0x00FF0000)));
 }
 
 // Memory stays within bounds, and what is known stays known.
 TEST_F(Learnt, MarksOfLooksWithoutEndAreLeftToTheSystem) {
-  const Stamp* first = learnt_.Mark({2, 4, 0, 0, 1, 0});
+  const Stamp* first = learnt_.Mark(Symbol(2, 4, 0));
   ASSERT_TRUE(first);
   const Stamp* last = first;
-  for (int color = 1; color < 400; ++color) last = learnt_.Mark({2, 4, 0, 0, 1, color});
+  for (int color = 1; color < 400; ++color) last = learnt_.Mark(Symbol(2, 4, color));
   EXPECT_FALSE(last);
-  EXPECT_EQ(first, learnt_.Mark({2, 4, 0, 0, 1, 0}));
+  EXPECT_EQ(first, learnt_.Mark(Symbol(2, 4, 0)));
 }
 
 TEST_F(Learnt, LabelsOfHeightsWithoutEndAreLeftToTheSystem) {
@@ -98,10 +102,10 @@ TEST_F(LearntLabels, OfOtherCharactersAreLeftToTheSystem) {
 TEST_F(Learnt, StaysWhileTheSettingsDo) {
   learnt_.FollowSettings();
   LabelGlyphs* labels = learnt_.Labels(10);
-  const Stamp* mark = learnt_.Mark({2, 4, 0, 0, 1, 0});
+  const Stamp* mark = learnt_.Mark(Symbol(2, 4, 0));
   learnt_.FollowSettings();
   EXPECT_EQ(labels, learnt_.Labels(10));
-  EXPECT_EQ(mark, learnt_.Mark({2, 4, 0, 0, 1, 0}));
+  EXPECT_EQ(mark, learnt_.Mark(Symbol(2, 4, 0)));
 }
 
 // What is forgotten makes room for more.
@@ -110,12 +114,12 @@ class LearntToTheFull : public Learnt {
   void SetUp() override {
     learnt_.FollowSettings(kLook);
     for (int number = 0; number < 400; ++number) {
-      EXPECT_EQ(number < 256, learnt_.Mark({2, 4, 0, 0, 1, number}) != nullptr) << number;
+      EXPECT_EQ(number < 256, learnt_.Mark(Symbol(2, 4, number)) != nullptr) << number;
       EXPECT_EQ(number < 64, learnt_.Labels(1000 + number) != nullptr) << number;
     }
   }
 
-  bool HasRoomForMarks() { return learnt_.Mark({2, 4, 0, 0, 1, 1000}) != nullptr; }
+  bool HasRoomForMarks() { return learnt_.Mark(Symbol(2, 4, 1000)) != nullptr; }
   bool HasRoomForLabels() { return learnt_.Labels(2000) != nullptr; }
 
   static constexpr ScreenLook kLook{1, 32};

@@ -17,9 +17,9 @@ TwinCanvases::TwinCanvases(int width, int height, LearntDrawing& learnt)
       plain_(plain_sample_.Dc()),
       bits_(Uneven(bits_sample_).Dc(), bits_sample_.Pixels(), learnt) {}
 
-void TwinCanvases::UseLineStyle(const LegendStyle& style) {
-  plain_.UseLineStyle(style);
-  bits_.UseLineStyle(style);
+void TwinCanvases::UsePen(const Pen& pen) {
+  plain_.UsePen(pen);
+  bits_.UsePen(pen);
 }
 
 void TwinCanvases::Line(const ScreenSegment& segment) {
@@ -32,9 +32,9 @@ void TwinCanvases::Circle(ScreenPoint centre, int radius) {
   bits_.Circle(centre, radius);
 }
 
-void TwinCanvases::UsePointStyle(const LegendStyle& style) {
-  plain_.UsePointStyle(style);
-  bits_.UsePointStyle(style);
+void TwinCanvases::UsePointSymbol(const PointSymbol& symbol) {
+  plain_.UsePointSymbol(symbol);
+  bits_.UsePointSymbol(symbol);
 }
 
 void TwinCanvases::Mark(ScreenPoint at) {

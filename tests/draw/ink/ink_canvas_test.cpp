@@ -58,6 +58,11 @@ class InkScenes : public testing::TestWithParam<Scene> {
     return colors[Between(0, 5)];
   }
 
+  Pen AnyPen() {
+    const int width = Between(0, GetParam().most_width);
+    return {width, Color()};
+  }
+
   // Does the same on both canvases.
   template <class Draw>
   void OnBoth(Draw draw) {
@@ -66,8 +71,8 @@ class InkScenes : public testing::TestWithParam<Scene> {
   }
 
   void DrawLines() {
-    const LegendStyle style{101, 0, 0, 0, Between(0, GetParam().most_width), Color()};
-    OnBoth([&](PlanCanvas& canvas) { canvas.UseLineStyle(style); });
+    const Pen pen = AnyPen();
+    OnBoth([&](PlanCanvas& canvas) { canvas.UsePen(pen); });
     for (int i = Between(1, 4); i > 0; --i) {
       const ScreenPoint start = Place();
       const ScreenPoint end = Place();
@@ -80,23 +85,20 @@ class InkScenes : public testing::TestWithParam<Scene> {
   }
 
   void DrawPoints() {
-    const LegendStyle style{Between(0, 12),
-                            Between(0, GetParam().most_size),
-                            Between(0, 3) == 0 ? Between(0, 100) : Between(9, 12),
-                            0,
-                            Between(0, GetParam().most_width),
-                            Color()};
+    const PointSymbol symbol{Between(0, 12), Between(0, GetParam().most_size),
+                             Between(0, 3) == 0 ? Between(0, 100) : Between(9, 12),
+                             LabelContent::kName, AnyPen()};
     const int text_color = Between(0, 5) == 0 ? kWhite : 0;
     OnBoth([&](PlanCanvas& canvas) {
-      canvas.UsePointStyle(style);
+      canvas.UsePointSymbol(symbol);
       canvas.UseTextColor(static_cast<std::uint32_t>(text_color));
     });
     for (int i = Between(1, 8); i > 0; --i) {
       const ScreenPoint at = Place();
       const char16_t* name = kNames[Between(0, static_cast<int>(std::size(kNames)) - 1)];
       OnBoth([&](PlanCanvas& canvas) {
-        if (style.prm1 > 0) canvas.Mark(at);
-        if (style.prm2 > 0) canvas.Label(at, name);
+        if (symbol.size > 0) canvas.Mark(at);
+        if (symbol.label_height > 0) canvas.Label(at, name);
       });
     }
   }

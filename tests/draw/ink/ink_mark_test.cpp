@@ -9,13 +9,17 @@ namespace {
 
 constexpr int kWhite = 0x00FFFFFF;
 
+PointSymbol Symbol(int mark, int size, int width, int color) {
+  return {mark, size, 0, LabelContent::kName, {width, color}};
+}
+
 // Without this the rest would hold for a room in which the system draws everything.
 TEST(InkMarks, AreLearntOfEveryKindInBlackAndWhite) {
   for (int kind = 1; kind <= 11; ++kind) {
     for (const int size : {1, 2, 9, 10, 40}) {
       for (int width = 0; width <= 3; ++width) {
         for (const int color : {0, kWhite}) {
-          EXPECT_TRUE(InkMark::Learn({kind, size, 0, 0, width, color}))
+          EXPECT_TRUE(InkMark::Learn(Symbol(kind, size, width, color)))
               << kind << ", " << size << ", " << width << ", " << color;
         }
       }
@@ -24,11 +28,11 @@ TEST(InkMarks, AreLearntOfEveryKindInBlackAndWhite) {
 }
 
 TEST(InkMarks, AreLeftToTheSystemWhenLargeOrOfAnotherColour) {
-  for (const LegendStyle& style :
-       {LegendStyle{2, 1000, 0, 0, 1, 0}, LegendStyle{2, 5, 0, 0, 1000, 0},
-        LegendStyle{2, 5, 0, 0, -1, 0}, LegendStyle{2, 10, 0, 0, 1, 255},
-        LegendStyle{2, 10, 0, 0, 1, 0x01FFFFFF}}) {
-    EXPECT_FALSE(InkMark::Learn(style)) << style.prm1 << ", " << style.width << ", " << style.color;
+  for (const PointSymbol& symbol :
+       {Symbol(2, 1000, 1, 0), Symbol(2, 5, 1000, 0), Symbol(2, 5, -1, 0), Symbol(2, 10, 1, 255),
+        Symbol(2, 10, 1, 0x01FFFFFF)}) {
+    EXPECT_FALSE(InkMark::Learn(symbol))
+        << symbol.size << ", " << symbol.pen.width << ", " << symbol.pen.color;
   }
 }
 

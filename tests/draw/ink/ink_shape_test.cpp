@@ -42,6 +42,23 @@ class Sheet {
   InkBlock block_;
 };
 
+TEST(InkColor, IsBlackForEveryColourButWhite) {
+  const struct {
+    const char* what;
+    std::int32_t color;
+    std::int32_t ink;
+  } rows[] = {{"black", 0, 0},
+              {"red", 0x0000FF, 0},
+              {"yellow", 0x00FFFF, 0},
+              {"cyan", 0xFFFF00, 0},
+              {"light grey", 0xC0C0C0, 0},
+              {"nearly white", 0xFEFFFF, 0},
+              {"white", 0xFFFFFF, 0xFFFFFF},
+              {"white with the unused byte set", 0x01FFFFFF, 0x01FFFFFF},
+              {"yellow with the unused byte set", -0xFF0001, 0}};
+  for (const auto& row : rows) EXPECT_EQ(row.ink, InkColor(row.color)) << row.what;
+}
+
 TEST(InkBlock, HasItsRowsFromTheBottomUpAndTheFirstPixelInTheHighestBit) {
   const Sheet sheet(33, 2);
   sheet.Block().Fill(1, 0, 2, true);

@@ -1,4 +1,4 @@
-// The patterned line styles: which pieces of a segment are drawn.
+// The line styles: which pieces of a segment are drawn.
 #pragma once
 
 #include <array>
@@ -6,8 +6,8 @@
 #include <functional>
 #include <optional>
 
-#include "draw/screen_box.h"
-#include "store/legend_table.h"
+#include "draw/screen.h"
+#include "store/symbols.h"
 #include "view/coordinates.h"
 #include "view/view_state.h"
 
@@ -21,8 +21,8 @@ struct LinePattern {
   std::size_t count = 0;
 };
 
-// The pattern of style kinds 102 to 105; none for any other kind.
-[[nodiscard]] std::optional<LinePattern> PatternOf(const LegendStyle& style);
+// The pattern of a symbol of styles 102 to 105; none for any other style.
+[[nodiscard]] std::optional<LinePattern> PatternOf(const LineSymbol& symbol);
 
 // One piece of a segment, on the ground.
 struct LinePiece {
@@ -31,8 +31,8 @@ struct LinePiece {
 };
 
 // Lays a pattern along the ground segment from `start` to `end` and calls `draw` for each piece, in
-// order. The pattern is laid from the segment's own start, so that the dashes keep their place on
-// the ground while the picture is panned, and its lengths are pixels of the present view.
+// order. The pattern begins at the segment's own start, so that the dashes keep their place on the
+// ground while the picture is panned, and its lengths are pixels of the present view.
 //
 // Pieces that lie wholly outside of `visible` may be passed over: a long segment costs what shows
 // of it. Those given are the very ones of the full walk, to the last bit.

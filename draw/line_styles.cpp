@@ -1,4 +1,4 @@
-#include "draw/line_pattern.h"
+#include "draw/line_styles.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,15 +14,15 @@ namespace {
 enum class Piece { kDash, kGap, kShortDash, kDot };
 
 // The length of a piece in pixels.
-int LengthIn(const LegendStyle& style, Piece piece) {
-  constexpr int kDotPixels = 2;  // whatever the entry's values
+int LengthIn(const LineSymbol& symbol, Piece piece) {
+  constexpr int kDotPixels = 2;  // whatever the symbol's lengths
   switch (piece) {
     case Piece::kDash:
-      return style.prm1;
+      return symbol.dash;
     case Piece::kGap:
-      return style.prm2;
+      return symbol.gap;
     case Piece::kShortDash:
-      return style.prm3;
+      return symbol.short_dash;
     default:
       return kDotPixels;
   }
@@ -177,14 +177,14 @@ bool HasLength(const LinePattern& pattern) {
 
 }  // namespace
 
-std::optional<LinePattern> PatternOf(const LegendStyle& style) {
+std::optional<LinePattern> PatternOf(const LineSymbol& symbol) {
   const auto row = std::find_if(kLineStyles.begin(), kLineStyles.end(),
-                                [&](const LineStyle& known) { return known.kind == style.kind; });
+                                [&](const LineStyle& style) { return style.kind == symbol.style; });
   if (row == kLineStyles.end() || row->count == 0) return std::nullopt;
   LinePattern pattern;
   pattern.count = row->count;
   for (std::size_t i = 0; i < row->count; ++i) {
-    pattern.lengths[i] = LengthIn(style, row->pieces[i]);
+    pattern.lengths[i] = LengthIn(symbol, row->pieces[i]);
   }
   return pattern;
 }

@@ -1,4 +1,4 @@
-#include "draw/point_label.h"
+#include "draw/labels.h"
 
 #include <gtest/gtest.h>
 
@@ -12,22 +12,27 @@ namespace {
 constexpr int kMax = std::numeric_limits<int>::max();
 constexpr int kMin = std::numeric_limits<int>::min();
 
-LegendStyle StyleWithFlag(std::int32_t flag) { return {1, 10, 10, flag, 1, 0}; }
+using enum LabelContent;
 
-TEST(LabelText, IsTheNumberOrTheNameAsTheEntryAsks) {
+TEST(LabelText, IsTheNumberOrTheNameAsTheSymbolAsks) {
   const struct {
-    std::int32_t flag;
+    LabelContent content;
     std::int32_t number;
     NameView name;
     NameView text;
-  } rows[] = {{1, 1, u"A", u"1"},  {1, 42, u"A", u"42"}, {1, kMax, u"A", u"2147483647"},
-              {1, 0, u"A", u""},   {1, -5, u"A", u""},   {1, kMin, u"A", u""},
-              {2, 7, u"A", u"7"},  // any value but zero asks for the number
-              {-1, 7, u"A", u"7"}, {0, 7, u"A", u"A"},   {0, 0, u"基準点", u"基準点"},
-              {0, -5, u"A", u"A"}, {0, 7, u"", u""}};
+  } rows[] = {{kNumber, 1, u"A", u"1"},
+              {kNumber, 42, u"A", u"42"},
+              {kNumber, kMax, u"A", u"2147483647"},
+              {kNumber, 0, u"A", u""},
+              {kNumber, -5, u"A", u""},
+              {kNumber, kMin, u"A", u""},
+              {kName, 7, u"A", u"A"},
+              {kName, 0, u"基準点", u"基準点"},
+              {kName, -5, u"A", u"A"},
+              {kName, 7, u"", u""}};
   for (const auto& row : rows) {
-    const LabelText label(StyleWithFlag(row.flag), row.number, row.name);
-    EXPECT_EQ(row.text, label.Text()) << row.flag << ' ' << row.number;
+    const LabelText label(row.content, row.number, row.name);
+    EXPECT_EQ(row.text, label.Text()) << static_cast<int>(row.content) << ' ' << row.number;
   }
 }
 
@@ -37,6 +42,10 @@ TEST(LabelText, CannotBeCopied) {
   EXPECT_FALSE(std::is_copy_assignable_v<LabelText>);
   EXPECT_FALSE(std::is_move_constructible_v<LabelText>);
   EXPECT_FALSE(std::is_move_assignable_v<LabelText>);
+}
+
+PointSymbol SymbolOf(int mark_size, int label_height) {
+  return {2, mark_size, label_height, kName, {1, 0}};
 }
 
 TEST(PlaceLabel, StandsAQuarterOfTheMarkBelowThePoint) {
@@ -53,7 +62,7 @@ TEST(PlaceLabel, StandsAQuarterOfTheMarkBelowThePoint) {
               {{100, 50}, -7, 1, 1, {100, 49, 102, 48}},  // toward zero
               {{-5, -6}, 8, 10, 0, {-5, -4, -5, -14}}};
   for (const auto& row : rows) {
-    const LabelBox box = PlaceLabel(row.at, row.mark, row.height, row.length);
+    const LabelBox box = PlaceLabel(row.at, SymbolOf(row.mark, row.height), row.length);
     EXPECT_EQ(row.box.left, box.left);
     EXPECT_EQ(row.box.top, box.top);
     EXPECT_EQ(row.box.right, box.right);
@@ -62,7 +71,7 @@ TEST(PlaceLabel, StandsAQuarterOfTheMarkBelowThePoint) {
 }
 
 TEST(PlaceLabel, AVeryLongLabelStaysInRange) {
-  const LabelBox box = PlaceLabel({100, 50}, 10, 1 << 24, kMax);
+  const LabelBox box = PlaceLabel({100, 50}, SymbolOf(10, 1 << 24), kMax);
   EXPECT_EQ(kMax, box.right);
   EXPECT_EQ(100, box.left);
 }

@@ -1,20 +1,20 @@
-// The label of a point: what it says and where it stands. Drawing is one call to the system.
+// The labels of points: what they show and where they stand.
 #pragma once
 
 #include <array>
 #include <cstdint>
 
-#include "store/legend_table.h"
 #include "store/name_pool.h"
+#include "store/symbols.h"
 #include "view/coordinates.h"
 
 namespace tavix {
 
-// Says what the label of a point is: its number, nothing for a number of 0 or less, or its name, as
-// the legend entry asks. The text is valid as long as this object and the name are.
+// The text of a point's label: its name, or its number, which is empty for 0 or less. It is valid
+// as long as this object and the name are.
 class LabelText {
  public:
-  LabelText(const LegendStyle& style, std::int32_t number, NameView name);
+  LabelText(LabelContent content, std::int32_t number, NameView name);
   LabelText(const LabelText&) = delete;  // the text may lie in the object itself
   LabelText& operator=(const LabelText&) = delete;
 
@@ -34,8 +34,8 @@ struct LabelBox {
   int bottom;
 };
 
-// The label of a point whose mark of `mark_size` pixels is centred on `at`: `length` characters of
-// `text_height` pixels, from the point's x on and a quarter of the mark below its centre.
-[[nodiscard]] LabelBox PlaceLabel(ScreenPoint at, int mark_size, int text_height, int length);
+// Where the label of a point at `at` stands: `length` characters from the point's x on, and a
+// quarter of the mark below its centre.
+[[nodiscard]] LabelBox PlaceLabel(ScreenPoint at, const PointSymbol& symbol, int length);
 
 }  // namespace tavix
