@@ -1,4 +1,4 @@
-#include "window/rubber_band.h"
+#include "window/overlays/rubber_band.h"
 
 #include "draw/xor_drawing.h"
 #include "window/client_surface.h"
