@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "window/plot_window.h"
-#include "window/settings_dialog.h"
+#include "window/settings/settings_dialog.h"
 
 namespace tavix {
 

@@ -9,7 +9,7 @@
 #include "draw/side_view.h"
 #include "view/scale_bar.h"
 #include "window/client_surface.h"
-#include "window/overlays.h"
+#include "window/overlays/map_surround.h"
 #include "window/refusal_beep.h"
 
 namespace tavix {

@@ -1,4 +1,4 @@
-#include "window/button_column_layout.h"
+#include "window/buttons/button_column_layout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "window/move_point.h"
+#include "window/overlays/moved_point.h"
 
 #include <framework/scoped_select.h>
 

@@ -3,7 +3,7 @@
 
 #include <tdialog.h>
 
-#include "window/legend_editor.h"
+#include "window/settings/legend_editor.h"
 
 namespace tavix {
 

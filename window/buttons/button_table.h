@@ -8,7 +8,7 @@
 // that stays pressed in (0 for any other). The id is also the first of its four bitmaps: up, down,
 // focused, disabled. Ids are known to hosts and stay; 445..448 and 453..456 are free.
 //
-// The name leads to the picture, which buttons/buttons.txt states in small letters (band_zoom), and
+// The name leads to the picture, which buttons.txt states in small letters (band_zoom), and
 // to what the button does, CPlotWnd::OnBandZoom. The first button and the last scroll the column.
 #define TAVIX_BUTTONS(BUTTON) \
   BUTTON(401, ScrollUp, 0)    \

@@ -1,4 +1,4 @@
-#include "window/button_column.h"
+#include "window/buttons/button_column.h"
 
 #include <algorithm>
 

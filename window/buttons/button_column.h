@@ -7,7 +7,7 @@
 #include <array>
 #include <cstddef>
 
-#include "window/button_column_layout.h"
+#include "window/buttons/button_column_layout.h"
 
 namespace tavix {
 

@@ -1,7 +1,7 @@
 // Where the on-screen buttons stand and which of them show.
 #pragma once
 
-#include "window/button_table.h"
+#include "window/buttons/button_table.h"
 
 namespace tavix {
 

@@ -1,4 +1,4 @@
-#include "window/rubber_band.h"
+#include "window/overlays/rubber_band.h"
 
 #include "draw/gdi_scopes.h"
 #include "window/client_surface.h"

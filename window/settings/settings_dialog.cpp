@@ -1,4 +1,4 @@
-#include "window/settings_dialog.h"
+#include "window/settings/settings_dialog.h"
 
 #include <afxcmn.h>
 #include <afxdlgs.h>
@@ -7,7 +7,7 @@
 
 #include "draw/marks.h"
 #include "platform/wide_text.h"
-#include "window/resource.h"
+#include "window/settings/settings_ids.h"
 
 namespace tavix {
 namespace {

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "view/coordinates.h"
-#include "window/stylus.h"
+#include "window/modes/stylus.h"
 
 namespace tavix {
 

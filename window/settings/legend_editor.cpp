@@ -1,4 +1,4 @@
-#include "window/legend_editor.h"
+#include "window/settings/legend_editor.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "window/overlays.h"
+#include "window/overlays/map_surround.h"
 
 #include <framework/scoped_select.h>
 

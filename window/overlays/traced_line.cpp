@@ -1,4 +1,4 @@
-#include "window/traced_line.h"
+#include "window/overlays/traced_line.h"
 
 #include "draw/gdi_scopes.h"
 #include "window/client_surface.h"

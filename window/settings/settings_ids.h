@@ -1,5 +1,5 @@
 /* Identifiers of the library's dialog; read by the resource compiler too. Those of the buttons are
-   in button_table.h. */
+   in buttons/button_table.h. */
 #pragma once
 
 /* The settings dialog and its controls. */
