@@ -3,7 +3,7 @@
 #include <charconv>
 #include <cstddef>
 
-#include "view/truncate.h"
+#include "view/coordinates.h"
 
 namespace tavix {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "draw/side_projection.h"
+#include "view/side_projection.h"
 #include "tests/support/plot_test.h"
 
 namespace fieldhost {
