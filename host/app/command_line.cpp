@@ -18,7 +18,7 @@ CommandLine Refused(std::string problem) {
   return refused;
 }
 
-// Takes the value of an option, or tells in `line` what is wrong with it.
+// Takes the value of an option, or sets the problem of `line`.
 void TakeValue(const std::string& option, const std::string& value, CommandLine& line) {
   if (option == "--picture") {
     line.picture = value;
@@ -41,7 +41,7 @@ void TakeValue(const std::string& option, const std::string& value, CommandLine&
   }
 }
 
-// What cannot be had together; empty when all can.
+// Options that exclude one another, as a sentence; empty without such.
 std::string Conflict(const CommandLine& line) {
   const bool is_png = !line.picture.empty() || OneBitFormatOf(line.one_bit) == OneBitFormat::kPng;
   if (line.resolution && !is_png) {

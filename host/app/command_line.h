@@ -23,7 +23,7 @@ struct CommandLine {
   bool side = false;                // the window shows the side view
   std::optional<PictureSize> size;  // of the picture, or of the window's client area
   std::optional<int> resolution;    // of a PNG file, dots an inch
-  std::string problem;              // what is wrong, one sentence; the rest is then worthless
+  std::string problem;              // what is wrong, one sentence; the rest is then undefined
 };
 
 // `arguments` without the program's name. Behind "--" everything is a file.

@@ -29,7 +29,7 @@ std::string SizeText(int width, int height) {
   return std::to_string(width) + "x" + std::to_string(height);
 }
 
-// The system keeps the pixels of windows only as far as they lie on the screen.
+// Windows keeps the pixels of a window only as far as they lie on the screen.
 bool FitsTheScreen(const PictureSize& size) {
   return size.width <= ::GetSystemMetrics(SM_CXSCREEN) &&
          size.height <= ::GetSystemMetrics(SM_CYSCREEN);
@@ -40,7 +40,7 @@ std::string CannotWrite(const std::string& file) {
          " cannot be written; check that its folder exists and may be written to.";
 }
 
-// What a picture's size is checked for before files are read; empty when there is nothing wrong.
+// What is wrong with the picture's size, checked before files are read; empty when it is right.
 std::string SizeProblem(const CommandLine& line) {
   const PictureSize size = line.size.value_or(kUsualSize);
   if (!line.one_bit.empty() || FitsTheScreen(size)) return "";

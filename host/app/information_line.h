@@ -1,4 +1,4 @@
-// The line of information below the plot. Clicks on it are reported to the parent.
+// The information line below the plot. Clicks on it are reported to the parent.
 #pragma once
 
 #include <afxwin.h>
@@ -7,7 +7,7 @@ namespace fieldhost {
 
 class InformationLine {
  public:
-  // `may_wrap`: in a narrow window it takes two rows, so that what tools say fits.
+  // `may_wrap`: in a narrow window it takes two rows, so that the text of a tool fits.
   BOOL Create(CWnd& parent, UINT id, bool may_wrap);
 
   // The height it takes at the foot of a client area of this width, in pixels.

@@ -190,8 +190,8 @@ void CMainWindow::ShowSummary() {
   }
 }
 
-// What the line says when the plan comes up: what the tool in use waits for, else what the last tap
-// hit, else how much there is.
+// The line when the plan appears: what the tool in use waits for, else the point tapped last, else
+// the counts.
 void CMainWindow::ShowPlanInfo() {
   if (tapped_key_ && !tools_.IsToolInUse()) {
     ShowPoint(*tapped_key_);
@@ -234,7 +234,8 @@ void CMainWindow::OnExit() { SendMessage(WM_CLOSE); }
 
 void CMainWindow::OnScaleBar() { plot_.ShowScaleBar(!plot_.ShowsScaleBar()); }
 
-// While the plot's settings close, the plot cannot take the keyboard yet: it is asked again later.
+// While the plot's settings close, the plot cannot take the keyboard yet: it is given the keyboard
+// later.
 void CMainWindow::OnSetFocus(CWnd*) {
   TakeFocus();
   if (GetFocus() == this) PostMessage(kFocusLater);

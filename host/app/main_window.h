@@ -1,5 +1,5 @@
-// The main window: a menu, tabs for the plan and the side view, the plot, and a line of information
-// below it.
+// The main window: a menu, tabs for the plan and the side view, the plot, and the
+// information line below it.
 #pragma once
 
 #include <afxwin.h>
@@ -22,12 +22,12 @@ namespace fieldhost {
 // Make it with new: the framework deletes it with its window.
 class CMainWindow : public CFrameWnd {
  public:
-  // For the user: of the given client size, else of the usual one; a handheld's screen it fills.
+  // For the user: of the given client size, else of the usual one; it fills a handheld's screen.
   BOOL CreateForUser(const std::optional<PictureSize>& size);
-  // For a picture: nothing but the client area, of just this size, at the screen's corner.
+  // For a picture: the client area alone, of just this size, at the screen's top left corner.
   BOOL CreateForPicture(const PictureSize& size);
 
-  // Reads files and shows them beside those already open, or tells the user what is wrong.
+  // Reads files and shows them beside those already open, or shows what is wrong.
   void OpenFiles(std::span<const std::filesystem::path> files);
 
   // Shows a survey beside those already open, and counts it in the information line.

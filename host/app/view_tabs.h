@@ -7,8 +7,8 @@ namespace fieldhost {
 
 enum class PlotView { kPlan, kSide };
 
-// The system's tab control. It tells its parent of a choice by WM_NOTIFY with TCN_SELCHANGE and
-// never takes the keyboard from the plot.
+// The common tab control. It notifies its parent of a choice (WM_NOTIFY, TCN_SELCHANGE) and never
+// takes the keyboard from the plot.
 class ViewTabs : public CWnd {
  public:
   static constexpr int kHeight = 21;  // pixels, the plot's own buttons being 20

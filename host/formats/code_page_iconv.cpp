@@ -16,7 +16,7 @@ class Converter {
   Converter(const Converter&) = delete;
   Converter& operator=(const Converter&) = delete;
 
-  // The call says -1 as a pointer when it fails.
+  // iconv_open returns -1 as a pointer when it fails.
   [[nodiscard]] bool IsOpen() const {
     return handle_ != iconv_t(-1);  // NOLINT(performance-no-int-to-ptr)
   }

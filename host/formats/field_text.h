@@ -24,12 +24,12 @@ void SplitFields(std::string_view line, char separator, std::size_t most,
 // With the letters A to Z in lower case; other characters stay.
 [[nodiscard]] std::string LowerCase(std::string_view text);
 
-// What stands before the decimals of numbers.
+// What separates the decimals of a number.
 enum class DecimalMark { kPoint, kComma };
 
-// The field as a number, whatever the locale; nothing when it is none, is not finite, or has
-// anything behind it. A leading plus sign is fine. Thousands are not set apart: a number with the
-// other mark is none.
+// The field as a number, independent of the locale; nothing when it is not a finite number or
+// anything follows it. A leading plus sign is allowed; separators of thousands are not, so a number
+// with the other mark is refused.
 [[nodiscard]] std::optional<double> RealNumber(std::string_view field,
                                                DecimalMark mark = DecimalMark::kPoint);
 [[nodiscard]] std::optional<int> WholeNumber(std::string_view field);
@@ -40,9 +40,9 @@ enum class DecimalMark { kPoint, kComma };
 // False past 100,000 km.
 [[nodiscard]] bool IsOnGround(double metres);
 
-// A coordinate or height in metres. Nothing for text that is no number, and for numbers past
-// 100,000 km: no grid on earth reaches so far, and one such slip of a decimal point would shrink
-// the rest of the survey to a dot.
+// A coordinate or height in metres. Nothing for text that is not a number, and for numbers past
+// 100,000 km: no grid on earth reaches so far, and one misplaced decimal point would shrink the
+// rest of the survey to a dot.
 [[nodiscard]] std::optional<double> GroundNumber(std::string_view field,
                                                  DecimalMark mark = DecimalMark::kPoint);
 

@@ -1,4 +1,4 @@
-// What a reader has to say about a file it read: which lines or elements it skipped and why.
+// What a reader skipped of a file, and why.
 #pragma once
 
 #include <cstddef>
@@ -15,8 +15,8 @@ struct Diagnostic {
   std::string sentence;  // without full stop
 };
 
-// Collects the diagnostics of one file. Whatever is skipped counts, but only the first sentences
-// are kept: a file of another kind would bring one for each of its lines.
+// Collects the diagnostics of one file. All that is skipped counts, but only the first sentences
+// are kept: a file of another kind would give one for each of its lines.
 class ReadLog {
  public:
   static constexpr std::size_t kKept = 100;

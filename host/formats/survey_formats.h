@@ -15,7 +15,7 @@ struct SurveyFormat {
   std::string_view name;                       // as a user knows it
   std::span<const std::string_view> endings;   // of file names, small letters, the usual one first
   std::string_view choice;                     // what to choose, within a sentence
-  bool (*recognises)(std::string_view bytes);  // by the beginning, whatever the file is named
+  bool (*recognises)(std::string_view bytes);  // by the beginning of the file
   Survey (*read)(std::string_view bytes, ReadLog& log);
 };
 

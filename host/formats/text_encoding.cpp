@@ -11,7 +11,7 @@ std::uint8_t ByteAt(std::string_view bytes, std::size_t at) {
 }
 
 // The length of the well-formed sequence at `at`, or 0. Overlong forms, surrogates and values past
-// U+10FFFF are told by the range of the second byte.
+// U+10FFFF are recognised by the range of the second byte.
 std::size_t SequenceLength(std::string_view bytes, std::size_t at) {
   const std::uint8_t lead = ByteAt(bytes, at);
   if (lead < 0x80) return 1;

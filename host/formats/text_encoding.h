@@ -23,8 +23,8 @@ inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";  // of UTF-8
 // Encodings of one or two bytes a character. Latin 1 gives every byte a meaning.
 enum class CodePage { kShiftJis /* Windows code page 932 */, kLatin1, kWindows1252 };
 
-// Text of a code page in UTF-8, or nothing when the bytes are no such text. The conversion is the
-// system's: there is one source for each system.
+// Text of a code page in UTF-8, or nothing when the bytes are not valid in it. There is one source
+// for each system.
 [[nodiscard]] std::optional<std::string> Utf8From(CodePage code_page, std::string_view bytes);
 
 }  // namespace fieldhost

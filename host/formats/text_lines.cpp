@@ -9,7 +9,7 @@
 namespace fieldhost {
 namespace {
 
-// The string's own search for either of two characters makes a call for each it passes.
+// find_first_of would make a call for each character it passes.
 std::size_t LineEnd(std::string_view bytes) {
   const auto end = std::find_if(bytes.begin(), bytes.end(),
                                 [](char byte) { return byte == '\n' || byte == '\r'; });

@@ -18,7 +18,8 @@ struct TextLine {
 };
 
 // Splits a file's bytes into lines. A line ends with CR LF, LF or CR. Blank lines are left out,
-// also a closing Ctrl-Z; lines that are no text, or longer than any record, are skipped and said.
+// also a closing Ctrl-Z; lines that are not text, or longer than any record, are skipped and
+// logged.
 class TextLines {
  public:
   static constexpr std::size_t kLongestLine = 65536;  // bytes

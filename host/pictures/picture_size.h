@@ -35,7 +35,7 @@ inline constexpr int kHighestResolution = 2400;
 [[nodiscard]] std::optional<int> ResolutionOf(std::string_view text);
 
 // The largest size of the same proportions whose sides are no longer than `longest` pixels; the
-// size itself when it is none the longer.
+// size itself when it is not longer.
 [[nodiscard]] PictureSize Within(const PictureSize& size, int longest);
 
 }  // namespace fieldhost

@@ -14,12 +14,12 @@ namespace fieldhost {
 // or it cannot be written.
 [[nodiscard]] bool WritePicture(CWnd& window, int resolution, const std::filesystem::path& file);
 
-// The screen's dots an inch: a picture for which nobody chose a resolution is as large on paper as
-// it is on the screen.
+// The screen's dots an inch: without a chosen resolution a picture is as large on paper as on the
+// screen.
 [[nodiscard]] int ScreenResolution();
 
 // Writes the file, in place of one that is there. `resolution` in dots an inch; a portable bitmap
-// holds none. False when it cannot be written.
+// stores none. False when it cannot be written.
 [[nodiscard]] bool WriteOneBitPicture(const OneBitPicture& picture, OneBitFormat format,
                                       int resolution, const std::filesystem::path& file);
 

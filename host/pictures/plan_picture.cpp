@@ -38,7 +38,7 @@ std::optional<OneBitPicture> DrawPlanPicture(const PictureSize& size) {
       has_ink = true;
     }
   }
-  // The north arrow is in every picture: where there is no ink, there was no room.
+  // Every picture has a north arrow: without any ink, memory did not suffice.
   if (!has_ink) return std::nullopt;
   return picture;
 }

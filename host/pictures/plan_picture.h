@@ -8,9 +8,9 @@
 
 namespace fieldhost {
 
-// Has the current instance, which has a plot window, draw the picture, and reads it. It shows the
-// window's ground width, or one sheet while a paper frame is on. Nothing when the library had no
-// room for it.
+// Has the current instance draw the picture, and reads it. It shows the ground width of the plot
+// window, which must exist, or one sheet while a paper frame is on. Nothing when memory did not
+// suffice.
 [[nodiscard]] std::optional<OneBitPicture> DrawPlanPicture(const PictureSize& size);
 
 }  // namespace fieldhost

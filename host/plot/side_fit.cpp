@@ -81,7 +81,7 @@ double ScaleFor(double reach, double room) {
   return reach < kNoReach ? std::numeric_limits<double>::max() : room / reach;
 }
 
-// The corner stands the margin from both edges, so that the points begin where the side view does.
+// The corner stands the margin from both edges, so that the points begin at the side view's left.
 double ScaleFor(const Reach& reach, const SideWindow& window, const SideProjection& projection) {
   const double corner_across = projection.across * (projection.up + projection.right) * kMargin;
   const double corner_above = projection.rise * (projection.up - projection.right) * kMargin;

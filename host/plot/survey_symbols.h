@@ -30,7 +30,7 @@ struct LineSymbol {
   std::uint32_t color;  // 0x00BBGGRR
 };
 
-// The first is that of points whose kind says nothing.
+// The first is that of points of any other kind.
 [[nodiscard]] std::span<const PointSymbol> PointSymbols();
 
 // The index of the symbol for a kind of point, by the words that field codes begin with, in English

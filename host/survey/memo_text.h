@@ -7,8 +7,8 @@
 
 namespace fieldhost {
 
-// The first line that says something, of at most so many characters; an ellipsis says that the memo
-// goes on. Text is UTF-8, line ends of any kind.
+// The first line that is not blank, cut to so many characters; an ellipsis marks that more follows.
+// Text is UTF-8, line ends of any kind.
 [[nodiscard]] std::string MemoBeginning(std::string_view memo, std::size_t most_characters);
 
 }  // namespace fieldhost

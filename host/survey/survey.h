@@ -1,4 +1,4 @@
-// What survey files hold, whatever their format. Text is UTF-8, coordinates are metres.
+// What survey files hold, in any format. Text is UTF-8, coordinates are metres.
 #pragma once
 
 #include <cstddef>

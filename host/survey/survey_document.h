@@ -62,7 +62,8 @@ class SurveyView {
 };
 
 // Points have keys and lines have figure numbers, both given here, in the order of entry and up
-// from 1. No two figures share a number, whatever they are.
+// from 1. No two figures share a number: a deletion by number
+// takes every figure that has it.
 class SurveyDocument {
  public:
   SurveyDocument() = default;
@@ -93,7 +94,7 @@ class SurveyDocument {
   // Those sides with their figure numbers.
   [[nodiscard]] const std::map<ParcelSide, int>& SideFigures() const { return side_figures_; }
 
-  // Moves a point in plan; its height stays. False as FindPoint is null.
+  // Moves a point in plan; its height stays. False for a key that FindPoint does not know.
   bool MovePoint(int key, const GroundPosition& place);
 
   void DrawCircle(const DrawnCircle& circle);

@@ -36,7 +36,7 @@ constexpr WideSign kWideSigns[] = {
     {"７", '7'}, {"８", '8'}, {"９", '9'}, {"：", ':'}, {"／", '/'}, {"，", ','}, {"　", ' '},
 };
 
-// With plain signs in place of full-width ones.
+// With ASCII characters in place of full-width ones.
 std::string Plain(std::string_view text) {
   std::string plain;
   while (!text.empty()) {
@@ -55,7 +55,7 @@ std::string Plain(std::string_view text) {
 
 bool IsDigit(char sign) { return '0' <= sign && sign <= '9'; }
 
-// The digits without what groups them; nothing when there are none, or other signs.
+// The digits without separators; nothing for other signs, or without digits.
 std::optional<std::string> Digits(std::string_view text) {
   std::string digits;
   for (const char sign : text) {
@@ -105,7 +105,7 @@ std::optional<int> ParseScale(std::string_view typed) {
 std::string NoScale(std::string_view typed) {
   const std::string_view text = Trim(typed);
   if (text.empty()) return "Type a scale, such as 500 for 1:500.";
-  return Quoted(text) + " is no scale: type a whole number from 1 to 1000000.";
+  return Quoted(text) + " is not a scale: type a whole number from 1 to 1000000.";
 }
 
 int ScaleNow(int reported, const GivenScale& last) {

@@ -49,7 +49,7 @@ inline constexpr int kLargestScale = 1000000;
 // What is wrong with a text that ParseScale refused.
 [[nodiscard]] std::string NoScale(std::string_view typed);
 
-// A scale that was set, and what the library gave as the scale right after.
+// A scale that was set, and what the library reported right after.
 struct GivenScale {
   int scale = 0;
   int reported = 0;

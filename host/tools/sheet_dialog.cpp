@@ -63,7 +63,7 @@ void CSheetDialog::FillPapers() {
 
 void CSheetDialog::FillScales() {
   for (const int scale : UsualScales()) scales_.AddString(ScaleText(scale));
-  scales_.SetWindowText(scale_);  // a list that is filled forgets the text beside it
+  scales_.SetWindowText(scale_);  // filling the list cleared the text
 }
 
 // An invalid scale keeps the dialog open and shows the reason.

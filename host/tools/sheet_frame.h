@@ -11,7 +11,7 @@
 namespace fieldhost {
 
 // The library lays a frame out for the plot window's size at that moment and keeps it with that
-// window. So Keep comes before the size or the window changes, LayOut after it.
+// window: call Keep before the size or the window changes, LayOut after it.
 class SheetFrame {
  public:
   // Lays the sheet on the plan and gives the view its scale. The sheet's middle stays where it is,

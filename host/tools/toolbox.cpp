@@ -41,13 +41,13 @@ bool Toolbox::Handle(UINT command, int key, CWnd& dialog_parent) {
          HandleSheet(command, dialog_parent);
 }
 
-// The tool in use, chosen again, is put away.
+// Choosing the tool in use again puts it away.
 void Toolbox::Choose(PlanTool& tool) {
   const bool again = tool_ == &tool;
   Stop();
   if (again) return;
   tool_ = &tool;
-  Went(tool.Begin());
+  Proceed(tool.Begin());
 }
 
 void Toolbox::Stop() {
@@ -55,22 +55,22 @@ void Toolbox::Stop() {
   if (!tool_) return;
   tool_->End();
   tool_ = nullptr;
-  AskWhatIsWanted();
+  UpdateCapture();
 }
 
-void Toolbox::Went(Progress progress) {
+void Toolbox::Proceed(Progress progress) {
   const CString said = tool_->Text();
   if (progress == Progress::kDone) {
     Stop();
   } else {
-    AskWhatIsWanted();
+    UpdateCapture();
   }
   text_ = said;
 }
 
-void Toolbox::AskWhatIsWanted() {
+void Toolbox::UpdateCapture() {
   const bool positions = tool_ && tool_->Wants() == PlanTool::Taps::kPositions;
-  // Asking again would lose a position that is on its way.
+  // Starting capture again would forget a position that is already reported.
   if (positions != plot_.CapturesCoordinates()) {
     plot_.CaptureCoordinates(positions, ID_PLOT_CAPTURE);
   }
@@ -79,12 +79,12 @@ void Toolbox::AskWhatIsWanted() {
 bool Toolbox::HandleTap(UINT command, int key) {
   if (command == ID_PLOT_CAPTURE) {
     const std::optional<GroundPosition> position = PlotPane::CapturedCoordinate();
-    if (tool_ && position) Went(tool_->PositionTapped(*position));
+    if (tool_ && position) Proceed(tool_->PositionTapped(*position));
     return true;
   }
   if (command != ID_PLOT_NOTIFY || !tool_ || tool_->Wants() != PlanTool::Taps::kPoints)
     return false;
-  Went(tool_->PointPicked(key));
+  Proceed(tool_->PointPicked(key));
   return true;
 }
 
@@ -93,14 +93,14 @@ bool Toolbox::HandleStep(UINT command) {
     case ID_TOOL_UNDO:
       if (tool_) {
         tool_->Undo();
-        Went(Progress::kGoesOn);
+        Proceed(Progress::kGoesOn);
       }
       return true;
     case ID_TOOL_FINISH:
-      if (tool_) Went(tool_->Finish(Ending::kAsItStands));
+      if (tool_) Proceed(tool_->Finish(Ending::kAsItStands));
       return true;
     case ID_TOOL_FINISH_CLOSED:
-      if (tool_) Went(tool_->Finish(Ending::kClosed));
+      if (tool_) Proceed(tool_->Finish(Ending::kClosed));
       return true;
     case ID_TOOL_CANCEL:
       Stop();

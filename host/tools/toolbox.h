@@ -26,21 +26,21 @@ class Toolbox {
   // Both must outlive the toolbox.
   Toolbox(SurveyDocument& document, PlotPane& plot);
 
-  // Does what a command asks for, a report of the plot window included, whose point key is `key`.
-  // False for a command that is none of the tools', and for a tapped point that no tool waits for.
+  // Carries out a command; reports of the plot window come with the key of a point. False for a
+  // command of no tool, and for a tapped point that no tool waits for.
   bool Handle(UINT command, int key, CWnd& dialog_parent);
 
   // What the user is to read after a command; empty when there is nothing to say.
   [[nodiscard]] const CString& Text() const { return text_; }
   [[nodiscard]] bool IsToolInUse() const { return tool_ != nullptr; }
 
-  // The sheet, for when there is nothing else to say; empty while there is none.
+  // The sheet, for when there is nothing else to show; empty without a sheet.
   [[nodiscard]] CString SheetText() const { return sheet_.Text(); }
 
   // Shows in a menu what is in use and what can be done now.
   void UpdateMenu(CMenu& menu) const;
 
-  // Ends the tool in use, without a trace. Before the document is emptied.
+  // Ends the tool in use and takes off what it shows. Before the document is emptied.
   void Stop();
 
   // Around a change of the plot window's size, and around a new one.
@@ -54,8 +54,8 @@ class Toolbox {
   };
 
   void Choose(PlanTool& tool);
-  void Went(Progress progress);
-  void AskWhatIsWanted();
+  void Proceed(Progress progress);
+  void UpdateCapture();
   bool HandleTap(UINT command, int key);
   bool HandleStep(UINT command);
   bool HandleFigure(UINT command);

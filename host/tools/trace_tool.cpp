@@ -16,7 +16,7 @@ using Vertices = std::span<const GroundPosition>;
 constexpr std::size_t kLineVertices = 2;
 constexpr std::size_t kBoundaryVertices = 3;
 
-// Traced back to its start, a boundary has that vertex but once.
+// Without the last vertex where the trace has returned to its start.
 Vertices RingOf(Vertices vertices) {
   const bool back = vertices.size() > 1 && vertices.front() == vertices.back();
   return back ? vertices.first(vertices.size() - 1) : vertices;

@@ -18,7 +18,7 @@ class TraceTool : public PlanTool {
   Progress Begin() override;
   void End() override;
   void Restore() override;
-  // Adds a vertex. The place of the last vertex, tapped again, adds none.
+  // Adds a vertex, unless the position is that of the last one.
   Progress PositionTapped(const GroundPosition& position) override;
   // Takes the last vertex back.
   void Undo() override;

@@ -68,7 +68,7 @@ bool IsText(Column column) {
   return column == Column::kDescription || column == Column::kName || column == Column::kKind;
 }
 
-// "northing (m)" is as good as "northing"; other units are another thing.
+// "northing (m)" names the same column as "northing"; names with other units are unknown.
 std::string_view WithoutMetres(std::string_view name) {
   for (const std::string_view unit : {"(m)", "[m]", " m", "_m"}) {
     if (name.ends_with(unit)) return Trim(name.substr(0, name.size() - unit.size()));

@@ -25,7 +25,7 @@ class ColumnLayout {
     return places_[static_cast<std::size_t>(column)];
   }
 
-  // True where the order is the customary one and not told by the file.
+  // True where the order is the usual one and not given by a header.
   [[nodiscard]] bool IsAssumed() const { return assumed_; }
 
   // How many fields to cut a line into. A text column at the end takes the rest of the line.

@@ -41,7 +41,7 @@ bool HasNumber(std::string_view line, ListNotation notation) {
 
 struct AngleName {
   std::span<const std::string_view> words;       // lower case
-  std::span<const std::string_view> beginnings;  // where words are not set apart
+  std::span<const std::string_view> beginnings;  // of names written without blanks
 };
 
 constexpr std::string_view kLatitudeWords[] = {"lat", "latitude"};

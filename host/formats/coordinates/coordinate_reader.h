@@ -9,7 +9,7 @@
 
 namespace fieldhost {
 
-// Reads all points; lines that are none are skipped and said, but for those above the first.
+// Reads all points. Other lines are skipped and logged, except those above the first point.
 // Refuses, in the log, a list whose header names other columns than northing and easting.
 [[nodiscard]] Survey ReadCoordinates(const TextLines& lines, ReadLog& log);
 

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double kSmallestRadius = 0.001;  // metres
 
-// One element with what it begins at.
+// One element, and the end of the one before.
 struct Source {
   const XmlNode& node;
   const LandXmlGround& ground;
@@ -52,7 +52,7 @@ struct Source {
   }
 };
 
-// What writers round away, and a little more.
+// Within what files round, and a little more.
 bool Agree(double a, double b, double size) {
   return std::abs(a - b) <= std::max(0.02, size * 0.002);
 }

@@ -12,13 +12,13 @@ namespace fieldhost {
 
 struct LandXmlElement {
   PlanElement pieces;
-  GroundPosition end;  // where the next element begins that does not say it
+  GroundPosition end;  // the start of a next element that gives none
 };
 
 [[nodiscard]] bool IsPlanElement(const XmlNode& node);
 
-// Reads one element, which begins at `before` unless it says where. Throws LandXmlFault for one
-// that lacks something, contradicts itself, or is a spiral other than a clothoid.
+// Reads one element, which begins at `before` unless it gives its start. Throws LandXmlFault for
+// one that lacks something, contradicts itself, or is a spiral other than a clothoid.
 [[nodiscard]] LandXmlElement ReadPlanElement(const XmlNode& node, const LandXmlGround& ground,
                                              const std::optional<GroundPosition>& before);
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 
-// A text may be as large as its file: its words are not gathered.
+// A text may be as large as its file: its words are not copied.
 template <class Action>
 void ForEachWord(std::string_view text, Action action) {
   for (std::size_t begin = text.find_first_not_of(kBlanks); begin != std::string_view::npos;) {
@@ -24,7 +24,7 @@ std::vector<double> Numbers(const XmlNode& node) {
   ForEachWord(node.text, [&](std::string_view word) {
     const std::optional<double> number = RealNumber(word);
     if (!number) {
-      throw LandXmlFault("the " + node.name + " holds " + Quoted(word) + ", which is no number");
+      throw LandXmlFault("the " + node.name + " holds " + Quoted(word) + ", which is not a number");
     }
     numbers.push_back(*number);
   });
@@ -48,8 +48,8 @@ void LandXmlGround::CollectPoints(const XmlNode& node) {
   for (const XmlNode& child : node.children) CollectPoints(child);
 }
 
-// A point may refer to one that refers on. What comes out holds for all on the way: each point is
-// passed once, however many refer to it.
+// A point may refer to another, and that to a third. The result is stored for all on the path, so
+// each point is visited once.
 LandXmlPosition LandXmlGround::PositionNamed(std::string_view name) const {
   std::vector<NamedPoint*> way;
   std::optional<LandXmlPosition> position;
@@ -65,7 +65,7 @@ LandXmlPosition LandXmlGround::PositionNamed(std::string_view name) const {
     fault = point.fault;
     if (position || !fault.empty()) break;
     way.push_back(&point);
-    point.fault = "the point " + Quoted(name) + " refers to itself";  // should the way come back
+    point.fault = "the point " + Quoted(name) + " refers to itself";  // should the path return here
     name = point.node->Attribute("pntRef");
     if (Trim(point.node->text).empty() && !name.empty()) continue;
     try {
@@ -103,7 +103,7 @@ std::vector<LandXmlPosition> LandXmlGround::PositionsOf(const XmlNode& list) con
   const std::vector<double> numbers = Numbers(list);
   if (numbers.empty() || numbers.size() % each != 0) {
     throw LandXmlFault("the " + list.name + " holds " + std::to_string(numbers.size()) +
-                       " numbers, which are no " + std::to_string(each) + " for each point");
+                       " numbers, which is not " + std::to_string(each) + " for each point");
   }
   std::vector<LandXmlPosition> positions;
   positions.reserve(numbers.size() / each);
@@ -126,7 +126,7 @@ std::optional<double> LandXmlGround::Length(const XmlNode& node, std::string_vie
   const std::optional<double> number = RealNumber(text);
   if (!number || !IsOnGround(*number * metres_)) {
     throw LandXmlFault("the " + node.name + " has the " + std::string(attribute) + ' ' +
-                       Quoted(text) + ", which is no length");
+                       Quoted(text) + ", which is not a length");
   }
   return *number * metres_;
 }

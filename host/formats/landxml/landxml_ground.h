@@ -14,7 +14,7 @@
 
 namespace fieldhost {
 
-// One element cannot be used: thrown where the reason shows, caught where the element is skipped.
+// An element cannot be used. Thrown where the reason is found, caught where the element is skipped.
 // The text is a sentence without full stop.
 class LandXmlFault : public std::runtime_error {
  public:
@@ -44,7 +44,7 @@ class LandXmlGround {
   [[nodiscard]] std::optional<double> Length(const XmlNode& node, std::string_view attribute) const;
 
  private:
-  // A CgPoint, and its position or why it has none once that was asked for.
+  // A CgPoint. Once asked for: its position, or why it has none.
   struct NamedPoint {
     const XmlNode* node;
     std::optional<LandXmlPosition> position;

@@ -10,7 +10,7 @@
 
 namespace fieldhost {
 
-// All throw LandXmlFault for what has no position.
+// All throw LandXmlFault where a position is missing.
 
 // A CgPoint. Its kind is its code, else its description, else those of its group.
 [[nodiscard]] SurveyPoint ReadCgPoint(const XmlNode& node, const LandXmlGround& ground,

@@ -14,8 +14,8 @@
 namespace fieldhost {
 namespace {
 
-// Nothing in these is a place in plan, or it is one of a kind that is not shown. Point lists of
-// profiles and cross sections would be taken for lines.
+// These hold no positions in plan, or such as are not shown. Point lists of profiles and cross
+// sections would be taken for lines.
 constexpr std::string_view kLeftOut[] = {
     "Profile", "CrossSects", "Definition", "Feature", "GradeModel", "Roadways", "Survey", "Zones",
 };

@@ -10,8 +10,8 @@
 
 namespace fieldhost {
 
-// Reads a file's bytes. Elements that lack something or contradict themselves are skipped and said.
-// Refuses, in the log, what is damaged XML, is not LandXML, or measures in unknown units.
+// Reads a file's bytes. Elements that lack something or contradict themselves are skipped and
+// logged. Refuses, in the log, damaged XML, XML other than LandXML, and unknown units.
 [[nodiscard]] Survey ReadLandXml(std::string_view bytes, ReadLog& log);
 
 }  // namespace fieldhost

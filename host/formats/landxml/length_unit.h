@@ -6,8 +6,8 @@
 
 namespace fieldhost {
 
-// Metres in one unit, by the names that LandXML and its writers use; capitals do not matter.
-// Nothing for a name that is not known.
+// Metres in one unit, by the names that LandXML and its writers use; upper and lower case
+// are the same. Nothing for an unknown name.
 [[nodiscard]] std::optional<double> MetresIn(std::string_view unit);
 
 }  // namespace fieldhost

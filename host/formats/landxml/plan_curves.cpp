@@ -9,7 +9,7 @@
 namespace fieldhost {
 namespace {
 
-// An arc is drawn the shorter way round; well below half a circle there is no doubt which that is.
+// An arc is drawn the shorter way round; well below half a circle that is unambiguous.
 constexpr double kMostTurn = 150.0 * std::numbers::pi / 180.0;
 
 double Azimuth(GroundPosition from, GroundPosition to) {
@@ -52,7 +52,7 @@ std::vector<GroundPosition> Walk(const SpiralShape& shape) {
   return way;
 }
 
-// The walk turned and moved onto the ground, its ends the given ones.
+// The walk turned and moved to the given ends.
 PlanPolyline Trace(GroundPosition from, GroundPosition to, const SpiralShape& shape) {
   std::vector<GroundPosition> way = Walk(shape);
   const GroundPosition end = way.back();
@@ -136,7 +136,7 @@ PlanElement SpiralBetween(GroundPosition from, GroundPosition to, const SpiralSh
   }
   PlanClothoid clothoid{from, to, RadiusOf(shape.start_curvature, side), parameter,
                         RadiusOf(shape.end_curvature, side)};
-  // Walked the other way a curve turns to the other side.
+  // In the opposite direction a curve turns to the other side.
   if (shape.start_curvature > shape.end_curvature && shape.end_curvature > 0.0) {
     std::swap(clothoid.from, clothoid.to);
     std::swap(clothoid.start_radius, clothoid.end_radius);

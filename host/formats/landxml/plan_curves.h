@@ -10,12 +10,12 @@ namespace fieldhost {
 
 enum class Rotation { kClockwise, kCounterClockwise };  // as seen on the map
 
-// How far the direction from `centre` turns on the way from `from` to `to`, in radians, above 0 and
-// up to a full circle.
+// By how much the azimuth from `centre` changes from `from` to `to`, in radians, above 0 and up to
+// a full circle.
 [[nodiscard]] double TurnAbout(GroundPosition centre, GroundPosition from, GroundPosition to,
                                Rotation rotation);
 
-// Above 0 when the way over the vertex bends clockwise, below 0 when the other way.
+// Above 0 when the path over the vertex bends clockwise, below 0 when counterclockwise.
 [[nodiscard]] double BendAt(GroundPosition from, GroundPosition vertex, GroundPosition to);
 
 // The arc from `from` to `to` that turns by `turn` about `centre`: several arcs when it is long.

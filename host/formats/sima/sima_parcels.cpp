@@ -10,7 +10,7 @@
 namespace fieldhost {
 namespace {
 
-// Where points stand by number and by name; of several the first.
+// The places of points by number and by name; of several the first.
 class PointDirectory {
  public:
   PointDirectory(const std::vector<std::string>& numbers, const std::vector<SurveyPoint>& points) {
@@ -68,7 +68,7 @@ void SimaParcels::Resolve(const std::vector<std::string>& numbers, Survey& surve
         survey.points[*point].kind = "boundary";
       } else {
         log.Skip(vertex.line, "the vertex " + Quoted(vertex.number + ' ' + vertex.name) +
-                                  " is no point of this file");
+                                  " is not a point of this file");
       }
     }
     if (resolved.vertices.empty()) {

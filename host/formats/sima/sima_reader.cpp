@@ -15,7 +15,7 @@
 namespace fieldhost {
 namespace {
 
-// The records of codes we do not know. A route file has thousands: one sentence a code will do.
+// Records of unknown codes. A route file has thousands: one sentence for each code.
 class UnknownRecords {
  public:
   void Add(int line, std::string_view code) {

@@ -8,7 +8,7 @@
 
 namespace fieldhost {
 
-// Reads all points and parcels. Skipped and said: points without coordinates, vertices without a
+// Reads all points and parcels. Skipped and logged: points without coordinates, vertices without a
 // point or a parcel, parcels without vertices, and, once for each code, records of unknown codes.
 [[nodiscard]] Survey ReadSima(const TextLines& lines, ReadLog& log);
 

@@ -11,8 +11,8 @@ XmlProblem ProblemAt(std::string_view text, std::size_t place, XmlFault fault) {
   return {fault, 1 + static_cast<int>(std::count(before.begin(), before.end(), '\n'))};
 }
 
-// Whether the tag that begins at the start of `text` is too long. In a value, a sign that would end
-// the tag does not; the beginning of another is damage wherever it stands, and the parser's matter.
+// Whether the tag at the start of `text` is too long. A '>' in a value does not end the tag; a '<'
+// does, as damage that the parser reports.
 bool IsLongTag(std::string_view text) {
   char quote = '\0';
   for (std::size_t i = 1; i < std::min(text.size(), kLongestTag); ++i) {
@@ -29,7 +29,7 @@ bool IsLongTag(std::string_view text) {
   return text.size() > kLongestTag;
 }
 
-// Comments and the like are no tags.
+// Comments, instructions and sections are not tags.
 std::size_t FindLongTag(std::string_view text) {
   for (std::size_t tag = text.find('<'); tag != std::string_view::npos;
        tag = text.find('<', tag + 1)) {

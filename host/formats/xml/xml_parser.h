@@ -38,7 +38,7 @@ enum class XmlFault {
 
 struct XmlProblem {
   XmlFault fault;
-  int line;  // where it showed, from 1; what lacks its end may be told a line earlier
+  int line;  // where it showed, from 1; for a missing end tag perhaps a line earlier
 };
 
 inline constexpr unsigned kDeepestXml = 200;

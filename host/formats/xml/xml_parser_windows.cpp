@@ -122,7 +122,7 @@ HRESULT SaxListener::startPrefixMapping(const wchar_t*, int, const wchar_t*, int
 
 HRESULT SaxListener::startElement(const wchar_t*, int, const wchar_t* name, int name_length,
                                   const wchar_t*, int, ISAXAttributes* attributes) {
-  if (fault_) return E_FAIL;  // not every refusal is heeded at once
+  if (fault_) return E_FAIL;  // the parser may go on after a refusal
   has_root_ = true;
   ReadLine(locator_);
   if (++depth_ > kDeepestXml) return Stop(XmlFault::kTooDeep);
@@ -146,7 +146,7 @@ HRESULT SaxListener::processingInstruction(const wchar_t*, int, const wchar_t*, 
   return S_OK;
 }
 
-// An entity that only a document type could explain.
+// An entity that only a document type could define.
 HRESULT SaxListener::skippedEntity(const wchar_t*, int) { return Stop(XmlFault::kNotWellFormed); }
 
 HRESULT SaxListener::error(ISAXLocator* locator, const wchar_t* message, HRESULT code) {

@@ -107,7 +107,7 @@ TEST(HeavyFiles, PointOfManyCommasIsSkipped) {
       ReadFile("commas.xml", "<LandXML><CgPoint name=\"1\">" + std::string(100 * kMany, ',') +
                                  "</CgPoint></LandXML>");
   EXPECT_EQ(1U, read.log.SkippedElements());
-  EXPECT_EQ("the CgPoint holds ',,,,,,,,,,,,,,,,,,,,,,,,...', which is no number",
+  EXPECT_EQ("the CgPoint holds ',,,,,,,,,,,,,,,,,,,,,,,,...', which is not a number",
             read.log.Diagnostics().at(0).sentence);
 }
 

@@ -1,4 +1,4 @@
-// Which format a file is read in, and that users are told of each.
+// In which format a file is read, and that the README names each format.
 #include "host/formats/survey_formats.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The tests' own hold on the host: one that hangs is told of, ended, and takes nothing along.
+// The tests' hold on the host: one that hangs is reported and ended, and the tests go on.
 
 #include "tests/host/support/host_process.h"
 

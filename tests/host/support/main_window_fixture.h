@@ -17,7 +17,7 @@
 
 namespace fieldhost {
 
-// Waits for a state of another process, which only asking again can tell.
+// Polls for a state of another process.
 [[nodiscard]] bool WaitUntil(const std::function<bool()>& condition);
 
 // Of a window of any process, controls included.

@@ -101,15 +101,15 @@ void TellThread(DWORD id, HANDLE process, const std::vector<Module>& modules,
   text << "  thread " << id << ':' << std::hex;
   const OwnedHandle thread(::OpenThread(
       THREAD_SUSPEND_RESUME | THREAD_GET_CONTEXT | THREAD_QUERY_INFORMATION, FALSE, id));
-  int told = 0;
+  int listed = 0;
   for (const ULONG_PTR place : PlacesOf(process, thread.Get())) {
     for (const Module& module : modules) {
-      if (place <= module.begin || place >= module.end || told == kMostPlaces) continue;
+      if (place <= module.begin || place >= module.end || listed == kMostPlaces) continue;
       text << ' ' << module.name << "+0x" << place - module.begin;
-      ++told;
+      ++listed;
     }
   }
-  text << std::dec << (told == 0 ? " unknown\n" : "\n");
+  text << std::dec << (listed == 0 ? " unknown\n" : "\n");
 }
 
 }  // namespace

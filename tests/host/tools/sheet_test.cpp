@@ -107,7 +107,7 @@ TEST(ParseScale, RefusesTheRest) {
 
 TEST(NoScale, SaysWhatIsWrong) {
   EXPECT_EQ("Type a scale, such as 500 for 1:500.", NoScale(" "));
-  EXPECT_EQ("'12.5' is no scale: type a whole number from 1 to 1000000.", NoScale("12.5"));
+  EXPECT_EQ("'12.5' is not a scale: type a whole number from 1 to 1000000.", NoScale("12.5"));
 }
 
 TEST(UsualScales, AreScalesInOrder) {

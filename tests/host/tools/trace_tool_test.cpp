@@ -99,7 +99,7 @@ TEST_F(TraceTool, FinishLeavesALine) {
   ExpectColour(kFigure, 600);
   EXPECT_EQ(0, CountPixels(Shown(), kTraced));
   EXPECT_EQ(0, CountPixels(Shown(), kMark));
-  // The tool is put away: a tap tells the point.
+  // The tool is put away: a tap shows the point.
   Tap(0, 0);
   ExpectInfo(L"1 a  X 0.000  Y 0.000");
   Exit();

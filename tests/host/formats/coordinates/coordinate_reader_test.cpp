@@ -143,7 +143,7 @@ constexpr std::string_view kForeign =
     "; name these columns N and E there, or delete the line if the columns are number, northing, "
     "easting, elevation and description";
 
-// Degrees and whatever else stands in such columns would be plotted as metres.
+// Degrees, or other values of such columns, would be plotted as metres.
 TEST(CoordinateReader, RefusesAHeaderOfOtherColumns) {
   const struct {
     std::string_view bytes;

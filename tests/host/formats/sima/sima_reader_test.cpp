@@ -147,7 +147,7 @@ TEST(SimaReader, LeavesOutAVertexWithoutAPoint) {
   EXPECT_EQ((Vertices{0, 1}), read.survey.parcels[0].vertices);
   ASSERT_EQ(1U, read.log.Diagnostics().size());
   EXPECT_EQ(9, read.log.Diagnostics()[0].line);
-  EXPECT_EQ("the vertex '8 T-8' is no point of this file", read.log.Diagnostics()[0].sentence);
+  EXPECT_EQ("the vertex '8 T-8' is not a point of this file", read.log.Diagnostics()[0].sentence);
 }
 
 TEST(SimaReader, SaysUnknownRecordsOnceForEachCode) {

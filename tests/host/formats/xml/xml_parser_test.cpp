@@ -1,4 +1,4 @@
-// The one seam, over the library on one system and over the system's own parser on the other.
+// The parser's interface, over Expat natively and over MSXML on Windows.
 #include "host/formats/xml/xml_parser.h"
 
 #include <gtest/gtest.h>
