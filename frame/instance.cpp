@@ -31,7 +31,6 @@ Instance::~Instance() {
 CViewState& Instance::View() { return parts_->view; }
 CFigList& Instance::Figures() { return parts_->figures; }
 LegendTable& Instance::Legend() { return parts_->legend.Table(); }
-CPlotWnd* Instance::Window() { return window_.get(); }
 
 int Instance::Clear() {
   if (const int code = parts_->points.Clear(); code != 0) return code;

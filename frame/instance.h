@@ -37,7 +37,7 @@ class Instance {
   [[nodiscard]] LegendTable& Legend();
 
   // Null while none is linked.
-  [[nodiscard]] CPlotWnd* Window();
+  [[nodiscard]] CPlotWnd* Window() { return window_.get(); }
 
   // Empties the stores, the legend excepted. 0, or the code of the first store that cannot be
   // emptied; the stores after it are left alone.
