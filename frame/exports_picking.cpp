@@ -4,6 +4,7 @@
 #include "frame/host_arguments.h"
 #include "frame/slot_table.h"
 #include "view/view_state.h"
+#include "window/modes/capture_mode.h"
 #include "window/plot_window.h"
 
 using tavix::CPlotWnd;

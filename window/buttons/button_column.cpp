@@ -102,6 +102,11 @@ void ButtonColumn::EnableAll() {
 
 bool ButtonColumn::IsShown(int k) const { return Button(k).m_hWnd && Button(k).IsWindowVisible(); }
 
+// At any height either the scroll buttons show or the first main button does.
+bool ButtonColumn::IsOnScreen() const {
+  return IsShown(ButtonColumnLayout::kScrollUp) || IsShown(ButtonColumnLayout::kFirstMain);
+}
+
 bool ButtonColumn::Covers(CPoint at) const {
   for (const CBitmapButton& button : buttons_) {
     if (!HasVisibleStyle(button)) continue;

@@ -34,8 +34,9 @@ class ButtonColumn {
   void DisableAllBut(ButtonId id);
   void EnableAll();
 
-  // Whether button k is on the screen, and whether a button that is covers this client position.
-  [[nodiscard]] bool IsShown(int k) const;
+  // Whether the column is on the screen, and whether a button of it that is covers this client
+  // position.
+  [[nodiscard]] bool IsOnScreen() const;
   [[nodiscard]] bool Covers(CPoint at) const;
 
  private:
@@ -43,6 +44,7 @@ class ButtonColumn {
   [[nodiscard]] const CBitmapButton& Button(int k) const {
     return buttons_[static_cast<std::size_t>(k)];
   }
+  [[nodiscard]] bool IsShown(int k) const;
   void Arrange();
 
   std::array<CBitmapButton, ButtonColumnLayout::kButtons> buttons_;

@@ -9,7 +9,8 @@
 // focused, disabled. Ids are known to hosts and stay; 445..448 and 453..456 are free.
 //
 // The name leads to the picture, which buttons.txt states in small letters (band_zoom), and
-// to what the button does, CPlotWnd::OnBandZoom. The first button and the last scroll the column.
+// to what the button does, ButtonCommands::OnBandZoom. The first button and the last scroll the
+// column.
 #define TAVIX_BUTTONS(BUTTON) \
   BUTTON(401, ScrollUp, 0)    \
   BUTTON(405, BandZoom, 451)  \

@@ -1,4 +1,4 @@
-// Taps and drags, told apart.
+// The gestures of the stylus: taps and drags.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 namespace tavix {
 
-// One way of the stylus from where it touched the window to where it left, in client pixels.
+// One gesture, from the pixel where the stylus touched the window to the one where it left.
 struct StylusGesture {
   ScreenPoint down;
   ScreenPoint up;
@@ -22,7 +22,7 @@ struct StylusGesture {
   }
 };
 
-// Follows the stylus between its going down and up. A release without a press is ignored.
+// Follows the stylus from press to release. A release without a press is ignored.
 class Stylus {
  public:
   void Down(ScreenPoint at) {
@@ -38,7 +38,7 @@ class Stylus {
     return StylusGesture{down_, at};
   }
 
-  // Forgets a gesture whose end will not be seen.
+  // Forgets a gesture whose release will not be seen.
   void Cancel() { is_down_ = false; }
 
   [[nodiscard]] bool IsDown() const { return is_down_; }

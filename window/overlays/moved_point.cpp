@@ -5,12 +5,12 @@
 #include "draw/gdi_scopes.h"
 #include "draw/marks.h"
 #include "draw/screen.h"
-#include "window/client_surface.h"
+#include "window/output.h"
 
 namespace tavix {
 
-void MovePoint::Start(CWnd& window, const CViewState& view, const PointSymbol& symbol) {
-  End(window, view);
+void MovedPoint::Start(const PointSymbol& symbol) {
+  End();
   color_ = static_cast<COLORREF>(symbol.pen.color) ^ kWhite;
   pen_width_ = symbol.pen.width;
   mark_ = symbol.mark;
@@ -18,43 +18,44 @@ void MovePoint::Start(CWnd& window, const CViewState& view, const PointSymbol& s
   position_ = {};
 }
 
-void MovePoint::SetAnchor(GroundPoint anchor) {
+void MovedPoint::SetAnchor(GroundPoint anchor) {
   anchor_ = anchor;
   has_line_ = true;
 }
 
-void MovePoint::MoveTo(CWnd& window, const CViewState& view, GroundPoint at, bool plan_shown) {
-  Flip(window, view);
+void MovedPoint::MoveTo(GroundPoint at) {
+  Flip();
   drawn_ = true;
   position_ = at;
-  on_screen_ = plan_shown;
-  Flip(window, view);
+  on_screen_ = surfaces_.plan_shown;
+  Flip();
 }
 
-void MovePoint::End(CWnd& window, const CViewState& view) {
-  Hide(window, view);
+void MovedPoint::End() {
+  Hide();
   drawn_ = false;
   has_line_ = false;
 }
 
-void MovePoint::Hide(CWnd& window, const CViewState& view) {
-  Flip(window, view);
+void MovedPoint::Hide() {
+  Flip();
   on_screen_ = false;
 }
 
-void MovePoint::Restore(CDC& paint, const CViewState& view) {
+void MovedPoint::PutBack(CDC& paint) {
   if (!drawn_) return;
-  FlipOn(paint, view);
+  FlipOn(paint);
   on_screen_ = true;
 }
 
-void MovePoint::Flip(CWnd& window, const CViewState& view) const {
-  if (!on_screen_ || !window.m_hWnd) return;
-  ClientSurface screen(window);
-  FlipOn(screen.Dc(), view);
+void MovedPoint::Flip() const {
+  if (!on_screen_ || !surfaces_.window.m_hWnd) return;
+  ClientSurface screen(surfaces_.window);
+  FlipOn(screen.Dc());
 }
 
-void MovePoint::FlipOn(CDC& dc, const CViewState& view) const {
+void MovedPoint::FlipOn(CDC& dc) const {
+  const CViewState& view = surfaces_.view;
   const XorDrawing drawing(dc, PS_SOLID, pen_width_, color_);
   const CScopedSelect hollow(dc, NULL_BRUSH);
   ScreenPoint at;

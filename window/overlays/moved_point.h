@@ -4,17 +4,20 @@
 #include <afxwin.h>
 
 #include "store/symbols.h"
-#include "view/view_state.h"
+#include "view/coordinates.h"
+#include "window/overlays/overlay.h"
 
 namespace tavix {
 
-// Drawn on the screen by exclusive-or, never into the back buffer; drawing the same state again
-// takes it off. A position off the screen is remembered and not drawn.
-class MovePoint {
+// Stands on the screen only, never in the back buffer. A position off the screen is remembered and
+// not drawn.
+class MovedPoint : public XorOverlay {
  public:
+  explicit MovedPoint(const OverlaySurfaces& surfaces) : surfaces_(surfaces) {}
+
   // Takes the mark and the pen of a symbol; what was on the screen is taken off. Without a start
   // the mark is a black circle of 10 pixels.
-  void Start(CWnd& window, const CViewState& view, const PointSymbol& symbol);
+  void Start(const PointSymbol& symbol);
 
   // From the next move on a line runs from `anchor` to the mark. A mark that is on the screen is
   // then taken off together with a line that was not there: the host sets the anchor before the
@@ -22,17 +25,15 @@ class MovePoint {
   void SetAnchor(GroundPoint anchor);
 
   // Where the window shows something else than the plan, the new place is only remembered.
-  void MoveTo(CWnd& window, const CViewState& view, GroundPoint at, bool plan_shown);
-  void End(CWnd& window, const CViewState& view);
+  void MoveTo(GroundPoint at);
+  void End();
 
   // Takes the mark off the screen until the next move or paint of the plan.
-  void Hide(CWnd& window, const CViewState& view);
+  void Hide();
 
-  // Draws the present state over what a paint has copied.
-  void Restore(CDC& paint, const CViewState& view);
-
-  // Takes what is on the screen off, and on again when called a second time.
-  void Flip(CWnd& window, const CViewState& view) const;
+  // Draws the mark and counts it as on the screen: it can have been moved while the side view was
+  // shown.
+  void PutBack(CDC& paint) override;
 
   [[nodiscard]] bool IsDrawn() const { return drawn_; }
   [[nodiscard]] GroundPoint Position() const { return position_; }
@@ -40,8 +41,10 @@ class MovePoint {
  private:
   static constexpr COLORREF kWhite = 0x00FFFFFF;
 
-  void FlipOn(CDC& dc, const CViewState& view) const;
+  void Flip() const override;
+  void FlipOn(CDC& dc) const;
 
+  const OverlaySurfaces& surfaces_;
   bool drawn_ = false;
   bool on_screen_ = false;
   COLORREF color_ = kWhite;  // the legend's, inverted: by exclusive-or it shows true on white

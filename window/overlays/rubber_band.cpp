@@ -1,7 +1,7 @@
 #include "window/overlays/rubber_band.h"
 
 #include "draw/gdi_scopes.h"
-#include "window/client_surface.h"
+#include "window/output.h"
 
 namespace tavix {
 namespace {
@@ -12,30 +12,31 @@ POINT ToPoint(ScreenPoint at) { return {at.x, at.y}; }
 
 }  // namespace
 
-void RubberBand::Begin(CWnd& window, ScreenPoint at) {
-  Erase(window);
+void RubberBand::Begin(ScreenPoint at) {
+  Erase();
   outline_.fill(ToPoint(at));
 }
 
-void RubberBand::MoveTo(CWnd& window, const std::array<ScreenPoint, 3>& corners) {
-  Erase(window);
+void RubberBand::MoveTo(const std::array<ScreenPoint, 3>& corners) {
+  Erase();
   for (std::size_t i = 0; i < corners.size(); ++i) outline_[i + 1] = ToPoint(corners[i]);
   if (corners[1] == FirstCorner()) return;
-  Flip(window);
   shown_ = true;
+  Flip();
 }
 
-void RubberBand::Erase(CWnd& window) {
-  if (shown_) Flip(window);
+void RubberBand::Erase() {
+  Flip();
   shown_ = false;
 }
 
-void RubberBand::Restore(CDC& paint) const {
+void RubberBand::PutBack(CDC& paint) {
   if (shown_) FlipOn(paint);
 }
 
-void RubberBand::Flip(CWnd& window) const {
-  ClientSurface screen(window);
+void RubberBand::Flip() const {
+  if (!shown_) return;
+  ClientSurface screen(window_);
   FlipOn(screen.Dc());
 }
 

@@ -8,38 +8,31 @@
 #include <span>
 #include <vector>
 
-#include "view/view_state.h"
+#include "view/coordinates.h"
+#include "window/overlays/overlay.h"
 
 namespace tavix {
 
-// Drawn by exclusive-or on the screen and into the back buffer, so that a segment can be taken off
-// by drawing it again. The vertices lie on the ground; the segments that show are kept as they were
-// drawn, and made anew by each full redraw.
-class TracedLine {
+// Stands on the screen and in the back buffer. The vertices lie on the ground; the segments that
+// show are kept as they were drawn, and worked out again by each full redraw.
+class TracedLine : public XorOverlay {
  public:
-  // The two surfaces a change is drawn on.
-  struct Surfaces {
-    CWnd& window;
-    CDC& buffer;
-  };
+  explicit TracedLine(const OverlaySurfaces& surfaces) : surfaces_(surfaces) {}
 
   // Where the window shows something else than the plan, the new vertex is only remembered.
-  void Add(const Surfaces& surfaces, const CViewState& view, GroundPoint vertex, bool plan_shown);
+  void Add(GroundPoint vertex);
 
   // Takes the last vertex back, and the segment to it where it was drawn. False when there is none.
-  bool RemoveLast(const Surfaces& surfaces);
+  bool RemoveLast();
 
   // Takes every segment off and forgets the vertices.
-  void End(const Surfaces& surfaces);
+  void End();
 
-  // Takes what is drawn off both surfaces, and on again when called a second time.
-  void Flip(const Surfaces& surfaces) const { Flip(surfaces, segments_); }
-
-  // Draws the segments of the present view into a buffer that has just been filled.
-  void Redraw(CDC& buffer, const CViewState& view);
-
-  // The buffer shows something else now: there are no segments to take off.
+  // The buffer was filled: there are no segments to take off.
   void ForgetSegments() { segments_.clear(); }
+
+  // Draws the segments of the present view.
+  void DrawInto(CDC& buffer) override;
 
   [[nodiscard]] std::span<const GroundPoint> Vertices() const { return vertices_; }
 
@@ -51,11 +44,13 @@ class TracedLine {
   };
 
   // The segment to the last vertex in the present view, if it reaches the drawing area.
-  [[nodiscard]] static std::optional<Drawn> SegmentTo(const CViewState& view,
-                                                      std::span<const GroundPoint> vertices);
-  static void FlipOn(CDC& dc, std::span<const Drawn> segments);
-  static void Flip(const Surfaces& surfaces, std::span<const Drawn> segments);
+  [[nodiscard]] std::optional<Drawn> SegmentTo(std::span<const GroundPoint> vertices) const;
 
+  void Flip() const override { Flip(segments_); }
+  void Flip(std::span<const Drawn> segments) const;
+  static void FlipOn(CDC& dc, std::span<const Drawn> segments);
+
+  const OverlaySurfaces& surfaces_;
   std::vector<GroundPoint> vertices_;
   std::vector<Drawn> segments_;  // in vertex order
 };

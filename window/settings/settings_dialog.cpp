@@ -26,7 +26,7 @@ BOOL CALLBACK CancelIfDialogOf(HWND window, LPARAM owner) {
   return TRUE;
 }
 
-// Has the system's dialogs that are open above a window end.
+// Cancels the common dialogs that are open above a window.
 void CancelDialogsOf(HWND owner) {
   if (!owner) return;
   ::EnumThreadWindows(::GetCurrentThreadId(), &CancelIfDialogOf, reinterpret_cast<LPARAM>(owner));
@@ -190,7 +190,7 @@ LRESULT SettingsDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
   return TDialog::WindowProc(message, wParam, lParam);
 }
 
-// Where the system only asks for the brush and leaves the painting to the owner.
+// Where Windows only asks for the brush and leaves the painting to the owner.
 void SettingsDialog::OnDrawItem(int id, DRAWITEMSTRUCT* item) {
   if (id != IDC_COLOR) {
     TDialog::OnDrawItem(id, item);

@@ -4,22 +4,9 @@
 #include <tdialog.h>
 
 #include "window/settings/legend_editor.h"
+#include "window/settings/plot_settings.h"
 
 namespace tavix {
-
-// The vertical : horizontal ratio that the host or the user has given.
-struct RatioSetting {
-  bool given = false;
-  int vertical = 1;
-  int horizontal = 1;
-};
-
-// What the dialog edits besides the legend. Written on OK only.
-struct PlotSettings {
-  bool draws_lines = true;
-  int rotation_step = 10;  // whole degrees, 1..180 when it comes from the dialog
-  RatioSetting ratio;      // edited only when it has been given
-};
 
 class SettingsDialog : public TDialog {
  public:
@@ -27,9 +14,9 @@ class SettingsDialog : public TDialog {
   // unless the dialog is abandoned first.
   SettingsDialog(CWnd* owner, LegendTable& legend, PlotSettings& settings);
 
-  // For whoever ends the legend while the dialog's loop runs: hides the dialog as if it were
-  // cancelled, with a colour chooser above it. Nothing is written from then on, whatever messages
-  // still come; DoModal returns when the caller has returned to the loop.
+  // To be called before the legend is destroyed while the dialog's loop runs: closes the dialog as
+  // if it were cancelled, with a colour chooser above it. Later messages write nothing; DoModal
+  // returns when the caller has returned to the loop.
   void Abandon();
   [[nodiscard]] bool IsAbandoned() const { return legend_ == nullptr; }
 

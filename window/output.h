@@ -1,4 +1,4 @@
-// The off-screen picture that a plot window shows.
+// Where the plot goes: the back buffer, the screen outside of a paint, and the beep.
 #pragma once
 
 #include <afxwin.h>
@@ -19,7 +19,7 @@ class BackBuffer {
   BackBuffer& operator=(const BackBuffer&) = delete;
 
   // Makes the buffer for `window` and fills it with the window background. For an empty client area
-  // it makes nothing, and what is drawn there goes nowhere.
+  // it makes nothing, and what is drawn there is lost.
   void Create(CWnd& window);
 
   void Fill();
@@ -39,5 +39,27 @@ class BackBuffer {
   PixelBlock pixels_;
   CRect rect_{0, 0, 0, 0};
 };
+
+// A device context of a window's client area, to draw on the screen outside of a paint. It spares
+// the child windows, so that what is drawn at once never covers the buttons.
+class ClientSurface {
+ public:
+  explicit ClientSurface(CWnd& window);
+  ~ClientSurface();
+  ClientSurface(const ClientSurface&) = delete;
+  ClientSurface& operator=(const ClientSurface&) = delete;
+
+  [[nodiscard]] CDC& Dc() { return dc_; }
+
+ private:
+  HWND window_;
+  CDC dc_;
+};
+
+// The user hears when something was refused.
+void BeepOnRefusal();
+
+// The same after an operation that answers whether the scale had to be cut to its cap.
+void BeepIfCut(bool cut);
 
 }  // namespace tavix

@@ -1,4 +1,4 @@
-#include "window/back_buffer.h"
+#include "window/output.h"
 
 #include "draw/dib/dib_section.h"
 
@@ -16,5 +16,17 @@ void BackBuffer::Create(CWnd& window) {
 }
 
 void BackBuffer::Fill() { ::FillRect(dc_.m_hDC, &rect_, ::GetSysColorBrush(COLOR_WINDOW)); }
+
+ClientSurface::ClientSurface(CWnd& window) : window_(window.m_hWnd) {
+  dc_.Attach(::GetDCEx(window_, nullptr, DCX_CACHE | DCX_CLIPCHILDREN | DCX_CLIPSIBLINGS));
+}
+
+ClientSurface::~ClientSurface() { ::ReleaseDC(window_, dc_.Detach()); }
+
+void BeepOnRefusal() { ::MessageBeep(0xFFFFFFFF); }
+
+void BeepIfCut(bool cut) {
+  if (cut) BeepOnRefusal();
+}
 
 }  // namespace tavix
