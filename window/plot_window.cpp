@@ -143,7 +143,7 @@ int CPlotWnd::Redraw() {
   if (!m_hWnd) return 0;
   buffer_.Fill();
   if (buffer_.Pixels().pixels) {
-    DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), learnt_);
+    DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), raster_cache_);
     DrawEntities(canvas);
   } else {
     GdiCanvas canvas(buffer_.Dc());

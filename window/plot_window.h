@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "draw/dib/learnt_drawing.h"
+#include "draw/dib/raster_cache.h"
 #include "draw/group_picture.h"
 #include "draw/plan_view.h"
 #include "draw/side_projection.h"
@@ -190,7 +190,7 @@ class CPlotWnd : public CWnd {
   UINT notify_id_;
   PlotLinks links_;
   BackBuffer buffer_;
-  LearntDrawing learnt_;
+  RasterCache raster_cache_;
   ButtonColumn buttons_;
   std::vector<SettingsDialog*> open_settings_;  // the innermost last; they stand on the stack
   Stylus stylus_;
