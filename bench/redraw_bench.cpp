@@ -7,7 +7,7 @@
 // 15 degrees. "whole" has all of it in view, "1 %" a hundredth of the ground. Medians of
 //
 //   floor     the same picture by the plainest sequence of drawing calls from flat arrays
-//   plain     the plan view's passes by the system's own calls
+//   plain     the plan view's passes by GDI
 //   fast      the same passes into the bits
 //   redraw    the exported call
 //
@@ -165,7 +165,7 @@ void Measure(SIZE size, Plot& plot, const RedrawScene& scene, bool whole) {
   Surface floor(size);
   Surface plain(size);
   Surface fast(size);
-  LearntDrawing learnt;
+  RasterCache cache;
   floor.SelectFloorObjects();
   int shown = 0;
   const double floor_ms = MedianMilliseconds(
@@ -178,7 +178,7 @@ void Measure(SIZE size, Plot& plot, const RedrawScene& scene, bool whole) {
   });
   const double fast_ms = MedianMilliseconds([&] {
     fast.Fill();
-    DibCanvas canvas(fast.Dc(), fast.Pixels(), learnt);
+    DibCanvas canvas(fast.Dc(), fast.Pixels(), cache);
     DrawPlanView(canvas, plot.Data());
     ::GdiFlush();
   });

@@ -66,27 +66,27 @@ void DrawArrow(CDC& dc, ScreenPoint centre, const CViewState& view) {
 bool GroupPicture::IsTooLarge(int height, int width) {
   constexpr std::size_t kMostBytes = std::size_t{1} << 28;
   if (height < 1 || width < 1) return false;
-  return static_cast<std::size_t>(height) > kMostBytes / OneBitCanvas::StrideOf(width);
+  return static_cast<std::size_t>(height) > kMostBytes / OneBitBitmap::StrideOf(width);
 }
 
 bool GroupPicture::Build(const PlotData& data, const PaperFrame& frame, int height, int width) {
   Release();
   bool cut = false;
   const CViewState view = PictureView(data.view, frame, height, width, cut);
-  auto canvas = std::make_unique<OneBitCanvas>(width, height);
-  if (!canvas->IsMade()) return cut;
+  auto bitmap = std::make_unique<OneBitBitmap>(width, height);
+  if (!bitmap->IsMade()) return cut;
   {
-    BlackInkCanvas ink(*canvas, width, height);
+    BlackInkCanvas ink(*bitmap, width, height);
     DrawPlanView(ink, {view, data.legend, data.points, data.lines, data.figures, data.draws_lines});
   }
 
   height_ = height;
   width_ = width;
-  stride_ = canvas->Stride();
-  bits_ = canvas->Bits();
-  DrawArrow(canvas->Dc(), FindFreeCorner(frame), view);
-  bits_ = canvas->Bits();
-  canvas_ = std::move(canvas);
+  stride_ = bitmap->Stride();
+  bits_ = bitmap->Bits();
+  DrawArrow(bitmap->Dc(), FindFreeCorner(frame), view);
+  bits_ = bitmap->Bits();
+  bitmap_ = std::move(bitmap);
   return cut;
 }
 
@@ -94,7 +94,7 @@ void GroupPicture::Release() {
   height_ = 0;
   width_ = 0;
   bits_ = nullptr;
-  canvas_.reset();
+  bitmap_.reset();
 }
 
 // Compatibility: the square whose one base comes from the width is scanned with that base as its

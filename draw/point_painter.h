@@ -34,7 +34,7 @@ class PointPainter {
   // Draws the mark and the label of a point with the symbol in use.
   void DrawAt(ScreenPoint at, std::int32_t number, NameView name);
 
-  // The pen to draw with in place of each symbol's own; without one, that again.
+  // From now on draws with `pen` in place of the symbols' pens; nullopt gives these back.
   void UsePen(std::optional<Pen> pen);
 
  private:

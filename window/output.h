@@ -6,7 +6,7 @@
 
 #include <optional>
 
-#include "draw/dib/pixel_block.h"
+#include "draw/dib/dib_section.h"
 
 namespace tavix {
 

@@ -26,7 +26,7 @@ int PlotDisplay::Redraw() {
   buffer_.Fill();
   plan_.Trace().ForgetSegments();
   if (buffer_.Pixels().pixels) {
-    DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), learnt_);
+    DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), raster_cache_);
     shown_->Draw(canvas);
   } else {
     GdiCanvas canvas(buffer_.Dc());

@@ -35,7 +35,7 @@ TEST_F(LinePainterOn, WithoutAnEntryBeforeOnlyCirclesAreDrawnAndNoPenIsMade) {
   EXPECT_EQ((Notes{"circle 120,90 7", "circle 120,80 8"}), canvas_.Take());
 }
 
-// A segment is clipped first; the legend is looked up for what is in view.
+// A segment is clipped first: only one in view takes its legend into use.
 TEST_F(LinePainterOn, AnUnknownNumberHasNoStyleFromASegmentOutOfView) {
   const std::int16_t wide = Add({kSolidLine, 0, 0, 0, 5, 0});
   LinePainter painter(canvas_, view_, legend_);
