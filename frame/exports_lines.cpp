@@ -2,7 +2,7 @@
 #include <tavix/tavix.h>
 
 #include "frame/slot_table.h"
-#include "store/line_key.h"
+#include "store/line_index.h"
 
 using tavix::Instance;
 using tavix::LineKeys;

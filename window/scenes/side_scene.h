@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "draw/side_projection.h"
+#include "view/side_projection.h"
 #include "window/scenes/scene.h"
 
 namespace tavix {
