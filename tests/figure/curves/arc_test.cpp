@@ -6,10 +6,14 @@
 #include <cmath>
 #include <limits>
 
+#include "figure/curves/azimuth.h"
 #include "tests/figure/curves/same_point.h"
+#include "tests/support/case_file.h"
 
 namespace tavix {
 namespace {
+
+using test::Case;
 
 constexpr double kDegree = 3.141592653589793 / 180;
 
@@ -22,66 +26,58 @@ GroundPoint OnCircle(GroundPoint centre, double r, double degrees) {
           centre.east + r * std::sin(degrees * kDegree)};
 }
 
-TEST(TwoCircleCentre, LiesOnTheRightOfTheWay) {
-  const struct {
-    GroundPoint p;
-    double r1;
-    GroundPoint q;
-    double r2;
-    GroundPoint centre;
-  } rows[] = {{{0, 0}, 5, {6, 0}, 5, {3, 4}},
-              {{6, 0}, 5, {0, 0}, 5, {3, -4}},
-              {{0, 0}, 5, {0, 6}, 5, {-4, 3}},
-              {{0, 0}, -5, {6, 0}, 5, {3, 4}},  // only the magnitudes count
-              {{0, 0}, -5, {6, 0}, -5, {3, 4}},
-              {{0, 0}, 3, {5, 0}, 4, {1.8, 2.4}},
-              {{0, 0}, 4, {5, 0}, 3, {3.2, 2.4}},
-              {{100, 200}, 13, {110, 200}, 13, {105, 212}},
-              {{0, 0}, 5, {10, 0}, 5, {5, 0}}};  // they touch
-  for (const auto& row : rows) {
-    const auto centre = TwoCircleCentre(row.p, row.r1, row.q, row.r2);
-    ASSERT_TRUE(centre) << row.q.north << ' ' << row.q.east;
-    EXPECT_NEAR(row.centre.north, centre->north, 1e-12);
-    EXPECT_NEAR(row.centre.east, centre->east, 1e-12);
-  }
+void InverseCase(const Case& given) {
+  const GroundPoint from = given.Ground("from");
+  const GroundPoint to = given.Ground("to");
+  const Inverse inverse = InverseOf(from, to);
+  given.Expect({inverse.distance, inverse.azimuth / kDegree});
+  given.ExpectBack({from.north + inverse.distance * std::cos(inverse.azimuth),
+                    from.east + inverse.distance * std::sin(inverse.azimuth)},
+                   {to.north, to.east});
 }
 
-TEST(TwoCircleCentre, FailsWherePointsCoincideOrLieTooFarApart) {
-  const struct {
-    GroundPoint q;
-    double r1;
-    double r2;
-    bool found;
-  } rows[] = {{{0, 0}, 5, 5, false},     {{9e-8, 9e-8}, 5, 5, false}, {{9e-8, -9e-8}, 5, 5, false},
-              {{1.1e-7, 0}, 5, 5, true},  // one part above the tolerance is enough
-              {{0, 1.1e-7}, 5, 5, true}, {{10.001, 0}, 5, 5, false},  {{9.999, 0}, 5, 5, true},
-              {{10, 0}, 0, 0, false},    {{0, 8}, 3, -4, false}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(row.found, TwoCircleCentre({0, 0}, row.r1, row.q, row.r2).has_value())
-        << row.q.north << ' ' << row.q.east;
-  }
+void CentreCase(const Case& given) {
+  const GroundPoint p = given.Ground("p");
+  const GroundPoint q = given.Ground("q");
+  const double r1 = given.Number("r1");
+  const double r2 = given.Number("r2");
+  const auto centre = TwoCircleCentre(p, r1, q, r2);
+  if (!centre) return given.Expect({}, "none");
+  given.Expect({centre->north, centre->east});
+  given.ExpectBack({DistanceOf(*centre, p), DistanceOf(*centre, q)},
+                   {std::fabs(r1), std::fabs(r2)});
 }
 
-TEST(BuildArc, HasAPointEveryFiveDegreesBetweenItsEnds) {
-  const GroundPoint centre{1000, 2000};
-  const struct {
-    double from;
-    double to;
-    std::size_t points;
-  } rows[] = {{10, 14, 2},      {10, 14.9, 2},   {10, 15.1, 3},  {0.5, 90, 19},
-              {200, 300.5, 22}, {350, 372.5, 6}, {270, 449, 37}, {170, 190.5, 6}};
-  for (const auto& row : rows) {
-    const GroundPoint start = OnCircle(centre, 80, row.from);
-    const GroundPoint end = OnCircle(centre, 80, row.to);
-    const Polyline arc = BuildArc(start, end, 80);
-    ASSERT_EQ(row.points, arc.size()) << row.from << " to " << row.to;
-    EXPECT_EQ(arc.front(), start);
-    EXPECT_EQ(arc.back(), end);
-    for (std::size_t i = 1; i + 1 < arc.size(); ++i) {
-      const GroundPoint expected = OnCircle(centre, 80, row.from + 5 * static_cast<double>(i));
-      EXPECT_NEAR(0, DistanceOf(arc[i], expected), 1e-9) << row.from << " point " << i;
-    }
+void ArcCase(const Case& given) {
+  const GroundPoint centre = given.Ground("centre");
+  const double radius = given.Number("radius");
+  const double from = given.Number("from");
+  const GroundPoint start = OnCircle(centre, radius, from);
+  const GroundPoint end = OnCircle(centre, radius, given.Number("to"));
+  const Polyline arc = BuildArc(start, end, radius);
+  ASSERT_GE(arc.size(), 2U);
+  EXPECT_EQ(start, arc.front());
+  EXPECT_EQ(end, arc.back());
+  for (std::size_t i = 1; i + 1 < arc.size(); ++i) {
+    const GroundPoint expected = OnCircle(centre, radius, from + 5 * static_cast<double>(i));
+    EXPECT_NEAR(0, DistanceOf(arc[i], expected), given.Tolerance()) << "point " << i;
   }
+  given.Expect({static_cast<double>(arc.size())});
+  const auto back = TwoCircleCentre(start, radius, end, radius);
+  ASSERT_TRUE(back);
+  given.ExpectBack({back->north, back->east}, {centre.north, centre.east});
+}
+
+void ChordCase(const Case& given) {
+  const Polyline arc = BuildArc(given.Ground("start"), given.Ground("end"), given.Number("radius"));
+  if (arc.empty()) return given.Expect({}, "none");
+  given.Expect({static_cast<double>(arc.size())});
+}
+
+TEST(Arc, KeepsToItsCases) {
+  test::RunCaseFile(
+      "arc.txt",
+      {{"inverse", InverseCase}, {"centre", CentreCase}, {"arc", ArcCase}, {"chord", ChordCase}});
 }
 
 TEST(BuildArc, ANegativeRadiusSwapsTheEnds) {
@@ -113,15 +109,6 @@ TEST(BuildArc, AHalfCircleIsStillAnArc) {
   ASSERT_GE(arc.size(), 37U);  // 35 or 36 points between, as the last bit of the angles has it
   ASSERT_LE(arc.size(), 38U);
   for (const GroundPoint p : arc) EXPECT_NEAR(50, DistanceOf(p, {50, 0}), 1e-9);
-}
-
-TEST(BuildArc, IsEmptyWhereThereIsNone) {
-  const struct {
-    GroundPoint end;
-    double r;
-  } rows[] = {{{100.001, 0}, 50}, {{100.001, 0}, -50}, {{10, 10}, 0},
-              {{0, 0}, 50},       {{0, 0}, -50},       {{9e-8, 9e-8}, 50}};
-  for (const auto& row : rows) EXPECT_TRUE(BuildArc({0, 0}, row.end, row.r).empty()) << row.r;
 }
 
 TEST(BuildArc, NumbersOutOfAllProportionEnd) {

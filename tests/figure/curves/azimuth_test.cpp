@@ -62,24 +62,6 @@ TEST(Azimuth, TurnsOnceAroundWithoutAJump) {
   }
 }
 
-TEST(InverseOf, GivesDistanceAndAzimuth) {
-  const struct {
-    GroundPoint from;
-    GroundPoint to;
-    double distance;
-    double azimuth;
-  } rows[] = {{{0, 0}, {3, 4}, 5, std::atan(4.0 / 3)},
-              {{10, 20}, {7, 16}, 5, std::atan(4.0 / 3) + kPi},
-              {{10, 20}, {10, 25}, 5, kPi / 2},
-              {{10, 25}, {10, 20}, 5, 3 * kPi / 2},
-              {{-5, 0}, {5, 0}, 10, 0}};
-  for (const auto& row : rows) {
-    const Inverse inverse = InverseOf(row.from, row.to);
-    EXPECT_DOUBLE_EQ(row.distance, inverse.distance);
-    EXPECT_DOUBLE_EQ(row.azimuth, inverse.azimuth);
-  }
-}
-
 TEST(InverseOf, PointsThatCoincideHaveNoAzimuth) {
   const struct {
     GroundPoint to;

@@ -7,9 +7,12 @@
 
 #include "tests/figure/curves/same_point.h"
 #include "tests/figure/curves/true_curve.h"
+#include "tests/support/case_file.h"
 
 namespace tavix {
 namespace {
+
+using test::Case;
 
 constexpr double kDegree = 0.017453292519943295;
 
@@ -17,85 +20,64 @@ double DistanceOf(GroundPoint a, GroundPoint b) {
   return std::hypot(a.north - b.north, a.east - b.east);
 }
 
-TEST(ClothoidPoint, BeginsAtItsOrigin) { EXPECT_EQ((GroundPoint{0, 0}), ClothoidPoint(0, 100)); }
+void PointCase(const Case& given) {
+  const GroundPoint point = ClothoidPoint(given.Number("tau"), given.Number("A"));
+  given.Expect({point.north, point.east});
+}
 
-TEST(ClothoidPoint, FollowsTheIntegral) {
-  const struct {
-    double tau;
-    double tolerance;
-  } rows[] = {{1e-6, 1e-7}, {0.01, 1e-6}, {0.1, 1e-6}, {0.2, 1e-5}, {0.5, 1e-5}, {0.9, 1e-3}};
-  for (const auto& row : rows) {
-    const GroundPoint point = ClothoidPoint(row.tau, 100);
-    EXPECT_NEAR(0, DistanceOf(point, test::IntegratedClothoid(row.tau, 100)), row.tolerance)
-        << row.tau;
+struct Built {
+  GroundPoint start;
+  GroundPoint end;
+  double a;
+  double r1;
+  double r2;
+  Polyline curve;
+};
+
+Built BuildCase(const Case& given) {
+  Built built{given.Ground("start"), given.Ground("end"), given.Number("A"),
+              given.Number("R1"),    given.Number("R2"),  {}};
+  built.curve = BuildClothoid(built.start, built.end, built.r1, built.a, built.r2);
+  return built;
+}
+
+void ExpectTheOtherWayRound(const Case& given, const Built& built) {
+  if (!given.HasBack()) return;
+  const Polyline other = BuildClothoid(built.end, built.start, -built.r2, built.a, -built.r1);
+  ASSERT_EQ(built.curve.size(), other.size());
+  for (std::size_t i = 0; i < other.size(); ++i) {
+    given.ExpectBack({other[i].north, other[i].east}, {built.curve[i].north, built.curve[i].east});
   }
 }
 
-// Four rounds at most, and none after the first whose term of X is below 1e-5.
-TEST(ClothoidPoint, SumsAsManyTermsAsTheirSizeAsksFor) {
-  const struct {
-    double tau;
-    int rounds;
-  } rows[] = {{0.009, 2}, {0.0101, 3}, {0.2, 3}, {0.2155, 3}, {0.216, 4}, {1, 4}, {3, 4}};
-  for (const auto& row : rows) {
-    const double t2 = row.tau * row.tau;
-    const double x_terms[] = {1, -t2 / 10, t2 * t2 / 216, -t2 * t2 * t2 / 9360};
-    const double y_terms[] = {1.0 / 3, -t2 / 42, t2 * t2 / 1320, -t2 * t2 * t2 / 75600};
-    double x = 0;
-    double y = 0;
-    for (int i = 0; i < row.rounds; ++i) {
-      x += x_terms[i];
-      y += y_terms[i];
-    }
-    const double length = std::sqrt(2 * row.tau);
-    const GroundPoint point = ClothoidPoint(row.tau, 1);
-    EXPECT_NEAR(point.north, length * x, 1e-15 * length) << row.tau;
-    EXPECT_NEAR(point.east, length * row.tau * y, 1e-15 * length) << row.tau;
+void CurveCase(const Case& given) {
+  const Built built = BuildCase(given);
+  given.Expect({static_cast<double>(built.curve.size())});
+  ASSERT_FALSE(built.curve.empty());
+  EXPECT_EQ(built.start, built.curve.front());
+  EXPECT_EQ(built.end, built.curve.back());
+  for (std::size_t i = 1; i + 1 < built.curve.size(); ++i) {
+    const GroundPoint local = test::IntegratedClothoid(kDegree * static_cast<double>(i), built.a);
+    const GroundPoint expected{built.start.north + local.north,
+                               built.start.east + (built.r2 < 0 ? -local.east : local.east)};
+    EXPECT_NEAR(0, DistanceOf(built.curve[i], expected), given.Tolerance()) << "point " << i;
   }
+  ExpectTheOtherWayRound(given, built);
 }
 
-// tau is A^2 / 2 R^2; every whole degree below it gives a point.
-TEST(BuildClothoid, HasAPointEveryDegreeOfItsTangent) {
-  const double a = 150;
-  for (const double r : {200.0, -200.0, 500.0, -3000.0}) {
-    const double tau = a * a / (2 * r * r);
-    const GroundPoint local = test::IntegratedClothoid(tau, a);
-    const GroundPoint end{1000 + local.north, 2000 + (r < 0 ? -local.east : local.east)};
-    const Polyline curve = BuildClothoid({1000, 2000}, end, 0, a, r);
-    ASSERT_EQ(curve.size(), 2 + static_cast<std::size_t>(tau / kDegree)) << r;
-    EXPECT_EQ((GroundPoint{1000, 2000}), curve.front());
-    EXPECT_EQ(curve.back(), end);
-    for (std::size_t i = 1; i + 1 < curve.size(); ++i) {
-      const GroundPoint expected = test::IntegratedClothoid(kDegree * static_cast<double>(i), a);
-      const GroundPoint on_map{1000 + expected.north,
-                               2000 + (r < 0 ? -expected.east : expected.east)};
-      EXPECT_NEAR(0, DistanceOf(curve[i], on_map), 1e-4) << r << " point " << i;
-    }
-  }
+void ClothoidCase(const Case& given) {
+  const Built built = BuildCase(given);
+  ASSERT_FALSE(built.curve.empty());
+  const bool reversed = built.curve.front() == built.end;
+  given.Expect({static_cast<double>(built.curve.size())}, reversed ? "reversed" : "");
+  EXPECT_EQ(reversed ? built.end : built.start, built.curve.front());
+  EXPECT_EQ(reversed ? built.start : built.end, built.curve.back());
+  ExpectTheOtherWayRound(given, built);
 }
 
-TEST(BuildClothoid, IsBuiltFromItsStraightEnd) {
-  const GroundPoint start{0, 0};
-  const GroundPoint end{100, 8};
-  EXPECT_EQ(BuildClothoid(start, end, 0, 150, 200).front(), start);
-  EXPECT_EQ(BuildClothoid(start, end, 200, 150, 0).front(), end);
-  EXPECT_EQ(BuildClothoid(start, end, 200, 150, 0), BuildClothoid(end, start, 0, 150, -200));
-  EXPECT_EQ(BuildClothoid(start, end, -200, 150, 0), BuildClothoid(end, start, 0, 150, 200));
-  // A radius whose product with the other is below the tolerance is a straight end, too.
-  EXPECT_EQ(BuildClothoid(start, end, 200, 150, 1e-10).front(), end);
-  EXPECT_EQ(BuildClothoid(start, end, 1e-10, 150, 200).front(), start);
-}
-
-TEST(BuildClothoid, BetweenTwoRadiiTheSecondMustBeTheSmaller) {
-  const GroundPoint start{0, 0};
-  const GroundPoint end{35, 5};
-  const Polyline ends{start, end};
-  EXPECT_EQ(BuildClothoid(start, end, 140, 200, 160), ends);
-  EXPECT_EQ(BuildClothoid(start, end, -140, 200, -160), ends);
-  EXPECT_EQ(BuildClothoid(start, end, 150, 200, 150), ends);
-  const double turn = 200 * 200 / 2.0 * (1 / (140.0 * 140) - 1 / (160.0 * 160));
-  EXPECT_EQ(BuildClothoid(start, end, 160, 200, 140).size(),
-            2 + static_cast<std::size_t>(turn / kDegree));
+TEST(Clothoid, KeepsToItsCases) {
+  test::RunCaseFile("clothoid.txt",
+                    {{"point", PointCase}, {"curve", CurveCase}, {"clothoid", ClothoidCase}});
 }
 
 TEST(BuildClothoid, KeepsToTheSideOfItsSecondRadius) {
@@ -118,13 +100,6 @@ TEST(BuildClothoid, TrustsItsEnds) {
   EXPECT_EQ((GroundPoint{1, 2}), curve.front());
   EXPECT_EQ(curve.back(), far_end);
   EXPECT_LT(DistanceOf(curve[curve.size() - 2], curve.front()), 113);
-}
-
-TEST(BuildClothoid, TwoStraightEndsAreAStraightLine) {
-  const GroundPoint start{3, 4};
-  const GroundPoint end{50, 60};
-  EXPECT_EQ((Polyline{end, start}), BuildClothoid(start, end, 0, 150, 0));
-  EXPECT_EQ((Polyline{start, end}), BuildClothoid(start, end, 0, 0, 100));  // A of 0: no turn
 }
 
 TEST(BuildClothoid, NumbersOutOfAllProportionEnd) {
