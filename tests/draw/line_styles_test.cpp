@@ -39,7 +39,7 @@ constexpr ViewRow kViews[] = {
     {90.0, 0, 3, 1},   {70.0, 0, 1, 2},   {52.3, 211, 5, 2}, {0.09, 301, 1, 1},
 };
 
-// Widths of two and three pixels are drawn as polygons by the system: worth a row each.
+// Widths of two and three pixels are drawn as polygons by GDI: worth a row each.
 constexpr LineLegend kStyles[] = {
     {101, 0, 0, 0, 1, RGB(255, 0, 0)},   {102, 4, 2, 0, 1, RGB(0, 0, 255)},
     {102, 11, 5, 0, 2, RGB(0, 0, 255)},  {103, 9, 9, 9, 1, RGB(255, 0, 0)},
@@ -96,21 +96,28 @@ class LineStyles : public LinePlotTest {
       }
     }
   }
+
+  // Shows nothing but these lines, in this style and view.
+  template <std::size_t count>
+  void ExpectLaid(const ViewRow& row, const LineLegend& look, const PixelLine (&lines)[count],
+                  double shrink = 1.0) {
+    Tavix_DrwClr();
+    next_key_ = 1000;
+    ResetView();
+    const RawView view = SetView(row);
+    const Picture arrow = Redrawn();
+    const RawCanvas canvas(Window());
+    Both(canvas, view, look, lines, shrink);
+    EXPECT_TRUE(SamePicture(UnderArrow(canvas.Take(), arrow), Redrawn()))
+        << "kind " << look.kind << " width " << look.width << " radius " << row.radius << " angle "
+        << row.angle << " ratio " << view.ratio;
+  }
 };
 
 TEST_F(LineStyles, AreLaidInEveryDirectionAndView) {
   for (const ViewRow& row : kViews) {
     for (const LineLegend& look : kStyles) {
-      Tavix_DrwClr();
-      next_key_ = 1000;
-      ResetView();
-      const RawView view = SetView(row);
-      const Picture arrow = Redrawn();
-      const RawCanvas canvas(Window());
-      Both(canvas, view, look, kInside, look.kind == 101 ? kInEveryView : 1.0);
-      EXPECT_TRUE(SamePicture(UnderArrow(canvas.Take(), arrow), Redrawn()))
-          << "kind " << look.kind << " width " << look.width << " radius " << row.radius
-          << " angle " << row.angle << " ratio " << view.ratio;
+      ExpectLaid(row, look, kInside, look.kind == 101 ? kInEveryView : 1.0);
     }
   }
 }
@@ -119,17 +126,7 @@ TEST_F(LineStyles, AreLaidInEveryDirectionAndView) {
 TEST_F(LineStyles, KeepTheirDashesWhereTheLineLeavesTheWindow) {
   for (const ViewRow& row : kViews) {
     for (const LineLegend& look : kStyles) {
-      if (look.kind == 101) continue;
-      Tavix_DrwClr();
-      next_key_ = 1000;
-      ResetView();
-      const RawView view = SetView(row);
-      const Picture arrow = Redrawn();
-      const RawCanvas canvas(Window());
-      Both(canvas, view, look, kCrossing);
-      EXPECT_TRUE(SamePicture(UnderArrow(canvas.Take(), arrow), Redrawn()))
-          << "kind " << look.kind << " radius " << row.radius << " angle " << row.angle << " ratio "
-          << view.ratio;
+      if (look.kind != 101) ExpectLaid(row, look, kCrossing);
     }
   }
 }

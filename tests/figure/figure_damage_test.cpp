@@ -58,7 +58,7 @@ class DamagedFigures : public PlotTest {
     }
   }
 
-  // The view of the figures, after whatever a fit to damaged data made of it.
+  // The view of the figures, after a fit to damaged data.
   static Picture FitAndShow() {
     Tavix_Drw(0);
     Tavix_Zom(-45, -60, 45, 60);
@@ -70,42 +70,36 @@ class DamagedFigures : public PlotTest {
     return bytes;
   }
 
+  // Changes each byte of a file in many ways; all figures but the one it belongs to stay.
+  void ExpectOneHarmedByEachByte(const std::filesystem::path& file, const std::string& bytes,
+                                 std::size_t bytes_of_a_figure) const {
+    for (std::size_t place = 0; place < bytes.size(); ++place) {
+      for (const int change : {0x00, 0x01, 0x7F, 0x80, 0xFF}) {
+        SCOPED_TRACE(testing::Message() << "byte " << place << " is " << change);
+        WriteBytes(file, With(bytes, place, static_cast<char>(change)));
+        const Picture shown = FitAndShow();
+        for (std::size_t figure = 0; figure < 3; ++figure) {
+          if (figure == place / bytes_of_a_figure) continue;
+          ASSERT_NO_FATAL_FAILURE(ExpectDrawn(shown, figure));
+        }
+        EXPECT_EQ(0, Tavix_DelFig(12345));
+      }
+    }
+  }
+
   std::vector<Picture> alone_;
   std::string index_;
   std::string points_;
 };
 
-constexpr int kChanges[] = {0x00, 0x01, 0x7F, 0x80, 0xFF};
-
 TEST_F(DamagedFigures, AnIndexByteHarmsNoOtherFigure) {
   ASSERT_NO_FATAL_FAILURE(MakeFigures());
-  for (std::size_t place = 0; place < index_.size(); ++place) {
-    for (const int change : kChanges) {
-      SCOPED_TRACE(testing::Message() << "byte " << place << " is " << change);
-      WriteBytes(IndexFile(), With(index_, place, static_cast<char>(change)));
-      const Picture shown = FitAndShow();
-      for (std::size_t figure = 0; figure < 3; ++figure) {
-        if (figure == place / kRecord) continue;
-        ASSERT_NO_FATAL_FAILURE(ExpectDrawn(shown, figure));
-      }
-      EXPECT_EQ(0, Tavix_DelFig(12345));
-    }
-  }
+  ExpectOneHarmedByEachByte(IndexFile(), index_, kRecord);
 }
 
 TEST_F(DamagedFigures, ACoordinateByteHarmsNoOtherFigure) {
   ASSERT_NO_FATAL_FAILURE(MakeFigures());
-  for (std::size_t place = 0; place < points_.size(); ++place) {
-    for (const int change : kChanges) {
-      SCOPED_TRACE(testing::Message() << "byte " << place << " is " << change);
-      WriteBytes(CoordinateFile(), With(points_, place, static_cast<char>(change)));
-      const Picture shown = FitAndShow();
-      for (std::size_t figure = 0; figure < 3; ++figure) {
-        if (figure == place / kFigurePoints) continue;
-        ASSERT_NO_FATAL_FAILURE(ExpectDrawn(shown, figure));
-      }
-    }
-  }
+  ExpectOneHarmedByEachByte(CoordinateFile(), points_, kFigurePoints);
 }
 
 TEST_F(DamagedFigures, OfATruncatedIndexTheWholeRecordsCount) {

@@ -1,5 +1,5 @@
-// A program with one instance that does what it is told: a command a line on its input, and for
-// each a line with the result on its output. It ends with its input.
+// A program with one instance that obeys commands: one on each line of its input, and for each a
+// line with the result on its output. It ends with its input.
 #include <afx.h>
 #include <tavix/tavix.h>
 

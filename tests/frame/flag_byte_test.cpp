@@ -60,7 +60,7 @@ TEST_F(FlagByte, ShowsAndHidesThePaperFrame) {
   for (const auto& [flag, on] : kFlags) {
     ASSERT_EQ(0, Tavix_WakDsp(on ? 0 : 1));
     EXPECT_EQ(0, CallWithWholeFlag(&Tavix_WakDsp, flag)) << flag;
-    EXPECT_EQ(ShowsMoreThan(plain), on) << flag;
+    EXPECT_EQ(on, ShowsMoreThan(plain)) << flag;
   }
 }
 
@@ -69,7 +69,7 @@ TEST_F(FlagByte, ShowsAndHidesTheScaleBar) {
   for (const auto& [flag, on] : kFlags) {
     ASSERT_EQ(0, Tavix_SclBarDsp(on ? 0 : 1));
     EXPECT_EQ(0, CallWithWholeFlag(&Tavix_SclBarDsp, flag)) << flag;
-    EXPECT_EQ(ShowsMoreThan(plain), on) << flag;
+    EXPECT_EQ(on, ShowsMoreThan(plain)) << flag;
   }
 }
 

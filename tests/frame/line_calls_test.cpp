@@ -12,10 +12,7 @@ namespace {
 
 using Lines = std::vector<LineRecord>;
 
-class LineCalls : public LibraryTest {
- protected:
-  void SetUp() override { ASSERT_EQ(0, Tavix_Crt()); }
-};
+using LineCalls = InstanceTest;
 
 TEST_F(LineCalls, AreRefusedWithoutAnInstance) {
   Tavix_Del();

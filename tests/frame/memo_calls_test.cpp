@@ -9,10 +9,8 @@ namespace {
 
 using Memos = std::vector<MemoRecord>;
 
-class MemoCalls : public LibraryTest {
+class MemoCalls : public InstanceTest {
  protected:
-  void SetUp() override { ASSERT_EQ(0, Tavix_Crt()); }
-
   static std::wstring Memo(int key) {
     CString memo = L"(untouched)";
     EXPECT_EQ(0, Tavix_GetPntMem(key, &memo));

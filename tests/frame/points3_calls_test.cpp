@@ -6,10 +6,8 @@
 namespace tavix::test {
 namespace {
 
-class Points3Calls : public LibraryTest {
+class Points3Calls : public InstanceTest {
  protected:
-  void SetUp() override { ASSERT_EQ(0, Tavix_Crt()); }
-
   static void ExpectPoint(int key, int number, const wchar_t* name, double x, double y, double z) {
     int got_number = 0;
     CString got_name;
@@ -103,7 +101,7 @@ TEST_F(Points3Calls, AreForgottenByClearingTheDrawing) {
   ExpectUnknown(1);
 }
 
-// None looks at the flag: a change of a 2-D point would be refused here, for want of a window.
+// None reads the flag: a change of a 2-D point would be refused here, for want of a window.
 TEST_F(Points3Calls, NeverRedraw) {
   Tavix_DrwFlg(1);
   EXPECT_EQ(0, Tavix_EntPnt3(1, 1, L"A", 1.0, 2.0, 3.0));

@@ -1,4 +1,5 @@
-// Auto-redraw while there is no window to redraw: the change stays, and only some calls tell.
+// Auto-redraw while there is no window to redraw: the change stays, and only some calls
+// return an error.
 #include <tavix/tavix.h>
 
 #include "tests/support/library_test.h"

@@ -1,4 +1,5 @@
-// Calls on an instance that does not exist: each is refused and writes nothing.
+// Calls on an instance that does not exist. Hosts should not make most of them; each is refused and
+// writes nothing, and none crashes.
 #include <tavix/tavix.h>
 
 #include "tests/support/library_test.h"
@@ -7,6 +8,48 @@ namespace tavix::test {
 namespace {
 
 using WithoutInstance = LibraryTest;
+
+TEST_F(WithoutInstance, RefusesWhatNeedsAStore) {
+  int a = 11, b = 12, c = 13, d = 14, e = 15, f = 16;
+  short number = 17;
+  double x = 1.5, y = 2.5;
+  CString name = L"unchanged";
+  EXPECT_EQ(-1, Tavix_EntPnt(1, 1, L"A", 0.0, 0.0));
+  EXPECT_EQ(-1, Tavix_ChgPntHid(1, 2));
+  EXPECT_EQ(-1, Tavix_ChgPntNoNam(1, 1, L"A"));
+  EXPECT_EQ(-1, Tavix_ChgPntCrd(1, 0.0, 0.0));
+  EXPECT_EQ(-1, Tavix_GetPntNoNam(1, &a, &name));
+  EXPECT_EQ(-1, Tavix_GetPntCrd(1, &x, &y));
+  EXPECT_EQ(-1, Tavix_DelEntPnt(1));
+  EXPECT_EQ(-1, Tavix_AddPntHan(1, 1, 0, 1, 1, 1, &number));
+  EXPECT_EQ(-1, Tavix_ChgPntHan(1, 1, 1, 0, 1, 1, 1));
+  EXPECT_EQ(-1, Tavix_GetPntHan(1, &a, &b, &c, &d, &e, &f));
+  EXPECT_EQ(-1, Tavix_PntHanTtl(1, L"title"));
+  EXPECT_EQ(-1, Tavix_ChgLinHan(101, 101, 0, 0, 0, 1, 0));
+  EXPECT_EQ(-1, Tavix_SetAng(0));
+  EXPECT_EQ(-1, Tavix_GetAng(&a));
+  EXPECT_EQ(-1, Tavix_DrwClr());
+  EXPECT_EQ(11, a);
+  EXPECT_EQ(17, number);
+  EXPECT_EQ(1.5, x);
+  EXPECT_STREQ(L"unchanged", name);
+}
+
+TEST_F(WithoutInstance, HasNoWindowAndGetsNone) {
+  EXPECT_EQ(nullptr, Tavix_Wnd());
+  EXPECT_EQ(-1, Tavix_LnkRct(nullptr, 0, 0, 100, 100, 1));
+  EXPECT_EQ(-1, Tavix_Lnk(nullptr, 1, 1));
+  EXPECT_EQ(nullptr, Tavix_Wnd());
+}
+
+TEST_F(WithoutInstance, TakesFlagsAndSelectionsWithoutACrash) {
+  EXPECT_EQ(0, Tavix_SetBtn(0));
+  EXPECT_EQ(0, Tavix_DrwFlg(1));
+  EXPECT_EQ(0, Tavix_Dsp3D(1));
+  EXPECT_EQ(0, Tavix_SelPntHan(3));
+  EXPECT_EQ(0, Tavix_SelLinHan(103));
+  EXPECT_EQ(0, Tavix_Del());
+}
 
 TEST_F(WithoutInstance, AWindowIsNeitherShownNorDrawn) {
   EXPECT_EQ(-1, Tavix_Dsp(1));

@@ -83,5 +83,40 @@ TEST_F(WithoutWindow, WhatIsInViewIsToldAllTheSame) {
   EXPECT_EQ(0, visible);
 }
 
+TEST_F(WithoutWindow, RefusesWhatNeedsAWindow) {
+  ASSERT_EQ(0, Tavix_Crt());
+  EXPECT_EQ(nullptr, Tavix_Wnd());
+  EXPECT_EQ(-1, Tavix_Dsp(1));
+  EXPECT_EQ(-1, Tavix_Dsp(0));
+  EXPECT_EQ(-1, Tavix_Drw(0));
+  EXPECT_EQ(-1, Tavix_Drw(1));
+  EXPECT_EQ(-1, Tavix_SetTatYok(2, 1));
+  int tate = 11;
+  int yoko = 12;
+  EXPECT_EQ(-1, Tavix_GetTatYok(&tate, &yoko));
+  EXPECT_EQ(11, tate);
+  EXPECT_EQ(12, yoko);
+}
+
+TEST_F(WithoutWindow, LeavesTheStoresUsable) {
+  ASSERT_EQ(0, Tavix_Crt());
+  EXPECT_EQ(0, Tavix_DrwFlg(1));
+  EXPECT_EQ(0, Tavix_EntPnt(1, 1, L"A", 1.0, 2.0));  // drawn at once, were there a window
+  EXPECT_EQ(0, Tavix_SetBtn(0));
+  EXPECT_EQ(0, Tavix_Dsp3D(1));
+  EXPECT_EQ(0, Tavix_DelEntPnt(1));
+}
+
+TEST_F(WithoutWindow, SwitchingTheSideViewTurnsTheViewBack) {
+  ASSERT_EQ(0, Tavix_Crt());
+  for (const BYTE on : {BYTE{1}, BYTE{0}}) {
+    ASSERT_EQ(0, Tavix_SetAng(90));
+    EXPECT_EQ(0, Tavix_Dsp3D(on));
+    int angle = -1;
+    EXPECT_EQ(0, Tavix_GetAng(&angle));
+    EXPECT_EQ(0, angle);
+  }
+}
+
 }  // namespace
 }  // namespace tavix::test

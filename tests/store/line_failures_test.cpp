@@ -3,43 +3,20 @@
 
 #include <algorithm>
 
-#include "platform/framework/database/device_store.h"
-#include "platform/objectstore/failing_store.h"
-#include "platform/objectstore/memory_store.h"
+#include "tests/store/failing_databases_test.h"
 #include "tests/support/device_records.h"
-#include "tests/support/library_test.h"
 
 namespace tavix::test {
 namespace {
 
-using Operation = FailingStore::Operation;
-
-class LineFailures : public LibraryTest {
+class LineFailures : public FailingDatabasesTest {
  protected:
-  LineFailures() : before_(SetDeviceStore(&store_)) {}
-  ~LineFailures() override { SetDeviceStore(before_); }
-
   void SetUp() override {
-    ASSERT_EQ(0, Tavix_Crt());
+    FailingDatabasesTest::SetUp();
     Tavix_SelLinHan(101);
     ASSERT_EQ(0, Tavix_EntLin(1, 2));
     ASSERT_EQ(0, Tavix_EntLin(1, 3));
   }
-
-  void TearDown() override {
-    for (const Operation each :
-         {Operation::kCreate, Operation::kDelete, Operation::kFind, Operation::kOpen,
-          Operation::kSeek, Operation::kRead, Operation::kWrite, Operation::kDeleteRecord}) {
-      store_.Pass(each);
-    }
-    LibraryTest::TearDown();
-  }
-
-  MemoryStore memory_;
-  FailingStore store_{memory_};
-
- private:
-  ObjectStore* before_;
 };
 
 TEST_F(LineFailures, ARecordThatCannotBeAdded) {

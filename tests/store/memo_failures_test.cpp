@@ -1,34 +1,17 @@
 // Memo calls on a database that fails.
 #include <tavix/tavix.h>
 
-#include "platform/framework/database/device_store.h"
-#include "platform/objectstore/failing_store.h"
-#include "platform/objectstore/memory_store.h"
+#include "tests/store/failing_databases_test.h"
 #include "tests/support/device_records.h"
-#include "tests/support/library_test.h"
 
 namespace tavix::test {
 namespace {
 
-using Operation = FailingStore::Operation;
-
-class MemoFailures : public LibraryTest {
+class MemoFailures : public FailingDatabasesTest {
  protected:
-  MemoFailures() : before_(SetDeviceStore(&store_)) {}
-  ~MemoFailures() override { SetDeviceStore(before_); }
-
   void SetUp() override {
-    ASSERT_EQ(0, Tavix_Crt());
+    FailingDatabasesTest::SetUp();
     ASSERT_EQ(0, Tavix_EntPntMem(1, L"memo"));
-  }
-
-  void TearDown() override {
-    for (const Operation each :
-         {Operation::kCreate, Operation::kDelete, Operation::kOpen, Operation::kSeek,
-          Operation::kRead, Operation::kWrite, Operation::kDeleteRecord}) {
-      store_.Pass(each);
-    }
-    LibraryTest::TearDown();
   }
 
   static std::wstring Memo(int key) {
@@ -36,12 +19,6 @@ class MemoFailures : public LibraryTest {
     EXPECT_EQ(0, Tavix_GetPntMem(key, &memo)) << "whatever happens";
     return memo.GetString();
   }
-
-  MemoryStore memory_;
-  FailingStore store_{memory_};
-
- private:
-  ObjectStore* before_;
 };
 
 TEST_F(MemoFailures, AMemoThatCannotBeAdded) {

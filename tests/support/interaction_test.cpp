@@ -5,20 +5,9 @@
 #include <cmath>
 
 #include "tests/support/message_pump.h"
-#include "tests/support/raw_canvas.h"
+#include "tests/support/picture_compare.h"
 
 namespace tavix::test {
-namespace {
-
-const PointLegend kCross{4, 9, 0, 0, 1, RGB(255, 0, 0)};
-
-void PostAt(UINT message, WPARAM keys, POINT at) {
-  const HWND window = Tavix_Wnd()->m_hWnd;
-  ASSERT_TRUE(::PostMessageW(window, message, keys, MAKELPARAM(at.x, at.y)));
-  DrainMessages();
-}
-
-}  // namespace
 
 void InteractionTest::SetUp() {
   MakePlot(240, 180);
@@ -33,45 +22,19 @@ void InteractionTest::MakePlotWithButtons(int width, int height) {
   ASSERT_TRUE(PumpUntil([] { return !AwaitsPaint(); }));
 }
 
-void InteractionTest::PutDown(POINT at) { PostAt(WM_LBUTTONDOWN, MK_LBUTTON, at); }
-void InteractionTest::MoveTo(POINT at) { PostAt(WM_MOUSEMOVE, MK_LBUTTON, at); }
-void InteractionTest::Lift(POINT at) { PostAt(WM_LBUTTONUP, 0, at); }
-
-void InteractionTest::Tap(POINT at) {
-  PutDown(at);
-  Lift(at);
-}
-
-void InteractionTest::Drag(POINT from, POINT to) {
-  PutDown(from);
-  MoveTo(to);
-  Lift(to);
-}
-
-void InteractionTest::Press(int button) {
-  ASSERT_TRUE(::PostMessageW(Window(), WM_COMMAND, static_cast<WPARAM>(button),
-                             reinterpret_cast<LPARAM>(::GetDlgItem(Window(), button))));
-  DrainMessages();
-}
-
-void InteractionTest::PressKey(int key, HWND focus) {
-  ASSERT_TRUE(::PostMessageW(focus, WM_KEYDOWN, static_cast<WPARAM>(key), 1));
-  DrainMessages();
-}
-
-std::vector<PlotHost::Command> InteractionTest::Reports() {
+Commands InteractionTest::Reports() {
   DrainMessages();
   const auto& all = host_.Commands();
-  std::vector<PlotHost::Command> fresh(all.begin() + static_cast<std::ptrdiff_t>(heard_),
-                                       all.end());
+  Commands fresh(all.begin() + static_cast<std::ptrdiff_t>(heard_), all.end());
   heard_ = all.size();
   return fresh;
 }
 
-Picture InteractionTest::CrossesAt(std::initializer_list<POINT> pixels) {
-  const RawCanvas canvas(Window());
-  for (const POINT& at : pixels) DrawRawPoint(canvas.Dc(), kCross, at);
-  return canvas.Take();
+void InteractionTest::ExpectWholeViewAndBack(const Picture& whole, const Picture& before) {
+  Press(kWholeViewButton);
+  EXPECT_TRUE(SamePicture(whole, Shown()));
+  Press(kWholeViewButton);
+  EXPECT_TRUE(SamePicture(before, Shown()));
 }
 
 Ground InteractionTest::Captured(POINT pixel) {
@@ -81,8 +44,7 @@ Ground InteractionTest::Captured(POINT pixel) {
   Ground at{};
   EXPECT_EQ(0, Tavix_CrdGet(&at.x, &at.y));
   Tavix_CrdEnd();
-  const std::vector<PlotHost::Command> expected{{kCommand, 0}};
-  EXPECT_EQ(expected, Reports());
+  EXPECT_EQ((Commands{{kCommand, 0}}), Reports());
   return at;
 }
 

@@ -1,5 +1,5 @@
-// Lines as they should look: every piece of the pattern, one after the other, by raw calls. The
-// numbers are worked out here once more and nothing is passed over.
+// Expected lines: every piece of the pattern, one after the other, by raw calls. The numbers are
+// worked out here once more and nothing is left out.
 #pragma once
 
 #include <windows.h>
@@ -8,7 +8,7 @@
 
 namespace tavix::test {
 
-// The look a legend entry gives to lines.
+// The symbol a legend entry gives to lines.
 struct LineLegend {
   int kind = 101;
   int dash = 0;  // pixels, as are the gap and the short dash

@@ -1,4 +1,4 @@
-// The 3-D side view as it should look, by raw calls, with its numbers written out once more.
+// The expected 3-D side view, drawn by raw calls with numbers written out here once more.
 #pragma once
 
 #include <windows.h>

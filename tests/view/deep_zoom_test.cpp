@@ -76,8 +76,8 @@ class DeepZoom : public PlotTest {
 
   void ExpectApart(Ground way, int degrees) const {
     const OnScreen expected = Turned(way, degrees);
-    EXPECT_NEAR(blue_at_.x - red_at_.x, expected.x, kPixel);
-    EXPECT_NEAR(blue_at_.y - red_at_.y, expected.y, kPixel);
+    EXPECT_NEAR(expected.x, blue_at_.x - red_at_.x, kPixel);
+    EXPECT_NEAR(expected.y, blue_at_.y - red_at_.y, kPixel);
   }
 
   OnScreen red_at_{};
@@ -123,10 +123,10 @@ TEST_F(DeepZoom, PanningByAMillimetreMovesBothByAHundredPixels) {
       const OnScreen blue = blue_at_;
       ASSERT_NO_FATAL_FAILURE(PanBy(pan));
       const OnScreen moved = Turned({-pan.x, -pan.y}, degrees);
-      EXPECT_NEAR(red_at_.x - red.x, moved.x, kPixel);
-      EXPECT_NEAR(red_at_.y - red.y, moved.y, kPixel);
-      EXPECT_NEAR(blue_at_.x - blue.x, moved.x, kPixel);
-      EXPECT_NEAR(blue_at_.y - blue.y, moved.y, kPixel);
+      EXPECT_NEAR(moved.x, red_at_.x - red.x, kPixel);
+      EXPECT_NEAR(moved.y, red_at_.y - red.y, kPixel);
+      EXPECT_NEAR(moved.x, blue_at_.x - blue.x, kPixel);
+      EXPECT_NEAR(moved.y, blue_at_.y - blue.y, kPixel);
       ExpectApart(kWay, degrees);
     }
   }
@@ -142,8 +142,8 @@ TEST_F(DeepZoom, SmallStepsNeitherJumpNorAddUp) {
       SCOPED_TRACE(testing::Message() << degrees << " degrees, step " << step);
       ASSERT_NO_FATAL_FAILURE(PanBy(kStep));
       const OnScreen moved = Turned({-kStep.x * step, -kStep.y * step}, degrees);
-      EXPECT_NEAR(red_at_.x - begin.x, moved.x, kPixel);
-      EXPECT_NEAR(red_at_.y - begin.y, moved.y, kPixel);
+      EXPECT_NEAR(moved.x, red_at_.x - begin.x, kPixel);
+      EXPECT_NEAR(moved.y, red_at_.y - begin.y, kPixel);
       ExpectApart(kWay, degrees);
     }
   }

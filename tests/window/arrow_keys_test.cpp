@@ -21,12 +21,6 @@ class ArrowKeys : public InteractionTest {
     EXPECT_DOUBLE_EQ(x, centre.x) << what;
     EXPECT_DOUBLE_EQ(y, centre.y) << what;
   }
-
-  static int Angle() {
-    int angle = -1;
-    EXPECT_EQ(0, Tavix_GetAng(&angle));
-    return angle;
-  }
 };
 
 TEST_F(ArrowKeys, PanByHalfTheDrawingArea) {
@@ -46,7 +40,7 @@ TEST_F(ArrowKeys, PanByHalfTheDrawingArea) {
 }
 
 TEST_F(ArrowKeys, ReachThePlotFromItsButtons) {
-  PressKey(VK_UP, ::GetDlgItem(Window(), kPan));
+  PressKey(VK_UP, ButtonWindow(kPanButton));
   ExpectCentre(90.0, 0.0, "from a button");
 }
 
@@ -56,25 +50,24 @@ TEST_F(ArrowKeys, OfTheHostAreNotTaken) {
 }
 
 TEST_F(ArrowKeys, RestWithoutTheButtonsAndInABandZoom) {
-  Press(kBandZoom);
+  Press(kBandZoomButton);
   PressKey(VK_UP, Window());
-  Press(kBandZoom);
+  Press(kBandZoomButton);
   ExpectCentre(0.0, 0.0, "band zoom");
   Tavix_SetBtn(0);
   PressKey(VK_UP, Window());
   Tavix_SetBtn(1);
   ExpectCentre(0.0, 0.0, "no buttons");
-  Press(kPan);
+  Press(kPanButton);
   PressKey(VK_UP, Window());
-  Press(kPan);
+  Press(kPanButton);
   ExpectCentre(90.0, 0.0, "pan mode");
 }
 
 TEST_F(ArrowKeys, PanWithAScrolledColumnToo) {
   MakePlotWithButtons(240, 100);
-  constexpr int kScrollDown = 441;
-  Press(kScrollDown);  // the first main button is hidden now, the scroll button is not
-  ASSERT_FALSE(::IsWindowVisible(::GetDlgItem(Window(), kBandZoom)));
+  Press(kScrollDownButton);  // the first main button is hidden now, the scroll button is not
+  ASSERT_FALSE(::IsWindowVisible(ButtonWindow(kBandZoomButton)));
   PressKey(VK_UP, Window());
   EXPECT_DOUBLE_EQ(50.0, Captured({110, 50}).x);
 }

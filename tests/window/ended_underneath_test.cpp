@@ -58,7 +58,7 @@ TEST_F(EndedUnderneath, ATapForACoordinate) {
 
 TEST_F(EndedUnderneath, ADragOfTheBand) {
   for (const Way& way : kWays) {
-    Press(kBandZoom);
+    Press(kBandZoomButton);
     PutDown({50, 50});
     MoveTo({80, 80});
     EndAndLift(way, Window());
@@ -67,7 +67,7 @@ TEST_F(EndedUnderneath, ADragOfTheBand) {
 
 TEST_F(EndedUnderneath, ADragOfTheMap) {
   for (const Way& way : kWays) {
-    Press(kPan);
+    Press(kPanButton);
     PutDown({50, 50});
     MoveTo({80, 80});
     EndAndLift(way, Window());
@@ -77,7 +77,7 @@ TEST_F(EndedUnderneath, ADragOfTheMap) {
 TEST_F(EndedUnderneath, AButtonThatIsDown) {
   for (const Way& way : kWays) {
     ASSERT_EQ(0, Tavix_SetBtn(1));
-    const HWND button = ::GetDlgItem(Window(), kRefresh);
+    const HWND button = ButtonWindow(kRefreshButton);
     ::PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
     DrainMessages();
     ASSERT_EQ(button, ::GetCapture());

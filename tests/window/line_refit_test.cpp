@@ -1,22 +1,13 @@
-// Changes of lines have the whole view fitted anew; what the button then shows tells.
+// Which changes of lines make the whole-view button fit the view again.
 #include <functional>
 
-#include "tests/support/device_records.h"
 #include "tests/support/line_plot_test.h"
+#include "tests/support/plot_input.h"
 
 namespace tavix::test {
 namespace {
 
-constexpr int kZoomIn = 409;
-constexpr int kWhole = 417;
-
-class LineRefit : public LinePlotTest {
- protected:
-  static void Press(int button) {
-    ::SendMessageW(Window(), WM_COMMAND, static_cast<WPARAM>(button),
-                   reinterpret_cast<LPARAM>(::GetDlgItem(Window(), button)));
-  }
-};
+using LineRefit = LinePlotTest;
 
 TEST_F(LineRefit, FollowsTheseChangesOnly) {
   const PointLegend mark{6, 11, 0, 0, 1, RGB(255, 0, 0)};
@@ -47,20 +38,20 @@ TEST_F(LineRefit, FollowsTheseChangesOnly) {
     ASSERT_EQ(0, Enter(1, {0.0, 0.0}, legend));
     ASSERT_EQ(0, Enter(2, {0.0, 110.0}, legend));
     ASSERT_EQ(0, Tavix_EntLin(1, 2));
-    Press(kWhole);
+    Press(kWholeViewButton);
     const Picture home = Shown();
-    Press(kZoomIn);
-    Press(kWhole);  // home, and the zoomed view is the one before
+    Press(kZoomInButton);
+    Press(kWholeViewButton);  // home, and the zoomed view is the one before
     ASSERT_TRUE(SamePicture(home, Shown())) << what;
     change();
-    Press(kWhole);
+    Press(kWholeViewButton);
     EXPECT_EQ(fits, home == Shown()) << what;
   }
 }
 
 TEST_F(LineRefit, IsNotChangedByLinesAlone) {
   ASSERT_EQ(0, Tavix_EntLin(1, 2));
-  Press(kWhole);  // lines have no extent of their own
+  Press(kWholeViewButton);  // lines have no extent of their own
   const PointLegend mark{6, 11, 0, 0, 1, RGB(255, 0, 0)};
   ASSERT_EQ(0, Enter(1, {20.0, 30.0}, AddLegend(mark)));
   const RawCanvas canvas(Window());

@@ -1,4 +1,4 @@
-// The same hands with the system's own pointer.
+// Taps and drags with the pointer of the system.
 #include <tavix/tavix.h>
 
 #include "tests/support/interaction_test.h"
@@ -39,7 +39,7 @@ TEST_F(RealPointer, PicksAPoint) {
 }
 
 TEST_F(RealPointer, EndsADragOutsideOfTheWindow) {
-  Press(kPan);
+  Press(kPanButton);
   Point({100, 100});
   Send(MOUSEEVENTF_LEFTDOWN);
   ASSERT_TRUE(PumpUntil([] { return ::GetCapture() == Window(); }));
@@ -47,7 +47,7 @@ TEST_F(RealPointer, EndsADragOutsideOfTheWindow) {
   Send(MOUSEEVENTF_LEFTUP);
   ASSERT_TRUE(PumpUntil([] { return LastLiftedAt({400, 300}); }));
   EXPECT_EQ(nullptr, ::GetCapture());
-  Press(kPan);
+  Press(kPanButton);
   EXPECT_DOUBLE_EQ(-300.0, Captured({120, 90}).y);
 }
 

@@ -1,13 +1,10 @@
 // The arrow keys and the view buttons in the 3-D side view.
-#include "tests/support/message_pump.h"
+#include "tests/support/plot_input.h"
 #include "tests/support/side_plot_test.h"
 
 namespace tavix::test {
 namespace {
 
-constexpr int kZoomIn = 409;
-constexpr int kWhole = 417;
-constexpr int kRotate = 433;
 constexpr int kColumn = 20;  // pixels the buttons take
 constexpr PointLegend kSquare{6, 9, 0, 0, 1, RGB(0, 0, 255)};
 
@@ -19,22 +16,7 @@ class SideViewKeys : public SidePlotTest {
     ASSERT_EQ(0, Tavix_Drw(1));
   }
 
-  // Through the message loop, which is where the window takes them.
-  static void Key(WPARAM key) {
-    ::PostMessageW(Window(), WM_KEYDOWN, key, 0);
-    DrainMessages();
-  }
-
-  static void Press(int button) {
-    ::SendMessageW(Window(), WM_COMMAND, static_cast<WPARAM>(button),
-                   reinterpret_cast<LPARAM>(::GetDlgItem(Window(), button)));
-  }
-
-  static int Angle() {
-    int angle = -1;
-    EXPECT_EQ(0, Tavix_GetAng(&angle));
-    return angle;
-  }
+  static void Key(int key) { PressKey(key, Window()); }
 
   // The drawing area.
   static Picture Area() { return LeftPart(Shown(), kWidth - kColumn); }
@@ -81,32 +63,32 @@ TEST_F(SideViewKeys, StepTheHeightBaseByTheScale) {
 TEST_F(SideViewKeys, DoNothingWithoutTheButtons) {
   Tavix_SetBtn(0);
   ASSERT_EQ(0, Tavix_Drw(1));
-  for (const WPARAM key : {VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN}) Key(key);
+  for (const int key : {VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN}) Key(key);
   EXPECT_EQ(0, Angle());
   EXPECT_TRUE(SamePicture(SideView({}), Shown()));
 }
 
 TEST_F(SideViewKeys, HaveTheWholeViewFittedAnew) {
   EnterSide(1, {0.0, 0.0}, 20.5, AddLegend(kSquare));
-  Press(kWhole);
+  Press(kWholeViewButton);
   const Picture home = Area();
   Key(VK_UP);
   ASSERT_FALSE(home == Area());
-  Press(kWhole);
+  Press(kWholeViewButton);
   EXPECT_TRUE(SamePicture(home, Area())) << "the base is back at the floor of the lowest point";
 }
 
 TEST_F(SideViewKeys, WholeTogglesOnceItsPointsAreFitted) {
   EnterSide(1, {0.0, 0.0}, 20.5, AddLegend(kSquare));
   EnterSide(2, {50.0, 60.0}, 30.0, AddLegend(kSquare));
-  Press(kWhole);
+  Press(kWholeViewButton);
   const Picture home = Area();
-  Press(kZoomIn);
+  Press(kZoomInButton);
   const Picture zoomed = Area();
   ASSERT_FALSE(home == zoomed);
-  Press(kWhole);
+  Press(kWholeViewButton);
   EXPECT_TRUE(SamePicture(home, Area()));
-  Press(kWhole);
+  Press(kWholeViewButton);
   EXPECT_TRUE(SamePicture(zoomed, Area()));
 }
 
@@ -146,13 +128,13 @@ TEST_F(SideViewKeys, WholeFitsAnewAfterTheseChangesOnly) {
     EnterSide(1, {0.0, 0.0}, 20.5, legend);
     EnterSide(2, {50.0, 60.0}, 30.0, legend);
     EnterSide(3, {25.0, 30.0}, 25.0, no_mark);  // not to be seen
-    Press(kWhole);
+    Press(kWholeViewButton);
     const Picture home = Area();
-    Press(kZoomIn);
-    Press(kWhole);  // home, and the zoomed view is the one before
+    Press(kZoomInButton);
+    Press(kWholeViewButton);  // home, and the zoomed view is the one before
     ASSERT_TRUE(SamePicture(home, Area())) << what;
     change(legend);
-    Press(kWhole);
+    Press(kWholeViewButton);
     EXPECT_EQ(fits, home == Area()) << what;
   }
 }
@@ -160,9 +142,9 @@ TEST_F(SideViewKeys, WholeFitsAnewAfterTheseChangesOnly) {
 TEST_F(SideViewKeys, WholeLeavesThePlansChangesToThePlan) {
   const short legend = AddLegend(kSquare);
   ASSERT_EQ(0, Enter(1, {10.0, 20.0}, legend));
-  Press(kWhole);  // of the side view, which has nothing
+  Press(kWholeViewButton);  // of the side view, which has nothing
   ASSERT_EQ(0, Tavix_Dsp3D(0));
-  Press(kWhole);
+  Press(kWholeViewButton);
   const RawCanvas canvas(Window());
   DrawRawPoint(canvas.Dc(), kSquare, {110, 90});  // fitted: in the middle
   EXPECT_TRUE(SamePicture(LeftPart(canvas.Take(), kWidth - kColumn), Area()));
@@ -170,7 +152,7 @@ TEST_F(SideViewKeys, WholeLeavesThePlansChangesToThePlan) {
 
 TEST_F(SideViewKeys, TheRotateButtonTurnsThePoints) {
   EnterSide(1, {30.0, 0.0}, 0.0, AddLegend(kSquare));
-  for (int press = 0; press < 9; ++press) Press(kRotate);
+  for (int press = 0; press < 9; ++press) Press(kRotateButton);
   ASSERT_EQ(90, Angle());
   EXPECT_TRUE(SamePicture(Expected({{{140, 90}, 0, kSquare, L""}}, L"0.00m"), Area()));
 }

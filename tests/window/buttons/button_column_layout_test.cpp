@@ -69,18 +69,18 @@ TEST(ButtonColumnLayout, ScrollsByOneButtonToBothEnds) {
               {"x.....xxxxx", {0, 10, 10, 10, 10, 10, 10, 30, 50, 70, 90}}};
   constexpr int kSteps = 5;  // the last first-visible button is 10 - 4
   for (int step = 0; step <= kSteps; ++step) {
-    EXPECT_EQ(layout.FirstVisible(), step + 1);
-    EXPECT_EQ(Shown(layout), rows[step].shown) << step;
-    EXPECT_EQ(Tops(layout), rows[step].tops) << step;
-    EXPECT_EQ(layout.ScrollDown(), step < kSteps) << step;
+    EXPECT_EQ(step + 1, layout.FirstVisible());
+    EXPECT_EQ(rows[step].shown, Shown(layout)) << step;
+    EXPECT_EQ(rows[step].tops, Tops(layout)) << step;
+    EXPECT_EQ(step < kSteps, layout.ScrollDown()) << step;
   }
-  EXPECT_EQ(Shown(layout), rows[kSteps].shown);  // the refused step changed nothing
+  EXPECT_EQ(rows[kSteps].shown, Shown(layout));  // the refused step changed nothing
   for (int step = kSteps; step >= 0; --step) {
-    EXPECT_EQ(Shown(layout), rows[step].shown) << step;
-    EXPECT_EQ(Tops(layout), rows[step].tops) << step;
-    EXPECT_EQ(layout.ScrollUp(), step > 0) << step;
+    EXPECT_EQ(rows[step].shown, Shown(layout)) << step;
+    EXPECT_EQ(rows[step].tops, Tops(layout)) << step;
+    EXPECT_EQ(step > 0, layout.ScrollUp()) << step;
   }
-  EXPECT_EQ(Shown(layout), rows[0].shown);
+  EXPECT_EQ(rows[0].shown, Shown(layout));
 }
 
 TEST(ButtonColumnLayout, TheLastButtonCanBeReachedAtEveryHeight) {
@@ -90,7 +90,7 @@ TEST(ButtonColumnLayout, TheLastButtonCanBeReachedAtEveryHeight) {
     while (layout.ScrollDown()) ASSERT_LT(++steps, Layout::kButtons) << height;
     if (layout.Places() > 0) {
       EXPECT_TRUE(layout.IsVisible(Layout::kLastMain)) << height;
-      EXPECT_EQ(layout.FirstVisible(), 10 - layout.Places()) << height;
+      EXPECT_EQ(10 - layout.Places(), layout.FirstVisible()) << height;
     } else {
       EXPECT_LE(layout.FirstVisible(), Layout::kLastMain) << height;
     }
@@ -108,11 +108,11 @@ TEST(ButtonColumnLayout, VisibleButtonsNeverOverlap) {
       int next = layout.AllFit() ? 0 : 10;
       for (int k = Layout::kFirstMain; k <= Layout::kLastMain; ++k) {
         if (!layout.IsVisible(k)) continue;
-        EXPECT_EQ(layout.Top(k), next) << height << ' ' << k;
+        EXPECT_EQ(next, layout.Top(k)) << height << ' ' << k;
         next += 20;
       }
       if (!layout.AllFit()) {
-        EXPECT_EQ(layout.Top(Layout::kScrollDown), next) << height;
+        EXPECT_EQ(next, layout.Top(Layout::kScrollDown)) << height;
         next += 10;
       }
       EXPECT_LE(next, height + 2);  // the lowest button may lose two rows at the bottom

@@ -7,6 +7,7 @@
 
 #include "tests/support/button_face.h"
 #include "tests/support/picture_compare.h"
+#include "tests/support/plot_input.h"
 #include "tests/support/plot_test.h"
 #include "tests/support/raw_canvas.h"
 
@@ -28,7 +29,9 @@ void PrintTo(const Place& place, std::ostream* out) {
   *out << "button " << place.button << " at " << place.top << ", " << place.height << " high";
 }
 
-HWND Button(HWND plot, int k) { return ::GetDlgItem(plot, 401 + 4 * k); }
+static_assert(kButtonTable.size() == kButtons);
+
+unsigned Id(int k) { return kButtonTable[static_cast<std::size_t>(k)].id; }
 
 RECT PlaceInClient(HWND plot, HWND button) {
   RECT place;
@@ -45,8 +48,8 @@ bool HasVisibleStyle(HWND window) {
 std::vector<Place> ShownButtons(HWND plot) {
   std::vector<Place> shown;
   for (int k = 0; k < kButtons; ++k) {
-    if (!HasVisibleStyle(Button(plot, k))) continue;
-    const RECT place = PlaceInClient(plot, Button(plot, k));
+    if (!HasVisibleStyle(ButtonWindow(Id(k)))) continue;
+    const RECT place = PlaceInClient(plot, ButtonWindow(Id(k)));
     shown.push_back({k, static_cast<int>(place.top), static_cast<int>(place.bottom - place.top)});
   }
   return shown;
@@ -92,7 +95,7 @@ TEST_P(ButtonColumnOf, ShowsWhatFits) { EXPECT_EQ(GetParam().shown, ShownButtons
 
 TEST_P(ButtonColumnOf, HasElevenOwnerDrawnButtonsAtTheRightEdge) {
   for (int k = 0; k < kButtons; ++k) {
-    const HWND button = Button(Window(), k);
+    const HWND button = ButtonWindow(Id(k));
     ASSERT_NE(nullptr, button) << k;
     EXPECT_EQ(Window(), ::GetParent(button)) << k;
     EXPECT_EQ(WS_CHILD | BS_OWNERDRAW,
@@ -118,7 +121,7 @@ TEST_P(ButtonColumnOf, ShowsTheButtonsFacesOverThePlot) {
   ASSERT_EQ(0, Tavix_Dsp(1));
   const RawCanvas canvas(Window());
   for (const Place& shown : GetParam().shown) {
-    DrawFace(canvas.Dc(), 401 + 4 * shown.button, {kClientWidth - 20, shown.top});
+    DrawFace(canvas.Dc(), Id(shown.button), {kClientWidth - 20, shown.top});
   }
   EXPECT_EQ(0, Tavix_Drw(1));
   ::RedrawWindow(Window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);

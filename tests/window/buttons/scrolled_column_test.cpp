@@ -6,9 +6,6 @@
 namespace tavix::test {
 namespace {
 
-constexpr int kScrollUp = 401;
-constexpr int kScrollDown = 441;
-
 class ScrolledColumn : public InteractionTest {
  protected:
   void SetUp() override {
@@ -16,16 +13,18 @@ class ScrolledColumn : public InteractionTest {
     MakePlotWithButtons(240, 100);  // room for four
   }
 
+  using Shown = std::vector<std::size_t>;
+
   // The main buttons 1 to 9 that show, checked to stand below each other from pixel 10 on.
-  static std::vector<int> ShownMain() {
-    std::vector<int> shown;
-    for (int k = 1; k <= 9; ++k) {
-      const HWND button = ::GetDlgItem(Window(), kScrollUp + 4 * k);
+  static Shown ShownMain() {
+    Shown shown;
+    for (std::size_t k = 1; k <= 9; ++k) {
+      const HWND button = ButtonWindow(kButtonTable[k].id);
       if (!::IsWindowVisible(button)) continue;
       RECT place;
       ::GetWindowRect(button, &place);
       ::MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&place), 2);
-      EXPECT_EQ(10 + 20 * static_cast<int>(shown.size()), place.top) << k;
+      EXPECT_EQ(10 + 20 * static_cast<LONG>(shown.size()), place.top) << k;
       shown.push_back(k);
     }
     return shown;
@@ -33,27 +32,27 @@ class ScrolledColumn : public InteractionTest {
 };
 
 TEST_F(ScrolledColumn, ScrollsByOneButtonAndStopsAtItsEnds) {
-  EXPECT_EQ((std::vector{1, 2, 3, 4}), ShownMain());
-  Press(kScrollUp);
-  EXPECT_EQ((std::vector{1, 2, 3, 4}), ShownMain());
-  for (int first = 2; first <= 6; ++first) {
-    Press(kScrollDown);
-    EXPECT_EQ((std::vector{first, first + 1, first + 2, first + 3}), ShownMain());
+  EXPECT_EQ((Shown{1, 2, 3, 4}), ShownMain());
+  Press(kScrollUpButton);
+  EXPECT_EQ((Shown{1, 2, 3, 4}), ShownMain());
+  for (std::size_t first = 2; first <= 6; ++first) {
+    Press(kScrollDownButton);
+    EXPECT_EQ((Shown{first, first + 1, first + 2, first + 3}), ShownMain());
   }
-  Press(kScrollDown);
-  EXPECT_EQ((std::vector{6, 7, 8, 9}), ShownMain());
-  for (int first = 5; first >= 1; --first) {
-    Press(kScrollUp);
-    EXPECT_EQ((std::vector{first, first + 1, first + 2, first + 3}), ShownMain());
+  Press(kScrollDownButton);
+  EXPECT_EQ((Shown{6, 7, 8, 9}), ShownMain());
+  for (std::size_t first = 5; first >= 1; --first) {
+    Press(kScrollUpButton);
+    EXPECT_EQ((Shown{first, first + 1, first + 2, first + 3}), ShownMain());
   }
 }
 
 TEST_F(ScrolledColumn, StaysScrolledWhileHidden) {
-  Press(kScrollDown);
+  Press(kScrollDownButton);
   Tavix_SetBtn(0);
-  EXPECT_EQ(std::vector<int>(), ShownMain());
+  EXPECT_EQ(Shown(), ShownMain());
   Tavix_SetBtn(1);
-  EXPECT_EQ((std::vector{2, 3, 4, 5}), ShownMain());
+  EXPECT_EQ((Shown{2, 3, 4, 5}), ShownMain());
 }
 
 }  // namespace

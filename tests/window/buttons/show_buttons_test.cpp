@@ -3,6 +3,7 @@
 
 #include "tests/support/low_byte.h"
 #include "tests/support/picture_compare.h"
+#include "tests/support/plot_input.h"
 #include "tests/support/plot_test.h"
 #include "tests/support/raw_canvas.h"
 #include "tests/support/raw_north_arrow.h"
@@ -63,9 +64,8 @@ TEST_F(ShowButtons, CountsTheLowByteOnly) {
 TEST_F(ShowButtons, BeforeAnyLinkIsKeptForIt) {
   EXPECT_EQ(0, Tavix_SetBtn(0));
   ASSERT_EQ(0, LinkPlot(kWidth, kHeight));
-  for (int k = 0; k < 11; ++k) {
-    const HWND button = ::GetDlgItem(Window(), 401 + 4 * k);
-    EXPECT_EQ(0, ::GetWindowLongPtrW(button, GWL_STYLE) & WS_VISIBLE) << k;
+  for (const ButtonRow& button : kButtonTable) {
+    EXPECT_EQ(0, ::GetWindowLongPtrW(ButtonWindow(button.id), GWL_STYLE) & WS_VISIBLE) << button.id;
   }
   ExpectPointAt(kMiddleOfAll);
 }
@@ -105,7 +105,7 @@ TEST_F(ShowButtons, LinkingResetsTheRatio) {
 TEST_F(ShowButtons, KeepsAngleAndScale) {
   ASSERT_EQ(0, LinkPlot(kWidth, kHeight));
   ASSERT_EQ(0, Tavix_SetAng(90));
-  ::SendMessageW(Window(), WM_COMMAND, 409, 0);  // the zoom-in button: one and a half times
+  Press(kZoomInButton);  // one and a half times
   EXPECT_EQ(0, Tavix_SetBtn(0));
   ExpectPointAt({kWidth / 2 + 45, kHeight / 2}, 90);
 }

@@ -1,4 +1,6 @@
 // The faces of the two buttons that stay pressed in.
+#include <algorithm>
+
 #include "tests/support/button_face.h"
 #include "tests/support/interaction_test.h"
 #include "tests/support/picture_compare.h"
@@ -14,61 +16,67 @@ class ToggleFaces : public InteractionTest {
     MakePlotWithButtons(240, 180);
   }
 
-  static HWND Button(int id) { return ::GetDlgItem(Window(), id); }
-
-  static void ExpectFace(int button, int bitmap, const char* state) {
-    ::RedrawWindow(Button(button), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-    const RawCanvas canvas(Button(button));
+  static void ExpectFace(ButtonId button, unsigned bitmap, const char* state) {
+    ::RedrawWindow(ButtonWindow(button), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    const RawCanvas canvas(ButtonWindow(button));
     DrawFace(canvas.Dc(), bitmap, {0, 0});
-    EXPECT_TRUE(SamePicture(canvas.Take(), TakeClientPicture(Button(button))))
+    EXPECT_TRUE(SamePicture(canvas.Take(), TakeClientPicture(ButtonWindow(button))))
         << button << " " << state << ", expected " << bitmap;
   }
 
+  // Bitmaps by their numbers.
   struct Faces {
-    int up;
-    int held;
-    int focused;
-    int disabled;
+    unsigned up;
+    unsigned held;
+    unsigned focused;
+    unsigned disabled;
   };
 
-  static void ExpectFaces(int button, const Faces& faces) {
+  static constexpr Faces Off(ButtonId button) {
+    return {button, button + 1U, button + 2U, button + 3U};
+  }
+
+  // Pressed in: up and held change places, and the other two are bitmaps of their own.
+  static Faces On(ButtonId button) {
+    const auto* const row =
+        std::ranges::find(kButtonTable, static_cast<unsigned>(button), &ButtonRow::id);
+    return {button + 1U, button, row->pressed_in, row->pressed_in + 1};
+  }
+
+  static void ExpectFaces(ButtonId button, const Faces& faces) {
     ::SetFocus(Window());
     ExpectFace(button, faces.up, "up");
-    ::SendMessageW(Button(button), BM_SETSTATE, TRUE, 0);
+    ::SendMessageW(ButtonWindow(button), BM_SETSTATE, TRUE, 0);
     ExpectFace(button, faces.held, "held");
-    ::SendMessageW(Button(button), BM_SETSTATE, FALSE, 0);
-    ::SetFocus(Button(button));
+    ::SendMessageW(ButtonWindow(button), BM_SETSTATE, FALSE, 0);
+    ::SetFocus(ButtonWindow(button));
     ExpectFace(button, faces.focused, "focused");
     ::SetFocus(Window());
-    ::EnableWindow(Button(button), FALSE);
+    ::EnableWindow(ButtonWindow(button), FALSE);
     ExpectFace(button, faces.disabled, "disabled");
-    ::EnableWindow(Button(button), TRUE);
+    ::EnableWindow(ButtonWindow(button), TRUE);
   }
 };
 
 TEST_F(ToggleFaces, OfTheBandZoomTakeTurns) {
-  constexpr Faces kOff{405, 406, 407, 408};
-  constexpr Faces kOn{406, 405, 451, 452};
-  ExpectFaces(kBandZoom, kOff);
-  Press(kBandZoom);
-  ExpectFaces(kBandZoom, kOn);
-  Press(kBandZoom);
-  ExpectFaces(kBandZoom, kOff);
-  Press(kBandZoom);
+  ExpectFaces(kBandZoomButton, Off(kBandZoomButton));
+  Press(kBandZoomButton);
+  ExpectFaces(kBandZoomButton, On(kBandZoomButton));
+  Press(kBandZoomButton);
+  ExpectFaces(kBandZoomButton, Off(kBandZoomButton));
+  Press(kBandZoomButton);
   Drag({50, 40}, {150, 120});
-  ExpectFaces(kBandZoom, kOff);
+  ExpectFaces(kBandZoomButton, Off(kBandZoomButton));
 }
 
 TEST_F(ToggleFaces, OfPanTakeTurns) {
-  constexpr Faces kOff{421, 422, 423, 424};
-  constexpr Faces kOn{422, 421, 449, 450};
-  ExpectFaces(kPan, kOff);
-  Press(kPan);
-  ExpectFaces(kPan, kOn);
-  Press(kBandZoom);  // ends panning
-  ExpectFace(kPan, kOff.disabled, "disabled");
-  Press(kBandZoom);
-  ExpectFaces(kPan, kOff);
+  ExpectFaces(kPanButton, Off(kPanButton));
+  Press(kPanButton);
+  ExpectFaces(kPanButton, On(kPanButton));
+  Press(kBandZoomButton);  // ends panning
+  ExpectFace(kPanButton, Off(kPanButton).disabled, "disabled");
+  Press(kBandZoomButton);
+  ExpectFaces(kPanButton, Off(kPanButton));
 }
 
 }  // namespace

@@ -4,106 +4,63 @@
 #include <functional>
 #include <string>
 
+#include "tests/support/interaction_test.h"
 #include "tests/support/legend_bytes.h"
 #include "tests/support/picture_compare.h"
-#include "tests/support/plot_test.h"
-#include "tests/support/raw_canvas.h"
-#include "tests/support/raw_north_arrow.h"
 
 namespace tavix::test {
 namespace {
 
-constexpr int kZoomIn = 409;
-constexpr int kZoomOut = 413;
-constexpr int kWhole = 417;
-constexpr int kRefresh = 425;
-constexpr int kRotate = 433;
-constexpr int kRotateBack = 437;
-
-const PointLegend kCross{4, 9, 0, 0, 1, RGB(255, 0, 0)};
-
-class ViewButtons : public PlotTest {
- protected:
-  void SetUp() override {
-    MakePlot(240, 180);
-    legend_ = AddLegend(kCross);
-  }
-
-  // As the button does when it is pressed.
-  static void Press(int button) {
-    ::SendMessageW(Window(), WM_COMMAND, static_cast<WPARAM>(button),
-                   reinterpret_cast<LPARAM>(::GetDlgItem(Window(), button)));
-  }
-
-  static Picture PointsAt(std::initializer_list<POINT> pixels) {
-    const RawCanvas canvas(Window());
-    for (const POINT& at : pixels) DrawRawPoint(canvas.Dc(), kCross, at);
-    DrawRawNorthArrow(canvas.Dc(), Angle(), Client().bottom);
-    return canvas.Take();
-  }
-
-  static int Angle() {
-    int angle = -1;
-    EXPECT_EQ(0, Tavix_GetAng(&angle));
-    return angle;
-  }
-
-  short legend_ = 0;
-};
+using ViewButtons = InteractionTest;
 
 TEST_F(ViewButtons, ZoomBeforeTheFirstFitFromOnePixelAMetre) {
   ASSERT_EQ(0, Enter(1, {20.0, 40.0}, legend_));
-  Press(kZoomIn);
-  EXPECT_TRUE(SamePicture(PointsAt({{180, 60}}), Shown()));
-  Press(kZoomIn);
-  EXPECT_TRUE(SamePicture(PointsAt({{210, 45}}), Shown()));
-  Press(kZoomOut);
-  Press(kZoomOut);
-  Press(kZoomOut);
-  EXPECT_TRUE(SamePicture(PointsAt({{146, 76}}), Shown()));  // 26.67 east, 13.33 north
+  Press(kZoomInButton);
+  EXPECT_TRUE(SamePicture(CrossesAt({{180, 60}}), Shown()));
+  Press(kZoomInButton);
+  EXPECT_TRUE(SamePicture(CrossesAt({{210, 45}}), Shown()));
+  Press(kZoomOutButton);
+  Press(kZoomOutButton);
+  Press(kZoomOutButton);
+  EXPECT_TRUE(SamePicture(CrossesAt({{146, 76}}), Shown()));  // 26.67 east, 13.33 north
 }
 
 TEST_F(ViewButtons, ZoomInStopsAtTheCap) {
   ASSERT_EQ(0, Enter(1, {-0.000244140625, 0.00048828125}, legend_));  // 24.4 and 48.8 pixels then
-  for (int press = 0; press < 40; ++press) Press(kZoomIn);
-  EXPECT_TRUE(SamePicture(PointsAt({{168, 114}}), Shown()));
+  for (int press = 0; press < 40; ++press) Press(kZoomInButton);
+  EXPECT_TRUE(SamePicture(CrossesAt({{168, 114}}), Shown()));
 }
 
 TEST_F(ViewButtons, ZoomOutHasNoLimit) {
   ASSERT_EQ(0, Enter(1, {1e9, -1e9}, legend_));
   for (int press = 0; press < 2000; ++press) {
-    ::SendMessageW(Window(), WM_COMMAND, kZoomOut, 0);
+    ::SendMessageW(Window(), WM_COMMAND, kZoomOutButton, 0);
   }
-  EXPECT_TRUE(SamePicture(PointsAt({{120, 90}}), Shown()));
+  EXPECT_TRUE(SamePicture(CrossesAt({{120, 90}}), Shown()));
 }
 
 TEST_F(ViewButtons, WholeFitsChangedData) {
   ASSERT_EQ(0, Enter(1, {0.0, 0.0}, legend_));
   ASSERT_EQ(0, Enter(2, {0.0, 110.0}, legend_));
-  Press(kWhole);  // two pixels a metre
-  EXPECT_TRUE(SamePicture(PointsAt({{10, 90}, {230, 90}}), Shown()));
+  Press(kWholeViewButton);  // two pixels a metre
+  EXPECT_TRUE(SamePicture(CrossesAt({{10, 90}, {230, 90}}), Shown()));
 }
 
 TEST_F(ViewButtons, WholeTogglesBetweenTheHomeViewAndTheOneBefore) {
   ASSERT_EQ(0, Enter(1, {0.0, 0.0}, legend_));
   ASSERT_EQ(0, Enter(2, {0.0, 110.0}, legend_));
-  Press(kWhole);
+  Press(kWholeViewButton);
   const Picture home = Shown();
-  Press(kZoomIn);
+  Press(kZoomInButton);
   const Picture zoomed = Shown();
   ASSERT_FALSE(home == zoomed);
-  for (int turn = 0; turn < 2; ++turn) {
-    Press(kWhole);
-    EXPECT_TRUE(SamePicture(home, Shown()));
-    Press(kWhole);
-    EXPECT_TRUE(SamePicture(zoomed, Shown()));
-  }
+  for (int turn = 0; turn < 2; ++turn) ExpectWholeViewAndBack(home, zoomed);
 }
 
 TEST_F(ViewButtons, WholeOfNothingKeepsTheView) {
-  Press(kWhole);
+  Press(kWholeViewButton);
   ASSERT_EQ(0, Enter(1, {10.0, 20.0}, legend_));
-  EXPECT_TRUE(SamePicture(PointsAt({{140, 80}}), Redrawn()));
+  EXPECT_TRUE(SamePicture(CrossesAt({{140, 80}}), Redrawn()));
 }
 
 TEST_F(ViewButtons, WholeFitsAnewAfterTheseChangesOnly) {
@@ -135,12 +92,12 @@ TEST_F(ViewButtons, WholeFitsAnewAfterTheseChangesOnly) {
     ASSERT_EQ(0, Enter(1, {0.0, 0.0}, legend_));
     ASSERT_EQ(0, Enter(2, {0.0, 110.0}, legend_));
     ASSERT_EQ(0, Enter(3, {0.0, 60.0}, legend_));
-    Press(kWhole);
-    Press(kZoomIn);
-    Press(kWhole);  // the home view, and the zoomed one is the view before it
+    Press(kWholeViewButton);
+    Press(kZoomInButton);
+    Press(kWholeViewButton);  // the home view, and the zoomed one is the view before it
     ASSERT_EQ(0xFF0000U, Shown().At(10, 90)) << what;
     change();
-    Press(kWhole);
+    Press(kWholeViewButton);
     EXPECT_EQ(fits, Shown().At(10, 90) == 0xFF0000U) << what;
   }
 }
@@ -150,26 +107,26 @@ TEST_F(ViewButtons, ARedrawLeavesTheDataToBeFittedByWhole) {
   ASSERT_EQ(0, Enter(2, {0.0, 110.0}, legend_));
   EXPECT_EQ(0, Tavix_Drw(0));
   const Picture fitted = Shown();
-  Press(kZoomIn);
-  Press(kWhole);  // fits; the view before is the zoomed one
+  Press(kZoomInButton);
+  Press(kWholeViewButton);  // fits; the view before is the zoomed one
   EXPECT_TRUE(SamePicture(fitted, Shown()));
 }
 
 TEST_F(ViewButtons, RefreshRedraws) {
   ASSERT_EQ(0, Enter(1, {10.0, 20.0}, legend_));
-  EXPECT_TRUE(SamePicture(PointsAt({}), Shown()));
-  Press(kRefresh);
-  EXPECT_TRUE(SamePicture(PointsAt({{140, 80}}), Shown()));
+  EXPECT_TRUE(SamePicture(CrossesAt({}), Shown()));
+  Press(kRefreshButton);
+  EXPECT_TRUE(SamePicture(CrossesAt({{140, 80}}), Shown()));
 }
 
 TEST_F(ViewButtons, RotateByTenDegreesAtFirst) {
-  Press(kRotate);
+  Press(kRotateButton);
   EXPECT_EQ(10, Angle());
-  Press(kRotateBack);
+  Press(kRotateBackButton);
   EXPECT_EQ(0, Angle());
-  Press(kRotateBack);
+  Press(kRotateBackButton);
   EXPECT_EQ(350, Angle());
-  Press(kRotate);
+  Press(kRotateButton);
   EXPECT_EQ(0, Angle());
 }
 
@@ -190,10 +147,10 @@ TEST_F(ViewButtons, RotateByTheStepOfTheLegendFile) {
     WriteBytes(LegendFile(), LegendBytesWithHeader(header));
     SetUp();
     Tavix_SetAng(start);
-    Press(kRotate);
+    Press(kRotateButton);
     EXPECT_EQ(forward, Angle()) << header << " from " << start;
     Tavix_SetAng(start);
-    Press(kRotateBack);
+    Press(kRotateBackButton);
     EXPECT_EQ(back, Angle()) << header << " from " << start;
   }
 }
@@ -201,15 +158,16 @@ TEST_F(ViewButtons, RotateByTheStepOfTheLegendFile) {
 TEST_F(ViewButtons, RotatingHasTheWholeViewFittedAnew) {
   ASSERT_EQ(0, Enter(1, {0.0, 0.0}, legend_));
   ASSERT_EQ(0, Enter(2, {0.0, 110.0}, legend_));
-  Press(kWhole);
-  for (int press = 0; press < 9; ++press) Press(kRotate);
+  Press(kWholeViewButton);
+  for (int press = 0; press < 9; ++press) Press(kRotateButton);
   ASSERT_EQ(90, Angle());
-  Press(kWhole);  // 110 m stand upright in 160 pixels now
-  EXPECT_TRUE(SamePicture(PointsAt({{120, 10}, {120, 170}}), Shown()));
+  Press(kWholeViewButton);  // 110 m stand upright in 160 pixels now
+  EXPECT_TRUE(SamePicture(CrossesAt({{120, 10}, {120, 170}}), Shown()));
 }
 
 TEST_F(ViewButtons, TellTheHostNothing) {
-  for (const int button : {kZoomIn, kZoomOut, kWhole, kRefresh, kRotate, kRotateBack}) {
+  for (const ButtonId button : {kZoomInButton, kZoomOutButton, kWholeViewButton, kRefreshButton,
+                                kRotateButton, kRotateBackButton}) {
     Press(button);
   }
   EXPECT_TRUE(host_.Commands().empty());

@@ -7,8 +7,6 @@ namespace tavix::test {
 namespace {
 
 constexpr int kCommand = 1234;
-using Commands = std::vector<PlotHost::Command>;
-
 class CoordinateCapture : public InteractionTest {
  protected:
   static void ExpectCoordinate(double x, double y) {
@@ -92,12 +90,12 @@ TEST_F(CoordinateCapture, KeepsTheCoordinateThroughADrag) {
 
 TEST_F(CoordinateCapture, RestsInTheOtherModesAndTheSideView) {
   Tavix_CrdStt(kCommand);
-  Press(kPan);
+  Press(kPanButton);
   Tap({150, 60});
-  Press(kPan);
-  Press(kBandZoom);
+  Press(kPanButton);
+  Press(kBandZoomButton);
   Tap({150, 60});
-  Press(kBandZoom);
+  Press(kBandZoomButton);
   Tavix_Dsp3D(1);
   Tap({150, 60});
   Tavix_Dsp3D(0);

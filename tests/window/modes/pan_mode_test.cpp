@@ -7,14 +7,12 @@
 namespace tavix::test {
 namespace {
 
-using Commands = std::vector<PlotHost::Command>;
-
 class PanMode : public InteractionTest {
  protected:
   void SetUp() override {
     InteractionTest::SetUp();
     ASSERT_EQ(0, EnterPoint(1, {10.0, 20.0}));
-    Press(kPan);
+    Press(kPanButton);
   }
 };
 
@@ -48,7 +46,7 @@ TEST_F(PanMode, MovesTheMapWithTheStylus) {
 // would stay ten pixels behind the stylus.
 TEST_F(PanMode, MovesTheMapWithTheStylusBesideTheButtonColumn) {
   MakePlotWithButtons(260, 180);
-  Press(kPan);
+  Press(kPanButton);
   Drag({50, 50}, {80, 50});
   EXPECT_TRUE(SamePicture(LeftPart(CrossesAt({{170, 80}}), 240), LeftPart(Shown(), 240)));
 }
@@ -80,7 +78,7 @@ TEST_F(PanMode, StaysUntilPressedAgain) {
   Drag({50, 50}, {80, 50});
   Drag({50, 50}, {80, 50});
   EXPECT_TRUE(SamePicture(CrossesAt({{200, 80}}), Shown()));
-  Press(kPan);
+  Press(kPanButton);
   Drag({50, 50}, {80, 50});
   EXPECT_TRUE(SamePicture(CrossesAt({{200, 80}}), Shown()));
   Tap({200, 80});
@@ -89,14 +87,14 @@ TEST_F(PanMode, StaysUntilPressedAgain) {
 
 TEST_F(PanMode, LeavesTheOthersEnabled) {
   MakePlotWithButtons(240, 180);
-  Press(kPan);
-  for (int button = kBandZoom; button <= kRotateBack; button += 4) {
-    EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(Window(), button))) << button;
+  Press(kPanButton);
+  for (const ButtonRow& button : kButtonTable) {
+    EXPECT_TRUE(::IsWindowEnabled(ButtonWindow(button.id))) << button.id;
   }
 }
 
 TEST_F(PanMode, EndsWithABandZoom) {
-  Press(kBandZoom);
+  Press(kBandZoomButton);
   Drag({60, 45}, {180, 135});
   const Picture zoomed = CrossesAt({{160, 70}});
   EXPECT_TRUE(SamePicture(zoomed, Shown()));
@@ -105,24 +103,24 @@ TEST_F(PanMode, EndsWithABandZoom) {
 }
 
 TEST_F(PanMode, EndsABandZoomAndItsCorner) {
-  Press(kPan);
-  Press(kBandZoom);
+  Press(kPanButton);
+  Press(kBandZoomButton);
   Tap({60, 45});
-  Press(kPan);
+  Press(kPanButton);
   Drag({50, 50}, {80, 50});
   EXPECT_TRUE(SamePicture(CrossesAt({{170, 80}}), Shown()));
-  Press(kPan);
-  Press(kBandZoom);
+  Press(kPanButton);
+  Press(kBandZoomButton);
   Tap({180, 135});  // a first corner again
   EXPECT_TRUE(SamePicture(CrossesAt({{170, 80}}), Shown()));
 }
 
 TEST_F(PanMode, LeavesTheHomeViewAlone) {
   ASSERT_EQ(0, EnterPoint(2, {10.0, 130.0}));
-  Press(kWhole);
+  Press(kWholeViewButton);
   const Picture home = Shown();
   Drag({50, 50}, {80, 70});
-  Press(kWhole);
+  Press(kWholeViewButton);
   EXPECT_TRUE(SamePicture(home, Shown()));
 }
 

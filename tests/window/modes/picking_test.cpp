@@ -7,8 +7,6 @@ namespace tavix::test {
 namespace {
 
 constexpr POINT kMiddle{120, 90};
-using Commands = std::vector<PlotHost::Command>;
-
 class NearestPoint : public InteractionTest {
  protected:
   // The key a tap on the middle picks, or 0.

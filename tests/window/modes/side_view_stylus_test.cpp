@@ -1,32 +1,19 @@
 // The stylus in the 3-D side view: the rectangle of a band zoom lies on the ground of the view.
-#include "tests/support/message_pump.h"
+#include "tests/support/plot_input.h"
+#include "tests/support/raw_overlays.h"
 #include "tests/support/side_plot_test.h"
 
 namespace tavix::test {
 namespace {
 
-constexpr WPARAM kBandZoom = 405;
-constexpr WPARAM kPan = 421;
 constexpr PointLegend kSquare{6, 9, 0, 0, 1, RGB(0, 0, 255)};
 
 class SideViewStylus : public SidePlotTest {
  protected:
-  static void Post(UINT message, WPARAM wParam, LPARAM lParam) {
-    ASSERT_TRUE(::PostMessageW(Window(), message, wParam, lParam));
-    DrainMessages();
-  }
-  static void PutDown(POINT at) { Post(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y)); }
-  static void MoveTo(POINT at) { Post(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(at.x, at.y)); }
-  static void Lift(POINT at) { Post(WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y)); }
-  static void Press(WPARAM button) { Post(WM_COMMAND, button, 0); }
-
   static Picture Outlined(const POINT (&outline)[5]) {
     const RawCanvas canvas(Window());
     DrawRawSideView(canvas.Dc(), {kWidth, kHeight}, {}, L"0.00m");
-    ::SetBkMode(canvas.Dc(), OPAQUE);
-    ::SetROP2(canvas.Dc(), R2_XORPEN);
-    const RawSelection pen(canvas.Dc(), ::CreatePen(PS_DASH, 1, RGB(255, 0, 0)));
-    ::Polyline(canvas.Dc(), outline, 5);
+    XorRawBand(canvas.Dc(), outline);
     return canvas.Take();
   }
 };
@@ -43,7 +30,7 @@ TEST_F(SideViewStylus, BandRunsAlongTheProjectedAxes) {
               {{150, 140}, {100, 50}, {46, 80}, {201, 109}},
               {{60, 90}, {200, 120}, {155, 145}, {103, 64}}};
   Redrawn();
-  Press(kBandZoom);
+  Press(kBandZoomButton);
   for (const auto& [down, current, beside, other] : rows) {
     PutDown(down);
     MoveTo({5, 5});
@@ -61,7 +48,7 @@ TEST_F(SideViewStylus, BandRunsAlongTheProjectedAxes) {
 TEST_F(SideViewStylus, BandZoomsToThePlanRectangle) {
   EnterSide(1, GroundAt({99, 94}), 0.0, AddLegend(kSquare));
   Redrawn();
-  Press(kBandZoom);
+  Press(kBandZoomButton);
   PutDown({90, 60});
   MoveTo({170, 150});
   Lift({170, 150});
@@ -72,7 +59,7 @@ TEST_F(SideViewStylus, BandZoomsToThePlanRectangle) {
 TEST_F(SideViewStylus, MapFollowsADrag) {
   EnterSide(1, {0.0, 0.0}, 0.0, AddLegend(kSquare));
   Redrawn();
-  Press(kPan);
+  Press(kPanButton);
   // From plan pixel (24, 63) to (175, 126).
   PutDown({90, 60});
   Lift({170, 150});

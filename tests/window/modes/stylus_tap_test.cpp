@@ -1,4 +1,4 @@
-// Taps on points, told from drags, and what the host hears of them.
+// Taps on points, which are not drags, and what they report to the host.
 #include <tavix/tavix.h>
 
 #include <limits>
@@ -10,8 +10,6 @@ namespace tavix::test {
 namespace {
 
 constexpr POINT kMiddle{120, 90};
-using Commands = std::vector<PlotHost::Command>;
-
 class StylusTap : public InteractionTest {};
 
 TEST_F(StylusTap, OnAPointTellsTheHostItsKey) {
@@ -134,11 +132,15 @@ TEST_F(StylusTap, LeavesItsLastPixelBehind) {
 TEST_F(StylusTap, LeavesItsPixelInEveryMode) {
   int x = 0;
   int y = 0;
-  for (const int mode : {kBandZoom, kPan}) {
-    Press(mode);
-    Tap({mode - 350, 7});
+  const struct {
+    ButtonId mode;
+    int x;
+  } rows[] = {{kBandZoomButton, 55}, {kPanButton, 71}};
+  for (const auto& row : rows) {
+    Press(row.mode);
+    Tap({row.x, 7});
     EXPECT_EQ(7, Tavix_GetLstPicCrd(&x, &y));
-    EXPECT_EQ(mode - 350, x);
+    EXPECT_EQ(row.x, x);
   }
   Tavix_CrdStt(5);
   Tavix_CrdEnd();
@@ -155,9 +157,7 @@ TEST_F(StylusTap, KeepsTheStylusUntilItIsLifted) {
 TEST_F(StylusTap, OnAButtonNeverReachesThePlot) {
   MakePlotWithButtons(240, 180);
   for (const bool enabled : {true, false}) {
-    for (int button = kBandZoom; button <= kRotateBack; button += 4) {
-      ::EnableWindow(::GetDlgItem(Window(), button), enabled);
-    }
+    for (const ButtonRow& button : kButtonTable) ::EnableWindow(ButtonWindow(button.id), enabled);
     for (int top = 0; top < 180; top += 20) {
       Tavix_DrwClr();
       const POINT on_button{230, top + 10};
@@ -166,6 +166,13 @@ TEST_F(StylusTap, OnAButtonNeverReachesThePlot) {
       EXPECT_EQ(Commands(), Reports()) << top;
     }
   }
+}
+
+TEST_F(StylusTap, PicksNothingInTheSideView) {
+  ASSERT_EQ(0, EnterPoint(1, {0.0, 0.0}));
+  Tavix_Dsp3D(1);
+  for (int y = 0; y < 180; y += 30) Tap({120, y});
+  EXPECT_TRUE(Reports().empty());
 }
 
 }  // namespace

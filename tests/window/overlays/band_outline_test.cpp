@@ -1,9 +1,10 @@
-// The dashed outline that follows the stylus in a band zoom.
+// The dashed outline that follows the stylus while a zoom window is marked.
 #include <tavix/tavix.h>
 
 #include "tests/support/interaction_test.h"
 #include "tests/support/picture_compare.h"
 #include "tests/support/raw_canvas.h"
+#include "tests/support/raw_overlays.h"
 
 namespace tavix::test {
 namespace {
@@ -18,8 +19,8 @@ class BandOutline : public InteractionTest {
     InteractionTest::SetUp();
     ASSERT_EQ(0, EnterPoint(1, GroundAt({100, 30})));
     ASSERT_EQ(0, EnterPoint(2, GroundAt({70, 70})));
-    Press(kRefresh);
-    Press(kBandZoom);
+    Press(kRefreshButton);
+    Press(kBandZoomButton);
   }
 
   static Picture Plain() { return CrossesAt({{100, 30}, {70, 70}}); }
@@ -28,11 +29,7 @@ class BandOutline : public InteractionTest {
   static Picture Outlined(const Picture& plain, POINT a, POINT b) {
     const RawCanvas canvas(Window());
     Put(canvas.Dc(), plain);
-    ::SetBkMode(canvas.Dc(), OPAQUE);
-    ::SetROP2(canvas.Dc(), R2_XORPEN);
-    const RawSelection pen(canvas.Dc(), ::CreatePen(PS_DASH, 1, RGB(255, 0, 0)));
-    const POINT outline[] = {a, {b.x, a.y}, b, {a.x, b.y}, a};
-    ::Polyline(canvas.Dc(), outline, 5);
+    XorRawBand(canvas.Dc(), {a, {b.x, a.y}, b, {a.x, b.y}, a});
     return canvas.Take();
   }
 
@@ -92,7 +89,7 @@ TEST_F(BandOutline, IsNotThereWithoutSize) {
 TEST_F(BandOutline, NeedsTheStylusDownAndTheMode) {
   MoveTo(kTo);
   EXPECT_TRUE(SamePicture(Plain(), OnScreen()));
-  for (const int next_mode : {kPan, kPan}) {  // pan mode, then neither
+  for (const ButtonId next_mode : {kPanButton, kPanButton}) {  // pan mode, then neither
     Press(next_mode);
     HoldBand();
     EXPECT_TRUE(SamePicture(Plain(), OnScreen()));
@@ -176,18 +173,18 @@ TEST_F(BandOutline, LeavesNoTraceOnALineDrawnMeanwhile) {
 }
 
 TEST_F(BandOutline, GoesBeforeAnyCommand) {
-  for (const int command : {kRefresh, 999}) {
+  for (const unsigned command : {unsigned{kRefreshButton}, 999U}) {
     HoldBand();
     Press(command);
     EXPECT_TRUE(SamePicture(Plain(), Shown())) << command;
     MoveTo({60, 60});
     EXPECT_TRUE(SamePicture(Outlined(Plain(), kFrom, {60, 60}), Shown())) << command;
     Lift(kFrom);
-    Press(kBandZoom);
-    Press(kBandZoom);  // anew, without a corner
+    Press(kBandZoomButton);
+    Press(kBandZoomButton);  // again, without a corner
   }
   HoldBand();
-  Press(kBandZoom);
+  Press(kBandZoomButton);
   EXPECT_TRUE(SamePicture(Plain(), Shown()));
   MoveTo({60, 60});
   EXPECT_TRUE(SamePicture(Plain(), Shown()));

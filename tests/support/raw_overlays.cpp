@@ -1,6 +1,4 @@
-#include "tests/window/overlays/raw_overlays.h"
-
-#include "tests/support/raw_canvas.h"
+#include "tests/support/raw_overlays.h"
 
 namespace tavix::test {
 
@@ -36,6 +34,13 @@ void XorRawPolyline(HDC dc, COLORREF color, int width, const std::vector<POINT>&
   const RawXor drawing(dc, color, width);
   ::MoveToEx(dc, points.front().x, points.front().y, nullptr);
   for (std::size_t i = 1; i < points.size(); ++i) ::LineTo(dc, points[i].x, points[i].y);
+}
+
+void XorRawBand(HDC dc, const POINT (&outline)[5]) {
+  ::SetBkMode(dc, OPAQUE);
+  ::SetROP2(dc, R2_XORPEN);
+  const RawSelection pen(dc, ::CreatePen(PS_DASH, 1, RGB(255, 0, 0)));
+  ::Polyline(dc, outline, 5);
 }
 
 }  // namespace tavix::test

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/raw_canvas.h"
+
 namespace tavix::test {
 
 // A polyline by a solid pen of one pixel.
@@ -20,26 +22,24 @@ void DrawRawFrame(HDC dc, int left, int top, int right, int bottom);
 // A polyline by exclusive-or; twice is never.
 void XorRawPolyline(HDC dc, COLORREF color, int width, const std::vector<POINT>& points);
 
-// Exclusive-or with a pen while it lives.
+// The dashed red outline of a zoom window, by exclusive-or; its first corner is its last one too.
+// Leaves the background opaque and the drawing mode at exclusive-or.
+void XorRawBand(HDC dc, const POINT (&outline)[5]);
+
+// Exclusive-or with a solid pen while it lives.
 class RawXor {
  public:
   RawXor(HDC dc, COLORREF color, int width)
       : dc_(dc),
-        pen_(::CreatePen(PS_SOLID, width, color)),
-        old_pen_(::SelectObject(dc, pen_)),
+        pen_(dc, ::CreatePen(PS_SOLID, width, color)),
         old_operation_(::SetROP2(dc, R2_XORPEN)) {}
-  ~RawXor() {
-    ::SetROP2(dc_, old_operation_);
-    ::SelectObject(dc_, old_pen_);
-    ::DeleteObject(pen_);
-  }
+  ~RawXor() { ::SetROP2(dc_, old_operation_); }
   RawXor(const RawXor&) = delete;
   RawXor& operator=(const RawXor&) = delete;
 
  private:
   HDC dc_;
-  HGDIOBJ pen_;
-  HGDIOBJ old_pen_;
+  RawSelection pen_;
   int old_operation_;
 };
 
