@@ -94,6 +94,25 @@ def includes(root):
                 yield path, number, match[1], name, target
 
 
+def include_graph(root):
+    """What each file includes: files of the project, and the names of other headers."""
+    graph = {}
+    for path, _, _, name, target in includes(root):
+        graph.setdefault(path, []).append(target or name)
+    return graph
+
+
+def seen_from(path, graph):
+    """What `path` includes, directly or through another."""
+    found, waiting = set(), [path]
+    while waiting:
+        for target in graph.get(waiting.pop(), ()):
+            if target not in found:
+                found.add(target)
+                waiting.append(target)
+    return found
+
+
 def circle(graph):
     """The files of one circle of includes, the first repeated at the end; empty without one."""
     finished = set()
@@ -123,20 +142,18 @@ def dead_patterns(root):
 def problems(root):
     """One line for each finding, in the order of the files."""
     found = []
-    graph = {}
     for path, number, quote, name, target in includes(root):
         here = f"{path}:{number}"
         if target is None:
             if quote == '"':
                 found.append(f'{here}: "{name}" does not start from the project\'s root')
             continue
-        graph.setdefault(path, []).append(target)
         layer, other = layer_of(path), layer_of(target)
         if layer is None or other is None:
             found.append(f"{here}: no rule for {path if layer is None else target}")
         elif other not in MAY_KNOW[layer]:
             found.append(f"{here}: {layer} may not know {other}: {target}")
-    ring = circle(graph)
+    ring = circle(include_graph(root))
     if ring:
         found.append("circle of includes: " + " -> ".join(ring))
     return found
