@@ -93,8 +93,16 @@ def includes(root):
                 yield path, number, match[1], name, target
 
 
+def include_graph(root):
+    """What each file includes: files of the project, and the names of other headers."""
+    graph = {}
+    for path, _, _, name, target in includes(root):
+        graph.setdefault(path, []).append(target or name)
+    return graph
+
+
 def seen_from(path, graph):
-    """The files that `path` includes, directly or through another."""
+    """What `path` includes, directly or through another."""
     found, waiting = set(), [path]
     while waiting:
         for target in graph.get(waiting.pop(), ()):
@@ -142,14 +150,13 @@ def dead_patterns(root):
 def problems(root):
     """One line for each finding, in the order of the files."""
     found = []
-    graph = {}
+    graph = include_graph(root)
     for path, number, quote, name, target in includes(root):
         here = f"{path}:{number}"
         if target is None:
             if quote == '"':
                 found.append(f'{here}: "{name}" does not start from the project\'s root')
             continue
-        graph.setdefault(path, []).append(target)
         layer, other = layer_of(path), layer_of(target)
         if layer is None or other is None:
             found.append(f"{here}: no rule for {path if layer is None else target}")

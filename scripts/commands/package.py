@@ -4,8 +4,9 @@ import os
 import shutil
 from pathlib import Path
 
-from testrun.steps import call
-from testrun.tally import Tally
+from commands.steps import call
+from commands.tally import Tally
+from commands.wine import RUN, windows_path
 
 COMPILERS = {"win64": "x86_64-w64-mingw32-g++-posix", "win32": "i686-w64-mingw32-g++-posix"}
 TOOLCHAINS = {"win64": "mingw-w64-x86_64.cmake", "win32": "mingw-w64-i686.cmake"}
@@ -55,9 +56,8 @@ class Package:
     def run(self, program):
         """Runs a host with the package's DLLs and the compiler's own on its search path."""
         folders = [self._prefix / "bin", *self._runtime_folders()]
-        windows_path = ";".join("Z:" + str(folder).replace("/", "\\") for folder in folders)
-        environment = {**os.environ, "WINEPATH": windows_path}
-        return call([self._root / "scripts/wine_run.sh", self._work / program], env=environment)
+        environment = {**os.environ, "WINEPATH": ";".join(map(windows_path, folders))}
+        return call([RUN, self._work / program], env=environment)
 
     def _runtime_folders(self):
         names = ("libstdc++-6.dll", "libwinpthread-1.dll")

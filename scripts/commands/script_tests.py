@@ -3,7 +3,7 @@
 import io
 import unittest
 
-from testrun.tally import Tally
+from commands.tally import Tally
 
 
 class _Counting(unittest.TextTestResult):

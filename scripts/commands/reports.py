@@ -6,7 +6,7 @@ GoogleTest program leaves an XML report of its own, where every test case counts
 
 import xml.etree.ElementTree as xml
 
-from testrun.tally import Tally
+from commands.tally import Tally
 
 # Enough of a program's output to see why it died.
 OUTPUT_LINES = 60
