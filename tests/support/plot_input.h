@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "window/button_table.h"
+#include "window/buttons/button_table.h"
 
 namespace tavix::test {
 

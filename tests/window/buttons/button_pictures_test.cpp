@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "window/button_table.h"
+#include "window/buttons/button_table.h"
 
 namespace {
 
