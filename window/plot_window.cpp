@@ -120,8 +120,9 @@ OneBitPlot& CPlotWnd::OneBit() { return parts_->one_bit; }
 ScreenPoint CPlotWnd::LastTap() const { return parts_->modes.LastTap(); }
 
 BOOL CPlotWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
+  // The command can change the picture or the mode under an unfinished band.
   parts_->modes.Cancel();
-  // A command can end the window, with this object.
+  // A host can end the window, with this object, while the settings are open.
   if (parts_->commands.Run(LOWORD(wParam))) return TRUE;
   return CWnd::OnCommand(wParam, lParam);
 }

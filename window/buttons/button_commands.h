@@ -23,8 +23,8 @@ class ButtonCommands {
         navigation_(navigation),
         settings_(settings) {}
 
-  // Carries out the command with this id; false when it is none of the buttons'. After the settings
-  // the window may be gone, with this object.
+  // Carries out the command with this id; false when it belongs to no button. After the settings
+  // the window can be gone, with this object.
   bool Run(UINT command);
 
  private:

@@ -56,7 +56,7 @@ class PlanScene : public Scene {
   ScaleBarOverlay scale_bar_;
   TracedLine traced_line_;
   MovedPoint moved_point_;
-  std::array<Overlay*, 6> overlays_;
+  std::array<Overlay*, 6> overlays_;  // bottom to top
 };
 
 }  // namespace tavix

@@ -15,7 +15,7 @@ void SettingsCommand::Run() {
   open_.push_back(&dialog);
   window_.EnableWindow(FALSE);
   const INT_PTR result = dialog.DoModal();
-  if (dialog.IsAbandoned()) return;  // nothing of this window is left, nor perhaps of the instance
+  if (dialog.IsAbandoned()) return;  // the window is gone, and perhaps the instance
   open_.pop_back();
   window_.EnableWindow(TRUE);
   // On Cancel too: the dialog's copy has not changed then.

@@ -1,4 +1,4 @@
-// The settings button: the dialog over a plot window, and what becomes of it.
+// The settings command: opens the dialog over a plot window and carries out what was set.
 #pragma once
 
 #include <afxwin.h>
@@ -19,7 +19,7 @@ class SettingsCommand {
       : window_(window), display_(display), navigation_(navigation), legend_(legend) {}
 
   // Returns when the dialog has ended. A host can call from a timer while the dialog's loop runs:
-  // when it ends the window, nothing of this object is left on return.
+  // if it ends the window then, this object is gone on return.
   void Run();
 
   // Ends the dialogs that are open, as if cancelled. To be called before the window ends.
