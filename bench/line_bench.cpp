@@ -124,7 +124,7 @@ void MeasureWalk() {
   CLinDb store(0);
   store.Open();
   EnterAll(store, lines);
-  tavix::CPntList points(0);
+  tavix::CPntList points;
   std::vector<GroundPoint> places;
   for (int key = 0; key <= kFewLines; ++key) {
     places.push_back({key * 1.5, key * -0.5});

@@ -40,7 +40,7 @@ void EnterAll(CPntList& points, const std::vector<std::int32_t>& keys) {
 void Enter(benchmark::State& state) {
   const auto keys = ShuffledKeys(state.range(0));
   for (auto _ : state) {
-    CPntList points(0);
+    CPntList points;
     EnterAll(points, keys);
     benchmark::DoNotOptimize(points.Count());
   }
@@ -49,7 +49,7 @@ void Enter(benchmark::State& state) {
 
 void Find(benchmark::State& state) {
   auto keys = ShuffledKeys(state.range(0));
-  CPntList points(0);
+  CPntList points;
   EnterAll(points, keys);
   std::shuffle(keys.begin(), keys.end(), std::mt19937(3));
   std::size_t i = 0;
@@ -60,7 +60,7 @@ void Find(benchmark::State& state) {
 }
 
 void FindAbsent(benchmark::State& state) {
-  CPntList points(0);
+  CPntList points;
   EnterAll(points, ShuffledKeys(state.range(0)));
   std::int32_t key = 1;
   for (auto _ : state) {
@@ -79,7 +79,7 @@ std::vector<GroundPoint> SomePlaces() {
 
 // Arguments: points, reach in centimetres.
 void FindNearest(benchmark::State& state) {
-  CPntList points(0);
+  CPntList points;
   EnterAll(points, ShuffledKeys(state.range(0)));
   const double reach = static_cast<double>(state.range(1)) / 100.0;
   const auto places = SomePlaces();
@@ -93,7 +93,7 @@ void FindNearest(benchmark::State& state) {
 }
 
 void FloorWalk(benchmark::State& state) {
-  CPntList points(0);
+  CPntList points;
   EnterAll(points, ShuffledKeys(state.range(0)));
   std::vector<std::pair<GroundPoint, std::int32_t>> plain;
   points.ForEach([&](const tavix::Point& point) { plain.emplace_back(point.at, point.key); });
@@ -105,11 +105,11 @@ void FloorWalk(benchmark::State& state) {
     double nearest = 0.0;
     std::int32_t key = 0;
     for (const auto& [place, its_key] : plain) {
-      const double dx = places[i].x - place.x;
-      if (!(std::fabs(dx) <= reach)) continue;
-      const double dy = places[i].y - place.y;
-      if (!(std::fabs(dy) <= reach)) continue;
-      const double distance = dx * dx + dy * dy;
+      const double north = places[i].north - place.north;
+      if (!(std::fabs(north) <= reach)) continue;
+      const double east = places[i].east - place.east;
+      if (!(std::fabs(east) <= reach)) continue;
+      const double distance = north * north + east * east;
       if (candidates == 0 || distance < nearest) {
         nearest = distance;
         key = its_key;

@@ -7,7 +7,7 @@
 // 15 degrees. "whole" has all of it in view, "1 %" a hundredth of the ground. Medians of
 //
 //   floor     the same picture by the plainest sequence of drawing calls from flat arrays
-//   plain     the plan view's passes by the system's own calls
+//   plain     the plan view's passes by GDI
 //   fast      the same passes into the bits
 //   redraw    the exported call
 //
@@ -25,7 +25,7 @@
 #include "draw/dib/dib_canvas.h"
 #include "draw/dib/dib_section.h"
 #include "draw/gdi_canvas.h"
-#include "draw/label_font.h"
+#include "draw/gdi_scopes.h"
 #include "draw/plan_view.h"
 #include "platform/wide_text.h"
 
@@ -152,7 +152,7 @@ class Plot {
 
   CViewState view_;
   LegendTable legend_;
-  CPntList points_{kInstance};
+  CPntList points_;
   CLinDb lines_;
   CFigList figures_;
   std::int16_t mark_ = 0;
@@ -165,7 +165,7 @@ void Measure(SIZE size, Plot& plot, const RedrawScene& scene, bool whole) {
   Surface floor(size);
   Surface plain(size);
   Surface fast(size);
-  LearntDrawing learnt;
+  RasterCache cache;
   floor.SelectFloorObjects();
   int shown = 0;
   const double floor_ms = MedianMilliseconds(
@@ -178,7 +178,7 @@ void Measure(SIZE size, Plot& plot, const RedrawScene& scene, bool whole) {
   });
   const double fast_ms = MedianMilliseconds([&] {
     fast.Fill();
-    DibCanvas canvas(fast.Dc(), fast.Pixels(), learnt);
+    DibCanvas canvas(fast.Dc(), fast.Pixels(), cache);
     DrawPlanView(canvas, plot.Data());
     ::GdiFlush();
   });

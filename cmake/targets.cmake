@@ -15,14 +15,35 @@ if(WIN32)
     UNICODE _UNICODE WINVER=0x0A00 _WIN32_WINNT=0x0A00 NOMINMAX)
 endif()
 
-# The framework's headers take longer to read than most sources that include them: they are
-# compiled once a target.
+# Headers take longer to read than most sources that include them. `tavix_precompile(NAME HEADERS ...
+# [OPTIONS ...] [LIBRARIES ...])` compiles some once, for all targets that say
+# `target_precompile_headers(TARGET REUSE_FROM NAME)` and have the same options.
+function(tavix_precompile name)
+  cmake_parse_arguments(arg "" "" "HEADERS;OPTIONS;LIBRARIES" ${ARGN})
+  file(CONFIGURE OUTPUT ${name}.cpp CONTENT "// Holds precompiled headers.\n")
+  add_library(${name} OBJECT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+  target_compile_options(${name} PRIVATE ${arg_OPTIONS})
+  target_link_libraries(${name} PRIVATE tavix_warnings ${arg_LIBRARIES})
+  target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
+endfunction()
+
+# Natively the portable sources do without: so each is known to include what it needs.
 set(TAVIX_WINDOW_HEADERS <afxwin.h> <array> <functional> <memory> <optional> <string> <vector>)
+if(WIN32)
+  tavix_precompile(portable_headers HEADERS <algorithm> <optional> <span> <string> <vector>)
+  tavix_precompile(window_headers HEADERS ${TAVIX_WINDOW_HEADERS} LIBRARIES framework)
+endif()
+function(tavix_precompiled_portable target)
+  if(WIN32)
+    target_precompile_headers(${target} REUSE_FROM portable_headers)
+  endif()
+endfunction()
 
 add_library(tavix_core STATIC)
 target_include_directories(tavix_core PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(tavix_core PRIVATE tavix_warnings)
 set_target_properties(tavix_core PROPERTIES POSITION_INDEPENDENT_CODE ON)
+tavix_precompiled_portable(tavix_core)
 
 function(tavix_portable)
   list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
@@ -33,7 +54,7 @@ if(WIN32)
   add_library(tavix_window_core STATIC)
   target_include_directories(tavix_window_core PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(tavix_window_core PRIVATE tavix_warnings PUBLIC tavix_core framework rovcond tdialog)
-  target_precompile_headers(tavix_window_core PRIVATE ${TAVIX_WINDOW_HEADERS})
+  target_precompile_headers(tavix_window_core REUSE_FROM window_headers)
 endif()
 
 function(tavix_windows)

@@ -6,7 +6,7 @@
 
 // Between two powers of two the representable numbers lie evenly, and adding a constant there moves
 // by a constant multiple of their spacing. The one thing that may alternate is the rounding of
-// exact halves, which looks at whether the position is an even or an odd multiple. So when two
+// exact halves, which goes by whether the position is an even or an odd multiple. So when two
 // double rounds in a row move by the same amount without leaving the power of two, every further
 // double round does, and any number of them is one exact multiplication and one exact addition.
 

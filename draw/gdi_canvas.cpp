@@ -1,10 +1,53 @@
 #include "draw/gdi_canvas.h"
 
+#include "draw/labels.h"
 #include "draw/marks.h"
-#include "draw/point_label.h"
 #include "platform/wide_text.h"
 
 namespace tavix {
+
+void GdiSymbol::Use(const Pen& pen) {
+  DropPenAndBrush();
+  LOGPEN logical{PS_SOLID, {pen.width, pen.width}, static_cast<COLORREF>(pen.color)};
+  pen_.CreatePenIndirect(&logical);
+  old_pen_ = dc_.SelectObject(&pen_);
+}
+
+void GdiSymbol::Use(const PointSymbol& symbol) {
+  Use(symbol.pen);
+  const MarkShape* mark = FindMark(symbol.mark);
+  if (mark && mark->is_filled) {
+    brush_.CreateSolidBrush(static_cast<COLORREF>(symbol.pen.color));
+    old_brush_ = dc_.SelectObject(&brush_);
+  }
+  if (symbol.label_height > 0 && symbol.label_height != font_height_) {
+    SelectFont(symbol.label_height);
+  }
+}
+
+void GdiSymbol::SelectFont(int height) {
+  DropFont();
+  const LOGFONTW font = LabelFont(height);
+  font_.CreateFontIndirect(&font);
+  old_font_ = dc_.SelectObject(&font_);
+  font_height_ = height;
+}
+
+void GdiSymbol::DropPenAndBrush() {
+  if (old_pen_) dc_.SelectObject(old_pen_);
+  if (old_brush_) dc_.SelectObject(old_brush_);
+  old_pen_ = nullptr;
+  old_brush_ = nullptr;
+  pen_.DeleteObject();
+  brush_.DeleteObject();
+}
+
+void GdiSymbol::DropFont() {
+  if (old_font_) dc_.SelectObject(old_font_);
+  old_font_ = nullptr;
+  font_.DeleteObject();
+  font_height_ = 0;
+}
 
 ScreenBox GdiCanvas::Visible() const {
   CRect box(0, 0, 0, 0);
@@ -12,8 +55,6 @@ ScreenBox GdiCanvas::Visible() const {
   return {static_cast<int>(box.left), static_cast<int>(box.top), static_cast<int>(box.right),
           static_cast<int>(box.bottom)};
 }
-
-void GdiCanvas::UseLineStyle(const LegendStyle& style) { objects_.UseForLines(style); }
 
 void GdiCanvas::Line(const ScreenSegment& segment) {
   dc_.MoveTo(segment.start.x, segment.start.y);
@@ -25,16 +66,16 @@ void GdiCanvas::Circle(ScreenPoint centre, int radius) {
   dc_.Ellipse(centre.x + radius, centre.y + radius, centre.x - radius, centre.y - radius);
 }
 
-void GdiCanvas::UsePointStyle(const LegendStyle& style) {
-  style_ = style;
-  objects_.UseForPoints(style);
+void GdiCanvas::UsePointSymbol(const PointSymbol& symbol) {
+  symbol_ = symbol;
+  gdi_.Use(symbol);
 }
 
-void GdiCanvas::Mark(ScreenPoint at) { DrawMark(dc_, style_.kind, style_.prm1, at); }
+void GdiCanvas::Mark(ScreenPoint at) { DrawMark(dc_, symbol_.mark, symbol_.size, at); }
 
 void GdiCanvas::Label(ScreenPoint at, NameView text) {
   const int length = static_cast<int>(text.size());
-  const LabelBox box = PlaceLabel(at, style_.prm1, style_.prm2, length);
+  const LabelBox box = PlaceLabel(at, symbol_, length);
   RECT rect{box.left, box.top, box.right, box.bottom};
   dc_.DrawText(AsWide(text.data()), length, &rect, DT_NOCLIP);
 }

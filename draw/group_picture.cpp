@@ -6,8 +6,7 @@
 #include <array>
 
 #include "draw/ink/ink_canvas.h"
-#include "draw/ink_legend.h"
-#include "view/truncate.h"
+#include "view/coordinates.h"
 
 namespace tavix {
 namespace {
@@ -27,6 +26,23 @@ CViewState PictureView(const CViewState& window_view, const PaperFrame& frame, i
   }
   return view;
 }
+
+// Turns every colour but white to black: a one-bit bitmap would map light colours to white, and
+// what is drawn in them would be lost.
+class BlackInkCanvas : public InkCanvas {
+ public:
+  using InkCanvas::InkCanvas;
+
+  void UsePen(const Pen& pen) override { InkCanvas::UsePen(InBlack(pen)); }
+  void UsePointSymbol(const PointSymbol& symbol) override {
+    PointSymbol ink = symbol;
+    ink.pen = InBlack(symbol.pen);
+    InkCanvas::UsePointSymbol(ink);
+  }
+
+ private:
+  static Pen InBlack(const Pen& pen) { return {pen.width, InkColor(pen.color)}; }
+};
 
 // A bar across and a one-sided arrow along north, turned with the view.
 void DrawArrow(CDC& dc, ScreenPoint centre, const CViewState& view) {
@@ -50,28 +66,27 @@ void DrawArrow(CDC& dc, ScreenPoint centre, const CViewState& view) {
 bool GroupPicture::IsTooLarge(int height, int width) {
   constexpr std::size_t kMostBytes = std::size_t{1} << 28;
   if (height < 1 || width < 1) return false;
-  return static_cast<std::size_t>(height) > kMostBytes / OneBitCanvas::StrideOf(width);
+  return static_cast<std::size_t>(height) > kMostBytes / OneBitBitmap::StrideOf(width);
 }
 
 bool GroupPicture::Build(const PlotData& data, const PaperFrame& frame, int height, int width) {
   Release();
   bool cut = false;
   const CViewState view = PictureView(data.view, frame, height, width, cut);
-  auto canvas = std::make_unique<OneBitCanvas>(width, height);
-  if (!canvas->IsMade()) return cut;
-  const LegendTable legend = InkLegend(data.legend);
+  auto bitmap = std::make_unique<OneBitBitmap>(width, height);
+  if (!bitmap->IsMade()) return cut;
   {
-    InkCanvas ink(*canvas, width, height);
-    DrawPlanView(ink, {view, legend, data.points, data.lines, data.figures, data.draws_lines});
+    BlackInkCanvas ink(*bitmap, width, height);
+    DrawPlanView(ink, {view, data.legend, data.points, data.lines, data.figures, data.draws_lines});
   }
 
   height_ = height;
   width_ = width;
-  stride_ = canvas->Stride();
-  bits_ = canvas->Bits();
-  DrawArrow(canvas->Dc(), FindFreeCorner(frame), view);
-  bits_ = canvas->Bits();
-  canvas_ = std::move(canvas);
+  stride_ = bitmap->Stride();
+  bits_ = bitmap->Bits();
+  DrawArrow(bitmap->Dc(), FindFreeCorner(frame), view);
+  bits_ = bitmap->Bits();
+  bitmap_ = std::move(bitmap);
   return cut;
 }
 
@@ -79,12 +94,12 @@ void GroupPicture::Release() {
   height_ = 0;
   width_ = 0;
   bits_ = nullptr;
-  canvas_.reset();
+  bitmap_.reset();
 }
 
-// The square whose one base comes from the width is scanned with that base as its row, while the
-// arrow is drawn with it as its column: on a picture that is not square the two are mirrored. Meant
-// so.
+// Compatibility: the square whose one base comes from the width is scanned with that base as its
+// row, while the arrow is drawn with it as its column: on a picture that is not square the two are
+// mirrored.
 ScreenPoint GroupPicture::FindFreeCorner(const PaperFrame& frame) const {
   constexpr int kMargin = 10;
   constexpr int kFar = 130;

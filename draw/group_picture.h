@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "draw/one_bit_canvas.h"
+#include "draw/ink/one_bit_bitmap.h"
 #include "draw/plan_view.h"
 #include "view/paper_frame.h"
 #include "view/view_state.h"
@@ -17,17 +17,18 @@ namespace tavix {
 // the paper frame is on.
 class GroupPicture {
  public:
-  // Whether a picture of this size takes more than 256 MiB, a square of about 46,000 pixels. Such a
-  // one is not to be built.
+  // Whether a picture of this size takes more than 256 MiB, a square of about 46,000 pixels. Build
+  // must not be called for one.
   [[nodiscard]] static bool IsTooLarge(int height, int width);
 
-  // Draws the picture of `data`, seen through its view brought to this size; one drawn before goes.
-  // Nothing is held when the picture cannot be made. True when the scale was cut to its cap.
+  // Draws the picture of `data`, seen through its view brought to this size, in place of one drawn
+  // before. Nothing is held when the picture cannot be made. True when the scale was cut to its
+  // cap.
   bool Build(const PlotData& data, const PaperFrame& frame, int height, int width);
 
   // Whether the pixel is ink; rows count from the top. While the frame's outline shows, the two
-  // outermost rows and columns are always ink. Pixels outside of the picture are not, and none is
-  // without a picture.
+  // outermost rows and columns are always ink. Pixels outside of the picture are white, and so are
+  // all without a picture.
   //
   // Compatibility: the border goes on outside of the picture: rows above it and columns left of it
   // are ink, and the border's columns are so in rows below. Only columns right of it never are.
@@ -53,7 +54,7 @@ class GroupPicture {
   int height_ = 0;
   int width_ = 0;
   std::size_t stride_ = 0;  // bytes a row
-  std::unique_ptr<OneBitCanvas> canvas_;
+  std::unique_ptr<OneBitBitmap> bitmap_;
   const std::uint8_t* bits_ = nullptr;  // rows from the bottom up, most significant bit first
 };
 

@@ -3,51 +3,47 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <optional>
 
-#include "draw/drawn_size.h"
-#include "draw/screen_line.h"
-#include "view/truncate.h"
+#include "view/coordinates.h"
 
 namespace tavix {
 namespace {
 
-// Circles above this radius in pixels are beyond the system's coordinates, or cost it seconds.
+// Circles above this radius in pixels are beyond GDI's coordinates, or take it seconds.
 constexpr int kLargestRadius = 1 << 14;
-
-// `box` grown by the reach of a pen, and by a pixel for the truncation of positions.
-ScreenBox Grown(const ScreenBox& box, int pen_width) {
-  const int reach = std::abs(DrawnSize(pen_width)) + 1;
-  return {box.left - reach, box.top - reach, box.right + reach, box.bottom + reach};
-}
 
 }  // namespace
 
 LinePainter::LinePainter(PlanCanvas& canvas, const CViewState& view, const LegendTable& legend)
-    : canvas_(canvas), view_(view), entry_(legend), visible_(canvas.Visible()) {}
+    : canvas_(canvas), view_(view), symbol_(legend), visible_(canvas.Visible()) {}
 
 void LinePainter::Use(std::int16_t legend) {
-  if (entry_.Use(legend)) canvas_.UseLineStyle(DrawnLineStyle(entry_.Style()));
+  if (symbol_.Use(legend)) canvas_.UsePen(symbol_.Get().pen);
+}
+
+// What is visible, grown by the reach of the pen, and by a pixel for the truncation of positions.
+ScreenBox LinePainter::Reached() const {
+  const int reach = std::abs(symbol_.Get().pen.width) + 1;
+  return {visible_.left - reach, visible_.top - reach, visible_.right + reach,
+          visible_.bottom + reach};
 }
 
 void LinePainter::DrawSegment(std::int16_t legend, GroundPoint start, GroundPoint end) {
   ScreenSegment clipped;
   if (!view_.ClipGroundSegment(start, end, clipped)) return;
   Use(legend);
-  DrawStyled(entry_.Style(), start, end, clipped);
+  if (symbol_.Get().style == kSolidLine) {
+    canvas_.Line(WithDot(clipped));
+  } else if (const std::optional<LinePattern> pattern = PatternOf(symbol_.Get())) {
+    DrawPattern(*pattern, start, end);
+  }
 }
 
-void LinePainter::DrawStyled(const LegendStyle& style, GroundPoint start, GroundPoint end,
-                             const ScreenSegment& clipped) {
-  if (style.kind == kSolidLine) {
-    canvas_.Line(WithDot(clipped));
-    return;
-  }
-  const std::optional<LinePattern> pattern = PatternOf(style);
-  if (!pattern) return;
-  WalkPattern(
-      view_, *pattern, start, end, Grown(visible_, style.width), [this](const LinePiece& piece) {
-        canvas_.Line(WithDot({view_.GroundToScreen(piece.start), view_.GroundToScreen(piece.end)}));
-      });
+void LinePainter::DrawPattern(const LinePattern& pattern, GroundPoint start, GroundPoint end) {
+  WalkPattern(view_, pattern, start, end, Reached(), [this](const LinePiece& piece) {
+    canvas_.Line(WithDot({view_.GroundToScreen(piece.start), view_.GroundToScreen(piece.end)}));
+  });
 }
 
 void LinePainter::DrawCircle(std::int16_t legend, GroundPoint centre, double radius) {
@@ -57,15 +53,15 @@ void LinePainter::DrawCircle(std::int16_t legend, GroundPoint centre, double rad
   const int r = view_.LengthToPixels(radius);
   if (r < -kLargestRadius) return;
   if (r > kLargestRadius) {
-    DrawHugeCircle(view_.GroundToRealScreen(centre), radius * view_.Scale(),
-                   Grown(visible_, entry_.Style().width));
-    return;
+    DrawHugeCircle(view_.GroundToRealScreen(centre), radius * view_.Scale());
+  } else {
+    canvas_.Circle(at, r);
   }
-  canvas_.Circle(at, r);
 }
 
-// The outline where it crosses the box, as a polyline that is true to the pixel.
-void LinePainter::DrawHugeCircle(RealScreenPoint centre, double radius, const ScreenBox& box) {
+// The outline where it crosses what is visible, as a polyline that is true to the pixel.
+void LinePainter::DrawHugeCircle(RealScreenPoint centre, double radius) {
+  const ScreenBox box = Reached();
   const RealScreenPoint middle{(box.left + box.right) * 0.5, (box.top + box.bottom) * 0.5};
   const double reach = std::hypot(box.right - box.left, box.bottom - box.top) * 0.5;
   const double distance = std::hypot(middle.x - centre.x, middle.y - centre.y);

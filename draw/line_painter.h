@@ -1,11 +1,11 @@
-// Draws lines and figures in the style of their legend.
+// Draws lines and figures, each with the symbol of its legend.
 #pragma once
 
 #include <cstdint>
 
-#include "draw/legend_lookup.h"
-#include "draw/line_pattern.h"
+#include "draw/line_styles.h"
 #include "draw/plan_canvas.h"
+#include "draw/symbol_in_use.h"
 #include "view/view_state.h"
 
 namespace tavix {
@@ -24,13 +24,13 @@ class LinePainter {
 
  private:
   void Use(std::int16_t legend);
-  void DrawStyled(const LegendStyle& style, GroundPoint start, GroundPoint end,
-                  const ScreenSegment& clipped);
-  void DrawHugeCircle(RealScreenPoint centre, double radius, const ScreenBox& box);
+  void DrawPattern(const LinePattern& pattern, GroundPoint start, GroundPoint end);
+  void DrawHugeCircle(RealScreenPoint centre, double radius);
+  [[nodiscard]] ScreenBox Reached() const;
 
   PlanCanvas& canvas_;
   const CViewState& view_;
-  LegendLookup entry_;
+  SymbolInUse<LineSymbol> symbol_;
   ScreenBox visible_;
 };
 

@@ -3,20 +3,18 @@
 
 #include <cstdint>
 
-#include "draw/screen_box.h"
-#include "store/legend_table.h"
+#include "draw/screen.h"
 #include "store/name_pool.h"
+#include "store/symbols.h"
 #include "view/coordinates.h"
 
 namespace tavix {
 
-// The few drawing operations the views' passes need, in pixels. Whatever implements them gives
-// the pixels of GdiCanvas, which draws each by the system's own call. Later drawings cover
-// earlier ones.
+// The few drawing operations the views' passes need, in pixels. Every implementation gives the
+// pixels of GdiCanvas. Later drawings cover earlier ones.
 //
-// A style is in use until the next one is. Its sizes are those to be drawn, see DrawnPointStyle.
-// Before the first one lines and circles are drawn with the pen that is there, the black one of a
-// bitmap's device context.
+// A pen or a symbol is in use until the next one is. Before the first one lines and circles are
+// drawn with the pen that is there, the black one of a bitmap's device context.
 class PlanCanvas {
  public:
   PlanCanvas() = default;
@@ -27,8 +25,8 @@ class PlanCanvas {
   // What can show: all else is cut off.
   [[nodiscard]] virtual ScreenBox Visible() const = 0;
 
-  // The look of the lines and circles that follow.
-  virtual void UseLineStyle(const LegendStyle& style) = 0;
+  // The pen of the lines and circles that follow.
+  virtual void UsePen(const Pen& pen) = 0;
 
   // A solid line from its start up to its end, its end pixel left out.
   virtual void Line(const ScreenSegment& segment) = 0;
@@ -36,16 +34,16 @@ class PlanCanvas {
   // A hollow circle; a negative radius is the same as a positive one.
   virtual void Circle(ScreenPoint centre, int radius) = 0;
 
-  // The look of the marks and labels that follow.
-  virtual void UsePointStyle(const LegendStyle& style) = 0;
+  // The symbol of the marks and labels that follow.
+  virtual void UsePointSymbol(const PointSymbol& symbol) = 0;
 
-  // The mark of the style in use, its size above 0.
+  // The mark of the symbol in use, its size above 0.
   virtual void Mark(ScreenPoint at) = 0;
 
   // The colour of the labels that follow, 0x00BBGGRR; at first that of the device context.
   virtual void UseTextColor(std::uint32_t color) = 0;
 
-  // The label of the point at `at`, the style's text height above 0. The text is not empty.
+  // The label of the point at `at`, the symbol's label height above 0. The text is not empty.
   virtual void Label(ScreenPoint at, NameView text) = 0;
 };
 

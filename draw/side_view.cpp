@@ -3,14 +3,11 @@
 #include <afxwin.h>
 
 #include <array>
-#include <optional>
 
-#include "draw/line_pattern.h"
-#include "draw/point_label.h"
-#include "draw/point_look.h"
-#include "draw/side_projection.h"
+#include "draw/point_painter.h"
 #include "platform/wide_text.h"
-#include "view/truncate.h"
+#include "view/coordinates.h"
+#include "view/side_projection.h"
 
 namespace tavix {
 namespace {
@@ -20,13 +17,11 @@ constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kGrey = RGB(128, 128, 128);
 constexpr int kColumn = 20;  // the box leaves the button column's room free
 
-LegendStyle ThinLine(COLORREF color) {
-  return {kSolidLine, 0, 0, 0, 1, static_cast<std::int32_t>(color)};
-}
+Pen ThinPen(COLORREF color) { return {1, static_cast<std::int32_t>(color)}; }
 
 void DrawBoxSides(PlanCanvas& canvas, const SideProjection& projection,
                   const std::array<ScreenPoint, 3>& corners) {
-  canvas.UseLineStyle(ThinLine(kRed));
+  canvas.UsePen(ThinPen(kRed));
   for (std::size_t i = 1; i < corners.size(); ++i) {
     canvas.Line({projection.Project(corners[i - 1]), projection.Project(corners[i])});
   }
@@ -38,12 +33,11 @@ void DrawFootCross(PlanCanvas& canvas, ScreenPoint at) {
 }
 
 void DrawFeet(PlanCanvas& canvas, const SideData& data, const SideProjection& projection) {
-  canvas.UseLineStyle(ThinLine(kBlack));
-  PointLook look(data.view, data.legend);
+  canvas.UsePen(ThinPen(kBlack));
+  PointPainter painter(canvas, data.view, data.legend);
   data.points.ForEach([&](const Point3& point) {
-    look.Use(point.legend);
     ScreenPoint at;
-    if (look.Style().prm1 > 0 && data.view.CircleOnScreen(point.at, look.Margin(), at)) {
+    if (painter.Find(point.legend, point.at, at) && painter.HasMark()) {
       DrawFootCross(canvas, projection.Project(at));
     }
   });
@@ -55,50 +49,41 @@ bool IsBehindFrontFace(ScreenPoint at, int buffer_height) {
   return f <= 0 || f * 0.5773502717125849 < buffer_height - at.y;
 }
 
-// A style as it looks where the ground hides its points: the same shapes, thin and grey.
-LegendStyle Hidden(LegendStyle style) {
-  style.width = 1;
-  style.color = static_cast<std::int32_t>(kGrey);
-  return style;
-}
-
 // Draws the marks and labels of the points, one after another.
 class SidePoints {
  public:
   SidePoints(PlanCanvas& canvas, const SideData& data, const SideProjection& projection)
-      : canvas_(canvas), data_(data), projection_(projection), look_(data.view, data.legend) {}
+      : canvas_(canvas),
+        data_(data),
+        projection_(projection),
+        painter_(canvas, data.view, data.legend) {}
 
   void Draw(const Point3& point) {
-    if (look_.Use(point.legend)) hidden_.reset();
     ScreenPoint plan;
-    if (!data_.view.CircleOnScreen(point.at, look_.Margin(), plan)) return;
+    if (!painter_.Find(point.legend, point.at, plan)) return;
     const ScreenPoint foot = projection_.Project(plan);
     const int raise = data_.view.LengthToPixels(point.z - data_.height_base);
     const ScreenPoint at{foot.x, TruncateToInt(static_cast<double>(foot.y) - raise)};
     if (at.y < 0 || at.y > projection_.Height()) return;
 
-    UseStyle(raise < 0 && IsBehindFrontFace(at, projection_.Height()));
-    const LegendStyle& style = look_.Style();
-    if (style.prm1 > 0) canvas_.Mark(at);
-    if (style.prm2 > 0) {
-      const LabelText label(style, point.number, point.name);
-      if (!label.Text().empty()) canvas_.Label(at, label.Text());
-    }
+    SetHidden(raise < 0 && IsBehindFrontFace(at, projection_.Height()));
+    painter_.DrawAt(at, point.number, point.name);
   }
 
  private:
-  void UseStyle(bool hidden) {
-    if (hidden_ == hidden) return;
+  // Points that the ground hides are thin and grey.
+  void SetHidden(bool hidden) {
+    if (hidden == hidden_) return;
     hidden_ = hidden;
-    canvas_.UsePointStyle(hidden ? Hidden(look_.Style()) : look_.Style());
+    painter_.UsePen(hidden ? std::optional(ThinPen(kGrey)) : std::nullopt);
     canvas_.UseTextColor(hidden ? kGrey : kBlack);
   }
 
   PlanCanvas& canvas_;
   const SideData& data_;
   const SideProjection& projection_;
-  PointLook look_;
-  std::optional<bool> hidden_;  // how the canvas has the look; none while it does not have it
+  PointPainter painter_;
+  bool hidden_ = false;
 };
 
 void DrawPoints(PlanCanvas& canvas, const SideData& data, const SideProjection& projection) {
@@ -111,9 +96,9 @@ void DrawHeightBase(PlanCanvas& canvas, const SideData& data) {
   constexpr int kTextHeight = 10;  // pixels
   CString text;
   text.Format(L"%.2lfm", data.height_base);
-  LegendStyle style;
-  style.prm2 = kTextHeight;
-  canvas.UsePointStyle(style);
+  PointSymbol symbol;
+  symbol.label_height = kTextHeight;
+  canvas.UsePointSymbol(symbol);
   canvas.Label({5, data.height / 2}, AsUtf16(text, static_cast<std::size_t>(text.GetLength())));
 }
 

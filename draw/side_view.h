@@ -2,6 +2,7 @@
 #pragma once
 
 #include "draw/plan_canvas.h"
+#include "store/legend_table.h"
 #include "store/point3_list.h"
 #include "view/view_state.h"
 

@@ -14,11 +14,11 @@ void Put(unsigned char* bytes, Word word) {
 }
 
 template <class Word, std::size_t... i>
-Word Join(const unsigned char* bytes, std::index_sequence<i...> /*places*/) {
+Word Join(const unsigned char* bytes, std::index_sequence<i...> /*bytes*/) {
   return ((static_cast<Word>(bytes[i]) << (8 * i)) | ...);
 }
 
-// Written out byte by byte, for the compiler makes one load of that and a loop of a loop.
+// Written out byte by byte: the compiler makes one load of this, but not of a loop.
 template <class Word>
 Word Take(const unsigned char* bytes) {
   return Join<Word>(bytes, std::make_index_sequence<sizeof(Word)>());

@@ -28,12 +28,12 @@ constexpr std::size_t kFigurePointSize = 16;   // bytes; do not change
 using FigureRecordBytes = std::array<unsigned char, kFigureRecordSize>;
 using FigurePointBytes = std::array<unsigned char, kFigurePointSize>;
 
-// Little-endian, whatever the machine.
+// Little-endian on every machine.
 [[nodiscard]] FigureRecordBytes EncodeFigureRecord(const FigureRecord& record);
 [[nodiscard]] FigureRecord DecodeFigureRecord(const unsigned char* bytes);
 [[nodiscard]] FigurePointBytes EncodeFigurePoint(GroundPoint point);
 
-// As many points as there is room for, from as many times kFigurePointSize bytes.
+// Fills `points` from points.size() * kFigurePointSize bytes.
 void DecodeFigurePoints(const unsigned char* bytes, std::span<GroundPoint> points);
 
 }  // namespace tavix

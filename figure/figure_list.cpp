@@ -9,11 +9,11 @@
 namespace tavix {
 namespace {
 
-// Locked by the instance that has the file: a byte far behind the end of any. Everybody else may
-// read and write all that is in it.
+// Locked by the instance that owns the file: a byte far behind the end of any file, so that other
+// programs can still read and write the contents.
 constexpr std::uint64_t kOwnersByte = std::uint64_t{1} << 62;
 
-// Runs a step on the files. False when it failed, of which hosts are not told.
+// Runs a step on the files. False when it failed, which is not reported to hosts.
 template <class Step>
 bool Quietly(Step step) {
   try {
@@ -25,22 +25,22 @@ bool Quietly(Step step) {
   }
 }
 
-enum class Opening { kDone, kCannotBeMade, kTaken };
+enum class Opening { kDone, kFailed, kTaken };
 
-// Opens a file and empties it. A file that belongs to an instance of another process is taken, and
-// is not touched.
+// Opens a file and empties it. A file of an instance of another process is taken: it is not
+// touched.
 Opening OpenEmpty(CFile& file, LPCWSTR name_format, int instance) {
   constexpr UINT kKeepContents = CFile::modeCreate | CFile::modeNoTruncate;
   constexpr UINT kForThisProcessOnly = CFile::modeReadWrite | CFile::modeNoInherit;
   CString path;
   path.Format(name_format, instance);
   if (!file.Open(path, kKeepContents | kForThisProcessOnly | CFile::shareDenyNone)) {
-    return Opening::kCannotBeMade;
+    return Opening::kFailed;
   }
   Opening opening = Opening::kTaken;
   const bool done = Quietly([&] {
     file.LockRange(kOwnersByte, 1);
-    opening = Opening::kCannotBeMade;
+    opening = Opening::kFailed;
     file.SetLength(0);
   });
   if (done) return Opening::kDone;
@@ -71,19 +71,19 @@ void CutTo(CFile& file, std::uint64_t length) {
   Quietly([&] { file.SetLength(length); });
 }
 
-// All of the bytes from `length` on, or none: a file that cannot take them ends there.
+// Writes all of the bytes from `length` on; a file that cannot take them is cut back to `length`.
 bool Extend(CFile& file, std::uint64_t length, std::span<const unsigned char> bytes) {
   if (WriteAt(file, length, bytes)) return true;
   CutTo(file, length);
   return false;
 }
 
-std::uint64_t PlaceOf(std::int32_t index) {
+std::uint64_t OffsetOf(std::int32_t index) {
   return static_cast<std::uint64_t>(index) * kFigureRecordSize;
 }
 
 std::optional<FigureRecord> ReadRecord(FileWindow& index_file, std::int32_t index) {
-  const unsigned char* bytes = index_file.Bytes(PlaceOf(index), kFigureRecordSize);
+  const unsigned char* bytes = index_file.Bytes(OffsetOf(index), kFigureRecordSize);
   if (!bytes) return std::nullopt;
   return DecodeFigureRecord(bytes);
 }
@@ -98,7 +98,7 @@ int ReadFigure(FileWindow& index_file, FileWindow& coordinate_file, std::int32_t
   figure->is_circle = record->is_circle != 0;
   figure->points.clear();
   if (record->point_count < 1) return 0;
-  // In 64 bits: the size a damaged count promises does not fit the 32 of the smaller target.
+  // In 64 bits: the size of a damaged count may exceed 32.
   const auto size = static_cast<std::uint64_t>(record->point_count) * kFigurePointSize;
   const unsigned char* bytes = coordinate_file.Bytes(record->first_point, size);
   if (!bytes) return -3;
@@ -157,9 +157,9 @@ int CFigList::AddCurve(std::span<const GroundPoint> points) {
   return 0;
 }
 
-// Points first and record last, so that a record never names points that are not there. What does
-// not fit leaves nothing behind: points of later figures would be taken for those of a record whose
-// own are missing. The record goes to the first whole place, over one that was cut short.
+// Points first and record last, so that a record never refers to missing points. What does not fit
+// is cut off again: otherwise the points of later figures would be read as those of this record.
+// The record is written behind the last whole one, over a record that was cut short.
 void CFigList::Append(std::int32_t point_count, bool is_circle,
                       std::span<const GroundPoint> points) {
   const std::uint64_t first_point = LengthOf(*coordinates_);
@@ -176,7 +176,7 @@ void CFigList::Append(std::int32_t point_count, bool is_circle,
   pending_.first_point = static_cast<std::uint32_t>(first_point);
   pending_.deleted = 0;
   const FigureRecordBytes record = EncodeFigureRecord(pending_);
-  if (!Extend(*index_, PlaceOf(Count()), record)) CutTo(*coordinates_, first_point);
+  if (!Extend(*index_, OffsetOf(Count()), record)) CutTo(*coordinates_, first_point);
 }
 
 int CFigList::Delete(std::int32_t number) {
@@ -190,7 +190,7 @@ int CFigList::Delete(std::int32_t number) {
     if (record->deleted == 0 && record->number == number) found.push_back(i);
   }
   const FigureRecordBytes deleted = EncodeFigureRecord({0, 0, 0, 0, 0, 1});
-  for (const std::int32_t i : found) WriteAt(*index_, PlaceOf(i), deleted);
+  for (const std::int32_t i : found) WriteAt(*index_, OffsetOf(i), deleted);
   changed_ = true;
   return 0;
 }

@@ -23,19 +23,18 @@ struct Figure {
   std::vector<GroundPoint> points;
 };
 
-// Figures live in two files in the root folder of the device, "\FIG<instance>.DAT" (index) and
-// "\FIG<instance>.XY" (coordinates), and nowhere else: nothing is kept in memory that could differ
-// from them. Other programs may look at the files; those of an instance of another process that has
-// the same root folder are left alone. Arcs and clothoids are stored as polylines. Errors of
-// writing are not reported: a figure for which there is no room is not kept, and the files are as
-// they were before it.
+// Figures are kept in two files in the root folder of the device, "\FIG<instance>.DAT" (index) and
+// "\FIG<instance>.XY" (coordinates), and not in memory. Other programs may read the files; those of
+// an instance of another process that uses the same root folder are left alone. Arcs and clothoids
+// are stored as polylines. Write errors are not reported: a figure that does not fit is dropped,
+// and the files stay as they were before it.
 class CFigList {
  public:
   explicit CFigList(int instance);
-  // With files of another kind, closed as yet: index and coordinates.
+  // With other file classes: index and coordinates, both not open yet.
   CFigList(int instance, std::unique_ptr<CFile> index, std::unique_ptr<CFile> coordinates);
 
-  // Opens both files, empty. 0, or -1 when one of them cannot be made or belongs to another
+  // Opens both files, empty. 0, or -1 when one of them cannot be created or belongs to another
   // process; both are then closed, and no figure is kept.
   int Open();
 
@@ -68,20 +67,18 @@ class CFigList {
   // Calls `visit` for every live figure that can be read whole, in the order of the records.
   void ForEach(const std::function<void(const Figure&)>& visit) const;
 
-  // Every stored point counts, of a circle its centre plus and minus its radius. 0, or -3 and zeros
-  // when nothing counts.
+  // The extents of all stored points; a circle counts with its centre plus and minus its radius. 0,
+  // or -3 and zeros without a point.
   int GetExtent(GroundExtent* extent) const;
 
   // The refit flag.
   [[nodiscard]] bool Changed() const { return changed_; }
   void SetChanged(bool changed) { changed_ = changed; }
 
-  [[nodiscard]] int Instance() const { return instance_; }
-
  private:
   void Append(std::int32_t point_count, bool is_circle, std::span<const GroundPoint> points);
 
-  // Never null. Read through a window even by const calls: the file position is not logical state.
+  // Never null. Const calls read them too: the file position is not logical state.
   std::unique_ptr<CFile> index_;
   std::unique_ptr<CFile> coordinates_;
   FigureRecord pending_;

@@ -1,4 +1,4 @@
-// Reading many small pieces of a file with few calls to the system.
+// Reads many small pieces of a file with few system calls.
 #pragma once
 
 #include <afx.h>
@@ -9,8 +9,8 @@
 
 namespace tavix {
 
-// A window of 64 KiB or more that moves over a file. It lives for one pass over the file, so what
-// it holds is never older than that.
+// A buffer of 64 KiB or more that moves over a file. It is used for one pass, so that its contents
+// are never older than that.
 class FileWindow {
  public:
   explicit FileWindow(CFile& file) : file_(file) {}
@@ -20,11 +20,11 @@ class FileWindow {
   const unsigned char* Bytes(std::uint64_t offset, std::uint64_t size);
 
  private:
-  // A place that cannot be read must not cost what lies before it: a window that fails is tried
-  // again with no more than was asked for.
+  // Bytes that cannot be read must not cost those before them: a read of the whole buffer that
+  // fails is tried again with only the bytes that were asked for.
   bool MoveTo(std::uint64_t offset, std::uint64_t size);
 
-  // A damaged size is found out before room is made for it.
+  // Checked before memory is allocated: a damaged record may ask for any size.
   [[nodiscard]] bool Holds(std::uint64_t offset, std::uint64_t size) const;
   bool Fill(std::uint64_t offset, std::uint64_t room, std::uint64_t wanted);
 

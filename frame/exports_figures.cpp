@@ -4,8 +4,8 @@
 #include <array>
 #include <vector>
 
-#include "figure/arc.h"
-#include "figure/clothoid.h"
+#include "figure/curves/arc.h"
+#include "figure/curves/clothoid.h"
 #include "figure/figure_list.h"
 #include "frame/slot_table.h"
 

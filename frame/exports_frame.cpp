@@ -3,6 +3,7 @@
 
 #include "frame/host_arguments.h"
 #include "frame/slot_table.h"
+#include "window/overlays/map_surround.h"
 #include "window/plot_window.h"
 
 using tavix::CPlotWnd;
@@ -12,7 +13,7 @@ using tavix::OnWindow;
 int Tavix_SetWak(BYTE on, int heightPerInch, int heightUnits, int widthPerInch, int widthUnits) {
   return OnWindow([=](CPlotWnd& window) {
     if (on) {
-      window.TurnFrameOn(heightPerInch, heightUnits, widthPerInch, widthUnits);
+      window.Frame().TurnOn(heightPerInch, heightUnits, widthPerInch, widthUnits);
     } else {
       window.Frame().TurnOff();
     }
@@ -28,19 +29,22 @@ int Tavix_WakDsp(BYTE show) {
 }
 
 int Tavix_SetWakScl(int N) {
-  return OnWindow([=](CPlotWnd& window) { return window.SetFrameScale(N) ? 0 : kRefused; });
+  return OnWindow([=](CPlotWnd& window) { return window.Frame().SetScale(N) ? 0 : kRefused; });
 }
 
 int Tavix_GetWakScl(int* N) {
   return OnWindow([=](CPlotWnd& window) {
-    if (!tavix::CanWrite(N) || !window.Frame().IsOn()) return kRefused;
-    *N = window.Frame().Scale();
+    const auto scale = window.Frame().Scale();
+    if (!tavix::CanWrite(N) || !scale) return kRefused;
+    *N = *scale;
     return 0;
   });
 }
 
 int Tavix_SetWakGen(double X, double Y) {
-  return OnWindow([=](CPlotWnd& window) { return window.SetFrameOrigin({X, Y}) ? 0 : kRefused; });
+  return OnWindow([=](CPlotWnd& window) {
+    return window.Frame().SetOrigin({X, Y}) ? 0 : kRefused;
+  });
 }
 
 int Tavix_GetWakGen(double* X, double* Y) {
@@ -48,17 +52,17 @@ int Tavix_GetWakGen(double* X, double* Y) {
   *X = 0.0;
   *Y = 0.0;
   return OnWindow([=](CPlotWnd& window) {
-    if (!window.Frame().IsOn()) return kRefused;
-    const tavix::GroundPoint origin = window.Frame().Origin();
-    *X = origin.north;
-    *Y = origin.east;
+    const auto origin = window.Frame().Origin();
+    if (!origin) return kRefused;
+    *X = origin->north;
+    *Y = origin->east;
     return 0;
   });
 }
 
 int Tavix_SclBarDsp(BYTE show) {
   return OnWindow([=](CPlotWnd& window) {
-    window.ShowScaleBar(show != 0);
+    window.ScaleBar().SetShown(show != 0);
     return 0;
   });
 }

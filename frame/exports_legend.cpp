@@ -5,28 +5,32 @@
 #include "frame/slot_table.h"
 #include "store/legend_table.h"
 
-using tavix::HanRec;
 using tavix::Instance;
-using tavix::LegendStyle;
+using tavix::LegendValues;
 using tavix::OnInstance;
 using tavix::Slots;
 
 namespace {
 
-int Add(bool is_point, const LegendStyle& style, short* number) {
+int Add(bool is_point, const LegendValues& values, short* number) {
   return OnInstance([&](Instance& instance) {
-    return tavix::CanWrite(number) ? instance.Legend().Add(is_point, style, number)
+    return tavix::CanWrite(number) ? instance.Legend().Add(is_point, values, number)
                                    : tavix::kRefused;
   });
 }
 
-int Change(short number, bool is_point, const LegendStyle& style) {
+int Change(short number, bool is_point, const LegendValues& values) {
   return OnInstance(
-      [&](Instance& instance) { return instance.Legend().Change(number, is_point, style); });
+      [&](Instance& instance) { return instance.Legend().Change(number, is_point, values); });
 }
 
-int Get(short number, HanRec& entry) {
-  return OnInstance([&](Instance& instance) { return instance.Legend().Get(number, &entry); });
+int Get(short number, LegendValues& values) {
+  return OnInstance([&](Instance& instance) {
+    const tavix::HanRec* entry = instance.Legend().Find(number);
+    if (!entry) return tavix::kRefused;
+    values = entry->values;
+    return 0;
+  });
 }
 
 }  // namespace
@@ -41,16 +45,16 @@ int Tavix_ChgPntHan(short number, int kind, int width, int color, int prm1, int 
 
 int Tavix_GetPntHan(short number, int* kind, int* width, int* color, int* prm1, int* prm2,
                     int* prm3) {
-  HanRec entry;
-  if (!tavix::CanWrite(kind, width, color, prm1, prm2, prm3) || Get(number, entry) != 0) {
+  LegendValues values;
+  if (!tavix::CanWrite(kind, width, color, prm1, prm2, prm3) || Get(number, values) != 0) {
     return tavix::kRefused;
   }
-  *kind = entry.style.kind;
-  *width = entry.style.width;
-  *color = entry.style.color;
-  *prm1 = entry.style.prm1;
-  *prm2 = entry.style.prm2;
-  *prm3 = entry.style.prm3;
+  *kind = values.kind;
+  *width = values.width;
+  *color = values.color;
+  *prm1 = values.prm1;
+  *prm2 = values.prm2;
+  *prm3 = values.prm3;
   return 0;
 }
 
@@ -77,16 +81,16 @@ int Tavix_ChgLinHan(short number, int kind, short prm1, short prm2, short prm3, 
 
 int Tavix_GetLinHan(short number, int* kind, short* prm1, short* prm2, short* prm3, int* width,
                     int* color) {
-  HanRec entry;
-  if (!tavix::CanWrite(kind, prm1, prm2, prm3, width, color) || Get(number, entry) != 0) {
+  LegendValues values;
+  if (!tavix::CanWrite(kind, prm1, prm2, prm3, width, color) || Get(number, values) != 0) {
     return tavix::kRefused;
   }
-  *kind = entry.style.kind;
-  *prm1 = static_cast<short>(entry.style.prm1);
-  *prm2 = static_cast<short>(entry.style.prm2);
-  *prm3 = static_cast<short>(entry.style.prm3);
-  *width = entry.style.width;
-  *color = entry.style.color;
+  *kind = values.kind;
+  *prm1 = static_cast<short>(values.prm1);
+  *prm2 = static_cast<short>(values.prm2);
+  *prm3 = static_cast<short>(values.prm3);
+  *width = values.width;
+  *color = values.color;
   return 0;
 }
 

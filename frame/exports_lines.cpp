@@ -2,7 +2,7 @@
 #include <tavix/tavix.h>
 
 #include "frame/slot_table.h"
-#include "store/lin_db.h"
+#include "store/line_index.h"
 
 using tavix::Instance;
 using tavix::LineKeys;
@@ -21,9 +21,9 @@ int Tavix_ChgLinHid(int keyA, int keyB, short legend) {
 
 int Tavix_DelEntLin(int keyA, int keyB) {
   return OnInstance(
-      [=](Instance& instance) { return instance.Lines().Remove(LineKeys::Of(keyA, keyB)); });
+      [=](Instance& instance) { return instance.RemoveLine(LineKeys::Of(keyA, keyB)); });
 }
 
 int Tavix_ClrEntLin() {
-  return OnInstance([](Instance& instance) { return instance.Lines().Clear(); });
+  return OnInstance([](Instance& instance) { return instance.ClearLines(); });
 }

@@ -3,6 +3,8 @@
 
 #include "frame/host_arguments.h"
 #include "frame/slot_table.h"
+#include "window/overlays/moved_point.h"
+#include "window/overlays/traced_line.h"
 #include "window/plot_window.h"
 
 using tavix::CPlotWnd;
@@ -17,21 +19,21 @@ int Tavix_MvPntStt(int legend) {
 
 int Tavix_MvPntRub(double X, double Y) {
   return OnWindow([=](CPlotWnd& window) {
-    window.SetMoveAnchor({X, Y});
+    window.Moved().SetAnchor({X, Y});
     return 0;
   });
 }
 
 int Tavix_MvPntMov(double X, double Y) {
   return OnWindow([=](CPlotWnd& window) {
-    window.MovePointTo({X, Y});
+    window.Moved().MoveTo({X, Y});
     return 0;
   });
 }
 
 int Tavix_MvPntEnd() {
   return OnWindow([](CPlotWnd& window) {
-    window.EndMovePoint();
+    window.Moved().End();
     return 0;
   });
 }
@@ -42,26 +44,26 @@ int Tavix_VoStt() { return Tavix_VoEnd(); }
 
 int Tavix_VoAdd(double X, double Y) {
   return OnWindow([=](CPlotWnd& window) {
-    window.AddTraced({X, Y});
+    window.Trace().Add({X, Y});
     return 0;
   });
 }
 
 int Tavix_VoDel() {
-  return OnWindow([](CPlotWnd& window) { return window.RemoveTraced() ? 0 : kRefused; });
+  return OnWindow([](CPlotWnd& window) { return window.Trace().RemoveLast() ? 0 : kRefused; });
 }
 
 int Tavix_VoGet(int* count) {
   return OnWindow([=](CPlotWnd& window) {
     if (!tavix::CanWrite(count)) return kRefused;
-    *count = static_cast<int>(window.Traced().size());
+    *count = static_cast<int>(window.Trace().Vertices().size());
     return 0;
   });
 }
 
 int Tavix_VoLst(double* X, double* Y) {
   return OnWindow([=](CPlotWnd& window) {
-    const auto vertices = window.Traced();
+    const auto vertices = window.Trace().Vertices();
     if (!vertices.empty() && !tavix::CanWrite(X, Y)) return kRefused;
     for (std::size_t i = 0; i < vertices.size(); ++i) {
       X[i] = vertices[i].north;
@@ -73,7 +75,7 @@ int Tavix_VoLst(double* X, double* Y) {
 
 int Tavix_VoIdx(int index, double* X, double* Y) {
   return OnWindow([=](CPlotWnd& window) {
-    const auto vertices = window.Traced();
+    const auto vertices = window.Trace().Vertices();
     const auto place = static_cast<std::size_t>(index);
     if (!tavix::CanWrite(X, Y) || index < 0 || place >= vertices.size()) return kRefused;
     *X = vertices[place].north;
@@ -84,7 +86,7 @@ int Tavix_VoIdx(int index, double* X, double* Y) {
 
 int Tavix_VoEnd() {
   return OnWindow([](CPlotWnd& window) {
-    window.EndTraced();
+    window.Trace().End();
     return 0;
   });
 }

@@ -3,7 +3,8 @@
 
 #include "frame/host_arguments.h"
 #include "frame/slot_table.h"
-#include "view/in_view.h"
+#include "view/view_state.h"
+#include "window/modes/capture_mode.h"
 #include "window/plot_window.h"
 
 using tavix::CPlotWnd;
@@ -14,7 +15,7 @@ using tavix::OnWindow;
 int Tavix_ChkCrd(double X, double Y, int* visible) {
   return OnInstance([=](Instance& instance) {
     if (!tavix::CanWrite(visible)) return tavix::kRefused;
-    *visible = tavix::IsPointInView(instance.View(), {X, Y}) ? 1 : 0;
+    *visible = instance.View().IsPointInView({X, Y}) ? 1 : 0;
     return 0;
   });
 }
@@ -22,7 +23,7 @@ int Tavix_ChkCrd(double X, double Y, int* visible) {
 int Tavix_ChkCir(double X, double Y, double radius, int* visible) {
   return OnInstance([=](Instance& instance) {
     if (!tavix::CanWrite(visible)) return tavix::kRefused;
-    *visible = tavix::IsCircleInView(instance.View(), {X, Y}, radius) ? 1 : 0;
+    *visible = instance.View().IsCircleInView({X, Y}, radius) ? 1 : 0;
     return 0;
   });
 }

@@ -3,7 +3,6 @@
 
 #include "frame/host_arguments.h"
 #include "frame/slot_table.h"
-#include "store/mem_db.h"
 #include "store/point3_list.h"
 #include "store/point_list.h"
 
@@ -36,27 +35,23 @@ int Tavix_ChgPntCrd(int key, double x, double y) {
 }
 
 int Tavix_GetPntNoNam(int key, int* number, CString* name) {
+  if (!tavix::CanWrite(number, name)) return kRefused;
   return OnInstance([=](Instance& instance) {
-    tavix::CPntList& points = instance.Points();
-    tavix::Point point;
-    if (!tavix::CanWrite(number, name) || points.Find(key) != 0 || points.GetCur(&point) != 0) {
-      return kRefused;
-    }
-    *number = point.number;
-    *name = ToHostString(point.name);
+    const auto point = instance.FindPoint(key);
+    if (!point) return kRefused;
+    *number = point->number;
+    *name = ToHostString(point->name);
     return 0;
   });
 }
 
 int Tavix_GetPntCrd(int key, double* x, double* y) {
+  if (!tavix::CanWrite(x, y)) return kRefused;
   return OnInstance([=](Instance& instance) {
-    tavix::CPntList& points = instance.Points();
-    tavix::GroundPoint at;
-    if (!tavix::CanWrite(x, y) || points.Find(key) != 0 || points.GetCurCrd(&at) != 0) {
-      return kRefused;
-    }
-    *x = at.north;
-    *y = at.east;
+    const auto point = instance.FindPoint(key);
+    if (!point) return kRefused;
+    *x = point->at.north;
+    *y = point->at.east;
     return 0;
   });
 }
@@ -68,14 +63,14 @@ int Tavix_DelEntPnt(int key) {
 // ---- Memos
 
 int Tavix_EntPntMem(int key, CString memo) {
-  return OnInstance([&](Instance& instance) { return instance.Memos().Enter(key, memo); });
+  return OnInstance([&](Instance& instance) { return instance.EnterMemo(key, memo); });
 }
 
 int Tavix_GetPntMem(int key, CString* memo) {
   if (!tavix::CanWrite(memo)) return kRefused;
   memo->Empty();
-  // Why there is none is not said.
-  OnInstance([=](Instance& instance) { return instance.Memos().Read(key, memo); });
+  // The answer is 0 even where there is no memo to read.
+  OnInstance([=](Instance& instance) { return instance.ReadMemo(key, memo); });
   return 0;
 }
 
@@ -88,45 +83,38 @@ int Tavix_EntPnt3(int key, int number, CString name, double x, double y, double 
 }
 
 int Tavix_ChgPnt3Hid(int key, short legend) {
-  return OnInstance([=](Instance& instance) {
-    tavix::CPnt3List& points = instance.Points3();
-    return points.Find(key) == 0 ? points.SetCurHan(legend) : kRefused;
-  });
+  return OnInstance([=](Instance& instance) { return instance.ChangePoint3Legend(key, legend); });
 }
 
 int Tavix_ChgPnt3NoNam(int key, int number, CString name) {
   return OnInstance([&](Instance& instance) {
-    tavix::CPnt3List& points = instance.Points3();
-    return points.Find(key) == 0 ? points.SetCurNoNam(number, ToNameView(name)) : kRefused;
+    return instance.ChangePoint3NumberAndName({key, number, ToNameView(name), {}, 0.0, 0});
   });
 }
 
 int Tavix_GetPnt3NoNam(int key, int* number, CString* name) {
+  if (!tavix::CanWrite(number, name)) return kRefused;
   return OnInstance([=](Instance& instance) {
-    tavix::CPnt3List& points = instance.Points3();
-    tavix::Point3 point;
-    if (!tavix::CanWrite(number, name) || points.Find(key) != 0 || points.GetCur(&point) != 0) {
-      return kRefused;
-    }
-    *number = point.number;
-    *name = ToHostString(point.name);
+    const auto point = instance.FindPoint3(key);
+    if (!point) return kRefused;
+    *number = point->number;
+    *name = ToHostString(point->name);
     return 0;
   });
 }
 
 int Tavix_GetPnt3Crd(int key, double* x, double* y, double* z) {
+  if (!tavix::CanWrite(x, y, z)) return kRefused;
   return OnInstance([=](Instance& instance) {
-    tavix::CPnt3List& points = instance.Points3();
-    tavix::GroundPoint at;
-    if (!tavix::CanWrite(x, y, z) || points.Find(key) != 0 || points.GetCurCrd(&at, z) != 0) {
-      return kRefused;
-    }
-    *x = at.north;
-    *y = at.east;
+    const auto point = instance.FindPoint3(key);
+    if (!point) return kRefused;
+    *x = point->at.north;
+    *y = point->at.east;
+    *z = point->z;
     return 0;
   });
 }
 
 int Tavix_DelEntPnt3(int key) {
-  return OnInstance([=](Instance& instance) { return instance.Points3().Remove(key); });
+  return OnInstance([=](Instance& instance) { return instance.RemovePoint3(key); });
 }

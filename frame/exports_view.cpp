@@ -4,6 +4,7 @@
 #include "frame/host_arguments.h"
 #include "frame/slot_table.h"
 #include "view/view_state.h"
+#include "window/navigation.h"
 #include "window/plot_window.h"
 
 using tavix::CPlotWnd;
@@ -25,7 +26,7 @@ int Tavix_GetAng(int* degrees) {
 
 int Tavix_SetTatYok(int tate, int yoko) {
   return OnWindow([=](CPlotWnd& window) {
-    window.SetRatio(tate, yoko);
+    window.Navigate().SetRatio(tate, yoko);
     return 0;
   });
 }
@@ -33,7 +34,7 @@ int Tavix_SetTatYok(int tate, int yoko) {
 int Tavix_GetTatYok(int* tate, int* yoko) {
   return OnWindow([=](CPlotWnd& window) {
     if (!tavix::CanWrite(tate, yoko)) return tavix::kRefused;
-    const tavix::RatioSetting& ratio = window.Ratio();
+    const tavix::RatioSetting& ratio = window.Navigate().Ratio();
     *tate = ratio.vertical;
     *yoko = ratio.horizontal;
     return ratio.given ? 0 : tavix::kRefused;
@@ -41,15 +42,17 @@ int Tavix_GetTatYok(int* tate, int* yoko) {
 }
 
 int Tavix_Zom(double X1, double Y1, double X2, double Y2) {
-  return OnWindow([=](CPlotWnd& window) { return window.ZoomToBox({X1, Y1}, {X2, Y2}); });
+  return OnWindow([=](CPlotWnd& window) {
+    return window.Navigate().ZoomToBox({X1, Y1}, {X2, Y2});
+  });
 }
 
 int Tavix_Zom1(double X, double Y, double radius) {
-  return OnWindow([=](CPlotWnd& window) { return window.ZoomToCircle({X, Y}, radius); });
+  return OnWindow([=](CPlotWnd& window) { return window.Navigate().ZoomToCircle({X, Y}, radius); });
 }
 
 int Tavix_Pan(double X, double Y) {
-  return OnWindow([=](CPlotWnd& window) { return window.PanTo({X, Y}); });
+  return OnWindow([=](CPlotWnd& window) { return window.Navigate().PanTo({X, Y}); });
 }
 
 int Tavix_Mov() { return 0; }

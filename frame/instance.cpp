@@ -1,6 +1,8 @@
 #include "frame/instance.h"
 
 #include "frame/instance_parts.h"
+#include "window/overlays/moved_point.h"
+#include "window/plot_display.h"
 #include "window/plot_window.h"
 
 namespace tavix {
@@ -27,13 +29,8 @@ Instance::~Instance() {
 }
 
 CViewState& Instance::View() { return parts_->view; }
-CPntList& Instance::Points() { return parts_->points; }
-CPnt3List& Instance::Points3() { return parts_->points3; }
-CMemDb& Instance::Memos() { return parts_->memos; }
-CLinDb& Instance::Lines() { return parts_->lines; }
 CFigList& Instance::Figures() { return parts_->figures; }
 LegendTable& Instance::Legend() { return parts_->legend.Table(); }
-CPlotWnd* Instance::Window() { return window_.get(); }
 
 int Instance::Clear() {
   if (const int code = parts_->points.Clear(); code != 0) return code;
@@ -45,9 +42,9 @@ int Instance::Clear() {
 
 int Instance::LinkWindow(unsigned notify_id, const std::function<bool(CPlotWnd&)>& create) {
   if (window_) window_->DestroyWindow();
-  window_ = std::make_unique<CPlotWnd>(notify_id);
-  window_->Link({&parts_->view, &parts_->points, &parts_->points3, &parts_->lines, &parts_->figures,
-                 &parts_->legend});
+  const PlotLinks links{parts_->view,  parts_->points,  parts_->points3,
+                        parts_->lines, parts_->figures, parts_->legend.Table()};
+  window_ = std::make_unique<CPlotWnd>(notify_id, links);
   const bool created = create(*window_);
   // Compatibility: the button flag is applied to a window that could not be made, too.
   window_->ApplyButtonFlag(show_buttons_);
@@ -60,23 +57,24 @@ void Instance::ShowButtons(bool show) {
 }
 
 void Instance::ShowSideView(bool show) {
-  if (window_) window_->SetDisplay3D(show);
+  if (window_) window_->Display().ShowSideView(show);
   parts_->view.SetAngle(0);
 }
 
 int Instance::StartMovePoint(int legend) {
   const auto number = static_cast<std::int16_t>(legend);
-  HanRec entry;
-  if (!window_ || number != legend || Legend().Get(number, &entry) != 0) return -1;
-  if (!entry.is_point) return -2;
-  window_->StartMovePoint(entry.style);
+  const HanRec* entry = Legend().Find(number);
+  if (!window_ || number != legend || !entry) return -1;
+  if (!entry->is_point) return -2;
+  window_->Moved().Start(Decode<PointSymbol>(entry->values));
   return 0;
 }
 
 int Instance::Redraw(bool keep_view) {
   if (!window_) return -1;
-  if (!keep_view) window_->FitView();  // with nothing to fit the view stays
-  return window_->ViewChanged();
+  PlotDisplay& display = window_->Display();
+  if (!keep_view) display.Shown().Fit();  // with nothing to fit the view stays
+  return display.ViewChanged();
 }
 
 int Instance::RedrawAfterChange(int code) {

@@ -4,25 +4,22 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 
 class CString;
 
 namespace tavix {
 
 class CFigList;
-class CLinDb;
-class CMemDb;
 class CPlotWnd;
-class CPnt3List;
-class CPntList;
 class CViewState;
 class LegendTable;
 struct LineKeys;
 struct Point;
 struct Point3;
 
-// Owns what it refers to. Its rules are those of the exported calls that concern more than one of
-// its parts; what concerns one part alone, callers ask of the part.
+// Owns its parts, and holds the rules of the exported calls on them. What concerns the view, the
+// figures, the legend or the window alone, callers ask of that part.
 class Instance {
  public:
   // Makes instance `index`, 0 to 4, with empty stores and the legend of the legend file, in the
@@ -36,15 +33,11 @@ class Instance {
   Instance& operator=(const Instance&) = delete;
 
   [[nodiscard]] CViewState& View();
-  [[nodiscard]] CPntList& Points();
-  [[nodiscard]] CPnt3List& Points3();
-  [[nodiscard]] CMemDb& Memos();
-  [[nodiscard]] CLinDb& Lines();
   [[nodiscard]] CFigList& Figures();
   [[nodiscard]] LegendTable& Legend();
 
   // Null while none is linked.
-  [[nodiscard]] CPlotWnd* Window();
+  [[nodiscard]] CPlotWnd* Window() { return window_.get(); }
 
   // Empties the stores, the legend excepted. 0, or the code of the first store that cannot be
   // emptied; the stores after it are left alone.
@@ -62,8 +55,8 @@ class Instance {
   // Switches between plan and side view, and turns the view back to 0 degrees.
   void ShowSideView(bool show);
 
-  // Gives the moved point the look of a point legend. -1 for an unknown number or without a window,
-  // -2 for an entry that is not a point legend; the look is then as it was.
+  // Gives the moved point the symbol of a point legend. -1 for an unknown number or without a
+  // window, -2 for an entry that is not a point legend; the symbol is then as it was.
   int StartMovePoint(int legend);
 
   // Redraws everything, with `keep_view` unset after a fit to the data. -1 without a window, else
@@ -88,14 +81,31 @@ class Instance {
   int EnterPoint(const Point& point);
   int EnterPoint3(const Point3& point);
 
+  // Find a point by its key and make it current; where keys repeat, the nearest to the point that
+  // is current. Its name is valid until a point changes.
+  [[nodiscard]] std::optional<Point> FindPoint(std::int32_t key);
+  [[nodiscard]] std::optional<Point3> FindPoint3(std::int32_t key);
+
   // Change one value of a point. With auto-redraw on a value that is there already is no change,
   // and nothing is drawn. -1 for an unknown key, else 0 or the redraw's result.
   int ChangePointLegend(std::int32_t key, std::int16_t legend);
   int ChangePointNumberAndName(const Point& point);
   int ChangePointPosition(const Point& point);
 
-  // Removes a point and the memo of its key. -1 for an unknown key; its memo goes all the same.
+  // The same for a 3-D point, without a redraw: the side view draws when it is asked to.
+  int ChangePoint3Legend(std::int32_t key, std::int16_t legend);
+  int ChangePoint3NumberAndName(const Point3& point);
+
+  // Removes a point and the memo of its key. -1 for an unknown key; a memo of it is removed in any
+  // case.
   int RemovePoint(std::int32_t key);
+
+  // The code of the 3-D point store.
+  int RemovePoint3(std::int32_t key);
+
+  // Keep a text for a point key, or get it. The code of the memo store.
+  int EnterMemo(std::int32_t key, const CString& memo);
+  int ReadMemo(std::int32_t key, CString* memo);
 
   // Enters a line with the selected line legend; one that is there stays as it is. 0, or -1 when it
   // could not be added.
@@ -108,6 +118,10 @@ class Instance {
 
   // The code of a search that found no such line, of a change that failed, or the redraw's result.
   int ChangeLineLegend(LineKeys keys, std::int16_t legend);
+
+  // Remove a line, or all of them. The code of the line store.
+  int RemoveLine(LineKeys keys);
+  int ClearLines();
 
  private:
   struct Parts;

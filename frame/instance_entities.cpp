@@ -1,7 +1,8 @@
-// What an instance does when points, lines and figures are entered and changed.
+// What an instance does when points, memos, lines and figures are entered, read and changed.
 #include "frame/instance.h"
 #include "frame/instance_parts.h"
-#include "store/point_compare.h"
+#include "store/point_list.h"
+#include "window/plot_display.h"
 #include "window/plot_window.h"
 
 namespace tavix {
@@ -21,14 +22,14 @@ int Instance::EnterPoint(const Point& entered) {
   point.legend = point_legend_;
   if (parts_->points.Find(point.key) != 0) {
     const int code = parts_->points.Add(point);
-    if (code == 0 && auto_redraw_ && window_) window_->DrawNewPoint(point);
+    if (code == 0 && auto_redraw_ && window_) window_->Display().Shown().DrawNew(point);
     return code;
   }
   return ChangePoint(
       point.key,
       [&](const Point& old) {
         return old.number == point.number && old.name == point.name &&
-               IsSamePlace(old.at, point.at) && old.legend == point.legend;
+               IsSamePosition(old.at, point.at) && old.legend == point.legend;
       },
       [&](CPntList& points) {
         return points.SetCur(point.number, point.name, point.at, point.legend);
@@ -41,6 +42,18 @@ int Instance::EnterPoint3(const Point3& entered) {
   CPnt3List& points = parts_->points3;
   if (points.Find(point.key) != 0) return points.Add(point);
   return points.SetCur(point.number, point.name, point.at, point.z, point.legend);
+}
+
+std::optional<Point> Instance::FindPoint(std::int32_t key) {
+  Point point;
+  if (parts_->points.Find(key) != 0 || parts_->points.GetCur(&point) != 0) return std::nullopt;
+  return point;
+}
+
+std::optional<Point3> Instance::FindPoint3(std::int32_t key) {
+  Point3 point;
+  if (parts_->points3.Find(key) != 0 || parts_->points3.GetCur(&point) != 0) return std::nullopt;
+  return point;
 }
 
 int Instance::ChangePointLegend(std::int32_t key, std::int16_t legend) {
@@ -58,21 +71,39 @@ int Instance::ChangePointNumberAndName(const Point& point) {
 
 int Instance::ChangePointPosition(const Point& point) {
   return ChangePoint(
-      point.key, [&](const Point& old) { return IsSamePlace(old.at, point.at); },
+      point.key, [&](const Point& old) { return IsSamePosition(old.at, point.at); },
       [&](CPntList& points) { return points.SetCurCrd(point.at); });
 }
+
+int Instance::ChangePoint3Legend(std::int32_t key, std::int16_t legend) {
+  CPnt3List& points = parts_->points3;
+  return points.Find(key) == 0 ? points.SetCurHan(legend) : -1;
+}
+
+int Instance::ChangePoint3NumberAndName(const Point3& point) {
+  CPnt3List& points = parts_->points3;
+  return points.Find(point.key) == 0 ? points.SetCurNoNam(point.number, point.name) : -1;
+}
+
+int Instance::RemovePoint3(std::int32_t key) { return parts_->points3.Remove(key); }
 
 int Instance::RemovePoint(std::int32_t key) {
   parts_->memos.Remove(key);  // there may be none, or it cannot be removed: the point goes anyway
   return parts_->points.Remove(key);
 }
 
+int Instance::EnterMemo(std::int32_t key, const CString& memo) {
+  return parts_->memos.Enter(key, memo);
+}
+
+int Instance::ReadMemo(std::int32_t key, CString* memo) { return parts_->memos.Read(key, memo); }
+
 int Instance::EnterLine(LineKeys keys) {
   CLinDb& lines = parts_->lines;
   if (lines.Find(keys) == 0) return 0;
   Line line{0, keys, line_legend_};
   const int code = lines.Add(keys, line.legend, &line.id);
-  if (code == 0 && auto_redraw_ && window_) window_->DrawNewLine(line);
+  if (code == 0 && auto_redraw_ && window_) window_->Display().Shown().DrawNew(line);
   return code;
 }
 
@@ -83,6 +114,10 @@ int Instance::ChangeLineLegend(LineKeys keys, std::int16_t legend) {
   if (auto_redraw_ && lines.ReadCur(&old) == 0 && old.legend == legend) return 0;
   return RedrawAfterChange(lines.SetCurHan(legend));
 }
+
+int Instance::RemoveLine(LineKeys keys) { return parts_->lines.Remove(keys); }
+
+int Instance::ClearLines() { return parts_->lines.Clear(); }
 
 int Instance::EndFigure() {
   if (parts_->figures.IsTaken()) return -1;

@@ -14,8 +14,7 @@ namespace tavix {
 
 // Declared in the order in which they are made.
 struct Instance::Parts {
-  explicit Parts(int index)
-      : points(index), points3(index), memos(index), lines(index), figures(index) {}
+  explicit Parts(int index) : memos(index), lines(index), figures(index) {}
 
   CViewState view;
   CPntList points;

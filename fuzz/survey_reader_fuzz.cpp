@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "host/readers/survey_formats.h"
-#include "host/readers/text_encoding.h"
+#include "host/formats/survey_formats.h"
+#include "host/formats/text_encoding.h"
 
 namespace {
 
@@ -56,9 +56,9 @@ void CheckSurvey(const fieldhost::Survey& survey) {
     Require(!point.height || std::isfinite(*point.height));
     Require(!point.name.empty() && fieldhost::IsUtf8(point.name));
   }
-  for (const fieldhost::SurveyLot& lot : survey.lots) {
-    Require(!lot.corners.empty());
-    for (const std::size_t corner : lot.corners) Require(corner < survey.points.size());
+  for (const fieldhost::SurveyParcel& parcel : survey.parcels) {
+    Require(!parcel.vertices.empty());
+    for (const std::size_t vertex : parcel.vertices) Require(vertex < survey.points.size());
   }
   for (const fieldhost::SurveyLine& line : survey.lines) CheckLine(line);
 }

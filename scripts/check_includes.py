@@ -5,8 +5,8 @@
     scripts/check_includes.py FOLDER    another tree laid out the same way
 
 Reports an include that the table does not allow, an include in quotes that does not start from
-the project's root, circles of includes, and patterns of the table that match no file. Exits with 1
-when it found any.
+the project's root, a portable source that sees the platform's headers, circles of includes, and
+patterns of the table that match no file. Exits with 1 when it found any.
 """
 
 import re
@@ -15,18 +15,12 @@ from fnmatch import fnmatch
 from pathlib import Path
 
 # Layers from the bottom up; a file belongs to the first whose pattern it matches.
-# `numbers` are the files that know only numbers and bytes; everyone may know them.
 LAYERS = {
-    "numbers": (
-        "view/*",
-        "figure/arc.*",
-        "figure/clothoid.*",
-        "figure/direction.*",
-        "figure/figure_codec.*",
-        "store/legend_codec.*",
-        "store/legend_table.*",
-    ),
-    "public": ("include/*", "platform/*/include/*"),
+    # The leaf: positions, sizes and boxes on the ground and the screen.
+    "coordinates": ("view/coordinates.*", "view/extent.*"),
+    "view": ("view/*",),
+    "calls": ("include/*",),
+    "public": ("platform/*/include/*",),
     "platform": ("platform/*",),
     "store": ("store/*",),
     "figure": ("figure/*",),
@@ -37,20 +31,25 @@ LAYERS = {
     "tests": ("tests/*", "bench/*", "fuzz/*"),
 }
 
-_LIBRARY = {"numbers", "public", "platform"}
+_PLATFORM = {"platform", "public"}
+_STORES = {"coordinates", "store", "figure"} | _PLATFORM
 MAY_KNOW = {
-    "numbers": {"numbers"},
+    "coordinates": {"coordinates"},
+    "view": {"view", "coordinates"},
+    "calls": {"calls", "public"},
     "public": {"public"},
-    "platform": {"platform", "public"},
-    "store": {"store"} | _LIBRARY,
-    "figure": {"figure"} | _LIBRARY,
-    "draw": {"draw", "store", "figure"} | _LIBRARY,
-    "window": {"window", "draw", "store", "figure"} | _LIBRARY,
-    "frame": {"frame", "window", "draw", "store", "figure"} | _LIBRARY,
-    "host": {"host", "public"},
+    "platform": _PLATFORM,
+    "store": {"store", "coordinates"} | _PLATFORM,
+    "figure": {"figure", "coordinates"} | _PLATFORM,
+    "draw": {"draw", "view"} | _STORES,
+    "window": {"window", "draw", "view"} | _STORES,
+    "frame": {"frame", "window", "draw", "view", "calls"} | _STORES,
+    "host": {"host", "calls", "public"},
     "tests": set(LAYERS),
 }
 
+# What needs no window and no device context: the lists of CMake, which the native build compiles.
+PORTABLE = re.compile(r"^tavix_portable\(([^)]*)\)", re.MULTILINE)
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
 SUFFIXES = {".h", ".hpp", ".c", ".cpp"}
 # Folders that hold no sources of the project.
@@ -94,6 +93,34 @@ def includes(root):
                 yield path, number, match[1], name, target
 
 
+def include_graph(root):
+    """What each file includes: files of the project, and the names of other headers."""
+    graph = {}
+    for path, _, _, name, target in includes(root):
+        graph.setdefault(path, []).append(target or name)
+    return graph
+
+
+def seen_from(path, graph):
+    """What `path` includes, directly or through another."""
+    found, waiting = set(), [path]
+    while waiting:
+        for target in graph.get(waiting.pop(), ()):
+            if target not in found:
+                found.add(target)
+                waiting.append(target)
+    return found
+
+
+def portable_sources(root):
+    """The sources that CMake's lists call portable, as paths from `root`."""
+    for path in sorted(root.rglob("CMakeLists.txt")):
+        folder = path.parent.relative_to(root)
+        if not folder.parts or folder.parts[0] not in SKIPPED:
+            for names in PORTABLE.findall(path.read_text(encoding="utf-8")):
+                yield from ((folder / name).as_posix() for name in names.split())
+
+
 def circle(graph):
     """The files of one circle of includes, the first repeated at the end; empty without one."""
     finished = set()
@@ -123,19 +150,22 @@ def dead_patterns(root):
 def problems(root):
     """One line for each finding, in the order of the files."""
     found = []
-    graph = {}
+    graph = include_graph(root)
     for path, number, quote, name, target in includes(root):
         here = f"{path}:{number}"
         if target is None:
             if quote == '"':
                 found.append(f'{here}: "{name}" does not start from the project\'s root')
             continue
-        graph.setdefault(path, []).append(target)
         layer, other = layer_of(path), layer_of(target)
         if layer is None or other is None:
             found.append(f"{here}: no rule for {path if layer is None else target}")
         elif other not in MAY_KNOW[layer]:
             found.append(f"{here}: {layer} may not know {other}: {target}")
+    for path in portable_sources(root):
+        for target in sorted(seen_from(path, graph)):
+            if layer_of(target) in _PLATFORM:
+                found.append(f"{path}: portable, but it sees {target}")
     ring = circle(graph)
     if ring:
         found.append("circle of includes: " + " -> ".join(ring))

@@ -1,12 +1,22 @@
 #!/usr/bin/env bash
-# Installs the Debian packages the project builds and tests with; says nothing to do when all are there.
+# Installs the Debian packages that are missing:
+#   scripts/setup.sh run    to build the library and the sample host, and to run them
+#   scripts/setup.sh test   and what else ./test needs
+#   scripts/setup.sh all    and what the benchmarks and the fuzzers need
 set -euo pipefail
-packages=(
-  cmake ninja-build g++ clang clang-tidy clang-format libclang-rt-14-dev python3
-  g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix
-  wine wine64 xvfb xauth x11-utils xdotool imagemagick fonts-vlgothic
-  googletest libbenchmark-dev libexpat1-dev
-)
+for_run=(cmake ninja-build python3 g++-mingw-w64-x86-64-posix wine64 xvfb fonts-vlgothic)
+for_test=(g++ g++-mingw-w64-i686-posix clang-tidy clang-format git googletest libexpat1-dev)
+for_all=(libbenchmark-dev clang libclang-rt-14-dev)
+case "${1:-}" in
+  run) packages=("${for_run[@]}") ;;
+  test) packages=("${for_run[@]}" "${for_test[@]}") ;;
+  all) packages=("${for_run[@]}" "${for_test[@]}" "${for_all[@]}") ;;
+  *)
+    echo "usage: scripts/setup.sh run|test|all" >&2
+    exit 2
+    ;;
+esac
+
 missing=()
 for package in "${packages[@]}"; do
   [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)" = installed ] ||

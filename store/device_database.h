@@ -1,4 +1,4 @@
-// What the line and the memo store share: one device database of an instance.
+// One device database of an instance: what the line and the memo store share.
 #pragma once
 
 #include <afx.h>
@@ -8,11 +8,11 @@
 
 namespace tavix {
 
-// A database that belongs to one instance: made anew and empty with the object, whatever one of
-// that name was left on the device, and deleted with it.
+// A database that belongs to one instance: created empty with the object, in place of one of that
+// name left on the device, and deleted with it.
 class DeviceDatabase {
  public:
-  // `sort_properties` are the orders it can be opened in.
+  // `sort_properties` are the orders it can be opened in; they outlive the object.
   DeviceDatabase(LPCWSTR base_name, int instance, DWORD ident,
                  std::span<CCeDBProp> sort_properties);
   ~DeviceDatabase();
@@ -26,8 +26,8 @@ class DeviceDatabase {
   // False when it could not be closed.
   bool Close();
 
-  // Deletes it with all records and creates it again, closed. One that cannot be deleted stays as
-  // it is: a second one of its name cannot be created.
+  // Deletes it with all records and creates it again, closed. If it cannot be deleted it stays as
+  // it is, since a second one of its name cannot be created.
   void Recreate();
 
   // Deletes it from the device, as its destructor does.

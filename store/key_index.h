@@ -8,9 +8,9 @@
 
 namespace tavix {
 
-// A hash table from keys to positions in a record array. Two records may have one key (a store does
-// not forbid it): each has its own entry. The keys stand in the table too, so that a search does
-// not touch the records.
+// A hash table from keys to positions in a record array. Two records may have the same
+// key: each has its own entry. The keys are in the table too, so that a search does not touch the
+// records.
 //
 // Open addressing with linear probing, at most half full.
 class KeyIndex {

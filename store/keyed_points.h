@@ -10,20 +10,16 @@
 
 namespace tavix {
 
-// Points in the order they were entered, which is the order they are drawn in, with a current
-// point. `Record` has, besides what a RecordList asks for, a `number`, a `name` and a `legend`;
-// `Point` is what callers see of one, its name valid until the store changes; `Store`, the derived
-// class, turns a record into a point by View(record).
+// Points in the order of entry, which is the order of drawing, with a current point. `Record` has a
+// `number`, a `name` and a `legend` besides the members that RecordList needs; `Point` is what
+// callers see of it, its name valid until the store changes; `Store`, the derived class, turns a
+// record into a point by View(record).
 //
 // A store accepts a key twice; the exported calls look a key up first and never enter one twice.
 // Operations return 0 for success, -1 when nothing was found, -2 without a current point.
 template <class Store, class Record, class Point>
 class KeyedPoints {
  public:
-  // No work; every store has the same life calls.
-  int Open() { return 0; }
-  int Close() { return 0; }
-
   // Marks the store changed, also when the key is unknown.
   int Remove(std::int32_t key) {
     changed_ = true;
@@ -73,7 +69,6 @@ class KeyedPoints {
   [[nodiscard]] bool Changed() const { return changed_; }
   void SetChanged(bool changed) { changed_ = changed; }
 
-  [[nodiscard]] int Instance() const { return instance_; }
   [[nodiscard]] std::size_t Count() const { return records_.Count(); }
 
   // Calls `visit(const Point&)` for each point in list order; leaves the current point alone.
@@ -83,7 +78,7 @@ class KeyedPoints {
   }
 
  protected:
-  explicit KeyedPoints(int instance) : instance_(instance) {}
+  KeyedPoints() = default;
 
   void Append(const Record& record) {
     records_.Append(record);
@@ -109,7 +104,6 @@ class KeyedPoints {
   RecordList<Record> records_;
   NamePool names_;
   bool changed_ = false;
-  int instance_;
 };
 
 }  // namespace tavix

@@ -65,17 +65,17 @@ std::optional<std::int32_t> DecodeHeader(std::string_view record) {
   return number;
 }
 
-std::optional<LegendStyle> DecodeEntry(std::string_view record) {
+std::optional<LegendValues> DecodeEntry(std::string_view record) {
   RecordScanner scanner(record);
-  LegendStyle style;
+  LegendValues values;
   for (std::int32_t* value :
-       {&style.kind, &style.prm1, &style.prm2, &style.prm3, &style.width, &style.color}) {
+       {&values.kind, &values.prm1, &values.prm2, &values.prm3, &values.width, &values.color}) {
     const auto number = scanner.Number();
     if (!number) return std::nullopt;
     *value = *number;
   }
   if (!scanner.WordStartsWith(kEntryMark)) return std::nullopt;
-  return style;
+  return values;
 }
 
 }  // namespace
@@ -84,12 +84,10 @@ std::string EncodeLegend(const LegendTable& table) {
   std::string bytes;
   bytes.reserve(kRecordSize * (1 + LegendTable::kStoredLegends));
   AppendRecord(bytes, kHeaderFormat, table.RotationStep());
-  std::array<HanRec, LegendTable::kStoredLegends> entries;
-  const std::size_t count = table.CopyOut(entries.size(), entries.data());
-  for (std::size_t i = 0; i < count; ++i) {
-    const LegendStyle& style = entries[i].style;
-    AppendRecord(bytes, kEntryFormat, style.kind, style.prm1, style.prm2, style.prm3, style.width,
-                 style.color);
+  for (std::size_t i = 0; i < LegendTable::kStoredLegends; ++i) {
+    const LegendValues& values = table.Entries()[i].values;
+    AppendRecord(bytes, kEntryFormat, values.kind, values.prm1, values.prm2, values.prm3,
+                 values.width, values.color);
   }
   return bytes;
 }
@@ -100,15 +98,15 @@ bool DecodeLegend(std::string_view bytes, LegendTable& table) {
   if (!header) return false;
   table.SetRotationStep(*header);
 
-  std::array<LegendStyle, LegendTable::kStoredLegends> styles;
-  for (std::size_t i = 0; i < styles.size(); ++i) {
+  std::array<LegendValues, LegendTable::kStoredLegends> entries;
+  for (std::size_t i = 0; i < entries.size(); ++i) {
     const std::size_t start = kRecordSize * (1 + i);
     if (bytes.size() < start + kRecordSize) return false;
-    const auto style = DecodeEntry(bytes.substr(start, kRecordSize));
-    if (!style) return false;
-    styles[i] = *style;
+    const auto values = DecodeEntry(bytes.substr(start, kRecordSize));
+    if (!values) return false;
+    entries[i] = *values;
   }
-  table.TakeStored(styles);
+  table.TakeStored(entries);
   return true;
 }
 

@@ -8,8 +8,8 @@
 
 namespace tavix {
 
-// HANREI.DAT in one data folder. Every operation uses the same path, that of the system's own
-// calls: a data folder that begins with one backslash lies in the root folder of the device. No
+// HANREI.DAT in one data folder. Every operation uses the same path, as the device maps
+// it: a data folder that begins with one backslash lies in the root folder of the device. No
 // operation reports an error.
 class LegendFile {
  public:

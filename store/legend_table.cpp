@@ -9,7 +9,7 @@ constexpr std::int32_t kBlack = 0;
 constexpr std::int32_t kRed = 255;
 
 // Compatibility: 103 stands before 102. A saved and reloaded list is numbered by place, so the two
-// swap their looks after the first save.
+// swap their symbols after the first save.
 constexpr HanRec kBuiltIn[LegendTable::kStoredLegends] = {
     {1, true, {1, 2, 10, 1, 1, kBlack}},   {2, true, {2, 10, 10, 1, 1, kBlack}},
     {3, true, {3, 10, 10, 1, 1, kBlack}},  {4, true, {4, 10, 10, 1, 1, kBlack}},
@@ -30,26 +30,19 @@ std::int16_t NumberAtPlace(int place) {
 
 LegendTable::LegendTable() : entries_(std::begin(kBuiltIn), std::end(kBuiltIn)) {}
 
-int LegendTable::Add(bool is_point, const LegendStyle& style, std::int16_t* number) {
-  entries_.push_back({next_number_, is_point, style});
+int LegendTable::Add(bool is_point, const LegendValues& values, std::int16_t* number) {
+  entries_.push_back({next_number_, is_point, values});
   *number = next_number_;
   next_number_ = static_cast<std::int16_t>(next_number_ + 1);
   return 0;
 }
 
-int LegendTable::Change(std::int16_t number, bool is_point, const LegendStyle& style) {
+int LegendTable::Change(std::int16_t number, bool is_point, const LegendValues& values) {
   const HanRec* found = Find(number);
   if (!found) return -1;
   HanRec& entry = entries_[static_cast<std::size_t>(found - entries_.data())];
   entry.is_point = is_point;
-  entry.style = style;
-  return 0;
-}
-
-int LegendTable::Get(std::int16_t number, HanRec* entry) const {
-  const HanRec* found = Find(number);
-  if (!found) return -1;
-  *entry = *found;
+  entry.values = values;
   return 0;
 }
 
@@ -71,10 +64,10 @@ int LegendTable::GetTitle(int n, std::u16string* title) const {
   return 0;
 }
 
-void LegendTable::TakeStored(const std::array<LegendStyle, kStoredLegends>& styles) {
+void LegendTable::TakeStored(const std::array<LegendValues, kStoredLegends>& values) {
   for (int place = 0; place < kStoredLegends; ++place) {
     const auto i = static_cast<std::size_t>(place);
-    entries_[i] = {NumberAtPlace(place), place < kPointLegends, styles[i]};
+    entries_[i] = {NumberAtPlace(place), place < kPointLegends, values[i]};
   }
 }
 

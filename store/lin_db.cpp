@@ -2,12 +2,10 @@
 
 #include <array>
 
-#include "store/line_record.h"
-
 namespace tavix {
 namespace {
 
-using namespace line_record;
+using namespace line_property;
 
 DWORD IdentOf(int instance) { return static_cast<DWORD>(10002 + 10 * instance); }
 
@@ -21,18 +19,14 @@ std::span<CCeDBProp> SortProperties() {
 
 CLinDb::CLinDb(int instance)
     : database_(L"QZLinDB", instance, IdentOf(instance), SortProperties()),
-      lookup_(database_.Records()),
-      instance_(instance) {}
+      lookup_(database_.Records()) {}
 
-int CLinDb::Open() {
-  if (state_ != State::kClosed) return -2;
-  return Reopen(State::kOpenBySmallerKey) ? 1 : 2;
-}
+bool CLinDb::Open() { return !order_ && Reopen(Order::kBySmallerKey); }
 
-int CLinDb::Close() {
-  const bool was_open = state_ != State::kClosed;
-  state_ = State::kClosed;
-  return was_open && database_.Close() ? 0 : -1;
+bool CLinDb::Close() {
+  const bool was_open = order_.has_value();
+  order_.reset();
+  return was_open && database_.Close();
 }
 
 void CLinDb::Discard() {
@@ -40,21 +34,20 @@ void CLinDb::Discard() {
   database_.Discard();
 }
 
-bool CLinDb::Reopen(State state) {
-  if (state_ == state) return true;
-  if (state_ == State::kClosed) {
-    lookup_.Forget();
-  } else {
+bool CLinDb::Reopen(Order order) {
+  if (order_ == order) return true;
+  if (order_) {
     Close();
+  } else {
+    lookup_.Forget();
   }
-  CCeDBProp& order = SortProperties()[state == State::kOpenById ? 0 : 1];
-  if (!database_.Open(&order)) return false;
-  state_ = state;
+  if (!database_.Open(&SortProperties()[order == Order::kById ? 0 : 1])) return false;
+  order_ = order;
   return true;
 }
 
 int CLinDb::Find(LineKeys keys) {
-  if (!Reopen(State::kOpenBySmallerKey)) return -2;
+  if (!Reopen(Order::kBySmallerKey)) return -2;
   CCeDBDatabase& records = database_.Records();
   if (records.GetNumRecords() == 0) return -3;
   if (records.SeekFirst() == 0) return -4;
@@ -62,12 +55,8 @@ int CLinDb::Find(LineKeys keys) {
 }
 
 int CLinDb::Add(LineKeys keys, std::int16_t legend, std::int32_t* id) {
-  std::array<CCeDBProp, 5> properties{
-      CCeDBProp(static_cast<short>(next_id_), kId), CCeDBProp(keys.Smaller(), kSmallerKey),
-      CCeDBProp(keys.Larger(), kLargerKey),
-      CCeDBProp(static_cast<short>(keys.LargerFirst() ? 1 : 0), kLargerFirst),
-      CCeDBProp(legend, kLegend)};
-  if (state_ == State::kClosed) return -1;
+  if (!order_) return -1;
+  std::array<CCeDBProp, 5> properties = EncodeLine({next_id_, keys, legend});
   record_.DeleteAllProps();
   record_.AddProps(properties.data(), static_cast<int>(properties.size()));
   const CEOID added = database_.Records().AddRecord(&record_);
@@ -89,24 +78,16 @@ int CLinDb::Remove(LineKeys keys) {
 }
 
 int CLinDb::ReadCur(Line* line) {
-  if (state_ == State::kClosed) return -2;
-  std::int16_t id = 0;
-  std::int16_t smaller = 0;
-  std::int16_t larger = 0;
-  std::int16_t larger_first = 0;
-  std::int16_t legend = 0;
-  if (!database_.Records().ReadCurrRecord(&record_) || !Get(record_, kId, &id) ||
-      !Get(record_, kSmallerKey, &smaller) || !Get(record_, kLargerKey, &larger) ||
-      !Get(record_, kLargerFirst, &larger_first) || !Get(record_, kLegend, &legend)) {
-    return -1;
-  }
-  const LineKeys keys = larger_first != 0 ? LineKeys{larger, smaller} : LineKeys{smaller, larger};
-  *line = {id, keys, legend};
+  if (!order_) return -2;
+  if (!database_.Records().ReadCurrRecord(&record_)) return -1;
+  const std::optional<Line> decoded = DecodeLine(record_);
+  if (!decoded) return -1;
+  *line = *decoded;
   return 0;
 }
 
 int CLinDb::SetCurHan(std::int16_t legend) {
-  if (state_ == State::kClosed) return -2;
+  if (!order_) return -2;
   CCeDBRecord record;
   if (!database_.Records().ReadCurrRecord(&record)) return -3;
   CCeDBProp* property = record.GetPropFromIdent(kLegend);
@@ -119,21 +100,21 @@ int CLinDb::SetCurHan(std::int16_t legend) {
 }
 
 int CLinDb::First(Order order) {
-  if (!Reopen(order == Order::kById ? State::kOpenById : State::kOpenBySmallerKey)) return -2;
+  if (!Reopen(order)) return -2;
   if (database_.Records().GetNumRecords() == 0) return -1;
   return database_.Records().SeekFirst() != 0 ? 0 : -3;
 }
 
 int CLinDb::Next() {
-  if (state_ == State::kClosed) return -2;
+  if (!order_) return -2;
   return database_.Records().SeekNext() != 0 ? 0 : -1;
 }
 
 int CLinDb::Clear() {
-  state_ = State::kClosed;
+  order_.reset();
   database_.Recreate();
   next_id_ = 1;
-  const bool opened = Reopen(State::kOpenBySmallerKey);
+  const bool opened = Reopen(Order::kBySmallerKey);
   changed_ = false;
   return opened ? 0 : -1;
 }

@@ -2,41 +2,36 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "store/device_database.h"
-#include "store/line_key.h"
+#include "store/line_codec.h"
 #include "store/line_lookup.h"
 
 namespace tavix {
 
-// A line as it was entered, from its first key to its second.
-struct Line {
-  std::int32_t id = 0;  // 1, 2, ... in the order of entry
-  LineKeys keys;
-  std::int16_t legend = 0;
-};
-
 // Lines in the device database "QZLinDB<instance>", open in one of two orders: by the smaller key
-// of a line, or by its id. Calls that need the other order close the database and open it anew.
+// of a line, or by its id. Calls that need the other order close the database and open it in that
+// order.
 //
 // Operations return 0 for success and negative codes for the step that failed.
 class CLinDb {
  public:
-  enum class Order { kById = 0, kBySmallerKey = 1 };
+  enum class Order { kById, kBySmallerKey };
 
-  // Makes the database anew, closed; one left on the device is discarded.
+  // Creates the database, empty and closed, in place of one left on the device.
   explicit CLinDb(int instance);
 
-  // Opens it by smaller key. 1 opened, 2 not, -2 when it is open already.
-  int Open();
+  // Opens it by smaller key. False when it is open already or cannot be opened.
+  bool Open();
 
-  // 0, or -1 when it is closed already or cannot be closed.
-  int Close();
+  // False when it is closed already or cannot be closed.
+  bool Close();
 
-  // Closes it and deletes it from the device. Nothing may be asked of the store any more.
+  // Closes it and deletes it from the device. The store must not be used afterwards.
   void Discard();
 
-  // Makes the line between two keys, in either order, current. -1 there is none, -2 the database
+  // Makes the line between two keys, in either order, current. -1 no such line, -2 the database
   // cannot be opened, -3 it has no records, -4 no first record, -5 a record cannot be read, -6 and
   // -7 its smaller or larger key is missing.
   int Find(LineKeys keys);
@@ -72,21 +67,15 @@ class CLinDb {
   [[nodiscard]] bool Changed() const { return changed_; }
   void SetChanged(bool changed) { changed_ = changed; }
 
-  [[nodiscard]] int Instance() const { return instance_; }
-
  private:
-  // The numbers are those of the device's own state word.
-  enum class State : std::uint16_t { kOpenById = 0, kOpenBySmallerKey = 1, kClosed = 2 };
-
-  bool Reopen(State state);
+  bool Reopen(Order order);
 
   DeviceDatabase database_;
   LineLookup lookup_;
-  CCeDBRecord record_;  // on its way to or from the database; keeps its memory
-  State state_ = State::kClosed;
+  CCeDBRecord record_;          // read into or written; a member to reuse its memory
+  std::optional<Order> order_;  // nothing while closed
   std::int32_t next_id_ = 1;
   bool changed_ = false;
-  int instance_;
 };
 
 }  // namespace tavix

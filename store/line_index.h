@@ -1,15 +1,28 @@
-// Which record holds the line between two keys.
+// Which record holds the line between two point keys.
 #pragma once
 
 #include <cstdint>
 
-#include "store/line_key.h"
 #include "store/record_list.h"
 
 namespace tavix {
 
-// Records by the pair of keys of their line, whichever way the line goes. Several records may hold
-// one pair: the first entered counts, and after its removal the next.
+// A line's two ends. Compatibility: the record has room for 16 bits of a key, so a key beyond that
+// range stands for the one with the same low 16 bits, which is also what a redraw looks up.
+struct LineKeys {
+  std::int16_t a = 0;
+  std::int16_t b = 0;
+
+  [[nodiscard]] static LineKeys Of(int a, int b) {
+    return {static_cast<std::int16_t>(a), static_cast<std::int16_t>(b)};
+  }
+  [[nodiscard]] std::int16_t Smaller() const { return a < b ? a : b; }
+  [[nodiscard]] std::int16_t Larger() const { return a < b ? b : a; }
+  [[nodiscard]] bool LargerFirst() const { return b < a; }
+};
+
+// Records by the pair of keys of their line, in either direction. Several records may hold one
+// pair: the first entered counts, and after its removal the next.
 class LineIndex {
  public:
   static constexpr std::uint32_t kNoRecord = 0;

@@ -1,15 +1,11 @@
 #include "store/line_lookup.h"
 
-#include "store/line_record.h"
+#include "store/line_codec.h"
 
 namespace tavix {
-namespace {
 
-using line_record::Get;
-using line_record::kLargerKey;
-using line_record::kSmallerKey;
-
-}  // namespace
+using line_property::kLargerKey;
+using line_property::kSmallerKey;
 
 int LineLookup::Find(LineKeys keys) {
   const bool indexed = IsIndexed();
@@ -43,8 +39,7 @@ bool LineLookup::IsIndexed() {
   return true;
 }
 
-// False when a record is not one of ours or not to be read: what a search makes of it is left to
-// reading.
+// False for a foreign or unreadable record: searches then read the records.
 bool LineLookup::IndexAll() {
   index_.Clear();
   DWORD seen = 0;
@@ -53,7 +48,7 @@ bool LineLookup::IndexAll() {
     const CCeDBProp* smaller = record_.GetPropFromIdent(kSmallerKey);
     const CCeDBProp* larger = record_.GetPropFromIdent(kLargerKey);
     if (!smaller || smaller->GetType() != CCeDBProp::Type_Short || !larger) return false;
-    // No search has its keys the wrong way round, so none finds such a record.
+    // A search never asks for the larger key first, so it cannot find a record with swapped keys.
     if (smaller->GetShort() <= larger->GetShort()) {
       index_.Enter({smaller->GetShort(), larger->GetShort()}, at);
     }
@@ -62,8 +57,8 @@ bool LineLookup::IndexAll() {
   return seen == records_.GetNumRecords();
 }
 
-// From the first record with the smaller key to the very one that has the larger key too. It is
-// read although nothing of it is used: a record that cannot be read is not found.
+// From the first record with the smaller key to the one that has the larger key too. It is read
+// although nothing of it is used: an unreadable record counts as not found.
 int LineLookup::MatchIndexed(LineKeys keys) {
   const CEOID found = index_.Find(keys);
   if (found != LineIndex::kNoRecord && found != records_.GetCurrRecord() &&
@@ -78,14 +73,14 @@ int LineLookup::MatchIndexed(LineKeys keys) {
 // From the first record with the smaller key on, the one that has the larger key too.
 int LineLookup::MatchReading(LineKeys keys) {
   do {
-    std::int16_t smaller = 0;
-    std::int16_t larger = 0;
     ++records_read_;
     if (!records_.ReadCurrRecord(&record_)) return -5;
-    if (!Get(record_, kSmallerKey, &smaller)) return -6;
-    if (smaller != keys.Smaller()) return -1;
-    if (!Get(record_, kLargerKey, &larger)) return -7;
-    if (larger == keys.Larger()) return 0;
+    const auto smaller = ShortOf(record_, kSmallerKey);
+    if (!smaller) return -6;
+    if (*smaller != keys.Smaller()) return -1;
+    const auto larger = ShortOf(record_, kLargerKey);
+    if (!larger) return -7;
+    if (*larger == keys.Larger()) return 0;
   } while (records_.SeekNext() != 0);
   return -1;
 }

@@ -1,38 +1,37 @@
-// Searching the line database for the line between two keys.
+// Searches the line database for the line between two keys.
 #pragma once
 
 #include <wcedb.h>
 
 #include "store/line_index.h"
-#include "store/line_key.h"
 
 namespace tavix {
 
-// The database sorts by the smaller key only, and any number of lines may share one: reading them
-// one after another until the larger key matches is what a search means, and too slow where many
-// do. So the records of both keys are kept beside the database. That index counts only while it
-// fits: whoever else changes the database is seen by its count of changes, and then, or where a
-// record lacks a key, the search goes by reading, until that has cost as much as making the index
-// anew.
+// The database sorts by the smaller key only, and many lines may share one: reading them until the
+// larger key matches, which is what a search means, is too slow then. An index from both keys to
+// the record is kept beside the database. It is valid while the database's count of changes is the
+// one the index has seen, so that changes by other programs are noticed. While it is not valid, or
+// where a record lacks a key, searches read the records; once they have read as many as the
+// database holds, the index is built again.
 class LineLookup {
  public:
   // The database is not owned and outlives the lookup. It is open by smaller key in every search.
   explicit LineLookup(CCeDBDatabase& records) : records_(records) {}
 
-  // Makes the first record with these keys current. -1 there is none, -5 a record cannot be read,
-  // -6 and -7 one lacks its smaller or larger key; which record is current then is left open.
+  // Makes the first record with these keys current. -1 no such record, -5 a record cannot be read,
+  // -6 and -7 one lacks its smaller or larger key; which record is current then is undefined.
   int Find(LineKeys keys);
 
-  // ---- What the owner has done to the database, by one call each
+  // ---- To be called after each change the owner makes to the database
 
   void Added(LineKeys keys, CEOID record);
   // The record that Find found.
   void Deleted(LineKeys keys);
-  // In a property that is no key.
+  // A property that is not a key.
   void Changed() { ++indexed_changes_; }
 
-  // The database is another one now, which nobody has changed so far, or it is to be looked at
-  // afresh.
+  // The database has been created again or may have changed: the index is empty, for a database
+  // without changes.
   void Forget();
 
  private:
@@ -42,10 +41,10 @@ class LineLookup {
   int MatchReading(LineKeys keys);
 
   CCeDBDatabase& records_;
-  CCeDBRecord record_;  // read into again and again
+  CCeDBRecord record_;  // read into; a member to reuse its memory
   LineIndex index_;
-  ULONGLONG indexed_changes_ = 0;  // those the index has seen
-  DWORD records_read_ = 0;         // by searches since the index no longer fits
+  ULONGLONG indexed_changes_ = 0;  // the changes the index has seen
+  DWORD records_read_ = 0;         // by searches since the index became invalid
 };
 
 }  // namespace tavix

@@ -21,27 +21,22 @@ CCeDBProp KeyProperty(std::int32_t key) { return {static_cast<short>(key), kKey}
 }  // namespace
 
 CMemDb::CMemDb(int instance)
-    : database_(L"QZMemDB", instance, IdentOf(instance), SortProperties()), instance_(instance) {}
+    : database_(L"QZMemDB", instance, IdentOf(instance), SortProperties()) {}
 
-int CMemDb::Open() {
-  if (state_ != State::kClosed) return -2;
-  if (database_.Open(nullptr)) state_ = State::kOpen;
-  return static_cast<int>(state_);
-}
-
-int CMemDb::Close() {
-  const bool was_open = state_ == State::kOpen;
-  state_ = State::kClosed;
-  return was_open && database_.Close() ? 0 : -1;
+bool CMemDb::Open() {
+  if (open_) return false;
+  open_ = database_.Open(nullptr);
+  return open_;
 }
 
 void CMemDb::Discard() {
-  Close();
+  if (open_) database_.Close();
+  open_ = false;
   database_.Discard();
 }
 
 int CMemDb::Seek(std::int32_t key) {
-  if (state_ == State::kClosed && Open() != 0) return -2;
+  if (!open_ && !Open()) return -2;
   return database_.Records().SeekFirstEqual(KeyProperty(key)) != 0 ? 0 : -1;
 }
 
@@ -60,11 +55,10 @@ int CMemDb::Add(std::int32_t key, const CString& text) {
   std::array<CCeDBProp, 2> properties{KeyProperty(key), CCeDBProp(text.GetString(), kText)};
   CCeDBRecord record;
   record.AddProps(properties.data(), static_cast<int>(properties.size()));
-  return state_ == State::kOpen && database_.Records().AddRecord(&record) != 0 ? 0 : -1;
+  return open_ && database_.Records().AddRecord(&record) != 0 ? 0 : -1;
 }
 
 int CMemDb::ReadCur(CString* text) {
-  if (state_ == State::kClosed) return -2;
   CCeDBRecord record;
   if (!database_.Records().ReadCurrRecord(&record)) return -1;
   const CCeDBProp* property = record.GetPropFromIdent(kText);
@@ -74,7 +68,6 @@ int CMemDb::ReadCur(CString* text) {
 }
 
 int CMemDb::UpdateCur(const CString& text) {
-  if (state_ == State::kClosed) return -2;
   CCeDBRecord record;
   if (!database_.Records().ReadCurrRecord(&record)) return -3;
   CCeDBProp* property = record.GetPropFromIdent(kText);
@@ -89,10 +82,9 @@ int CMemDb::Remove(std::int32_t key) {
 }
 
 int CMemDb::Clear() {
-  state_ = State::kClosed;
+  open_ = false;
   database_.Recreate();
-  Open();
-  return static_cast<int>(state_);
+  return Open() ? 0 : 1;
 }
 
 }  // namespace tavix

@@ -13,39 +13,27 @@ namespace tavix {
 // Operations return 0 for success and negative codes for the step that failed.
 class CMemDb {
  public:
-  // Makes the database anew, closed; one left on the device is discarded.
+  // Creates the database, empty and closed, in place of one left on the device.
   explicit CMemDb(int instance);
 
-  // 0 opened, 1 not, -2 when it is open already.
-  int Open();
+  // False when it is open already or cannot be opened.
+  bool Open();
 
-  // 0, or -1 when it is closed already or cannot be closed.
-  int Close();
-
-  // Closes it and deletes it from the device. Nothing may be asked of the store any more.
+  // Closes it and deletes it from the device. The store must not be used afterwards.
   void Discard();
 
-  // Makes the memo of a key current, opening the database if it is closed. -1 there is none, -2 the
-  // database cannot be opened.
-  int Seek(std::int32_t key);
+  // Each of these opens a closed database first.
 
-  // Keeps a text for a key, in place of one there is. Compatibility: an empty text removes the memo
-  // of a key that has one, and is kept for a key that has none. The code of the step that failed.
+  // Stores the text of a key, replacing an older one. Compatibility: an empty text removes the memo
+  // of a key that has one, and is stored for a key that has none. -1 it cannot be written, also
+  // because the database cannot be opened; -3 the older one cannot be read or removed.
   int Enter(std::int32_t key, const CString& text);
 
-  // The text of a key. The code of the step that failed; `text` is then empty.
+  // The text of a key. -1 no memo or an unreadable one, -2 the database cannot be opened; `text` is
+  // then empty.
   int Read(std::int32_t key, CString* text);
 
-  // -1 when the record cannot be added.
-  int Add(std::int32_t key, const CString& text);
-
-  // -2 closed, -1 unreadable.
-  int ReadCur(CString* text);
-
-  // -2 closed, -3 unreadable, -1 the write failed.
-  int UpdateCur(const CString& text);
-
-  // The code of Seek when there is none, -3 when the deletion failed.
+  // -1 no memo for this key, -2 the database cannot be opened, -3 the deletion failed.
   int Remove(std::int32_t key);
 
   // Deletes the database, creates it again and opens it. 0 when it is open, or 1 when it stays
@@ -55,15 +43,16 @@ class CMemDb {
   // that counts as success.
   int Clear();
 
-  [[nodiscard]] int Instance() const { return instance_; }
-
  private:
-  // The numbers are those of the device's own state word; the line store counts the other way.
-  enum class State : std::uint16_t { kOpen = 0, kClosed = 1 };
+  // Makes the memo of a key current. -1 no memo, -2 the database cannot be opened.
+  int Seek(std::int32_t key);
+
+  int Add(std::int32_t key, const CString& text);
+  int ReadCur(CString* text);
+  int UpdateCur(const CString& text);
 
   DeviceDatabase database_;
-  State state_ = State::kClosed;
-  int instance_;
+  bool open_ = false;
 };
 
 }  // namespace tavix

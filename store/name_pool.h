@@ -17,25 +17,43 @@ struct PooledName {
   std::uint32_t length = 0;
 };
 
-// Holds names end to end: one allocation for all in place of one each. A name that is replaced or
-// dropped leaves a gap; the owner rewrites the pool when the gaps outweigh the names.
+// Holds names end to end: one allocation for all of them. A name that is replaced or dropped leaves
+// a gap; the owner rewrites the pool when the gaps outweigh the names.
 class NamePool {
  public:
-  [[nodiscard]] PooledName Add(NameView name);
+  [[nodiscard]] PooledName Add(NameView name) {
+    const PooledName added{static_cast<std::uint32_t>(text_.size()),
+                           static_cast<std::uint32_t>(name.size())};
+    text_.append(name);
+    return added;
+  }
 
   // Valid until the next Add, Replace or Clear.
   [[nodiscard]] NameView View(PooledName name) const {
     return NameView(text_).substr(name.offset, name.length);
   }
 
-  // Puts another name in the place of `name`, in the same room when it fits.
-  void Replace(PooledName& name, NameView text);
+  // Gives `name` another text, which overwrites the old one where it fits.
+  void Replace(PooledName& name, NameView text) {
+    if (text.size() <= name.length) {
+      wasted_ += name.length - text.size();
+      text_.replace(name.offset, text.size(), text);
+      name.length = static_cast<std::uint32_t>(text.size());
+      return;
+    }
+    Drop(name);
+    name = Add(text);
+  }
 
   void Drop(PooledName name) { wasted_ += name.length; }
 
   [[nodiscard]] bool IsMostlyGaps() const { return wasted_ > kSmall && wasted_ > text_.size() / 2; }
 
-  void Clear();
+  void Clear() {
+    text_.clear();
+    text_.shrink_to_fit();
+    wasted_ = 0;
+  }
 
  private:
   static constexpr std::size_t kSmall = 4096;  // characters not worth a rewrite

@@ -5,24 +5,16 @@
 namespace tavix {
 
 int CPnt3List::Add(const Point3& point) {
-  Append({point.at.north, point.at.east, point.z, point.key, point.number, Names().Add(point.name),
-          point.legend, false});
+  Append(
+      {point.at, point.z, point.key, point.number, Names().Add(point.name), point.legend, false});
   return 0;
 }
 
 int CPnt3List::GetCurCrd(GroundPoint* at, double* z) const {
   const Pnt3Rec* current = Records().Current();
   if (!current) return -2;
-  *at = {current->x, current->y};
+  *at = current->at;
   *z = current->z;
-  return 0;
-}
-
-int CPnt3List::GetCurXYHan(GroundPoint* at, std::int16_t* legend) const {
-  const Pnt3Rec* current = Records().Current();
-  if (!current) return -2;
-  *at = {current->x, current->y};
-  *legend = current->legend;
   return 0;
 }
 
@@ -30,8 +22,7 @@ int CPnt3List::SetCur(std::int32_t number, NameView name, GroundPoint at, double
                       std::int16_t legend) {
   Pnt3Rec* current = Records().Current();
   if (!current) return -2;
-  current->x = at.north;
-  current->y = at.east;
+  current->at = at;
   current->z = z;
   SetCurHan(legend);
   return SetCurNoNam(number, name);
@@ -44,7 +35,7 @@ int CPnt3List::GetExtent(GroundExtent3* extent) const {
     if (plan.IsEmpty()) result.max_z = result.min_z = record.z;
     result.max_z = std::max(result.max_z, record.z);
     result.min_z = std::min(result.min_z, record.z);
-    plan.Include(GroundPoint{record.x, record.y});
+    plan.Include(record.at);
   });
   result.plan = plan.Extent();
   *extent = result;
@@ -52,8 +43,7 @@ int CPnt3List::GetExtent(GroundExtent3* extent) const {
 }
 
 Point3 CPnt3List::View(const Pnt3Rec& record) const {
-  return {record.key,           record.number, Names().View(record.name),
-          {record.x, record.y}, record.z,      record.legend};
+  return {record.key, record.number, Names().View(record.name), record.at, record.z, record.legend};
 }
 
 }  // namespace tavix

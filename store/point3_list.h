@@ -21,8 +21,7 @@ struct Point3 {
 
 // A point with a height as the store keeps it.
 struct Pnt3Rec {
-  double x;
-  double y;
+  GroundPoint at;
   double z;
   std::int32_t key;
   std::int32_t number;
@@ -42,8 +41,6 @@ struct GroundExtent3 {
 // for the operations the two share.
 class CPnt3List : public KeyedPoints<CPnt3List, Pnt3Rec, Point3> {
  public:
-  explicit CPnt3List(int instance) : KeyedPoints(instance) {}
-
   int Add(const Point3& point);
 
   // Makes the first point with this key current, always from the head; without one there is no
@@ -51,7 +48,6 @@ class CPnt3List : public KeyedPoints<CPnt3List, Pnt3Rec, Point3> {
   int Find(std::int32_t key) { return Records().FindFirst(key); }
 
   int GetCurCrd(GroundPoint* at, double* z) const;
-  int GetCurXYHan(GroundPoint* at, std::int16_t* legend) const;
   int SetCur(std::int32_t number, NameView name, GroundPoint at, double z, std::int16_t legend);
 
   // 0, or -3 and zeros for an empty store.

@@ -5,25 +5,28 @@
 
 namespace tavix {
 
+bool IsSamePosition(GroundPoint a, GroundPoint b) {
+  constexpr double kTolerance = 1e-5;
+  return std::fabs(a.north - b.north) < kTolerance && std::fabs(a.east - b.east) < kTolerance;
+}
+
 int CPntList::Add(const Point& point) {
-  Append({point.at.north, point.at.east, point.key, point.number, Names().Add(point.name),
-          point.legend, false});
+  Append({point.at, point.key, point.number, Names().Add(point.name), point.legend, false});
   return 0;
 }
 
 int CPntList::GetCurCrd(GroundPoint* at) const {
   const PntRec* current = Records().Current();
   if (!current) return -2;
-  *at = {current->x, current->y};
+  *at = current->at;
   return 0;
 }
 
 int CPntList::SetCurCrd(GroundPoint at) {
   PntRec* current = Records().Current();
   if (!current) return -2;
-  current->x = at.north;
-  current->y = at.east;
-  finder_.Moved(Records().CurrentPosition());
+  current->at = at;
+  index_.Moved(Records().CurrentPosition());
   SetChanged(true);
   return 0;
 }
@@ -40,27 +43,27 @@ int CPntList::FindNearest(double tolerance, GroundPoint at, std::int32_t* key) c
   if (Records().IsEmpty()) return -3;
 
   if (!(tolerance >= 0.0) || std::isnan(at.north) || std::isnan(at.east))
-    return -1;  // nothing is near
+    return -1;  // no point is near
 
-  // Differences fall as the coordinate rises, rounded or not: those of the borders bound the
-  // others.
+  // Rounded or not, a difference falls as the coordinate rises: those at the borders of a box bound
+  // the others.
   const auto too_far = [&](double centre, double low, double high) {
-    return std::max(low - centre, centre - high) > tolerance;  // one branch, mostly foreseen
+    return std::max(low - centre, centre - high) > tolerance;  // one branch, mostly predicted
   };
   const auto touches = [&](const GroundExtent& box) {
     return !too_far(at.north, box.min.north, box.max.north) &&
            !too_far(at.east, box.min.east, box.max.east);
   };
   int candidates = 0;
-  double nearest = 0.0;
-  finder_.ForEach(Records(), touches, [&](const PntRec& record) {
-    const double dx = at.north - record.x;
-    if (!(std::fabs(dx) <= tolerance)) return true;
-    const double dy = at.east - record.y;
-    if (!(std::fabs(dy) <= tolerance)) return true;
-    const double distance = dx * dx + dy * dy;
-    if (candidates == 0 || distance < nearest) {
-      nearest = distance;
+  double nearest = 0.0;  // the square of its distance
+  index_.ForEach(Records(), touches, [&](const PntRec& record) {
+    const double north = at.north - record.at.north;
+    if (!(std::fabs(north) <= tolerance)) return true;
+    const double east = at.east - record.at.east;
+    if (!(std::fabs(east) <= tolerance)) return true;
+    const double square = north * north + east * east;
+    if (candidates == 0 || square < nearest) {
+      nearest = square;
       *key = record.key;
     }
     return ++candidates < kMostCandidates;
@@ -70,9 +73,7 @@ int CPntList::FindNearest(double tolerance, GroundPoint at, std::int32_t* key) c
 
 int CPntList::GetExtent(GroundExtent* extent) const {
   ExtentBuilder builder;
-  Records().ForEach([&](const PntRec& record) {
-    builder.Include(GroundPoint{record.x, record.y});
-  });
+  Records().ForEach([&](const PntRec& record) { builder.Include(record.at); });
   *extent = builder.Extent();
   return builder.IsEmpty() ? -3 : 0;
 }
@@ -80,13 +81,12 @@ int CPntList::GetExtent(GroundExtent* extent) const {
 bool CPntList::Locate(std::int32_t key, GroundPoint* at) const {
   const PntRec* record = Records().Peek(key);
   if (!record) return false;
-  *at = {record->x, record->y};
+  *at = record->at;
   return true;
 }
 
 Point CPntList::View(const PntRec& record) const {
-  return {
-      record.key, record.number, Names().View(record.name), {record.x, record.y}, record.legend};
+  return {record.key, record.number, Names().View(record.name), record.at, record.legend};
 }
 
 }  // namespace tavix

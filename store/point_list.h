@@ -4,11 +4,15 @@
 #include <cstdint>
 
 #include "store/keyed_points.h"
-#include "store/point_finder.h"
+#include "store/point_index.h"
 #include "view/coordinates.h"
 #include "view/extent.h"
 
 namespace tavix {
+
+// Whether two positions count as the same when a point is changed: both coordinates differ by less
+// than 0.00001 m.
+[[nodiscard]] bool IsSamePosition(GroundPoint a, GroundPoint b);
 
 // A point as callers see it. The name is valid until the store changes.
 struct Point {
@@ -21,8 +25,7 @@ struct Point {
 
 // A point as the store keeps it.
 struct PntRec {
-  double x;
-  double y;
+  GroundPoint at;
   std::int32_t key;
   std::int32_t number;
   PooledName name;
@@ -33,8 +36,6 @@ struct PntRec {
 // The store of the plan; see KeyedPoints for the operations it shares with the 3-D store.
 class CPntList : public KeyedPoints<CPntList, PntRec, Point> {
  public:
-  explicit CPntList(int instance) : KeyedPoints(instance) {}
-
   int Add(const Point& point);
 
   // Makes the point with this key current: the nearest one to the current point, where keys repeat.
@@ -61,7 +62,7 @@ class CPntList : public KeyedPoints<CPntList, PntRec, Point> {
 
   [[nodiscard]] Point View(const PntRec& record) const;
 
-  mutable PointFinder<PntRec> finder_;  // no state of the list: it only shortens searches
+  mutable PointIndex<PntRec> index_;  // a cache: it only shortens searches
 };
 
 }  // namespace tavix

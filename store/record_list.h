@@ -1,4 +1,4 @@
-// An ordered list of keyed records with a cursor: what the 2-D and the 3-D point stores share.
+// An ordered list of keyed records with a cursor.
 #pragma once
 
 #include <algorithm>
@@ -36,7 +36,7 @@ class RecordList {
     return cursor_ ? 0 : -1;
   }
 
-  // 0, -1 when the cursor has run off the end (it is none then), -2 without a cursor.
+  // 0, -1 at the end (there is no cursor then), -2 without a cursor.
   int Next() {
     if (!cursor_) return -2;
     cursor_ = NextLive(*cursor_ + 1);
@@ -94,7 +94,7 @@ class RecordList {
     cursor_.reset();
   }
 
-  // ---- Walk in list order that leaves the cursor alone
+  // ---- Visits in list order that leave the cursor alone
 
   // Calls `visit(const Record&)` for each record.
   template <class Visit>
@@ -112,7 +112,7 @@ class RecordList {
     }
   }
 
-  // ---- Positions, which rise in list order, removed records among them
+  // ---- Positions, ascending in list order, removed records included
 
   // All records by their positions.
   [[nodiscard]] std::span<const Record> ByPosition() const { return records_; }
@@ -147,8 +147,8 @@ class RecordList {
     return first;
   }
 
-  // The outward search taken literally: two records with one key are told apart by how many records
-  // lie between them and the cursor.
+  // The outward search as specified: of two records with one key the one with fewer records between
+  // it and the cursor is found.
   [[nodiscard]] std::optional<Position> NearestWithKey(std::int32_t key, Position start) const {
     Position back = start + 1;  // records from `back` on have been tried
     std::optional<Position> ahead = NextLive(start + 1);

@@ -2,8 +2,6 @@
 
 #include <cstddef>
 
-#include "view/truncate.h"
-
 namespace tavix {
 namespace {
 

@@ -13,7 +13,7 @@ using ScreenQuad = std::array<ScreenPoint, 4>;
 // True when the point lies in the rectangle, borders included: 0 <= x <= w and 0 <= y <= h.
 bool PointInQuad(const ScreenQuad& quad, ScreenPoint point);
 
-// Clips `segment` in place to the rectangle; false when nothing of it is inside.
+// Clips `segment` in place to the rectangle; false when no part of it is inside.
 //
 // Compatibility: when two borders are crossed the order of the ends follows the order of the
 // borders (top, right, bottom, left) and not the given direction; a segment whose only crossing is

@@ -1,6 +1,8 @@
 // Ground and screen, as distinct types, so that they are never mixed up silently.
 #pragma once
 
+#include <limits>
+
 namespace tavix {
 
 // A position on the ground in metres.
@@ -9,8 +11,8 @@ struct GroundPoint {
   double east = 0.0;   // their y
 };
 
-// A box on the ground measured along the screen's axes of an unturned view, in metres: `east` along
-// screen x, `north` along screen y. A size may be negative where a caller gave its corners so.
+// The size of a box on the ground in metres: `east` along screen x of a view that is not rotated,
+// `north` along its screen y. Negative where a caller swapped the corners.
 struct GroundSize {
   double east = 0.0;
   double north = 0.0;
@@ -35,5 +37,16 @@ struct ScreenSegment {
   ScreenPoint start;
   ScreenPoint end;
 };
+
+// Truncates toward zero, as every conversion from ground to screen does. A value beyond the 32-bit
+// range becomes the range's end, so that a point at the far side of the earth stays far away. NaN
+// maps to INT_MIN, which is off screen.
+inline int TruncateToInt(double value) {
+  constexpr double kLow = std::numeric_limits<int>::min();
+  constexpr double kHigh = std::numeric_limits<int>::max();
+  if (value >= kHigh) return std::numeric_limits<int>::max();
+  if (value > kLow) return static_cast<int>(value);
+  return std::numeric_limits<int>::min();
+}
 
 }  // namespace tavix

@@ -2,15 +2,13 @@
 
 #include <cmath>
 
-#include "view/truncate.h"
-
 namespace tavix {
 namespace {
 
 constexpr double kMetresPerInch = 0.0254;
 constexpr double kMargin = 10.0;  // pixels, both sides together
 
-// The far edge of a stretch of whole pixels; in range whatever a sheet of no size gives.
+// The far edge of a stretch of whole pixels; in range even for a sheet without a size.
 int FarEdge(int near_edge, double length) {
   return TruncateToInt(static_cast<double>(near_edge) + TruncateToInt(length));
 }

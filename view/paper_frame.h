@@ -7,15 +7,17 @@
 
 namespace tavix {
 
-// A sheet that keeps its place on the screen: zooming changes the ground it covers, and with it the
-// scale 1:N at which the sheet would show that ground. It is laid out once, when the sheet is set.
+// A sheet that stays where it is on the screen: zooming changes the ground it covers, and with it
+// the scale 1:N at which the sheet would show that ground. It is laid out once, when the sheet is
+// set.
 //
 // Nothing is checked: a sheet of no size has sizes that are not finite.
 class PaperFrame {
  public:
-  // Off, or on with a sheet of `height_units` units of which `height_per_inch` make an inch, and
-  // the same for its width. Laid out in the view's drawing area with a margin of 5 pixels.
   void TurnOff() { on_ = false; }
+
+  // Lays out a sheet that is `height_units` units high, of which `height_per_inch` make an inch,
+  // and the same for its width, in the view's drawing area with a margin of 5 pixels.
   void TurnOn(const CViewState& view, int height_per_inch, int height_units, int width_per_inch,
               int width_units);
 
@@ -35,11 +37,10 @@ class PaperFrame {
   void SetOrigin(CViewState& view, GroundPoint origin);
   [[nodiscard]] GroundPoint Origin() const { return origin_; }
 
-  // To be called when the view has changed: the origin follows, and a stale scale is worked out
-  // again.
+  // To be called when the view has changed: the origin follows, and a stale scale is computed.
   void Follow(const CViewState& view);
 
-  // The scale no longer fits the view. Compatibility: the host's own zooms do not say so.
+  // The scale no longer fits the view. Compatibility: not called for the zooms of the host.
   void MarkScaleStale() { scale_ = kStale; }
 
   // Sheet length per ground length, 1/N.

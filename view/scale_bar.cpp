@@ -1,33 +1,44 @@
 #include "view/scale_bar.h"
 
 #include <algorithm>
-#include <iterator>
-
-#include "view/truncate.h"
+#include <span>
 
 namespace tavix {
 namespace {
 
-// A ground length above `above` metres gets the bar `value`; the first row that fits counts.
-struct Rung {
+constexpr int kMeasure = 30;  // pixels
+
+// What ground lengths above `above` metres are rounded to; the first row that fits counts.
+struct RoundLength {
   double above;
   double value;
 };
-constexpr Rung kLadder[] = {{600, 1000}, {300, 500}, {100, 200},  {50, 100},    {20, 50},
-                            {10, 20},    {5, 10},    {3, 5},      {1, 2},       {0.5, 1},
-                            {0.3, 0.5},  {0.1, 0.2}, {0.05, 0.1}, {0.03, 0.05}, {0.02, 0.02}};
+constexpr RoundLength kBars[] = {{600, 1000}, {300, 500}, {100, 200},  {50, 100},    {20, 50},
+                                 {10, 20},    {5, 10},    {3, 5},      {1, 2},       {0.5, 1},
+                                 {0.3, 0.5},  {0.1, 0.2}, {0.05, 0.1}, {0.03, 0.05}, {0.02, 0.02}};
 constexpr double kSmallestBar = 0.01;
+constexpr RoundLength kDatumSteps[] = {{500, 500}, {300, 300}, {150, 200},  {75, 100},
+                                       {25, 50},   {15, 20},   {7.5, 10},   {3.5, 5},
+                                       {1, 2},     {0.5, 1},   {0.25, 0.5}, {0.1, 0.2}};
+constexpr double kSmallestDatumStep = 0.1;
+
+double Round(double length, std::span<const RoundLength> table, double smallest) {
+  const auto row = std::find_if(table.begin(), table.end(),
+                                [=](const RoundLength& each) { return length > each.above; });
+  return row == table.end() ? smallest : row->value;
+}
 
 }  // namespace
 
 std::optional<ScaleBar> ScaleBarOf(const CViewState& view, bool vertical) {
-  constexpr int kMeasure = 30;  // pixels
   const double length = view.PixelsToLengthAxis(vertical, kMeasure);
   if (!(0.01 < length)) return std::nullopt;
-  const auto* rung = std::find_if(std::begin(kLadder), std::end(kLadder),
-                                  [=](const Rung& each) { return length > each.above; });
-  const double value = rung == std::end(kLadder) ? kSmallestBar : rung->value;
+  const double value = Round(length, kBars, kSmallestBar);
   return ScaleBar{value, view.LengthToPixelsAxis(vertical, value)};
+}
+
+double DatumStep(const CViewState& view) {
+  return Round(view.PixelsToLength(kMeasure), kDatumSteps, kSmallestDatumStep);
 }
 
 bool ShowsNorthArrow(const CViewState& view) { return view.CosA() < 0.999; }

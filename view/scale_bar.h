@@ -1,4 +1,4 @@
-// The scale bar and the north arrow: their shapes, which somebody else draws.
+// Round lengths for the present scale, and the shapes of the scale bar and the north arrow.
 #pragma once
 
 #include <array>
@@ -14,15 +14,19 @@ struct ScaleBar {
   int length = 0;      // on the screen, pixels
 };
 
-// The bar for the present view, measured along the vertical axis when a ratio was given. None when
-// 30 pixels show a centimetre or less.
+// The bar for the present view, measured along the vertical axis when a ratio was given. No bar
+// when 30 pixels show a centimetre or less.
 [[nodiscard]] std::optional<ScaleBar> ScaleBarOf(const CViewState& view, bool vertical);
 
-// True when the view is turned by more than about 2.5 degrees. Compatibility: a smaller turn shows
-// no arrow.
+// By how much a key press raises or lowers the datum of the side view, in metres: a round length
+// near what 30 pixels show. Compatibility: its steps are not those of the scale bar.
+[[nodiscard]] double DatumStep(const CViewState& view);
+
+// True when the view is rotated by more than about 2.5 degrees. Compatibility: a smaller angle
+// shows no arrow.
 [[nodiscard]] bool ShowsNorthArrow(const CViewState& view);
 
-// The arrow's polyline in the bottom left corner, turned with the view.
+// The arrow's polyline in the bottom left corner, rotated with the view.
 [[nodiscard]] std::array<ScreenPoint, 3> NorthArrowOf(const CViewState& view);
 
 }  // namespace tavix

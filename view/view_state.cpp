@@ -1,9 +1,9 @@
 #include "view/view_state.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
-
-#include "view/truncate.h"
 
 namespace tavix {
 namespace {
@@ -16,7 +16,7 @@ struct Cosines {
   double sin;
 };
 
-// Turns (x, y) about the pixel (cx, cy); on the screen, y down, a positive angle turns clockwise.
+// Rotates (x, y) about the pixel (cx, cy): clockwise for a positive angle, since y runs down.
 RealScreenPoint RotateAbout(double x, double y, int cx, int cy, Cosines angle) {
   const double dx = x - cx;
   const double dy = y - cy;
@@ -110,7 +110,7 @@ void CViewState::ZoomOut(double factor) {
 bool CViewState::SetFitScale(int pixels, double length, double factor) {
   if (!no_view_yet_) prev_scale_ = scale_;
   const bool cut = SetScaleCapped((pixels / length) * factor);
-  home_scale_ = scale_;
+  extents_scale_ = scale_;
   if (no_view_yet_) {
     prev_scale_ = scale_;
     no_view_yet_ = false;
@@ -118,18 +118,18 @@ bool CViewState::SetFitScale(int pixels, double length, double factor) {
   return cut;
 }
 
-void CViewState::ToggleHome() {
-  const bool at_home = std::fabs(scale_ - home_scale_) < kSameView &&
-                       std::fabs(centre_.north - home_centre_.north) < kSameView &&
-                       std::fabs(centre_.east - home_centre_.east) < kSameView;
-  if (at_home) {
+void CViewState::ToggleExtents() {
+  const bool at_extents = std::fabs(scale_ - extents_scale_) < kSameView &&
+                          std::fabs(centre_.north - extents_centre_.north) < kSameView &&
+                          std::fabs(centre_.east - extents_centre_.east) < kSameView;
+  if (at_extents) {
     scale_ = prev_scale_;
     centre_ = prev_centre_;
   } else {
     prev_centre_ = centre_;
     prev_scale_ = scale_;
-    scale_ = home_scale_;
-    centre_ = home_centre_;
+    scale_ = extents_scale_;
+    centre_ = extents_centre_;
   }
   v_scale_ = scale_ * ratio_;
 }
@@ -162,6 +162,21 @@ int CViewState::LengthToPixelsAxis(bool vertical, double length) const {
 
 double CViewState::PixelsToLengthAxis(bool vertical, int pixels) const {
   return vertical ? pixels / v_scale_ : PixelsToLength(pixels);
+}
+
+bool CViewState::IsPointInView(GroundPoint point) const {
+  ScreenPoint ignored;
+  return CircleOnScreen(point, 0.0, ignored);
+}
+
+bool CViewState::IsCircleInView(GroundPoint centre, double radius) const {
+  constexpr double kNoRadius = 0.00001;
+  if (radius < kNoRadius) return IsPointInView(centre);
+  const std::array<GroundPoint, 4> offsets{{{radius, 0}, {0, radius}, {-radius, 0}, {0, -radius}}};
+  return std::all_of(offsets.begin(), offsets.end(), [&](GroundPoint offset) {
+    return IsPointInView({centre.north + (offset.north * cos_a_ - offset.east * sin_a_),
+                          centre.east + (offset.east * cos_a_ + offset.north * sin_a_)});
+  });
 }
 
 bool CViewState::CircleOnScreen(GroundPoint centre, double radius, ScreenPoint& screen) const {

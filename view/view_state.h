@@ -1,4 +1,5 @@
-// How the ground maps to the client area of a plot window.
+// How the ground maps to the client area of a plot window. fit.cpp holds the operations that show a
+// ground box.
 #pragma once
 
 #include "view/clip.h"
@@ -6,12 +7,11 @@
 
 namespace tavix {
 
-// The view of one plot. Ground: metres, x north, y east. Screen: pixels, origin top left of the
-// client area, y down. The unturned view has north up; a positive angle turns the picture
-// clockwise.
+// The view of one plot. Ground: metres, north and east. Screen: pixels, origin top left of the
+// client area, y down. At angle 0 north is up; a positive angle rotates the picture clockwise.
 //
-// Everything that converts between the two goes through this class. Two views are remembered: the
-// home view (the last fit) and the view before the last change.
+// Every conversion between the two goes through this class. Two views are remembered: the extents
+// (the last fit) and the view before the last change.
 class CViewState {
  public:
   // The largest scale, in pixels per metre. An operation that would exceed it cuts the scale to
@@ -30,11 +30,11 @@ class CViewState {
   // Moves the view; the old centre becomes the previous one.
   void SetCentre(GroundPoint centre);
 
-  // Turns the view to a whole angle, 0..359 degrees. Returns 0, or -1 for any other angle.
+  // Rotates the view to a whole angle, 0..359 degrees. Returns 0, or -1 for any other angle.
   int SetAngle(int degrees);
 
-  // Turns the view by a step. Only one full turn is taken off or added, so a sum that is still out
-  // of range then is refused with -1.
+  // Rotates the view by a step in degrees. One full turn at most is taken off or added; a sum that
+  // is still out of range is refused with -1.
   int RotateBy(int degrees);
 
   // ---- Scale; each returns true when the scale was cut to the cap
@@ -42,20 +42,22 @@ class CViewState {
   [[nodiscard]] bool ZoomIn(double factor);
   void ZoomOut(double factor);  // Compatibility: no lower limit
 
-  // The scale that shows `length` metres in `pixels`, times `factor`; it becomes the home scale.
+  // The scale that shows `length` metres in `pixels`, times `factor`; it becomes the scale of
+  // the extents.
   [[nodiscard]] bool SetFitScale(int pixels, double length, double factor);
 
-  // Shows a ground box in the whole drawing area. The home view stays.
+  // Zoom window: shows a ground box in the whole drawing area. The extents stay.
   [[nodiscard]] bool ZoomToArea(GroundSize size, GroundPoint centre);
 
-  // Shows a ground box in the drawing area less a margin of 20 pixels; this becomes the home view.
+  // Zoom extents: shows a ground box in the drawing area less a margin of 20 pixels. This view is
+  // the extents from now on.
   [[nodiscard]] bool FitToArea(GroundSize size, GroundPoint centre);
 
   // As FitToArea, in a rectangle of the given size in pixels in place of the drawing area.
   [[nodiscard]] bool FitToRect(int width, int height, GroundSize size, GroundPoint centre);
 
-  // Goes to the home view, or back to the view before it when the home view is on.
-  void ToggleHome();
+  // Goes to the extents, or where they are shown already, back to the view before.
+  void ToggleExtents();
 
   // ---- Transforms
 
@@ -65,7 +67,7 @@ class CViewState {
   // The same before the truncation.
   [[nodiscard]] RealScreenPoint GroundToRealScreen(GroundPoint ground) const;
 
-  // Pixel to ground: the exact inverse but for the truncation.
+  // Pixel to ground: the inverse of GroundToRealScreen.
   [[nodiscard]] GroundPoint ScreenToGround(ScreenPoint screen) const;
 
   // A length in metres at the horizontal scale, in whole pixels, and back.
@@ -76,16 +78,24 @@ class CViewState {
   [[nodiscard]] int LengthToPixelsAxis(bool vertical, double length) const;
   [[nodiscard]] double PixelsToLengthAxis(bool vertical, int pixels) const;
 
-  // The size of the box that holds a box turned by the view's angle. Both sizes are lengths in the
-  // same unit.
+  // The extents of a box rotated by the view's angle. Both sizes are lengths in the same unit.
   [[nodiscard]] GroundSize RotatedExtent(GroundSize size) const;
 
   // ---- What is in view
 
+  // The point's pixel lies in the client area, borders included.
+  [[nodiscard]] bool IsPointInView(GroundPoint point) const;
+
+  // Four points of the circle, a quarter turn apart, are all in view. A radius below 0.00001 m asks
+  // for the centre alone. Compatibility: the four are rotated by the view's angle before the view
+  // rotates them again.
+  [[nodiscard]] bool IsCircleInView(GroundPoint centre, double radius) const;
+
   // True when a circle of `radius` metres can touch the client area; then `screen` is its centre.
   [[nodiscard]] bool CircleOnScreen(GroundPoint centre, double radius, ScreenPoint& screen) const;
 
-  // Clips a ground segment to the client area. False when nothing of it is inside.
+  // Clips a ground segment to the client area. False when it lies outside; `clipped` then stays as
+  // it was.
   [[nodiscard]] bool ClipGroundSegment(GroundPoint start, GroundPoint end,
                                        ScreenSegment& clipped) const;
 
@@ -97,7 +107,7 @@ class CViewState {
 
   [[nodiscard]] double Scale() const { return scale_; }
   [[nodiscard]] double VScale() const { return v_scale_; }
-  [[nodiscard]] double HomeScale() const { return home_scale_; }
+  [[nodiscard]] double ExtentsScale() const { return extents_scale_; }
   [[nodiscard]] double Ratio() const { return ratio_; }
   [[nodiscard]] int Angle() const { return angle_; }
   [[nodiscard]] double CosA() const { return cos_a_; }
@@ -113,18 +123,18 @@ class CViewState {
 
   double scale_ = 1.0;    // pixels per metre along screen x
   double v_scale_ = 1.0;  // along screen y: always scale_ * ratio_
-  double home_scale_ = 1.0;
+  double extents_scale_ = 1.0;
   double prev_scale_ = 1.0;
   double ratio_ = 1.0;
 
-  int angle_ = 0;  // degrees, and its cosines and sines there and back
+  int angle_ = 0;  // degrees, with the cosines and sines of both directions
   double cos_a_ = 1.0;
   double sin_a_ = 0.0;
   double cos_inv_ = 1.0;
   double sin_inv_ = 0.0;
 
   GroundPoint centre_;
-  GroundPoint home_centre_;
+  GroundPoint extents_centre_;
   GroundPoint prev_centre_;
 
   // Compatibility: the half sizes start at 10 and not at 5. Until the first SetScreenSize the

@@ -1,16 +1,14 @@
 #include "window/plot_window.h"
 
-#include <cmath>
 #include <cstdint>
 
-#include "draw/dib/dib_canvas.h"
-#include "draw/gdi_canvas.h"
-#include "draw/label_font.h"
-#include "draw/side_view.h"
-#include "view/scale_bar.h"
-#include "window/client_surface.h"
-#include "window/overlays.h"
-#include "window/refusal_beep.h"
+#include "window/buttons/button_column.h"
+#include "window/buttons/button_commands.h"
+#include "window/modes/plot_modes.h"
+#include "window/navigation.h"
+#include "window/one_bit_plot.h"
+#include "window/plot_display.h"
+#include "window/settings/settings_command.h"
 
 namespace tavix {
 namespace {
@@ -26,7 +24,32 @@ bool IsTooLarge(const CRect& rect) {
   return width > 0 && height > 0 && height > kMostPixels / width;
 }
 
+ScreenPoint ToScreen(CPoint point) {
+  return {static_cast<int>(point.x), static_cast<int>(point.y)};
+}
+
 }  // namespace
+
+struct CPlotWnd::Parts {
+  Parts(CPlotWnd& window, UINT notify_id, const PlotLinks& plot_links)
+      : links(plot_links),
+        display(window, links, ratio),
+        navigation(links.view, display, ratio),
+        modes({window, display, links.view, links.points}, notify_id, navigation, buttons),
+        settings(window, display, navigation, links.legend),
+        commands(buttons, modes, display, navigation, settings),
+        one_bit(display) {}
+
+  const PlotLinks links;
+  RatioSetting ratio;
+  ButtonColumn buttons;
+  PlotDisplay display;
+  Navigation navigation;
+  PlotModes modes;
+  SettingsCommand settings;
+  ButtonCommands commands;
+  OneBitPlot one_bit;
+};
 
 BEGIN_MESSAGE_MAP(CPlotWnd, CWnd)
 ON_WM_LBUTTONUP()
@@ -37,17 +60,14 @@ ON_WM_MOUSEMOVE()
 ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
 
-CPlotWnd::CPlotWnd(UINT notify_id) : notify_id_(notify_id) {
-  constexpr int kLabelHeight = 10;  // pixels
-  const LOGFONTW font = LabelFont(kLabelHeight);
-  label_font_.CreateFontIndirect(&font);
-}
+CPlotWnd::CPlotWnd(UINT notify_id, const PlotLinks& links)
+    : parts_(std::make_unique<Parts>(*this, notify_id, links)) {}
 
 CPlotWnd::~CPlotWnd() { CPlotWnd::DestroyWindow(); }
 
 BOOL CPlotWnd::DestroyWindow() {
-  AbandonSettings();
-  buttons_.Destroy();
+  parts_->settings.Abandon();
+  parts_->buttons.Destroy();
   return m_hWnd ? CWnd::DestroyWindow() : FALSE;
 }
 
@@ -74,8 +94,8 @@ BOOL CPlotWnd::CreateChild(CWnd* parent, const CRect& rect, const CString& class
                 rect.Width(), rect.Height(), parent->m_hWnd, nullptr)) {
     return FALSE;
   }
-  if (!buttons_.Create(*this)) return FALSE;
-  buffer_.Create(*this);
+  if (!parts_->buttons.Create(*this)) return FALSE;
+  parts_->display.CreateBuffer();
   return TRUE;
 }
 
@@ -83,165 +103,70 @@ void CPlotWnd::ApplyButtonFlag(bool show_buttons) {
   CRect client(0, 0, 0, 0);
   if (m_hWnd) GetClientRect(&client);
   const int column = show_buttons ? ButtonColumnLayout::kWidth : 0;
-  links_.view->SetScreenSize(client.right - column, client.bottom);
-  links_.view->SetRatio(1.0);
-  buttons_.Show(show_buttons);
+  CViewState& view = parts_->links.view;
+  view.SetScreenSize(client.right - column, client.bottom);
+  view.SetRatio(1.0);
+  parts_->buttons.Show(show_buttons);
 }
 
-int CPlotWnd::FitView() {
-  if (display_3d_) return FitSideView();
-  GroundExtent points;
-  GroundExtent figures;
-  const int points_code = links_.points->GetExtent(&points);
-  const int figures_code = links_.figures->GetExtent(&figures);
-  if (points_code != 0 && figures_code != 0) return points_code;
+PlotDisplay& CPlotWnd::Display() { return parts_->display; }
+Navigation& CPlotWnd::Navigate() { return parts_->navigation; }
+CaptureMode& CPlotWnd::Capture() { return parts_->modes.Capture(); }
+PaperFrameOverlay& CPlotWnd::Frame() { return parts_->display.Plan().Frame(); }
+ScaleBarOverlay& CPlotWnd::ScaleBar() { return parts_->display.Plan().ScaleBar(); }
+MovedPoint& CPlotWnd::Moved() { return parts_->display.Plan().Moved(); }
+TracedLine& CPlotWnd::Trace() { return parts_->display.Plan().Trace(); }
+OneBitPlot& CPlotWnd::OneBit() { return parts_->one_bit; }
+ScreenPoint CPlotWnd::LastTap() const { return parts_->modes.LastTap(); }
 
-  ExtentBuilder builder;
-  if (points_code == 0) builder.Include(points);
-  if (figures_code == 0) builder.Include(figures);
-  if (move_point_.IsDrawn()) builder.Include(move_point_.Position());
-  const GroundExtent& extent = builder.Extent();
-  if (frame_.IsOn()) {
-    BeepIfCut(
-        links_.view->FitToRect(frame_.Width(), frame_.Height(), extent.Size(), extent.Centre()));
-    frame_.MarkScaleStale();
-  } else {
-    BeepIfCut(links_.view->FitToArea(extent.Size(), extent.Centre()));
+BOOL CPlotWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
+  // The command can change the picture or the mode under an unfinished band.
+  parts_->modes.Cancel();
+  // A host can end the window, with this object, while the settings are open.
+  if (parts_->commands.Run(LOWORD(wParam))) return TRUE;
+  return CWnd::OnCommand(wParam, lParam);
+}
+
+BOOL CPlotWnd::PreTranslateMessage(MSG* message) {
+  const bool is_arrow =
+      message->message == WM_KEYDOWN && message->wParam >= VK_LEFT && message->wParam <= VK_DOWN;
+  if (!is_arrow || parts_->modes.IsZoomWindowOn() || !parts_->buttons.IsOnScreen()) {
+    return CWnd::PreTranslateMessage(message);
   }
-  return 0;
+  parts_->navigation.PressArrow(message->wParam);
+  return TRUE;
 }
 
-int CPlotWnd::FitSideView() {
-  GroundExtent3 extent;
-  if (const int code = links_.points3->GetExtent(&extent); code != 0) return code;
-  BeepIfCut(links_.view->FitToArea(extent.plan.Size(), extent.plan.Centre()));
-  height_base_ = std::floor(extent.min_z);
-  return 0;
-}
-
-int CPlotWnd::ZoomToBox(GroundPoint south_west, GroundPoint north_east) {
-  const auto [x1, y1] = south_west;
-  const auto [x2, y2] = north_east;
-  return ZoomTo({y2 - y1, x2 - x1}, {(x1 + x2) * 0.5, (y1 + y2) * 0.5});
-}
-
-int CPlotWnd::ZoomToCircle(GroundPoint centre, double radius) {
-  return ZoomTo({radius * 2.0, radius * 2.0}, centre);
-}
-
-int CPlotWnd::ZoomTo(GroundSize size, GroundPoint centre) {
-  BeepIfCut(links_.view->ZoomToArea(size, centre));
-  return ViewChanged();
-}
-
-int CPlotWnd::PanTo(GroundPoint centre) {
-  links_.view->SetCentre(centre);
-  return ViewChanged();
-}
-
-int CPlotWnd::Redraw() {
-  if (!m_hWnd) return 0;
-  buffer_.Fill();
-  if (buffer_.Pixels().pixels) {
-    DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), learnt_);
-    DrawEntities(canvas);
-  } else {
-    GdiCanvas canvas(buffer_.Dc());
-    DrawEntities(canvas);
-  }
-  if (display_3d_) {
-    traced_.ForgetSegments();
-  } else {
-    traced_.Redraw(buffer_.Dc(), *links_.view);
-  }
-  InvalidateRect(&buffer_.Rect(), TRUE);
-  return 0;
-}
-
-void CPlotWnd::DrawEntities(PlanCanvas& canvas) {
-  if (!display_3d_) {
-    DrawPlanView(canvas, Data());
+void CPlotWnd::OnLButtonDown(UINT flags, CPoint point) {
+  // A disabled button lets its taps through to the window; they are no taps on the plot.
+  if (parts_->buttons.Covers(point)) {
+    CWnd::OnLButtonDown(flags, point);
     return;
   }
-  const CRect& buffer = buffer_.Rect();
-  DrawSideView(canvas, {*links_.view, links_.legend->Table(), *links_.points3, buffer.Width(),
-                        buffer.Height(), height_base_});
+  parts_->modes.Press(ToScreen(point));
+  CWnd::OnLButtonDown(flags, point);
+  // So that a drag that leaves the window still ends. Comes last: a window of the host that loses
+  // the capture gets a message, and may end the instance.
+  SetCapture();
 }
 
-void CPlotWnd::TurnFrameOn(int height_per_inch, int height_units, int width_per_inch,
-                           int width_units) {
-  frame_.TurnOn(*links_.view, height_per_inch, height_units, width_per_inch, width_units);
+void CPlotWnd::OnMouseMove(UINT flags, CPoint point) {
+  parts_->modes.Move(ToScreen(point));
+  CWnd::OnMouseMove(flags, point);
 }
 
-bool CPlotWnd::SetFrameScale(int n) {
-  if (!frame_.IsOn() || n < 1) return false;
-  BeepIfCut(frame_.SetScale(*links_.view, n));
-  return true;
-}
-
-bool CPlotWnd::SetFrameOrigin(GroundPoint origin) {
-  if (!frame_.IsOn()) return false;
-  frame_.SetOrigin(*links_.view, origin);
-  return true;
-}
-
-int CPlotWnd::ViewChanged() {
-  frame_.Follow(*links_.view);
-  return Redraw();
-}
-
-void CPlotWnd::SetDisplay3D(bool on) {
-  if (on) move_point_.Hide(*this, *links_.view);
-  display_3d_ = on;
-}
-
-// What is drawn by exclusive-or makes way for what is drawn at once below it: over a picture that
-// changed, taking it off would leave a trace.
-void CPlotWnd::FlipOverlays() {
-  move_point_.Flip(*this, *links_.view);
-  traced_.Flip(Surfaces());
-}
-
-template <class Draw>
-void CPlotWnd::DrawAtOnce(Draw draw) {
-  if (!m_hWnd || display_3d_) return;
-  FlipOverlays();
-  if (IsWindowVisible()) {
-    const RubberBand::Hidden hidden(band_, *this);
-    ClientSurface screen(*this);
-    GdiCanvas canvas(screen.Dc());
-    draw(canvas);
+void CPlotWnd::OnLButtonUp(UINT flags, CPoint point) {
+  if (const auto gesture = parts_->modes.Lift(ToScreen(point))) {
+    if (GetCapture() == this) ReleaseCapture();
+    parts_->modes.Release(*gesture);
   }
-  {
-    GdiCanvas canvas(buffer_.Dc());
-    draw(canvas);
-  }
-  FlipOverlays();
+  CWnd::OnLButtonUp(flags, point);
 }
 
-void CPlotWnd::DrawNewPoint(const Point& point) {
-  DrawAtOnce([&](PlanCanvas& canvas) { DrawSinglePoint(canvas, Data(), point); });
-}
-
-void CPlotWnd::DrawNewLine(const Line& line) {
-  DrawAtOnce([&](PlanCanvas& canvas) { DrawSingleLine(canvas, Data(), line); });
-}
-
-int CPlotWnd::BuildGroup(int height, int width) {
-  group_.Release();
-  if (GroupPicture::IsTooLarge(height, width)) return -1;
-  BeepIfCut(group_.Build(Data(), frame_, height, width));
-  return 0;
-}
-
-void CPlotWnd::SetRatio(int vertical, int horizontal) {
-  ratio_ = {true, vertical, horizontal};
-  links_.view->SetRatio(static_cast<double>(vertical) / horizontal);
-}
-
-PlotData CPlotWnd::Data() const {
-  return {*links_.view,  links_.legend->Table(), *links_.points,
-          *links_.lines, *links_.figures,        draws_lines_};
+// Another window took the capture: the release of the stylus will not be seen here.
+void CPlotWnd::OnCaptureChanged(CWnd* taker) {
+  if (taker != this) parts_->modes.CancelGesture();
+  CWnd::OnCaptureChanged(taker);
 }
 
 BOOL CPlotWnd::OnEraseBkgnd(CDC* dc) {
@@ -256,24 +181,7 @@ void CPlotWnd::OnPaint() {
   CRect clip;
   const int region = dc.GetClipBox(&clip);
   if (region == NULLREGION || region == ERROR) return;
-  dc.BitBlt(clip.left, clip.top, clip.Width(), clip.Height(), &buffer_.Dc(), clip.left, clip.top,
-            SRCCOPY);
-  if (!display_3d_) DrawOverlays(dc);
-  band_.Restore(dc);
-}
-
-// Over the copied picture, bottom to top.
-void CPlotWnd::DrawOverlays(CDC& paint) {
-  const CViewState& view = *links_.view;
-  if (frame_.IsShown()) DrawPaperFrame(paint, frame_);
-  frame_.Follow(view);
-  const bool turned = ShowsNorthArrow(view);
-  if (turned) DrawNorthArrow(paint, view);
-  // An exaggerated view that is turned has no one scale.
-  if (scale_bar_shown_ && !(ratio_.given && turned)) {
-    DrawScaleBar(paint, view, ratio_.given, label_font_);
-  }
-  move_point_.Restore(paint, view);
+  parts_->display.Paint(dc, clip);
 }
 
 }  // namespace tavix

@@ -121,7 +121,9 @@ namespace Tavix
 
         /// <summary>
         /// Redraws the window; with `keepView` 0 the view is first fitted to the data. With nothing
-        /// to fit the view stays. Needs a linked window (-1 without one); returns 0.
+        /// to fit the view stays. The side view is fitted as seen from above: laid flat, its far
+        /// right may lie outside of a narrow window; its height base is then the lowest height,
+        /// rounded down to a whole metre. Needs a linked window (-1 without one); returns 0.
         /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
@@ -419,8 +421,9 @@ namespace Tavix
         /// <summary>
         /// Keeps a text for a point key (16 bits of it, as lines do); the point need not exist. An
         /// empty text removes the memo of a key that has one, and is kept as an empty memo for a
-        /// key that has none. Returns 0, -1 it could not be added or written, as when the memo
-        /// database cannot be opened, -3 it could not be read or deleted.
+        /// key that has none. A memo longer than kTavixLongestMemo may be refused. Returns 0, -1 it
+        /// could not be added or written, as when the memo database cannot be opened, -3 it could
+        /// not be read or deleted.
         /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
@@ -562,14 +565,20 @@ namespace Tavix
         public static extern int TavixC_SetWakScl(int instance, int N);
 
         /// <summary>
-        /// Writes N, truncated. Compatibility: TavixC_Zom and TavixC_Zom1 do not change it.
+        /// Writes N, truncated: after TavixC_SetWakScl(N) it may be N - 1, for the view keeps 1/N.
+        /// The value stays the same until the view is zoomed. Compatibility: TavixC_Zom and
+        /// TavixC_Zom1 do not change it.
         /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
         public static extern int TavixC_GetWakScl(int instance, out int N);
 
         /// <summary>
-        /// Moves the view so that the frame's bottom left corner lies on (X, Y).
+        /// Moves the view so that the frame's bottom left corner lies on (X, Y), starting from the
+        /// corner that the last redraw found. It may miss by up to a pixel, as the middle of a
+        /// frame of whole pixels is not quite that of the view: after a redraw TavixC_GetWakGen
+        /// gives the corner as it is, and a second call, corrected by the difference, puts it
+        /// right.
         /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]

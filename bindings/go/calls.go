@@ -201,7 +201,9 @@ func cDrwFlg(instance int32, on int32) int32 {
 }
 
 // Redraws the window; with `keepView` 0 the view is first fitted to the data. With nothing to fit
-// the view stays. Needs a linked window (-1 without one); returns 0.
+// the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
+// outside of a narrow window; its height base is then the lowest height, rounded down to a whole
+// metre. Needs a linked window (-1 without one); returns 0.
 func cDrw(instance int32, keepView int32) int32 {
 	r, _, _ := procDrw.Call(uintptr(instance), uintptr(keepView))
 	return int32(r)
@@ -439,8 +441,8 @@ func cClrEntLin(instance int32) int32 {
 
 // Keeps a text for a point key (16 bits of it, as lines do); the point need not exist. An empty
 // text removes the memo of a key that has one, and is kept as an empty memo for a key that has
-// none. Returns 0, -1 it could not be added or written, as when the memo database cannot be opened,
-// -3 it could not be read or deleted.
+// none. A memo longer than kTavixLongestMemo may be refused. Returns 0, -1 it could not be added or
+// written, as when the memo database cannot be opened, -3 it could not be read or deleted.
 func cEntPntMem(instance int32, key int32, memo *uint16) int32 {
 	r, _, _ := procEntPntMem.Call(uintptr(instance), uintptr(key), uintptr(unsafe.Pointer(memo)))
 	return int32(r)
@@ -560,13 +562,18 @@ func cSetWakScl(instance int32, N int32) int32 {
 	return int32(r)
 }
 
-// Writes N, truncated. Compatibility: TavixC_Zom and TavixC_Zom1 do not change it.
+// Writes N, truncated: after TavixC_SetWakScl(N) it may be N - 1, for the view keeps 1/N. The value
+// stays the same until the view is zoomed. Compatibility: TavixC_Zom and TavixC_Zom1 do not change
+// it.
 func cGetWakScl(instance int32, N *int32) int32 {
 	r, _, _ := procGetWakScl.Call(uintptr(instance), uintptr(unsafe.Pointer(N)))
 	return int32(r)
 }
 
-// Moves the view so that the frame's bottom left corner lies on (X, Y).
+// Moves the view so that the frame's bottom left corner lies on (X, Y), starting from the corner
+// that the last redraw found. It may miss by up to a pixel, as the middle of a frame of whole
+// pixels is not quite that of the view: after a redraw TavixC_GetWakGen gives the corner as it is,
+// and a second call, corrected by the difference, puts it right.
 func cSetWakGen(instance int32, X float64, Y float64) int32 {
 	r, _, _ := procSetWakGen.Call(uintptr(instance), uintptr(math.Float64bits(X)), uintptr(math.Float64bits(Y)))
 	return int32(r)

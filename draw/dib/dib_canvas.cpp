@@ -1,11 +1,11 @@
 #include "draw/dib/dib_canvas.h"
 
-#include "draw/point_label.h"
+#include "draw/labels.h"
 
 namespace tavix {
 namespace {
 
-bool IsOnePixelPen(const LegendStyle& style) { return style.width == 0 || style.width == 1; }
+bool IsOnePixelWide(const Pen& pen) { return pen.width == 0 || pen.width == 1; }
 
 bool IsNear(ScreenPoint at) {
   return at.x >= -kFarthestStep && at.x <= kFarthestStep && at.y >= -kFarthestStep &&
@@ -14,59 +14,56 @@ bool IsNear(ScreenPoint at) {
 
 }  // namespace
 
-DibCanvas::DibCanvas(CDC& dc, const PixelBlock& block, LearntDrawing& learnt)
-    : plain_(dc, block), learnt_(learnt), text_color_(dc.GetTextColor()) {
-  learnt_.FollowSettings();
+DibCanvas::DibCanvas(CDC& dc, const PixelBlock& block, RasterCache& cache)
+    : gdi_(dc, block), cache_(cache), text_color_(dc.GetTextColor()) {
+  cache_.FollowSettings();
 }
 
-void DibCanvas::UseLineStyle(const LegendStyle& style) {
-  plain_.UseLineStyle(style);
-  const std::optional<std::uint32_t> value = PixelBlock::ValueOf(style.color);
-  lines_ = IsOnePixelPen(style) && value ? learnt_.Lines() : nullptr;
+void DibCanvas::UsePen(const Pen& pen) {
+  gdi_.UsePen(pen);
+  const std::optional<std::uint32_t> value = PixelBlock::ValueOf(pen.color);
+  lines_ = IsOnePixelWide(pen) && value ? cache_.Lines() : nullptr;
   line_color_ = value.value_or(0);
 }
 
 void DibCanvas::Line(const ScreenSegment& segment) {
   if (lines_ && IsNear(segment.start) && IsNear(segment.end)) {
-    StepLine(plain_.Bits(), *lines_, segment, line_color_);
+    StepLine(gdi_.Bits(), *lines_, segment, line_color_);
   } else {
-    plain_.Line(segment);
+    gdi_.Line(segment);
   }
 }
 
-void DibCanvas::Circle(ScreenPoint centre, int radius) { plain_.Circle(centre, radius); }
-
-void DibCanvas::UsePointStyle(const LegendStyle& style) {
-  plain_.UsePointStyle(style);
-  mark_ = style.prm1 > 0 ? learnt_.Mark(style) : nullptr;
-  LookUpLabels();
+void DibCanvas::UsePointSymbol(const PointSymbol& symbol) {
+  gdi_.UsePointSymbol(symbol);
+  mark_ = symbol.size > 0 ? cache_.Mark(symbol) : nullptr;
+  FindLabels();
 }
 
 void DibCanvas::UseTextColor(std::uint32_t color) {
   if (color == text_color_) return;
   text_color_ = color;
-  plain_.UseTextColor(color);
-  LookUpLabels();
+  gdi_.UseTextColor(color);
+  FindLabels();
 }
 
-void DibCanvas::LookUpLabels() {
-  const int height = plain_.Style().prm2;
-  labels_ = height > 0 ? learnt_.Labels(height, text_color_) : nullptr;
+void DibCanvas::FindLabels() {
+  const int height = gdi_.Symbol().label_height;
+  labels_ = height > 0 ? cache_.Labels(height, text_color_) : nullptr;
 }
 
 void DibCanvas::Mark(ScreenPoint at) {
   if (mark_) {
-    mark_->Draw(plain_.Bits(), at);
+    mark_->Draw(gdi_.Bits(), at);
   } else {
-    plain_.Mark(at);
+    gdi_.Mark(at);
   }
 }
 
 void DibCanvas::Label(ScreenPoint at, NameView text) {
-  const LegendStyle& style = plain_.Style();
-  const LabelBox box = PlaceLabel(at, style.prm1, style.prm2, static_cast<int>(text.size()));
-  plain_.PaintsText();
-  if (!labels_ || !labels_->Draw(plain_.Bits(), {box.left, box.top}, text)) plain_.Label(at, text);
+  const LabelBox box = PlaceLabel(at, gdi_.Symbol(), static_cast<int>(text.size()));
+  gdi_.PaintsText();
+  if (!labels_ || !labels_->Draw(gdi_.Bits(), {box.left, box.top}, text)) gdi_.Label(at, text);
 }
 
 }  // namespace tavix

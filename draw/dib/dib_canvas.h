@@ -1,44 +1,44 @@
-// The plan view drawn straight into the bits of a bitmap section.
+// The plan and the side view drawn straight into the pixels of a DIB section.
 #pragma once
 
 #include <afxwin.h>
 
 #include <cstdint>
 
-#include "draw/dib/lazy_plain.h"
-#include "draw/dib/learnt_drawing.h"
-#include "draw/dib/pixel_block.h"
+#include "draw/dib/dib_section.h"
+#include "draw/dib/lazy_gdi.h"
+#include "draw/dib/raster_cache.h"
 #include "draw/plan_canvas.h"
 
 namespace tavix {
 
-// The pixels of GdiCanvas in a fraction of its time. What has been learnt of the system's drawing
-// is drawn here; all else goes through a plain canvas, in the order it comes.
+// The pixels of GdiCanvas in a fraction of its time. What the raster cache has is drawn here; all
+// else goes through GDI, in the order it comes.
 class DibCanvas : public PlanCanvas {
  public:
   // `block` is what `dc` draws into, with neither clipping nor a mapping of its own. All outlive
   // the canvas.
-  DibCanvas(CDC& dc, const PixelBlock& block, LearntDrawing& learnt);
+  DibCanvas(CDC& dc, const PixelBlock& block, RasterCache& cache);
 
-  [[nodiscard]] ScreenBox Visible() const override { return plain_.Visible(); }
-  void UseLineStyle(const LegendStyle& style) override;
+  [[nodiscard]] ScreenBox Visible() const override { return gdi_.Visible(); }
+  void UsePen(const Pen& pen) override;
   void Line(const ScreenSegment& segment) override;
-  void Circle(ScreenPoint centre, int radius) override;
-  void UsePointStyle(const LegendStyle& style) override;
+  void Circle(ScreenPoint centre, int radius) override { gdi_.Circle(centre, radius); }
+  void UsePointSymbol(const PointSymbol& symbol) override;
   void Mark(ScreenPoint at) override;
   void UseTextColor(std::uint32_t color) override;
   void Label(ScreenPoint at, NameView text) override;
 
  private:
-  void LookUpLabels();
+  void FindLabels();
 
-  LazyPlain<PixelBlock> plain_;
-  LearntDrawing& learnt_;
+  LazyGdi<PixelBlock> gdi_;
+  RasterCache& cache_;
 
-  // Null: the system draws it.
-  const LineRule* lines_ = nullptr;
-  const Stamp* mark_ = nullptr;
-  LabelGlyphs* labels_ = nullptr;
+  // Null: GDI draws it.
+  const TieRule* lines_ = nullptr;
+  const MarkMask* mark_ = nullptr;
+  SmoothLabels* labels_ = nullptr;
   std::uint32_t line_color_ = 0;
   std::uint32_t text_color_;
 };

@@ -1,5 +1,7 @@
 #include "draw/dib/dib_section.h"
 
+#include <afxwin.h>
+
 namespace tavix {
 
 PixelBlock CreateDib(CDC& dc, int width, int height, CBitmap& bitmap) {

@@ -1,6 +1,8 @@
 #include "draw/dib/glyph.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstring>
 
 namespace tavix {
 
@@ -33,27 +35,65 @@ void Glyph::Add(Pixel pixel) {
   pixels_.push_back(pixel);
 }
 
-void Glyph::Draw(const PixelBlock& block, const SmoothBlend& blend, ScreenPoint at) const {
+void Glyph::Draw(const PixelBlock& block, const BlendTable& blend, ScreenPoint at) const {
   if (!box_.Fits(block, at.x, at.y)) {
     DrawCut(block, blend, at);
     return;
   }
   std::uint32_t* const corner = block.At(at.x, at.y);
   const std::ptrdiff_t width = block.width;
-  const BlendRamp* const ramps = blend.Ramps();
+  const BlendRow* const rows = blend.Rows();
   for (const Pixel& pixel : pixels_) {
     std::uint32_t* const shown = corner + (pixel.y * width + pixel.x);
-    *shown = Blended(ramps[pixel.level], *shown);
+    *shown = Blended(rows[pixel.level], *shown);
   }
 }
 
-void Glyph::DrawCut(const PixelBlock& block, const SmoothBlend& blend, ScreenPoint at) const {
+void Glyph::DrawCut(const PixelBlock& block, const BlendTable& blend, ScreenPoint at) const {
   for (const Pixel& pixel : pixels_) {
     const int x = at.x + pixel.x;
     const int y = at.y + pixel.y;
     if (!block.Holds(x, y)) continue;
     std::uint32_t* const shown = block.At(x, y);
-    *shown = Blended(blend.Ramps()[pixel.level], *shown);
+    *shown = Blended(blend.Rows()[pixel.level], *shown);
+  }
+}
+
+std::optional<GlyphBlocks> GlyphBlocks::From(const Glyph& glyph, const BlendTable& blend) {
+  GlyphBlocks blocks;
+  for (const Glyph::Pixel& pixel : glyph.Pixels()) {
+    const std::optional<std::uint16_t> weight = blend.Weight(pixel.level);
+    if (!weight) return std::nullopt;
+    blocks.Add(pixel, *weight);
+  }
+  return blocks;
+}
+
+// The pixels come row by row, from the left.
+void GlyphBlocks::Add(const Glyph::Pixel& pixel, std::uint16_t weight) {
+  if (fours_.empty() || fours_.back().y != pixel.y || pixel.x >= fours_.back().x + kPixels) {
+    if (fours_.empty()) box_ = {pixel.x, pixel.y, pixel.x, pixel.y};
+    fours_.push_back({pixel.x, pixel.y, {}});
+    fours_.back().weights.fill(kFullWeight);
+    box_ = {std::min<int>(box_.left, pixel.x), std::min<int>(box_.top, pixel.y),
+            std::max(box_.right, pixel.x + kPixels), std::max(box_.bottom, pixel.y + 1)};
+  }
+  Four& four = fours_.back();
+  const auto first = static_cast<std::size_t>(pixel.x - four.x) * kChannels;
+  for (std::size_t channel = 0; channel < 3; ++channel) four.weights[first + channel] = weight;
+}
+
+void GlyphBlocks::Draw(const PixelBlock& block, ScreenPoint at) const {
+  std::uint32_t* const corner = block.At(at.x, at.y);
+  const std::ptrdiff_t width = block.width;
+  for (const Four& four : fours_) {
+    std::uint32_t* const shown = corner + (four.y * width + four.x);
+    std::array<std::uint8_t, kBytes> bytes;
+    std::memcpy(bytes.data(), shown, kBytes);
+    for (std::size_t i = 0; i < kBytes; ++i) {
+      bytes[i] = Weighted(bytes[i], four.weights[i]);
+    }
+    std::memcpy(shown, bytes.data(), kBytes);
   }
 }
 

@@ -6,13 +6,13 @@
 #include <cstdint>
 #include <vector>
 
-#include "draw/dib/pixel_block.h"
+#include "draw/dib/dib_section.h"
 
 namespace tavix {
 
-// Watches a picture while one colour is drawn: a pixel that has it keeps it, so each is looked at
-// only until it does. What would be drawn in that colour where everything has it already need not
-// be drawn.
+// Watches a picture while one colour is drawn: a pixel that has it keeps it, so each is read only
+// until it does. What would be drawn in that colour where everything has it already need not be
+// drawn.
 //
 // The picture is divided into square tiles; each remembers how far it has been found painted.
 template <class Block>
@@ -21,7 +21,7 @@ class PaintedArea {
   // The block outlives the area.
   explicit PaintedArea(const Block& block) : block_(block) {}
 
-  // From now on only `value` is drawn. Nothing is known when it was another one before.
+  // From now on only `value` is drawn. After another one all pixels count as not painted.
   void Use(std::uint32_t value) {
     if (is_known_ && value == value_) return;
     is_known_ = true;
@@ -31,7 +31,7 @@ class PaintedArea {
     ++generation_;
   }
 
-  // Something else is drawn, or is not known.
+  // Something else is drawn from now on, or it is not known what.
   void Forget() { is_known_ = false; }
 
   // Whether every pixel of `box` that lies in the picture has the value.

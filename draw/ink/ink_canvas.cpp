@@ -1,40 +1,40 @@
 #include "draw/ink/ink_canvas.h"
 
-#include "draw/dib/mark_proof.h"
-#include "draw/point_label.h"
+#include "draw/dib/verification.h"
+#include "draw/labels.h"
 
 namespace tavix {
 
-InkCanvas::InkCanvas(OneBitCanvas& picture, int width, int height)
-    : plain_(picture.Dc(), {picture.Bits(), width, height, picture.Stride()}) {}
+InkCanvas::InkCanvas(OneBitBitmap& picture, int width, int height)
+    : gdi_(picture.Dc(), {picture.Bits(), width, height, picture.Stride()}) {}
 
-void InkCanvas::UsePointStyle(const LegendStyle& style) {
-  plain_.UsePointStyle(style);
-  const LegendStyle mark = MarkOnly(style);
-  const LearntMark* learnt = style.prm1 > 0 ? marks_.Get(mark, mark) : nullptr;
-  mark_ = learnt && learnt->mark ? &*learnt->mark : nullptr;
-  labels_ = style.prm2 > 0 ? fonts_.Get(style.prm2, InkHand(style.prm2)) : nullptr;
+void InkCanvas::UsePointSymbol(const PointSymbol& symbol) {
+  gdi_.UsePointSymbol(symbol);
+  const PointSymbol mark = MarkOnly(symbol);
+  const CachedMark* cached = symbol.size > 0 ? marks_.Get(mark, mark) : nullptr;
+  mark_ = cached && cached->mark ? &*cached->mark : nullptr;
+  const int height = symbol.label_height;
+  labels_ = height > 0 ? fonts_.Get(height, InkFont(height)) : nullptr;
 }
 
 void InkCanvas::UseTextColor(std::uint32_t color) {
-  plain_.UseTextColor(color);
+  gdi_.UseTextColor(color);
   text_is_black_ = color == 0;
 }
 
 void InkCanvas::Mark(ScreenPoint at) {
   if (mark_) {
-    mark_->Draw(plain_.Bits(), at);
+    mark_->Draw(gdi_.Bits(), at);
   } else {
-    plain_.Mark(at);
+    gdi_.Mark(at);
   }
 }
 
 void InkCanvas::Label(ScreenPoint at, NameView text) {
-  const LegendStyle& style = plain_.Style();
-  const LabelBox box = PlaceLabel(at, style.prm1, style.prm2, static_cast<int>(text.size()));
-  plain_.PaintsText();
-  if (!labels_ || !text_is_black_ || !labels_->Draw(plain_.Bits(), {box.left, box.top}, text)) {
-    plain_.Label(at, text);
+  const LabelBox box = PlaceLabel(at, gdi_.Symbol(), static_cast<int>(text.size()));
+  gdi_.PaintsText();
+  if (!labels_ || !text_is_black_ || !labels_->Draw(gdi_.Bits(), {box.left, box.top}, text)) {
+    gdi_.Label(at, text);
   }
 }
 

@@ -1,47 +1,46 @@
-// The plan view drawn straight into the bits of a one-bit picture.
+// The plan drawn straight into the bits of a one-bit picture.
 #pragma once
 
 #include <cstdint>
 #include <optional>
 
-#include "draw/dib/few_looks.h"
-#include "draw/dib/lazy_plain.h"
-#include "draw/ink/ink_block.h"
-#include "draw/ink/ink_labels.h"
-#include "draw/ink/ink_mark.h"
-#include "draw/one_bit_canvas.h"
+#include "draw/dib/bounded_cache.h"
+#include "draw/dib/lazy_gdi.h"
+#include "draw/ink/ink_mask.h"
+#include "draw/ink/ink_probe.h"
+#include "draw/ink/one_bit_bitmap.h"
 #include "draw/plan_canvas.h"
 
 namespace tavix {
 
-// The pixels of GdiCanvas in a fraction of its time: marks and labels that have been learnt of
-// the system are drawn here. All else goes through a plain canvas, in the order it comes.
+// The pixels of GdiCanvas in a fraction of its time: marks and labels that have been read back from
+// GDI are drawn here. All else goes through GDI, in the order it comes.
 class InkCanvas : public PlanCanvas {
  public:
   // `picture` has been made, is `width` by `height` pixels and outlives the canvas.
-  InkCanvas(OneBitCanvas& picture, int width, int height);
+  InkCanvas(OneBitBitmap& picture, int width, int height);
 
-  [[nodiscard]] ScreenBox Visible() const override { return plain_.Visible(); }
-  void UseLineStyle(const LegendStyle& style) override { plain_.UseLineStyle(style); }
-  void Line(const ScreenSegment& segment) override { plain_.Line(segment); }
-  void Circle(ScreenPoint centre, int radius) override { plain_.Circle(centre, radius); }
-  void UsePointStyle(const LegendStyle& style) override;
+  [[nodiscard]] ScreenBox Visible() const override { return gdi_.Visible(); }
+  void UsePen(const Pen& pen) override { gdi_.UsePen(pen); }
+  void Line(const ScreenSegment& segment) override { gdi_.Line(segment); }
+  void Circle(ScreenPoint centre, int radius) override { gdi_.Circle(centre, radius); }
+  void UsePointSymbol(const PointSymbol& symbol) override;
   void UseTextColor(std::uint32_t color) override;
   void Mark(ScreenPoint at) override;
   void Label(ScreenPoint at, NameView text) override;
 
  private:
-  struct LearntMark {
-    explicit LearntMark(const LegendStyle& style) : mark(InkMark::Learn(style)) {}
+  struct CachedMark {
+    explicit CachedMark(const PointSymbol& symbol) : mark(InkMark::Probe(symbol)) {}
     std::optional<InkMark> mark;
   };
 
-  LazyPlain<InkBlock> plain_;
-  FewLooks<LegendStyle, LearntMark, kMostMarks> marks_;
-  FewLooks<int, InkLabels, kMostFonts> fonts_;  // by height
+  LazyGdi<InkBlock> gdi_;
+  BoundedCache<PointSymbol, CachedMark, kMostMarks> marks_;
+  BoundedCache<int, InkLabels, kMostFonts> fonts_;  // by height
   bool text_is_black_ = true;
 
-  // Null: the system draws it.
+  // Null: GDI draws it.
   const InkMark* mark_ = nullptr;
   InkLabels* labels_ = nullptr;
 };

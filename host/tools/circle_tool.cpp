@@ -1,7 +1,7 @@
 #include "host/tools/circle_tool.h"
 
-#include "host/measure_text.h"
-#include "host/tools/ground_geometry.h"
+#include "host/app/display_text.h"
+#include "host/survey/ground_geometry.h"
 
 namespace fieldhost {
 
@@ -39,7 +39,7 @@ void CircleTool::TakeCentre(const GroundPosition& centre) {
 
 void CircleTool::Draw(double radius) {
   mark_.Hide();
-  figures_.AddCircle(*centre_, radius);
+  document_.DrawCircle({*centre_, radius});
   centre_.reset();
   Say(L"Circle drawn, radius " + LengthText(radius) + L"  Tap the next centre.");
 }
@@ -48,7 +48,7 @@ void CircleTool::Undo() {
   if (centre_) {
     End();
     Say(L"The centre is taken back: tap another one.");
-  } else if (figures_.DeleteLastCircle()) {
+  } else if (document_.DeleteLastCircle()) {
     Say(L"The last circle is deleted. Tap a centre.");
   } else {
     Say(L"There is no circle to take back. Tap a centre.");

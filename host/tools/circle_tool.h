@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "host/tools/drawn_figures.h"
+#include "host/survey/survey_document.h"
 #include "host/tools/plan_tool.h"
 #include "host/tools/position_mark.h"
 
@@ -11,8 +11,9 @@ namespace fieldhost {
 
 class CircleTool : public PlanTool {
  public:
-  // The figures must outlive the tool.
-  CircleTool(DrawnFigures& figures, short mark_legend) : figures_(figures), mark_(mark_legend) {}
+  // The document must outlive the tool.
+  CircleTool(SurveyDocument& document, short mark_legend)
+      : document_(document), mark_(mark_legend) {}
 
   Progress Begin() override;
   void End() override;
@@ -26,7 +27,7 @@ class CircleTool : public PlanTool {
   void TakeCentre(const GroundPosition& centre);
   void Draw(double radius);
 
-  DrawnFigures& figures_;
+  SurveyDocument& document_;
   PositionMark mark_;
   std::optional<GroundPosition> centre_;
 };

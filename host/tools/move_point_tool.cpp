@@ -1,13 +1,13 @@
 #include "host/tools/move_point_tool.h"
 
-#include "host/measure_text.h"
-#include "host/tools/ground_geometry.h"
+#include "host/app/display_text.h"
+#include "host/survey/ground_geometry.h"
 
 namespace fieldhost {
 namespace {
 
-CString LabelOf(const TappedPoint& point) {
-  if (!point.name.IsEmpty()) return point.name;
+CString LabelOf(const SurveyPoint& point) {
+  if (!point.name.empty()) return WideOf(point.name);
   CString number;
   number.Format(L"%d", point.number);
   return number;
@@ -39,9 +39,9 @@ void MovePointTool::Restore() {
 PlanTool::Taps MovePointTool::Wants() const { return point_ ? Taps::kPositions : Taps::kPoints; }
 
 Progress MovePointTool::PointPicked(int key) {
-  const std::optional<TappedPoint> point = PlotPane::PointOf(key);
+  const SurveyPoint* const point = document_.FindPoint(key);
   if (!point) return Progress::kGoesOn;
-  point_ = Picked{key, LabelOf(*point), {point->north, point->east}};
+  point_ = Picked{key, LabelOf(*point), point->Position()};
   AskForPlace();
   return Progress::kGoesOn;
 }
@@ -83,11 +83,10 @@ Progress MovePointTool::Finish(Ending) {
   const Picked point = *point_;
   const GroundPosition place = *place_;
   End();
-  if (!plot_.MovePoint(point.key, place)) {
+  if (!document_.MovePoint(point.key, place)) {
     Say(point.label + L" is no longer there.");
     return Progress::kDone;
   }
-  side_.MovePoint(point.key, place);
   Say(point.label + L" moved  " + MoveText(point.position, place));
   return Progress::kDone;
 }

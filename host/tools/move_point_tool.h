@@ -3,8 +3,7 @@
 
 #include <optional>
 
-#include "host/plot_pane.h"
-#include "host/side/side_pane.h"
+#include "host/survey/survey_document.h"
 #include "host/tools/plan_tool.h"
 #include "host/tools/position_mark.h"
 
@@ -12,9 +11,9 @@ namespace fieldhost {
 
 class MovePointTool : public PlanTool {
  public:
-  // The panes must outlive the tool: the point is moved in both.
-  MovePointTool(PlotPane& plot, SidePane& side, short mark_legend)
-      : plot_(plot), side_(side), mark_(mark_legend) {}
+  // The document must outlive the tool.
+  MovePointTool(SurveyDocument& document, short mark_legend)
+      : document_(document), mark_(mark_legend) {}
 
   Progress Begin() override;
   void End() override;
@@ -39,8 +38,7 @@ class MovePointTool : public PlanTool {
   void AskForPoint();
   void AskForPlace();
 
-  PlotPane& plot_;
-  SidePane& side_;
+  SurveyDocument& document_;
   PositionMark mark_;
   std::optional<Picked> point_;
   std::optional<GroundPosition> place_;  // while there is a point

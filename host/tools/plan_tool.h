@@ -1,21 +1,21 @@
-// What the user does on the plan with taps: one tool an activity.
+// What the user does on the plan with taps: one tool for each activity.
 #pragma once
 
 #include <afxwin.h>
 
-#include "host/ground_position.h"
+#include "host/survey/ground_geometry.h"
 
 namespace fieldhost {
 
-// How a tool goes on after it was told something.
+// Whether a tool waits for more or is finished.
 enum class Progress { kGoesOn, kDone };
 
 // What the user ends a tool with: as it stands, or closed to a ring.
 enum class Ending { kAsItStands, kClosed };
 
-// The toolbox calls Begin first and End last, and in between what the user does. Taps on the plan
-// come as what Wants asks for. A tool keeps all of its state itself: what the plot window shows of
-// it goes with that window, and Restore puts it on the next one.
+// The toolbox calls Begin first and End last; between them it hands on what the user does. Wants
+// decides how taps are reported. A tool keeps its state itself: what the plot window shows of it
+// goes with that window, and Restore shows it on the next one.
 class PlanTool {
  public:
   enum class Taps { kPositions, kPoints };
@@ -32,14 +32,14 @@ class PlanTool {
   virtual void Restore() {}
 
   [[nodiscard]] virtual Taps Wants() const { return Taps::kPositions; }
-  // A position is that of a point where a point was tapped.
+  // Where a point was tapped, the position is that of the point.
   virtual Progress PositionTapped(const GroundPosition&) { return Progress::kGoesOn; }
   virtual Progress PointPicked(int /*key*/) { return Progress::kGoesOn; }
   virtual void Undo() {}
-  // The user has all; a tool that misses something says so and goes on.
+  // The user wants to finish. A tool that lacks something says so and goes on.
   virtual Progress Finish(Ending) { return Progress::kDone; }
 
-  // What the user is to know and to do next, or after the end has reached; may be empty.
+  // What the user reads: what to do next, or the result at the end; may be empty.
   [[nodiscard]] const CString& Text() const { return text_; }
 
  protected:

@@ -2,9 +2,8 @@
 
 #include <string>
 
-#include "host/resource.h"
-#include "host/tools/sheet_scale.h"
-#include "host/wide_text.h"
+#include "host/app/display_text.h"
+#include "host/resources/fieldhost_ids.h"
 
 namespace fieldhost {
 namespace {
@@ -64,10 +63,10 @@ void CSheetDialog::FillPapers() {
 
 void CSheetDialog::FillScales() {
   for (const int scale : UsualScales()) scales_.AddString(ScaleText(scale));
-  scales_.SetWindowText(scale_);  // a list that is filled forgets the text beside it
+  scales_.SetWindowText(scale_);  // filling the list cleared the text
 }
 
-// Stays open, with a word why, while the scale is none.
+// An invalid scale keeps the dialog open and shows the reason.
 void CSheetDialog::OnOK() {
   if (!UpdateData(TRUE)) return;
   const std::string typed = Utf8Of(scale_);

@@ -1,20 +1,16 @@
 #include "host/tools/sheet_frame.h"
 
-#include <tavix/tavix.h>
-
-#include "host/measure_text.h"
-#include "host/plot_pane.h"
-#include "host/tools/sheet_scale.h"
-#include "host/wide_text.h"
+#include "host/app/display_text.h"
+#include "host/plot/plot_instance.h"
+#include "host/plot/plot_pane.h"
 
 namespace fieldhost {
 namespace {
 
-constexpr BYTE kOff = 0;
-constexpr BYTE kOn = 1;
 constexpr int kTenthsPerInch = 254;  // of a millimetre
 
-int ToldScale() {
+// 0 without a plot window or a frame.
+int ReportedScale() {
   int scale = 0;
   Tavix_GetWakScl(&scale);
   return scale;
@@ -33,9 +29,8 @@ GroundPosition SheetFrame::Origin() {
   return origin;
 }
 
-// The frame's middle is that of the view to a pixel only, and the library moves the frame as if it
-// were exactly. What the first move misses, the second makes up for: else a frame that is laid out
-// anew time and again would creep away. Each redraw makes the origin that of the view as it is.
+// The first move may miss by up to a pixel (see Tavix_SetWakGen), and the second corrects it: else
+// a frame that is laid out again and again would creep away.
 void SheetFrame::PutOriginOn(const GroundPosition& place) {
   PlotPane::Redraw();
   Tavix_SetWakGen(place.north, place.east);
@@ -45,6 +40,11 @@ void SheetFrame::PutOriginOn(const GroundPosition& place) {
   PlotPane::Redraw();
 }
 
+void SheetFrame::SetScale(int scale) {
+  Tavix_SetWakScl(scale);
+  given_scale_ = {scale, ReportedScale()};
+}
+
 void SheetFrame::Show(const Sheet& sheet) {
   GroundPosition origin = Origin();
   sheet_ = sheet;
@@ -52,9 +52,9 @@ void SheetFrame::Show(const Sheet& sheet) {
   if (!placed_) {
     int degrees = 0;
     Tavix_GetAng(&degrees);
-    origin = OriginAboutSameMiddle(Origin(), sheet, ToldScale(), degrees);
+    origin = OriginAboutSameMiddle(Origin(), sheet, ReportedScale(), degrees);
   }
-  Tavix_SetWakScl(sheet.scale);
+  SetScale(sheet.scale);
   PutOriginOn(origin);
 }
 
@@ -67,7 +67,7 @@ void SheetFrame::Remove() {
 
 std::optional<Sheet> SheetFrame::Now() const {
   std::optional<Sheet> now = sheet_;
-  if (now) now->scale = MeantScale(ToldScale(), sheet_->scale);
+  if (now) now->scale = ScaleNow(ReportedScale(), given_scale_);
   return now;
 }
 
@@ -86,8 +86,8 @@ void SheetFrame::MoveTo(const GroundPosition& origin) {
 }
 
 void SheetFrame::Keep() {
-  // No whole number of 1:N: there is no window, or it is zoomed in past 1:1.
-  if (!sheet_ || ToldScale() < 1) return;
+  // Below 1 there is no window, or it is zoomed in past 1:1.
+  if (!sheet_ || ReportedScale() < 1) return;
   sheet_ = Now();
   kept_origin_ = Origin();
 }
@@ -95,8 +95,31 @@ void SheetFrame::Keep() {
 void SheetFrame::LayOut() {
   if (!sheet_) return;
   TurnOn();
-  Tavix_SetWakScl(sheet_->scale);
+  SetScale(sheet_->scale);
   PutOriginOn(kept_origin_);
+}
+
+Progress MoveSheetTool::Begin() {
+  if (!frame_.Now()) {
+    Say(L"There is no sheet to move: choose its paper and scale first.");
+    return Progress::kDone;
+  }
+  AskForPlace();
+  return Progress::kGoesOn;
+}
+
+void MoveSheetTool::AskForPlace() { Say(L"Sheet: tap the place of its bottom left corner."); }
+
+Progress MoveSheetTool::PositionTapped(const GroundPosition& position) {
+  frame_.MoveTo(position);
+  Say(frame_.Text());
+  return Progress::kDone;
+}
+
+// Nothing is moved before the tap.
+Progress MoveSheetTool::Finish(Ending) {
+  AskForPlace();
+  return Progress::kGoesOn;
 }
 
 }  // namespace fieldhost

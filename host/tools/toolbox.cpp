@@ -2,18 +2,28 @@
 
 #include <optional>
 
-#include "host/resource.h"
+#include "host/app/display_text.h"
+#include "host/resources/fieldhost_ids.h"
 #include "host/tools/sheet_dialog.h"
 
 namespace fieldhost {
 
-Toolbox::Toolbox(PlotPane& plot, SidePane& side)
-    : plot_(plot),
-      legends_(AddToolLegends()),
-      figures_(legends_.line),
-      circle_(figures_, legends_.mark),
-      trace_(figures_, legends_.mark),
-      move_point_(plot, side, legends_.mark),
+Progress CaptureTool::Begin() {
+  Say(L"Tap a place to capture its coordinates.");
+  return Progress::kGoesOn;
+}
+
+Progress CaptureTool::PositionTapped(const GroundPosition& position) {
+  Say(L"Captured  " + PositionText(position));
+  return Progress::kGoesOn;
+}
+
+Toolbox::Toolbox(SurveyDocument& document, PlotPane& plot)
+    : document_(document),
+      plot_(plot),
+      circle_(document, plot.WorkMarkLegend()),
+      trace_(document, plot.WorkMarkLegend()),
+      move_point_(document, plot.WorkMarkLegend()),
       move_sheet_(sheet_),
       tools_({{{ID_SURVEY_CAPTURE, &capture_},
                {ID_TOOL_CIRCLE, &circle_},
@@ -31,13 +41,13 @@ bool Toolbox::Handle(UINT command, int key, CWnd& dialog_parent) {
          HandleSheet(command, dialog_parent);
 }
 
-// The tool in use, chosen again, is put away.
+// Choosing the tool in use again puts it away.
 void Toolbox::Choose(PlanTool& tool) {
   const bool again = tool_ == &tool;
   Stop();
   if (again) return;
   tool_ = &tool;
-  Went(tool.Begin());
+  Proceed(tool.Begin());
 }
 
 void Toolbox::Stop() {
@@ -45,22 +55,22 @@ void Toolbox::Stop() {
   if (!tool_) return;
   tool_->End();
   tool_ = nullptr;
-  AskWhatIsWanted();
+  UpdateCapture();
 }
 
-void Toolbox::Went(Progress progress) {
+void Toolbox::Proceed(Progress progress) {
   const CString said = tool_->Text();
   if (progress == Progress::kDone) {
     Stop();
   } else {
-    AskWhatIsWanted();
+    UpdateCapture();
   }
   text_ = said;
 }
 
-void Toolbox::AskWhatIsWanted() {
+void Toolbox::UpdateCapture() {
   const bool positions = tool_ && tool_->Wants() == PlanTool::Taps::kPositions;
-  // Asking again would lose a position that is on its way.
+  // Starting capture again would forget a position that is already reported.
   if (positions != plot_.CapturesCoordinates()) {
     plot_.CaptureCoordinates(positions, ID_PLOT_CAPTURE);
   }
@@ -69,12 +79,12 @@ void Toolbox::AskWhatIsWanted() {
 bool Toolbox::HandleTap(UINT command, int key) {
   if (command == ID_PLOT_CAPTURE) {
     const std::optional<GroundPosition> position = PlotPane::CapturedCoordinate();
-    if (tool_ && position) Went(tool_->PositionTapped(*position));
+    if (tool_ && position) Proceed(tool_->PositionTapped(*position));
     return true;
   }
   if (command != ID_PLOT_NOTIFY || !tool_ || tool_->Wants() != PlanTool::Taps::kPoints)
     return false;
-  Went(tool_->PointPicked(key));
+  Proceed(tool_->PointPicked(key));
   return true;
 }
 
@@ -83,14 +93,14 @@ bool Toolbox::HandleStep(UINT command) {
     case ID_TOOL_UNDO:
       if (tool_) {
         tool_->Undo();
-        Went(Progress::kGoesOn);
+        Proceed(Progress::kGoesOn);
       }
       return true;
     case ID_TOOL_FINISH:
-      if (tool_) Went(tool_->Finish(Ending::kAsItStands));
+      if (tool_) Proceed(tool_->Finish(Ending::kAsItStands));
       return true;
     case ID_TOOL_FINISH_CLOSED:
-      if (tool_) Went(tool_->Finish(Ending::kClosed));
+      if (tool_) Proceed(tool_->Finish(Ending::kClosed));
       return true;
     case ID_TOOL_CANCEL:
       Stop();
@@ -103,12 +113,12 @@ bool Toolbox::HandleStep(UINT command) {
 bool Toolbox::HandleFigure(UINT command) {
   switch (command) {
     case ID_FIGURE_DELETE_CIRCLE:
-      text_ = figures_.DeleteLastCircle() ? L"The last circle is deleted."
-                                          : L"There is no circle to delete.";
+      text_ = document_.DeleteLastCircle() ? L"The last circle is deleted."
+                                           : L"There is no circle to delete.";
       return true;
     case ID_FIGURE_DELETE_BOUNDARY:
-      text_ = figures_.DeleteLastBoundary() ? L"The last boundary is deleted."
-                                            : L"There is no boundary to delete.";
+      text_ = document_.DeleteLastBoundary() ? L"The last boundary is deleted."
+                                             : L"There is no boundary to delete.";
       return true;
     default:
       return false;
@@ -142,15 +152,10 @@ void Toolbox::UpdateMenu(CMenu& menu) const {
   for (const UINT step : {ID_TOOL_UNDO, ID_TOOL_FINISH, ID_TOOL_FINISH_CLOSED, ID_TOOL_CANCEL}) {
     enable(step, tool_ != nullptr);
   }
-  enable(ID_FIGURE_DELETE_CIRCLE, figures_.HasCircles());
-  enable(ID_FIGURE_DELETE_BOUNDARY, figures_.HasBoundaries());
+  enable(ID_FIGURE_DELETE_CIRCLE, document_.HasCircles());
+  enable(ID_FIGURE_DELETE_BOUNDARY, document_.HasBoundaries());
   enable(ID_TOOL_MOVE_SHEET, sheet_.Now().has_value());
   enable(ID_SHEET_REMOVE, sheet_.Now().has_value());
-}
-
-void Toolbox::CloseSurvey() {
-  Stop();
-  figures_.Forget();
 }
 
 void Toolbox::RestoreOnNewPlot() {

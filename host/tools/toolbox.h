@@ -5,40 +5,43 @@
 
 #include <array>
 
-#include "host/plot_pane.h"
-#include "host/side/side_pane.h"
-#include "host/tools/capture_tool.h"
+#include "host/plot/plot_pane.h"
+#include "host/survey/survey_document.h"
 #include "host/tools/circle_tool.h"
-#include "host/tools/drawn_figures.h"
 #include "host/tools/move_point_tool.h"
-#include "host/tools/move_sheet_tool.h"
 #include "host/tools/sheet_frame.h"
-#include "host/tools/tool_legends.h"
 #include "host/tools/trace_tool.h"
 
 namespace fieldhost {
 
+// Capturing coordinates: each tap shows its position.
+class CaptureTool : public PlanTool {
+ public:
+  Progress Begin() override;
+  Progress PositionTapped(const GroundPosition& position) override;
+};
+
 class Toolbox {
  public:
-  // The panes must outlive the toolbox.
-  Toolbox(PlotPane& plot, SidePane& side);
+  // Both must outlive the toolbox.
+  Toolbox(SurveyDocument& document, PlotPane& plot);
 
-  // Does what a command asks for, a report of the plot window included, whose point key is `key`.
-  // False for a command that is none of the tools', and for a tapped point that no tool waits for.
+  // Carries out a command; reports of the plot window come with the key of a point. False for a
+  // command of no tool, and for a tapped point that no tool waits for.
   bool Handle(UINT command, int key, CWnd& dialog_parent);
 
   // What the user is to read after a command; empty when there is nothing to say.
   [[nodiscard]] const CString& Text() const { return text_; }
   [[nodiscard]] bool IsToolInUse() const { return tool_ != nullptr; }
 
-  // The sheet, for when there is nothing else to say; empty while there is none.
+  // The sheet, for when there is nothing else to show; empty without a sheet.
   [[nodiscard]] CString SheetText() const { return sheet_.Text(); }
 
   // Shows in a menu what is in use and what can be done now.
   void UpdateMenu(CMenu& menu) const;
 
-  // Ends the tool in use. Before the survey is closed.
-  void CloseSurvey();
+  // Ends the tool in use and takes off what it shows. Before the document is emptied.
+  void Stop();
 
   // Around a change of the plot window's size, and around a new one.
   void KeepForNewPlot() { sheet_.Keep(); }
@@ -51,17 +54,15 @@ class Toolbox {
   };
 
   void Choose(PlanTool& tool);
-  void Stop();
-  void Went(Progress progress);
-  void AskWhatIsWanted();
+  void Proceed(Progress progress);
+  void UpdateCapture();
   bool HandleTap(UINT command, int key);
   bool HandleStep(UINT command);
   bool HandleFigure(UINT command);
   bool HandleSheet(UINT command, CWnd& dialog_parent);
 
+  SurveyDocument& document_;
   PlotPane& plot_;
-  ToolLegends legends_;
-  DrawnFigures figures_;
   SheetFrame sheet_;
   CaptureTool capture_;
   CircleTool circle_;

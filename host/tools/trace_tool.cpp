@@ -5,119 +5,118 @@
 #include <span>
 #include <utility>
 
-#include "host/measure_text.h"
-#include "host/tools/boundary_crossing.h"
-#include "host/tools/ground_geometry.h"
+#include "host/app/display_text.h"
+#include "host/survey/ground_geometry.h"
 
 namespace fieldhost {
 namespace {
 
-using Corners = std::span<const GroundPosition>;
+using Vertices = std::span<const GroundPosition>;
 
-constexpr std::size_t kLineCorners = 2;
-constexpr std::size_t kBoundaryCorners = 3;
+constexpr std::size_t kLineVertices = 2;
+constexpr std::size_t kBoundaryVertices = 3;
 
-// Traced back to its start, a boundary has that corner but once.
-Corners RingOf(Corners corners) {
-  const bool back = corners.size() > 1 && corners.front() == corners.back();
-  return back ? corners.first(corners.size() - 1) : corners;
+// Without the last vertex where the trace has returned to its start.
+Vertices RingOf(Vertices vertices) {
+  const bool back = vertices.size() > 1 && vertices.front() == vertices.back();
+  return back ? vertices.first(vertices.size() - 1) : vertices;
 }
 
-CString CountText(std::size_t corners) {
+CString CountText(std::size_t vertices) {
   CString text;
-  text.Format(corners == 1 ? L"%zu corner" : L"%zu corners", corners);
+  text.Format(vertices == 1 ? L"%zu vertex" : L"%zu vertices", vertices);
   return text;
 }
 
-CString MeasuredText(Corners corners, double length) {
-  CString text = CountText(corners.size()) + L"  " + LengthText(length);
-  const Corners ring = RingOf(corners);
-  if (ring.size() < kBoundaryCorners) return text;
+CString MeasuredText(Vertices vertices, double length) {
+  CString text = CountText(vertices.size()) + L"  " + LengthText(length);
+  const Vertices ring = RingOf(vertices);
+  if (ring.size() < kBoundaryVertices) return text;
   if (CrossesItself(ring)) return text + L"  crosses itself";
   return text + L"  " + AreaText(EnclosedArea(ring));
 }
 
-CString TracedText(Corners corners) {
-  if (corners.empty()) return L"Trace: tap the first corner.";
-  if (corners.size() < kLineCorners) {
-    return CountText(corners.size()) + L"  " + PositionText(corners.back()) + L"  Tap the next.";
+CString TracedText(Vertices vertices) {
+  if (vertices.empty()) return L"Trace: tap the first vertex.";
+  if (vertices.size() < kLineVertices) {
+    return CountText(vertices.size()) + L"  " + PositionText(vertices.back()) + L"  Tap the next.";
   }
-  return MeasuredText(corners, PathLength(corners)) + L"  Tap the next; Enter finishes.";
+  return MeasuredText(vertices, PathLength(vertices)) + L"  Tap the next; Enter finishes.";
 }
 
 }  // namespace
 
 Progress TraceTool::Begin() {
   Tavix_VoStt();
-  Say(TracedText(corners_));
+  Say(TracedText(vertices_));
   return Progress::kGoesOn;
 }
 
 void TraceTool::End() {
   mark_.Hide();
   Tavix_VoEnd();
-  corners_.clear();
+  vertices_.clear();
 }
 
 void TraceTool::Restore() {
   Tavix_VoStt();
-  for (const GroundPosition& corner : corners_) Tavix_VoAdd(corner.north, corner.east);
-  MarkLastCorner();
+  for (const GroundPosition& vertex : vertices_) Tavix_VoAdd(vertex.north, vertex.east);
+  MarkLastVertex();
 }
 
-// A trace of one corner shows nothing by itself.
-void TraceTool::MarkLastCorner() {
-  if (corners_.empty()) {
+// A trace of one vertex shows nothing by itself.
+void TraceTool::MarkLastVertex() {
+  if (vertices_.empty()) {
     mark_.Hide();
   } else {
-    mark_.Show(corners_.back());
+    mark_.Show(vertices_.back());
   }
 }
 
 Progress TraceTool::PositionTapped(const GroundPosition& position) {
-  if (!corners_.empty() && corners_.back() == position) {
-    Say(L"This corner is there already: tap the next.");
+  if (!vertices_.empty() && vertices_.back() == position) {
+    Say(L"This vertex is there already: tap the next.");
     return Progress::kGoesOn;
   }
-  corners_.push_back(position);
+  vertices_.push_back(position);
   Tavix_VoAdd(position.north, position.east);
-  MarkLastCorner();
-  Say(TracedText(corners_));
+  MarkLastVertex();
+  Say(TracedText(vertices_));
   return Progress::kGoesOn;
 }
 
 void TraceTool::Undo() {
-  if (corners_.empty()) {
-    Say(L"There is no corner to take back. Tap the first corner.");
+  if (vertices_.empty()) {
+    Say(L"There is no vertex to take back. Tap the first vertex.");
     return;
   }
-  corners_.pop_back();
+  vertices_.pop_back();
   Tavix_VoDel();
-  MarkLastCorner();
-  Say(TracedText(corners_));
+  MarkLastVertex();
+  Say(TracedText(vertices_));
 }
 
 Progress TraceTool::Finish(Ending ending) {
-  const Corners ring = RingOf(corners_);
-  if (ending == Ending::kClosed && ring.size() < kBoundaryCorners) {
+  const Vertices ring = RingOf(vertices_);
+  if (ending == Ending::kClosed && ring.size() < kBoundaryVertices) {
     Say(CountText(ring.size()) + L": a closed boundary takes three. Tap the next.");
     return Progress::kGoesOn;
   }
-  if (corners_.size() < kLineCorners) {
-    Say(CountText(corners_.size()) + L": a line takes two. Tap the next.");
+  if (vertices_.size() < kLineVertices) {
+    Say(CountText(vertices_.size()) + L": a line takes two. Tap the next.");
     return Progress::kGoesOn;
   }
-  std::vector<GroundPosition> corners;
+  PlanPolyline boundary;
   if (ending == Ending::kClosed) {
     Say(L"Boundary drawn: " + MeasuredText(ring, Perimeter(ring)));
-    corners.assign(ring.begin(), ring.end());
-    corners.push_back(ring.front());
+    boundary.vertices.assign(ring.begin(), ring.end());
+    boundary.vertices.push_back(ring.front());
   } else {
-    Say(L"Line drawn: " + CountText(corners_.size()) + L"  " + LengthText(PathLength(corners_)));
-    corners = corners_;
+    Say(L"Line drawn: " + CountText(vertices_.size()) + L"  " + LengthText(PathLength(vertices_)));
+    boundary.vertices = vertices_;
   }
   End();  // the trace goes before the figure takes its place
-  figures_.AddBoundary(corners);
+  document_.DrawBoundary(std::move(boundary));
   return Progress::kDone;
 }
 

@@ -1,9 +1,9 @@
-// Tracing a boundary corner by corner, until it is drawn as a figure.
+// Tracing a boundary vertex by vertex, until it is drawn as a figure.
 #pragma once
 
 #include <vector>
 
-#include "host/tools/drawn_figures.h"
+#include "host/survey/survey_document.h"
 #include "host/tools/plan_tool.h"
 #include "host/tools/position_mark.h"
 
@@ -11,25 +11,26 @@ namespace fieldhost {
 
 class TraceTool : public PlanTool {
  public:
-  // The figures must outlive the tool.
-  TraceTool(DrawnFigures& figures, short mark_legend) : figures_(figures), mark_(mark_legend) {}
+  // The document must outlive the tool.
+  TraceTool(SurveyDocument& document, short mark_legend)
+      : document_(document), mark_(mark_legend) {}
 
   Progress Begin() override;
   void End() override;
   void Restore() override;
-  // Adds a corner. The place of the last corner, tapped again, adds none.
+  // Adds a vertex, unless the position is that of the last one.
   Progress PositionTapped(const GroundPosition& position) override;
-  // Takes the last corner back.
+  // Takes the last vertex back.
   void Undo() override;
-  // Two corners make a line, three a closed boundary.
+  // Two vertices make a line, three a closed boundary.
   Progress Finish(Ending ending) override;
 
  private:
-  void MarkLastCorner();
+  void MarkLastVertex();
 
-  DrawnFigures& figures_;
+  SurveyDocument& document_;
   PositionMark mark_;
-  std::vector<GroundPosition> corners_;
+  std::vector<GroundPosition> vertices_;
 };
 
 }  // namespace fieldhost

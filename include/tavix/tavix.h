@@ -12,7 +12,8 @@
 //  4. A key is a number the host chooses to name a point. The point number is shown as a label and
 //     identifies nothing.
 //  5. A legend number names the symbol of a point or a line: 1 to 11 are the built-in point marks,
-//     101 to 105 the built-in line styles, from 201 up the entries the host adds.
+//     101 to 105 the built-in line styles, from 201 up the entries the host adds. The
+//     kind of a built-in entry is its number until it is changed.
 //  6. Strings are CString objects, by value on the way in, by pointer on the way out. Every pointer
 //     is the caller's: the library writes through it during the call and keeps nothing of it. A
 //     call with a null output is refused (-1). A refused call leaves its outputs untouched unless
@@ -82,6 +83,32 @@
 #define TAVIX_CALL __declspec(dllimport)
 #endif
 
+// ---- Fixed values a host may need
+// ----------------------------------------------------------------
+
+// Pixels that the column of buttons takes from the drawing area, at its right.
+inline constexpr int kTavixButtonColumn = 20;
+
+// Lines and memos name their points by 16 bits of a key: the keys that stand for themselves reach
+// from -32768 to this one.
+inline constexpr int kTavixLargestLineKey = 32767;
+
+// The longest memo that is sure to be kept, in UTF-16 units: what one record of the device's store
+// holds.
+inline constexpr int kTavixLongestMemo = 32734;
+
+// The projection of the side view. With the plan `height` pixels high, a plan pixel that lies
+// `right` of its left edge and `up` from its bottom edge becomes the pixel
+//
+//     kTavixSideAcross * (kTavixSideUp * up + kTavixSideRight * right)   from the left edge,
+//     kTavixSideRise * (kTavixSideUp * up - kTavixSideRight * right)     above the middle.
+//
+// A height above the height base adds its metres at the plan's scale, straight up.
+inline constexpr double kTavixSideRight = 0.9;
+inline constexpr double kTavixSideUp = 0.7;
+inline constexpr double kTavixSideAcross = 0.8660254037844387;  // cos 30 degrees
+inline constexpr double kTavixSideRise = 0.5;                   // sin 30 degrees
+
 extern "C" {
 
 // ---- Instances and their windows ---------------------------------------------------------------
@@ -137,7 +164,9 @@ TAVIX_CALL int Tavix_SetBtn(BYTE show);
 TAVIX_CALL int Tavix_DrwFlg(BYTE on);
 
 // Redraws the window; with `keepView` 0 the view is first fitted to the data. With nothing to fit
-// the view stays. Needs a linked window (-1 without one); returns 0.
+// the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
+// outside of a narrow window; its height base is then the lowest height, rounded down to a whole
+// metre. Needs a linked window (-1 without one); returns 0.
 TAVIX_CALL int Tavix_Drw(BYTE keepView);
 
 // Empties the instance's data; the legend is kept. Does not redraw. Returns 0, or the code of the
@@ -312,8 +341,8 @@ TAVIX_CALL int Tavix_ClrEntLin(void);
 
 // Keeps a text for a point key (16 bits of it, as lines do); the point need not exist. An empty
 // text removes the memo of a key that has one, and is kept as an empty memo for a key that has
-// none. Returns 0, -1 it could not be added or written, as when the memo database cannot be opened,
-// -3 it could not be read or deleted.
+// none. A memo longer than kTavixLongestMemo may be refused. Returns 0, -1 it could not be added or
+// written, as when the memo database cannot be opened, -3 it could not be read or deleted.
 TAVIX_CALL int Tavix_EntPntMem(int key, CString memo);
 
 // Writes the memo of a key; an empty one when there is none or it cannot be read. Returns 0.
@@ -395,10 +424,15 @@ TAVIX_CALL int Tavix_WakDsp(BYTE show);
 // Gives the view the scale 1:N on the sheet, keeping the frame's origin. Returns -1 for N below 1.
 TAVIX_CALL int Tavix_SetWakScl(int N);
 
-// Writes N, truncated. Compatibility: Tavix_Zom and Tavix_Zom1 do not change it.
+// Writes N, truncated: after Tavix_SetWakScl(N) it may be N - 1, for the view keeps 1/N. The value
+// stays the same until the view is zoomed. Compatibility: Tavix_Zom and Tavix_Zom1 do not change
+// it.
 TAVIX_CALL int Tavix_GetWakScl(int* N);
 
-// Moves the view so that the frame's bottom left corner lies on (X, Y).
+// Moves the view so that the frame's bottom left corner lies on (X, Y), starting from the corner
+// that the last redraw found. It may miss by up to a pixel, as the middle of a frame of whole
+// pixels is not quite that of the view: after a redraw Tavix_GetWakGen gives the corner as it is,
+// and a second call, corrected by the difference, puts it right.
 TAVIX_CALL int Tavix_SetWakGen(double X, double Y);
 
 // Writes the ground under the frame's bottom left corner; zeros while the frame is off.

@@ -132,7 +132,9 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SetBtn(int instance, int show);
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DrwFlg(int instance, int on);
 
 // Redraws the window; with `keepView` 0 the view is first fitted to the data. With nothing to fit
-// the view stays. Needs a linked window (-1 without one); returns 0.
+// the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
+// outside of a narrow window; its height base is then the lowest height, rounded down to a whole
+// metre. Needs a linked window (-1 without one); returns 0.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Drw(int instance, int keepView);
 
 // Empties the instance's data; the legend is kept. Does not redraw. Returns 0, or the code of the
@@ -308,8 +310,8 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ClrEntLin(int instance);
 
 // Keeps a text for a point key (16 bits of it, as lines do); the point need not exist. An empty
 // text removes the memo of a key that has one, and is kept as an empty memo for a key that has
-// none. Returns 0, -1 it could not be added or written, as when the memo database cannot be opened,
-// -3 it could not be read or deleted.
+// none. A memo longer than kTavixLongestMemo may be refused. Returns 0, -1 it could not be added or
+// written, as when the memo database cannot be opened, -3 it could not be read or deleted.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_EntPntMem(int instance, int key, const wchar_t* memo);
 
 // Writes the memo of a key; an empty one when there is none or it cannot be read. Returns 0.
@@ -402,10 +404,15 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_WakDsp(int instance, int show);
 // Gives the view the scale 1:N on the sheet, keeping the frame's origin. Returns -1 for N below 1.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SetWakScl(int instance, int N);
 
-// Writes N, truncated. Compatibility: TavixC_Zom and TavixC_Zom1 do not change it.
+// Writes N, truncated: after TavixC_SetWakScl(N) it may be N - 1, for the view keeps 1/N. The value
+// stays the same until the view is zoomed. Compatibility: TavixC_Zom and TavixC_Zom1 do not change
+// it.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetWakScl(int instance, int* N);
 
-// Moves the view so that the frame's bottom left corner lies on (X, Y).
+// Moves the view so that the frame's bottom left corner lies on (X, Y), starting from the corner
+// that the last redraw found. It may miss by up to a pixel, as the middle of a frame of whole
+// pixels is not quite that of the view: after a redraw TavixC_GetWakGen gives the corner as it is,
+// and a second call, corrected by the difference, puts it right.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SetWakGen(int instance, double X, double Y);
 
 // Writes the ground under the frame's bottom left corner; zeros while the frame is off.

@@ -4,8 +4,6 @@
 #include <chrono>
 #include <utility>
 
-#include "platform/objectstore/record_values.h"
-
 namespace tavix {
 
 std::uint64_t SystemFileTime() {
@@ -165,9 +163,7 @@ Outcome<RecordView> MemoryStore::Peek(StoreHandle handle) {
 Outcome<ObjectId> MemoryStore::Write(StoreHandle handle, ObjectId record,
                                      std::span<const Property> properties) {
   OpenObject* open = OpenDatabaseOf(handle);
-  if (!open || properties.empty()) return StoreError::kInvalidParameter;
-  const StoreError error = CheckValues(properties);
-  if (error != StoreError::kNone) return error;
+  if (!open || properties.empty() || !AreValid(properties)) return StoreError::kInvalidParameter;
   if (record != 0) return WriteExisting(*open, record, properties);
   if (AreDistinct(properties)) return WriteNew(*open, properties);
   return WriteNew(*open, MergeValues({}, properties));

@@ -20,10 +20,37 @@
 #include <span>
 #include <string_view>
 
-#include "platform/objectstore/error.h"
 #include "platform/objectstore/property.h"
 
 namespace tavix {
+
+// ---- Results
+
+enum class StoreError {
+  kNone,
+  kInvalidParameter,  // a handle, an object or a value that the call cannot use
+  kNotFound,          // no object with this name or identifier
+  kDuplicateName,     // a database of this name exists
+  kInUse,             // the database is open
+  kNoMoreItems,       // the seek pointer is at the end, or nothing was left to find
+  kDeleted,           // the record at the seek pointer, or a database of the enumeration, is gone
+  kFull,              // no identifiers are left
+  kTooManyOpen,       // no handles are left
+};
+
+// A result with the reason when there is none. True as a condition when the call worked.
+template <class T>
+struct Outcome {
+  T value{};
+  StoreError error = StoreError::kNone;
+
+  Outcome() = default;
+  Outcome(T result) : value(result) {}           // NOLINT: results convert, as intended
+  Outcome(StoreError reason) : error(reason) {}  // NOLINT
+  explicit operator bool() const { return error == StoreError::kNone; }
+};
+
+// ---- What a store holds
 
 using ObjectId = std::uint32_t;  // 0: none
 
@@ -102,6 +129,8 @@ struct RecordView {
   ObjectId id = 0;
   std::span<const Property> properties;
 };
+
+// ---- The store
 
 class ObjectStore {
  public:

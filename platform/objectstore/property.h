@@ -6,6 +6,7 @@
 #include <cstring>
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace tavix {
 
@@ -149,5 +150,21 @@ std::size_t ValueBytes(const Property& property);
 
 // True when both hold the same property with the same value.
 bool SameProperty(const Property& one, const Property& other);
+
+// ---- What a write makes of a record's properties
+
+// False when a property has no known type, a string or blob is missing, or its value is too long.
+bool AreValid(std::span<const Property> properties);
+
+// True when the properties can be a new record as they are: none twice and no removals.
+bool AreDistinct(std::span<const Property> properties);
+
+// The properties of a record after a write: values replace those with the same identifier, new ones
+// go to the end, removals take away. The views point where they did.
+std::vector<Property> MergeValues(std::span<const Property> record,
+                                  std::span<const Property> written);
+
+// False when the values of one record are too long together.
+bool FitInRecord(std::span<const Property> properties);
 
 }  // namespace tavix

@@ -1,14 +1,21 @@
 // The records of one database in one of its sort orders.
 #pragma once
 
+#include <compare>
+#include <cstdint>
 #include <span>
 #include <vector>
 
 #include "platform/objectstore/ordered_entries.h"
 #include "platform/objectstore/record_heap.h"
-#include "platform/objectstore/sort_key.h"
 
 namespace tavix {
+
+// Makes one character of all its cases, so that strings can be compared without regard to case.
+using CaseFold = char16_t (*)(char16_t);
+
+// Of the letters A to Z only.
+char16_t FoldAscii(char16_t character);
 
 // Nothing is sorted until someone asks for the order: an index that no handle has ever used costs
 // nothing, and records that arrive in a burst are put in order together.

@@ -3,31 +3,38 @@
 #include <vector>
 
 #include "platform/tdialog/device_template.h"
-#include "platform/tdialog/ok_button_place.h"
-#include "platform/tdialog/screen_fit.h"
+#include "platform/tdialog/placement.h"
 
 namespace {
+
+using tdialog::PixelRect;
+using tdialog::PixelSize;
 
 // Dialog units.
 constexpr int kButtonWidth = 32;
 constexpr int kButtonHeight = 14;
 constexpr int kMargin = 3;
 
-std::vector<RECT> ItemsOf(const CWnd& dialog) {
-  std::vector<RECT> items;
+PixelRect ToPixelRect(const RECT& rect) {
+  return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
+          static_cast<int>(rect.bottom)};
+}
+
+std::vector<PixelRect> ItemsOf(const CWnd& dialog) {
+  std::vector<PixelRect> items;
   for (HWND item = ::GetWindow(dialog.m_hWnd, GW_CHILD); item;
        item = ::GetWindow(item, GW_HWNDNEXT)) {
     RECT rect;
     ::GetWindowRect(item, &rect);
     dialog.ScreenToClient(&rect);
-    items.push_back(rect);
+    items.push_back(ToPixelRect(rect));
   }
   return items;
 }
 
 // Where windows may stand on the screen that `window` is on, or on the main one without a window.
 // A program can set the main one's, which not every system lets its monitor know.
-tdialog::PixelRect WorkArea(HWND window) {
+PixelRect WorkArea(HWND window) {
   MONITORINFO monitor = {};
   monitor.cbSize = sizeof monitor;
   ::GetMonitorInfoW(
@@ -35,7 +42,7 @@ tdialog::PixelRect WorkArea(HWND window) {
       &monitor);
   RECT area = monitor.rcWork;
   if (monitor.dwFlags & MONITORINFOF_PRIMARY) ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-  return {area.left, area.top, area.right, area.bottom};
+  return ToPixelRect(area);
 }
 
 HWND OwnerOf(const CWnd* parent) {
@@ -68,13 +75,13 @@ void TDialog::FitToScreen(tdialog::DeviceTemplate& dialogTemplate, HWND owner) {
   m_hasSmallerFont = FALSE;
   const int wanted = dialogTemplate.FontPoints();
   if (wanted == 0) return;
-  const tdialog::PixelRect area = WorkArea(owner);
+  const PixelRect area = WorkArea(owner);
   const int strip = m_wantsOkButton ? kButtonHeight + 2 * kMargin : 0;
   const int points = tdialog::FittingPoints(
       wanted, {area.right - area.left, area.bottom - area.top}, [&](int tried) {
         dialogTemplate.SetFontPoints(tried);
         const SIZE size = dialogTemplate.WindowSize(strip);
-        return tdialog::PixelSize{static_cast<int>(size.cx), static_cast<int>(size.cy)};
+        return PixelSize{static_cast<int>(size.cx), static_cast<int>(size.cy)};
       });
   dialogTemplate.SetFontPoints(points);
   m_hasSmallerFont = points < wanted;
@@ -98,15 +105,18 @@ void TDialog::AddOkButton() {
   MapDialogRect(&measures);
   CRect client;
   GetClientRect(client);
-  const tdialog::OkButtonPlace place = tdialog::PlaceOkButton(
-      client.Size(), {measures.right, measures.bottom}, measures.left, ItemsOf(*this));
+  const tdialog::OkButtonPlace place =
+      tdialog::PlaceOkButton({client.Width(), client.Height()},
+                             {static_cast<int>(measures.right), static_cast<int>(measures.bottom)},
+                             static_cast<int>(measures.left), ItemsOf(*this));
   if (place.extraHeight != 0) {
     CRect window;
     GetWindowRect(window);
     SetWindowPos(nullptr, 0, 0, window.Width(), window.Height() + place.extraHeight,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   }
-  if (!m_ok.Create(L"OK", WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_DEFPUSHBUTTON, place.button, this,
+  const CRect button(place.button.left, place.button.top, place.button.right, place.button.bottom);
+  if (!m_ok.Create(L"OK", WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_DEFPUSHBUTTON, button, this,
                    IDOK)) {
     return;
   }
@@ -118,11 +128,8 @@ void TDialog::AddOkButton() {
 void TDialog::StayOnScreen() {
   CRect window;
   GetWindowRect(window);
-  const tdialog::PixelRect area = WorkArea(m_hWnd);
+  const PixelRect area = WorkArea(m_hWnd);
   if (m_hasSmallerFont) window.MoveToXY(area.left, area.top);
-  const tdialog::PixelRect place =
-      tdialog::MovedInside({static_cast<int>(window.left), static_cast<int>(window.top),
-                            static_cast<int>(window.right), static_cast<int>(window.bottom)},
-                           area);
+  const PixelRect place = tdialog::MovedInside(ToPixelRect(window), area);
   SetWindowPos(nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -39,11 +39,11 @@ class LabelFontDc {
 
  private:
   static HFONT Make(int height) {
-    LOGFONTW look{};
-    look.lfHeight = height;
-    look.lfWeight = FW_NORMAL;
-    look.lfCharSet = SHIFTJIS_CHARSET;
-    return ::CreateFontIndirectW(&look);
+    LOGFONTW wanted_font{};
+    wanted_font.lfHeight = height;
+    wanted_font.lfWeight = FW_NORMAL;
+    wanted_font.lfCharSet = SHIFTJIS_CHARSET;
+    return ::CreateFontIndirectW(&wanted_font);
   }
 
   HDC dc_;
@@ -158,7 +158,7 @@ TEST_F(ChangedFont, ShowsFromTheNextRedrawOn) {
   if (LabelFontDc(kHeight).Face() == face) GTEST_SKIP() << "the system keeps to its default font";
 
   const Picture wanted = Wanted();
-  EXPECT_FALSE(wanted == before) << "the other font looks the same";
+  EXPECT_FALSE(wanted == before) << "the other font draws the same";
   EXPECT_TRUE(SamePicture(wanted, Redrawn()));
 }
 

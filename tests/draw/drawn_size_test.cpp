@@ -43,30 +43,30 @@ class DrawnSizes : public PlotTest {
     return picture;
   }
 
-  static Picture Plan(const PointLegend& look) {
+  static Picture Plan(const PointLegend& symbol) {
     Tavix_DrwClr();
-    EXPECT_EQ(0, Enter(1, GroundAt(kAt), AddLegend(look), L"Ab"));
+    EXPECT_EQ(0, Enter(1, GroundAt(kAt), AddLegend(symbol), L"Ab"));
     return Redrawn();
   }
 
-  static Picture AtOnce(const PointLegend& look) {
+  static Picture AtOnce(const PointLegend& symbol) {
     Tavix_DrwClr();
     Redrawn();
     Tavix_DrwFlg(1);
-    EXPECT_EQ(0, Enter(1, GroundAt(kAt), AddLegend(look), L"Ab"));
+    EXPECT_EQ(0, Enter(1, GroundAt(kAt), AddLegend(symbol), L"Ab"));
     Tavix_DrwFlg(0);
     return TakeClientPicture(Window());
   }
 
-  static Picture Group(const PointLegend& look) {
-    Plan(look);
+  static Picture Group(const PointLegend& symbol) {
+    Plan(symbol);
     return ReadGroup();
   }
 
-  static Picture Side(const PointLegend& look) {
+  static Picture Side(const PointLegend& symbol) {
     Tavix_DrwClr();
     EXPECT_EQ(0, Tavix_Dsp3D(1));
-    Tavix_SelPntHan(AddLegend(look));
+    Tavix_SelPntHan(AddLegend(symbol));
     const Ground at = GroundAt(kAt);
     EXPECT_EQ(0, Tavix_EntPnt3(1, 1, L"Ab", at.x, at.y, 5.0));
     const Picture picture = Redrawn();
@@ -74,11 +74,11 @@ class DrawnSizes : public PlotTest {
     return picture;
   }
 
-  static Picture Moved(const PointLegend& look) {
+  static Picture Moved(const PointLegend& symbol) {
     Tavix_DrwClr();
     Redrawn();
     const Ground at = GroundAt(kAt);
-    EXPECT_EQ(0, Tavix_MvPntStt(AddLegend(look)));
+    EXPECT_EQ(0, Tavix_MvPntStt(AddLegend(symbol)));
     EXPECT_EQ(0, Tavix_MvPntMov(at.x, at.y));
     const Picture picture = TakeClientPicture(Window());
     EXPECT_EQ(0, Tavix_MvPntEnd());
@@ -132,12 +132,12 @@ TEST_F(DrawnSizes, OfMarksPensAndLabelsHaveALimitOnEverythingDrawnOn) {
 
 TEST_F(DrawnSizes, UpToTheLimitAreThoseOfTheLegend) {
   for (const int size : {kLargest - 1, kLargest}) {
-    for (const PointLegend& look :
+    for (const PointLegend& symbol :
          {PointLegend{4, size, 12, 0, 1, 0}, PointLegend{8, 20, 12, 0, size, 0},
           PointLegend{4, 20, size, 0, 1, 0}, PointLegend{2, size, size, 0, size, 0}}) {
       RawCanvas canvas(Window());
-      DrawRawPoint(canvas.Dc(), look, kAt, L"Ab");
-      EXPECT_TRUE(SamePicture(canvas.Take(), Plan(look))) << size;
+      DrawRawPoint(canvas.Dc(), symbol, kAt, L"Ab");
+      EXPECT_TRUE(SamePicture(canvas.Take(), Plan(symbol))) << size;
     }
   }
 }

@@ -23,7 +23,7 @@ class ImmediateDrawing : public PlotTest {
     EXPECT_TRUE(SamePicture(on_screen, Redrawn())) << "a full redraw makes something else";
   }
 
-  static PointLegend RandomLook(std::mt19937& random) {
+  static PointLegend RandomSymbol(std::mt19937& random) {
     const auto below = [&random](unsigned limit) { return static_cast<int>(random() % limit); };
     return {below(13), below(40) - 4, below(24) - 2,
             below(2),  below(4),      RGB(below(256), below(256), below(256))};
@@ -35,11 +35,11 @@ TEST_F(ImmediateDrawing, OfEachKindOfMark) {
   Tavix_DrwFlg(1);
   RawCanvas canvas(Window());
   for (int kind = 0; kind <= 12; ++kind) {
-    const PointLegend look{kind, 15, 12, 0, 1, RGB(0, 0, 255)};
+    const PointLegend symbol{kind, 15, 12, 0, 1, RGB(0, 0, 255)};
     const POINT at{12 + kind * 22, 40};
     const std::wstring name = L"点" + std::to_wstring(kind);
-    EXPECT_EQ(0, Enter(kind, GroundAt(at), AddLegend(look), name));
-    DrawRawPoint(canvas.Dc(), look, at, name);
+    EXPECT_EQ(0, Enter(kind, GroundAt(at), AddLegend(symbol), name));
+    DrawRawPoint(canvas.Dc(), symbol, at, name);
     EXPECT_TRUE(SamePicture(canvas.Take(), TakeClientPicture(Window()))) << kind;
   }
   ExpectOnePicture();
@@ -50,7 +50,7 @@ TEST_F(ImmediateDrawing, OfManyPointsOneOverTheOther) {
   Tavix_DrwFlg(1);
   std::mt19937 random(20240511);  // the same points each time
   short legends[8];
-  for (short& legend : legends) legend = AddLegend(RandomLook(random));
+  for (short& legend : legends) legend = AddLegend(RandomSymbol(random));
   for (int key = 0; key < 150; ++key) {
     const POINT at{static_cast<LONG>(random() % 280) - 20, static_cast<LONG>(random() % 220) - 20};
     EXPECT_EQ(0, Enter(key, GroundAt(at), legends[random() % 8], L"測点" + std::to_wstring(key),
@@ -75,7 +75,7 @@ TEST_F(ImmediateDrawing, InATurnedAndStretchedView) {
   ExpectOnePicture();
 }
 
-// Nothing is before it: a full redraw shows it with the look of the point before.
+// Nothing is before it: a full redraw shows it with the symbol of the point before.
 TEST_F(ImmediateDrawing, OfAPointWithoutALegendEntryIsNone) {
   MakePlot(200, 160);
   const PointLegend square{6, 15, 0, 0, 1, RGB(255, 0, 0)};

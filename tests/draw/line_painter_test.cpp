@@ -35,7 +35,7 @@ TEST_F(LinePainterOn, WithoutAnEntryBeforeOnlyCirclesAreDrawnAndNoPenIsMade) {
   EXPECT_EQ((Notes{"circle 120,90 7", "circle 120,80 8"}), canvas_.Take());
 }
 
-// A segment is clipped first; the legend is looked up for what is in view.
+// A segment is clipped first: only one in view takes its legend into use.
 TEST_F(LinePainterOn, AnUnknownNumberHasNoStyleFromASegmentOutOfView) {
   const std::int16_t wide = Add({kSolidLine, 0, 0, 0, 5, 0});
   LinePainter painter(canvas_, view_, legend_);
@@ -69,7 +69,7 @@ TEST_F(LinePainterOn, ADotAtTheEndOfTheRangeOfPixelsStaysThere) {
   EXPECT_EQ((Notes{"pen 1", "line " + end + ",90 " + end + ",90"}), canvas_.Take());
 }
 
-// The sanitizers look at the arithmetic on the way.
+// The sanitizers check the arithmetic on the way.
 TEST_F(LinePainterOn, NumbersOutOfAllProportionStayInRange) {
   constexpr int kMost = std::numeric_limits<int>::max();
   constexpr int kLeast = std::numeric_limits<int>::min();

@@ -1,5 +1,5 @@
 // The pieces are compared, to the last bit, with those of a walk that skips nothing.
-#include "draw/line_pattern.h"
+#include "draw/line_styles.h"
 
 #include <gtest/gtest.h>
 
@@ -30,8 +30,8 @@ CViewState ViewAt(GroundPoint centre, double scale, int angle = 0, double ratio 
   return view;
 }
 
-LinePattern Pattern(int kind, int prm1 = 4, int prm2 = 2, int prm3 = 3) {
-  return PatternOf({kind, prm1, prm2, prm3, 1, 0}).value();
+LinePattern Pattern(int style, int dash = 4, int gap = 2, int short_dash = 3) {
+  return PatternOf({style, dash, gap, short_dash, {}}).value();
 }
 
 Pieces Walk(const CViewState& view, const LinePattern& pattern, GroundPoint start, GroundPoint end,
@@ -127,26 +127,26 @@ void ExpectSamePieces(const Pieces& given, const Pieces& expected) {
 
 // ---- The patterns
 
-TEST(PatternOf, RepeatsThePiecesOfItsKind) {
+TEST(PatternOf, RepeatsThePiecesOfItsStyle) {
   const struct {
-    int kind;
+    int style;
     std::vector<int> lengths;
   } rows[] = {{102, {7, 5}},
-              {103, {2, 2}},  // whatever the entry says
+              {103, {2, 2}},  // whatever the symbol says
               {104, {7, 5, 3, 5}},
               {105, {7, 5, 3, 5, 3, 5}}};
   for (const auto& row : rows) {
-    const LinePattern pattern = Pattern(row.kind, 7, 5, 3);
+    const LinePattern pattern = Pattern(row.style, 7, 5, 3);
     EXPECT_EQ(row.lengths,
               std::vector<int>(pattern.lengths.begin(),
                                pattern.lengths.begin() + static_cast<int>(pattern.count)))
-        << row.kind;
+        << row.style;
   }
 }
 
-TEST(PatternOf, OtherKindsHaveNone) {
-  for (const int kind : {0, 1, 100, 101, 106, -102, 1020}) {
-    EXPECT_FALSE(PatternOf({kind, 4, 2, 2, 1, 0}).has_value()) << kind;
+TEST(PatternOf, OtherStylesHaveNone) {
+  for (const int style : {0, 1, 100, 101, 106, -102, 1020}) {
+    EXPECT_FALSE(PatternOf({style, 4, 2, 2, {}}).has_value()) << style;
   }
 }
 

@@ -23,9 +23,9 @@ class PainterTest : public testing::Test {
   PainterTest() { view_.SetScreenSize(240, 180); }
 
   // Adds a legend entry and returns its number.
-  std::int16_t Add(const LegendStyle& style) {
+  std::int16_t Add(const LegendValues& values) {
     std::int16_t number = 0;
-    legend_.Add(true, style, &number);
+    legend_.Add(true, values, &number);
     return number;
   }
 

@@ -20,13 +20,13 @@ class PointLabels : public PlotTest {
   void SetUp() override { MakePlot(300, 160); }
 
   // Compares a point with its mark and `label` drawn by raw calls.
-  void ExpectLabel(const PointLegend& look, int number, const std::wstring& name,
+  void ExpectLabel(const PointLegend& symbol, int number, const std::wstring& name,
                    const std::wstring& label, POINT at = kPlace) {
-    ASSERT_EQ(0, Enter(1, GroundAt(at), AddLegend(look), name, number));
+    ASSERT_EQ(0, Enter(1, GroundAt(at), AddLegend(symbol), name, number));
     RawCanvas canvas(Window());
-    DrawRawPoint(canvas.Dc(), look, at, label);
+    DrawRawPoint(canvas.Dc(), symbol, at, label);
     EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn()))
-        << "number " << number << ", mark " << look.size << ", text " << look.text_height;
+        << "number " << number << ", mark " << symbol.size << ", text " << symbol.text_height;
   }
 
   // How many pixels differ from the empty window's.
@@ -53,12 +53,12 @@ TEST_F(PointLabels, AreNamesOrNumbers) {
 }
 
 TEST_F(PointLabels, OfNumbersThatAreNotPositiveAreNone) {
-  const PointLegend look{0, 10, 16, kByNumber, 1, 0};
+  const PointLegend symbol{0, 10, 16, kByNumber, 1, 0};
   for (const int number : {0, -1, -42, std::numeric_limits<int>::min()}) {
-    ExpectLabel(look, number, L"name", L"");
+    ExpectLabel(symbol, number, L"name", L"");
     EXPECT_EQ(0, Ink()) << number;
   }
-  ExpectLabel(look, 1, L"name", L"1");
+  ExpectLabel(symbol, 1, L"name", L"1");
   EXPECT_NE(0, Ink());
 }
 
@@ -68,12 +68,12 @@ TEST_F(PointLabels, OfEmptyNamesAreNone) {
 }
 
 TEST_F(PointLabels, OfJapaneseNamesAreJapanese) {
-  const PointLegend look{2, 10, 16, kByName, 1, 0};
+  const PointLegend symbol{2, 10, 16, kByName, 1, 0};
   int ink_before = 0;
   for (const wchar_t* name : {L"一", L"基準点", L"境界標Ａ１", L"ｶﾀｶﾅ", L"測点①"}) {
-    ExpectLabel(look, 1, name, name);
+    ExpectLabel(symbol, 1, name, name);
     EXPECT_GT(Ink(), 0);
-    EXPECT_NE(ink_before, Ink()) << "every name looks the same";
+    EXPECT_NE(ink_before, Ink()) << "every name draws the same";
     ink_before = Ink();
   }
 }
@@ -112,29 +112,29 @@ TEST_F(PointLabels, AreBlackWhateverTheLegendsColour) {
 
 TEST_F(PointLabels, HaveNoBoxBehindThem) {
   const PointLegend ground{10, 60, 0, kByName, 1, RGB(0, 255, 0)};
-  const PointLegend look{4, 10, 16, kByName, 1, 0};
+  const PointLegend symbol{4, 10, 16, kByName, 1, 0};
   ASSERT_EQ(0, Enter(5, GroundAt(kPlace), AddLegend(ground)));
-  ASSERT_EQ(0, Enter(6, GroundAt(kPlace), AddLegend(look), L"A1"));
+  ASSERT_EQ(0, Enter(6, GroundAt(kPlace), AddLegend(symbol), L"A1"));
   RawCanvas canvas(Window());
   DrawRawPoint(canvas.Dc(), ground, kPlace);
-  DrawRawPoint(canvas.Dc(), look, kPlace, L"A1");
+  DrawRawPoint(canvas.Dc(), symbol, kPlace, L"A1");
   EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn()));
 }
 
 TEST_F(PointLabels, AreDrawnAsTheSystemDrawsText) {
-  const PointLegend look{4, 10, 16, kByName, 1, 0};
+  const PointLegend symbol{4, 10, 16, kByName, 1, 0};
   for (const wchar_t* name :
        {L"A&B", L"A&&B", L"two\nlines", L"a\tb", L" blank", L"\xD842\xDFB7"}) {
-    ExpectLabel(look, 1, name, name);
+    ExpectLabel(symbol, 1, name, name);
   }
 }
 
 TEST_F(PointLabels, RunOutOfTheWindowUncut) {
-  const PointLegend look{4, 10, 20, kByName, 1, 0};
+  const PointLegend symbol{4, 10, 20, kByName, 1, 0};
   const std::wstring name(60, L'W');
   for (const POINT& at : {POINT{60, 70}, POINT{290, 70}, POINT{60, 155}, POINT{-8, 70},
                           POINT{60, -9}, POINT{300, 160}}) {
-    ExpectLabel(look, 1, name, name, at);
+    ExpectLabel(symbol, 1, name, name, at);
   }
 }
 

@@ -20,12 +20,12 @@ class PointMarks : public PlotTest, public testing::WithParamInterface<int> {
  protected:
   void SetUp() override { MakePlot(kWidth, kHeight); }
 
-  void ExpectMark(const PointLegend& look, POINT at) {
-    ASSERT_EQ(0, Enter(1, GroundAt(at), AddLegend(look)));
+  void ExpectMark(const PointLegend& symbol, POINT at) {
+    ASSERT_EQ(0, Enter(1, GroundAt(at), AddLegend(symbol)));
     RawCanvas canvas(Window());
-    DrawRawPoint(canvas.Dc(), look, at);
+    DrawRawPoint(canvas.Dc(), symbol, at);
     EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn()))
-        << "kind " << look.kind << ", size " << look.size << ", width " << look.width;
+        << "kind " << symbol.kind << ", size " << symbol.size << ", width " << symbol.width;
   }
 };
 
@@ -76,11 +76,11 @@ TEST_P(NoPointMark, IsDrawn) {
 }
 
 TEST_P(NoPointMark, ButItsLabelIs) {
-  const PointLegend look{GetParam(), 20, 16, 0, 1, RGB(255, 0, 0)};
-  ASSERT_EQ(0, Enter(1, GroundAt({150, 110}), AddLegend(look), L"P1"));
+  const PointLegend symbol{GetParam(), 20, 16, 0, 1, RGB(255, 0, 0)};
+  ASSERT_EQ(0, Enter(1, GroundAt({150, 110}), AddLegend(symbol), L"P1"));
   const RawCanvas canvas(Window());
   const Picture empty = canvas.Take();
-  DrawRawPoint(canvas.Dc(), look, {150, 110}, L"P1");
+  DrawRawPoint(canvas.Dc(), symbol, {150, 110}, L"P1");
   EXPECT_FALSE(empty == canvas.Take());
   EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn()));
 }
@@ -164,9 +164,9 @@ TEST_F(PlainMarks, TrianglesStandFourFifthsAboveAndOneFifthBelow) {
 
 TEST_F(PlainMarks, TheFirstBuiltInMarkIsADotWithItsNumberBeside) {
   ASSERT_EQ(0, Enter(1, GroundAt({40, 30}), 1, L"not shown", 12));
-  const PointLegend look{1, 2, 10, 1, 1, 0};
+  const PointLegend symbol{1, 2, 10, 1, 1, 0};
   RawCanvas canvas(Window());
-  DrawRawPoint(canvas.Dc(), look, {40, 30}, L"12");
+  DrawRawPoint(canvas.Dc(), symbol, {40, 30}, L"12");
   EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn()));
 }
 

@@ -1,4 +1,4 @@
-// Several points: the order they are drawn in, and looks that alternate.
+// Several points: the order they are drawn in, and symbols that alternate.
 #include <tavix/tavix.h>
 
 #include <string>
@@ -12,7 +12,7 @@ namespace tavix::test {
 namespace {
 
 struct Drawn {
-  PointLegend look;
+  PointLegend symbol;
   POINT at;
   std::wstring label;
 };
@@ -23,7 +23,8 @@ class PointOrder : public PlotTest {
 
   static void ExpectDrawn(const std::vector<Drawn>& points) {
     RawCanvas canvas(Window());
-    for (const Drawn& point : points) DrawRawPoint(canvas.Dc(), point.look, point.at, point.label);
+    for (const Drawn& point : points)
+      DrawRawPoint(canvas.Dc(), point.symbol, point.at, point.label);
     EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn()));
   }
 };
@@ -65,7 +66,7 @@ TEST_F(PointOrder, PutsAPointEnteredAfterItsDeletionLast) {
 }
 
 TEST_F(PointOrder, AlternatingLooksDoNotMix) {
-  const PointLegend looks[] = {
+  const PointLegend symbols[] = {
       {4, 15, 16, 0, 3, RGB(255, 0, 0)},    // thick cross, label
       {8, 14, 0, 0, 1, RGB(0, 0, 255)},     // filled, no label
       {6, 17, 12, 0, 1, RGB(0, 128, 0)},    // hollow again, smaller label
@@ -73,7 +74,7 @@ TEST_F(PointOrder, AlternatingLooksDoNotMix) {
       {11, 19, 16, 0, 2, RGB(0, 0, 0)},
   };
   std::vector<short> legends;
-  for (const PointLegend& look : looks) legends.push_back(AddLegend(look));
+  for (const PointLegend& symbol : symbols) legends.push_back(AddLegend(symbol));
   std::vector<Drawn> drawn;
   for (int i = 0; i < 60; ++i) {
     // In turn for a while, then in runs of three.
@@ -81,7 +82,8 @@ TEST_F(PointOrder, AlternatingLooksDoNotMix) {
     const POINT at{8 + i % 10 * 24, 12 + i / 10 * 28};
     const std::wstring name = L"点" + std::to_wstring(i);
     Enter(i, GroundAt(at), legends[which], name, i + 1);
-    drawn.push_back({looks[which], at, looks[which].label_number ? std::to_wstring(i + 1) : name});
+    drawn.push_back(
+        {symbols[which], at, symbols[which].label_number ? std::to_wstring(i + 1) : name});
   }
   ExpectDrawn(drawn);
 }

@@ -14,7 +14,7 @@ namespace {
 
 class PointPainterOn : public PainterTest {};
 
-TEST_F(PointPainterOn, AnUnknownNumberKeepsTheLookOfThePointBefore) {
+TEST_F(PointPainterOn, AnUnknownNumberKeepsTheSymbolOfThePointBefore) {
   const std::int16_t label = Add({4, 0, 12, 1, 1, 0});
   PointPainter painter(canvas_, view_, legend_);
   for (const std::int16_t legend : {kNone, kUnknown}) {
@@ -22,7 +22,7 @@ TEST_F(PointPainterOn, AnUnknownNumberKeepsTheLookOfThePointBefore) {
     EXPECT_EQ(Notes{}, canvas_.Take());
   }
   painter.Draw({2, 7, u"A", {0, 10}, label});
-  EXPECT_EQ((Notes{"look 4", "label 130,90"}), canvas_.Take());
+  EXPECT_EQ((Notes{"symbol 4", "label 130,90"}), canvas_.Take());
   for (const std::int16_t legend : {kNone, kUnknown}) {
     painter.Draw({3, 7, u"A", {0, 20}, legend});
     EXPECT_EQ(Notes{"label 140,90"}, canvas_.Take());
@@ -31,14 +31,14 @@ TEST_F(PointPainterOn, AnUnknownNumberKeepsTheLookOfThePointBefore) {
   EXPECT_EQ(Notes{}, canvas_.Take());
 }
 
-// How far a mark reaches is part of its look.
+// How far a mark reaches is part of its symbol.
 TEST_F(PointPainterOn, AnUnknownNumberKeepsTheReachOfTheMark) {
   const std::int16_t large = Add({4, 40, 0, 0, 1, 0});
   PointPainter painter(canvas_, view_, legend_);
   painter.Draw({1, 0, u"", {0, -160}, large});
   painter.Draw({2, 0, u"", {0, -160}, kUnknown});
   painter.Draw({3, 0, u"", {0, -161}, kUnknown});
-  EXPECT_EQ((Notes{"look 4", "mark -40,90", "mark -40,90"}), canvas_.Take());
+  EXPECT_EQ((Notes{"symbol 4", "mark -40,90", "mark -40,90"}), canvas_.Take());
 }
 
 // The numbers of added legends go round the 16 bits, so that one of them may be -1.
@@ -50,10 +50,10 @@ TEST_F(PointPainterOn, TheNumberOfNoLegendIsLookedUpAfterAnotherOnly) {
   EXPECT_EQ(Notes{}, canvas_.Take());
   painter.Draw({2, 0, u"", {0, 0}, 4});
   painter.Draw({3, 0, u"", {0, 0}, kNone});
-  EXPECT_EQ((Notes{"look 4", "mark 120,90", "look 6", "mark 120,90"}), canvas_.Take());
+  EXPECT_EQ((Notes{"symbol 4", "mark 120,90", "symbol 6", "mark 120,90"}), canvas_.Take());
 }
 
-// The sanitizers look at the arithmetic on the way.
+// The sanitizers check the arithmetic on the way.
 TEST_F(PointPainterOn, NumbersOutOfAllProportionStayInRange) {
   constexpr int kMost = std::numeric_limits<int>::max();
   constexpr int kLeast = std::numeric_limits<int>::min();

@@ -19,14 +19,14 @@ class PointVisibility : public PlotTest {
   void SetUp() override { MakePlot(kWidth, kHeight); }
 
   // Compares a labelled point at `at` with the same by raw calls, or with an empty window.
-  void ExpectPoint(const PointLegend& look, POINT at, bool visible) {
-    ASSERT_EQ(0, Enter(1, GroundAt(at), AddLegend(look), kName));
+  void ExpectPoint(const PointLegend& symbol, POINT at, bool visible) {
+    ASSERT_EQ(0, Enter(1, GroundAt(at), AddLegend(symbol), kName));
     const RawCanvas canvas(Window());
     const Picture empty = canvas.Take();
-    DrawRawPoint(canvas.Dc(), look, at, kName);
+    DrawRawPoint(canvas.Dc(), symbol, at, kName);
     ASSERT_FALSE(empty == canvas.Take()) << "not to be seen there: the row tests nothing";
     EXPECT_TRUE(SamePicture(visible ? canvas.Take() : empty, Redrawn()))
-        << look.size << " pixels at (" << at.x << ", " << at.y << ")";
+        << symbol.size << " pixels at (" << at.x << ", " << at.y << ")";
   }
 
   static inline const std::wstring kName = L"WWWWWWWWWWWW";
@@ -35,37 +35,37 @@ class PointVisibility : public PlotTest {
 TEST_F(PointVisibility, EndsAMarksSizeBeyondTheLeftAndTopBorders) {
   // The label stretches to the right and down, into the window.
   for (const int size : {1, 6, 10, 21, 40}) {
-    const PointLegend look{4, size, 24 + size, 0, 1, RGB(255, 0, 0)};
-    ExpectPoint(look, {-size, 70}, true);
-    ExpectPoint(look, {-size - 1, 70}, false);
-    ExpectPoint(look, {60, -size}, true);
-    ExpectPoint(look, {60, -size - 1}, false);
+    const PointLegend symbol{4, size, 24 + size, 0, 1, RGB(255, 0, 0)};
+    ExpectPoint(symbol, {-size, 70}, true);
+    ExpectPoint(symbol, {-size - 1, 70}, false);
+    ExpectPoint(symbol, {60, -size}, true);
+    ExpectPoint(symbol, {60, -size - 1}, false);
   }
 }
 
 TEST_F(PointVisibility, WithoutAMarkEndsAtTheBorder) {
-  const PointLegend look{4, 0, 30, 0, 1, 0};
-  ExpectPoint(look, {0, 70}, true);
-  ExpectPoint(look, {-1, 70}, false);
-  ExpectPoint(look, {60, 0}, true);
-  ExpectPoint(look, {60, -1}, false);
+  const PointLegend symbol{4, 0, 30, 0, 1, 0};
+  ExpectPoint(symbol, {0, 70}, true);
+  ExpectPoint(symbol, {-1, 70}, false);
+  ExpectPoint(symbol, {60, 0}, true);
+  ExpectPoint(symbol, {60, -1}, false);
 }
 
 TEST_F(PointVisibility, OfANegativeSizeEndsInside) {
-  const PointLegend look{4, -20, 30, 0, 1, 0};
-  ExpectPoint(look, {20, 70}, true);
-  ExpectPoint(look, {19, 70}, false);
-  ExpectPoint(look, {kWidth - 20, 70}, true);
-  ExpectPoint(look, {kWidth - 19, 70}, false);
-  ExpectPoint(look, {60, kHeight - 20}, true);
-  ExpectPoint(look, {60, kHeight - 19}, false);
+  const PointLegend symbol{4, -20, 30, 0, 1, 0};
+  ExpectPoint(symbol, {20, 70}, true);
+  ExpectPoint(symbol, {19, 70}, false);
+  ExpectPoint(symbol, {kWidth - 20, 70}, true);
+  ExpectPoint(symbol, {kWidth - 19, 70}, false);
+  ExpectPoint(symbol, {60, kHeight - 20}, true);
+  ExpectPoint(symbol, {60, kHeight - 19}, false);
 }
 
 TEST_F(PointVisibility, TruncationPullsPointsOverTheLeftAndTopBordersIn) {
-  const PointLegend look{4, 0, 30, 0, 1, 0};
-  const short legend = AddLegend(look);
+  const PointLegend symbol{4, 0, 30, 0, 1, 0};
+  const short legend = AddLegend(symbol);
   RawCanvas canvas(Window());
-  DrawRawPoint(canvas.Dc(), look, {0, 70}, kName);
+  DrawRawPoint(canvas.Dc(), symbol, {0, 70}, kName);
   // Nine tenths of a pixel to the left of the border is pixel 0 still.
   ASSERT_EQ(0, Enter(1, {80.0 - 70.0, -100.9}, legend, kName));
   EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn()));
@@ -76,8 +76,8 @@ TEST_F(PointVisibility, TruncationPullsPointsOverTheLeftAndTopBordersIn) {
 TEST_F(PointVisibility, FarAwayPointsAreNotDrawnAndDoNoHarm) {
   constexpr double kInfinite = std::numeric_limits<double>::infinity();
   constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
-  const PointLegend look{10, 20, 16, 0, 1, RGB(255, 0, 0)};
-  const short legend = AddLegend(look);
+  const PointLegend symbol{10, 20, 16, 0, 1, RGB(255, 0, 0)};
+  const short legend = AddLegend(symbol);
   int key = 10;
   for (const double far_away : {1e4, -1e4, 2147483647.0, -2147483648.0, 4e9, -4e9, 1e18, 1e300,
                                 -1e300, kInfinite, -kInfinite, kNoNumber}) {
@@ -87,7 +87,7 @@ TEST_F(PointVisibility, FarAwayPointsAreNotDrawnAndDoNoHarm) {
   }
   ASSERT_EQ(0, Enter(1, GroundAt({100, 80}), legend, L"near"));
   RawCanvas canvas(Window());
-  DrawRawPoint(canvas.Dc(), look, {100, 80}, L"near");
+  DrawRawPoint(canvas.Dc(), symbol, {100, 80}, L"near");
   EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn()));
   for (const int angle : {45, 90, 180, 270}) {
     Tavix_SetAng(angle);
@@ -98,8 +98,8 @@ TEST_F(PointVisibility, FarAwayPointsAreNotDrawnAndDoNoHarm) {
 
 // It reaches as far as it is drawn, not as far as its legend says.
 TEST_F(PointVisibility, OfAMarkLargerThanAnyScreenEndsAHundredPixelsAway) {
-  const PointLegend look{4, std::numeric_limits<int>::max(), 0, 0, 1, RGB(255, 0, 0)};
-  const short legend = AddLegend(look);
+  const PointLegend symbol{4, std::numeric_limits<int>::max(), 0, 0, 1, RGB(255, 0, 0)};
+  const short legend = AddLegend(symbol);
   ASSERT_EQ(0, Enter(1, GroundAt({100, 80}), legend));
   EXPECT_EQ(101 + 101 - 1, CountPixels(Redrawn(), 0xFF0000));
   ASSERT_EQ(0, Enter(1, GroundAt({-40, 80}), legend));
@@ -110,12 +110,12 @@ TEST_F(PointVisibility, LegendValuesOutOfAllReasonDoNotHoldTheDrawingUp) {
   // The first of these once kept the system busy with an ellipse for minutes.
   constexpr int kLeast = std::numeric_limits<int>::min();
   constexpr int kMost = std::numeric_limits<int>::max();
-  const PointLegend looks[] = {{8, kMost, 0, 0, 1, 0},
-                               {2, kMost, 0, 0, 3, 0},
-                               {5, kMost, kMost, 0, kMost, 0},
-                               {6, kLeast, kLeast, 0, kLeast, 0}};
-  for (const PointLegend& look : looks) {
-    ASSERT_EQ(0, Enter(1, GroundAt({100, 80}), AddLegend(look), L"A"));
+  const PointLegend symbols[] = {{8, kMost, 0, 0, 1, 0},
+                                 {2, kMost, 0, 0, 3, 0},
+                                 {5, kMost, kMost, 0, kMost, 0},
+                                 {6, kLeast, kLeast, 0, kLeast, 0}};
+  for (const PointLegend& symbol : symbols) {
+    ASSERT_EQ(0, Enter(1, GroundAt({100, 80}), AddLegend(symbol), L"A"));
     EXPECT_EQ(0, Tavix_Drw(1));
     EXPECT_FALSE(Shown().pixels.empty());
   }

@@ -10,14 +10,14 @@
 namespace tavix::test {
 
 // One note an operation, in their order: "pen 3" (its width), "line 1,2 5,6",
-// "circle 1,2 5", "look 8" (the mark's kind), "mark 1,2", "colour 255", "label 1,2".
+// "circle 1,2 5", "symbol 8" (its mark), "mark 1,2", "colour 255", "label 1,2".
 class RecordedCanvas : public PlanCanvas {
  public:
   [[nodiscard]] ScreenBox Visible() const override { return {0, 0, 240, 180}; }
-  void UseLineStyle(const LegendStyle& style) override { Note("pen", style.width); }
+  void UsePen(const Pen& pen) override { Note("pen", pen.width); }
   void Line(const ScreenSegment& segment) override { Note("line", segment.start, segment.end); }
   void Circle(ScreenPoint centre, int radius) override { Note("circle", centre, radius); }
-  void UsePointStyle(const LegendStyle& style) override { Note("look", style.kind); }
+  void UsePointSymbol(const PointSymbol& symbol) override { Note("symbol", symbol.mark); }
   void Mark(ScreenPoint at) override { Note("mark", at); }
   void UseTextColor(std::uint32_t color) override { Note("colour", static_cast<int>(color)); }
   void Label(ScreenPoint at, NameView) override { Note("label", at); }

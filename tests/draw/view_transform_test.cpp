@@ -95,12 +95,12 @@ TEST_F(ViewTransform, AnyAngleTurnsAboutTheMiddle) {
 
 TEST_F(ViewTransform, MarksAndLabelsDoNotTurn) {
   MakePlot(240, 180);
-  const PointLegend look{6, 20, 16, 0, 1, 0};
-  ASSERT_EQ(0, Enter(1, {0.0, 0.0}, AddLegend(look), L"A1"));
+  const PointLegend symbol{6, 20, 16, 0, 1, 0};
+  ASSERT_EQ(0, Enter(1, {0.0, 0.0}, AddLegend(symbol), L"A1"));
   ASSERT_EQ(0, Tavix_SetAng(45));
   ASSERT_EQ(0, Tavix_SetTatYok(3, 1));
   RawCanvas canvas(Window());
-  DrawRawPoint(canvas.Dc(), look, {120, 90}, L"A1");
+  DrawRawPoint(canvas.Dc(), symbol, {120, 90}, L"A1");
   DrawRawNorthArrow(canvas.Dc(), 45, 180);
   EXPECT_TRUE(SamePicture(canvas.Take(), Redrawn()));
 }

@@ -84,7 +84,7 @@ TEST_F(FiguresOnFullDisk, AreNotKeptWhenTheirPointsDoNotAllFit) {
   coordinate_room_ = kPlenty;
   for (int i = 0; i < 10; ++i) AddPolyline(2, 3.0 + i);
   const auto marks = Marks();
-  ASSERT_EQ(11U, marks.size()) << "and none is drawn through the points of others";
+  ASSERT_EQ(11U, marks.size()) << "no figure is drawn through the points of others";
   EXPECT_EQ((std::vector<double>{1.0, 1.0}), marks[0]);
   EXPECT_EQ((std::vector<double>{3.0, 3.0}), marks[1]);
 }

@@ -17,11 +17,11 @@ class FaultyFile : public CFile {
  public:
   explicit FaultyFile(std::string bytes) : bytes_(std::move(bytes)) {}
 
-  // Reads that would take in the byte at `place` throw.
-  void Spoil(std::uint64_t place) { spoilt_.push_back(place); }
+  // Reads that include the byte at `offset` throw.
+  void Spoil(std::uint64_t offset) { spoilt_.push_back(offset); }
   // No read gives more than this.
   void ReadAtMost(UINT count) { most_ = count; }
-  // The length is told as if there were more.
+  // The file reports a greater length than it has.
   void Promise(std::uint64_t length) { promised_ = length; }
   void RefuseLength() { refuses_length_ = true; }
 
@@ -50,7 +50,7 @@ class FaultyFile : public CFile {
 
   [[nodiscard]] int Reads() const { return reads_; }
 
-  // The plain way: a read of its own for these bytes.
+  // The plain way: one read for just these bytes.
   bool ReadsWhole(std::uint64_t offset, std::string& piece) {
     Seek(static_cast<LONGLONG>(offset), CFile::begin);
     try {

@@ -47,10 +47,7 @@ Entry ReadLine(short number, int result = 0) {
   return entry;
 }
 
-class LegendCalls : public LibraryTest {
- protected:
-  void SetUp() override { ASSERT_EQ(0, Tavix_Crt()); }
-};
+using LegendCalls = InstanceTest;
 
 TEST_F(LegendCalls, BeginWithTheBuiltInEntries) {
   const struct {

@@ -16,10 +16,8 @@ struct Stored {
   double y = -99.0;
 };
 
-class PointCalls : public LibraryTest {
+class PointCalls : public InstanceTest {
  protected:
-  void SetUp() override { ASSERT_EQ(0, Tavix_Crt()); }
-
   static void ExpectPoint(int key, const Stored& wanted) {
     Stored point = Read(key);
     EXPECT_EQ(wanted.number, point.number) << "key " << key;

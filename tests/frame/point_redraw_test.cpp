@@ -29,7 +29,7 @@ class PointRedraw : public PlotTest {
     Tavix_DrwFlg(1);
   }
 
-  // A window drawn anew has the point in the new colour.
+  // A window that is redrawn has the point in the new colour.
   static bool ShowsARedraw() { return CountPixels(Shown(), 0xFF0000) > 0; }
 
   PointLegend look_{4, 10, 0, 0, 1, kOld};

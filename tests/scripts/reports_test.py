@@ -7,8 +7,8 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "scripts"))
 
-from testrun import reports
-from testrun.tally import Tally
+from commands import reports
+from commands.tally import Tally
 
 CASES = """<?xml version="1.0" encoding="UTF-8"?>
 <testsuites tests="4" failures="1"><testsuite name="Clip">

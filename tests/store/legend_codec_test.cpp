@@ -25,6 +25,12 @@ std::string RecordOf(const std::string& bytes, std::size_t record) {
 
 std::string BuiltIn() { return EncodeLegend(LegendTable()); }
 
+// The entry of a number; an empty one where there is none.
+HanRec Entry(const LegendTable& table, std::int16_t number) {
+  const HanRec* entry = table.Find(number);
+  return entry ? *entry : HanRec{};
+}
+
 // The built-in file with one record replaced.
 std::string FileWith(std::size_t record, std::string_view bytes) {
   std::string text(bytes);
@@ -47,14 +53,14 @@ TEST(LegendCodec, WritesTheBuiltInLegendByteForByte) {
   ASSERT_EQ(kFile, bytes.size());
   for (std::size_t i = 0; i < std::size(records); ++i) {
     ASSERT_EQ(kRecord, records[i].size());
-    EXPECT_EQ(RecordOf(bytes, i), records[i]) << i;
+    EXPECT_EQ(records[i], RecordOf(bytes, i)) << i;
   }
 }
 
 TEST(LegendCodec, WritesEachEntryIntoExactlyThirtyBytes) {
   const struct {
     const char* what;
-    LegendStyle style;
+    LegendValues values;
     std::string_view record;
   } rows[] = {
       {"zeros", {0, 0, 0, 0, 0, 0}, " 0  0  0  0  0          0 chk\0"sv},
@@ -68,11 +74,11 @@ TEST(LegendCodec, WritesEachEntryIntoExactlyThirtyBytes) {
        "-2147483648 -2147483648 -21474"sv}};
   for (const auto& row : rows) {
     LegendTable table;
-    ASSERT_EQ(0, table.Change(1, true, row.style));
+    ASSERT_EQ(0, table.Change(1, true, row.values));
     const std::string bytes = EncodeLegend(table);
     ASSERT_EQ(kFile, bytes.size()) << row.what;
     EXPECT_EQ(row.record, RecordOf(bytes, 1)) << row.what;
-    EXPECT_EQ(RecordOf(bytes, 2), RecordOf(BuiltIn(), 2)) << row.what;
+    EXPECT_EQ(RecordOf(BuiltIn(), 2), RecordOf(bytes, 2)) << row.what;
   }
 }
 
@@ -99,7 +105,7 @@ TEST(LegendCodec, WritesTheHeaderNumberWhateverItIs) {
     EXPECT_EQ(row.record, RecordOf(bytes, 0)) << row.number;
     LegendTable read;
     EXPECT_EQ(row.readable, DecodeLegend(bytes, read)) << row.number;
-    EXPECT_EQ(read.RotationStep(), row.readable ? row.number : 10) << row.number;
+    EXPECT_EQ(row.readable ? row.number : 10, read.RotationStep()) << row.number;
   }
 }
 
@@ -107,37 +113,31 @@ TEST(LegendCodec, OnlyTheFirstSixteenEntriesAreWritten) {
   LegendTable table;
   std::int16_t number = 0;
   ASSERT_EQ(0, table.Add(true, {1, 2, 3, 4, 5, 6}, &number));
-  EXPECT_EQ(EncodeLegend(table), BuiltIn());
+  EXPECT_EQ(BuiltIn(), EncodeLegend(table));
 }
 
 TEST(LegendCodec, ReadsBackWhatWasWritten) {
   LegendTable table;
-  const LegendStyle style{11, 24, 16, 0, 3, 0x00FF8000};
-  ASSERT_EQ(0, table.Change(5, true, style));
+  const LegendValues values{11, 24, 16, 0, 3, 0x00FF8000};
+  ASSERT_EQ(0, table.Change(5, true, values));
   ASSERT_EQ(0, table.Change(105, false, {105, 9, 8, 7, 2, 255}));
   table.SetRotationStep(15);
   LegendTable read;
   ASSERT_TRUE(DecodeLegend(EncodeLegend(table), read));
-  HanRec entry;
-  ASSERT_EQ(0, read.Get(5, &entry));
-  EXPECT_EQ((HanRec{5, true, style}), entry);
-  ASSERT_EQ(0, read.Get(105, &entry));
-  EXPECT_EQ((LegendStyle{105, 9, 8, 7, 2, 255}), entry.style);
+  EXPECT_EQ((HanRec{5, true, values}), Entry(read, 5));
+  EXPECT_EQ((LegendValues{105, 9, 8, 7, 2, 255}), Entry(read, 105).values);
   EXPECT_EQ(15, read.RotationStep());
 }
 
 TEST(LegendCodec, TheFirstRoundTripSwaps102And103AndTheSecondNothing) {
   LegendTable once;
   ASSERT_TRUE(DecodeLegend(BuiltIn(), once));
-  HanRec entry;
-  ASSERT_EQ(0, once.Get(102, &entry));
-  EXPECT_EQ((LegendStyle{103, 0, 0, 0, 1, 255}), entry.style);
-  ASSERT_EQ(0, once.Get(103, &entry));
-  EXPECT_EQ((LegendStyle{102, 4, 2, 0, 1, 0}), entry.style);
-  EXPECT_EQ(EncodeLegend(once), BuiltIn());
+  EXPECT_EQ((LegendValues{103, 0, 0, 0, 1, 255}), Entry(once, 102).values);
+  EXPECT_EQ((LegendValues{102, 4, 2, 0, 1, 0}), Entry(once, 103).values);
+  EXPECT_EQ(BuiltIn(), EncodeLegend(once));
   LegendTable twice;
   ASSERT_TRUE(DecodeLegend(EncodeLegend(once), twice));
-  EXPECT_EQ(twice.Entries(), once.Entries());
+  EXPECT_EQ(once.Entries(), twice.Entries());
 }
 
 TEST(LegendCodec, ALineLegendTurnedPointLegendComesBackAsItsPlaceSays) {
@@ -149,7 +149,7 @@ TEST(LegendCodec, ALineLegendTurnedPointLegendComesBackAsItsPlaceSays) {
 }
 
 TEST(LegendCodec, ReadsNumbersAsFormattedInputDoes) {
-  constexpr LegendStyle kRead{1, 2, 3, 4, 5, 6};
+  constexpr LegendValues kRead{1, 2, 3, 4, 5, 6};
   const struct {
     const char* what;
     std::string_view record;
@@ -178,9 +178,9 @@ TEST(LegendCodec, ReadsNumbersAsFormattedInputDoes) {
     LegendTable table;
     ASSERT_EQ(row.good, DecodeLegend(FileWith(1, row.record), table)) << row.what;
     if (row.good) {
-      EXPECT_EQ(kRead, table.Entries().front().style) << row.what;
+      EXPECT_EQ(kRead, table.Entries().front().values) << row.what;
     } else {
-      EXPECT_EQ(table.Entries(), LegendTable().Entries()) << row.what;
+      EXPECT_EQ(LegendTable().Entries(), table.Entries()) << row.what;
     }
   }
 }
@@ -202,7 +202,7 @@ TEST(LegendCodec, ABadHeaderIsNotTaken) {
   for (const auto& row : rows) {
     LegendTable table;
     EXPECT_EQ(row.good, DecodeLegend(FileWith(0, row.record), table)) << row.what;
-    EXPECT_EQ(table.RotationStep(), row.good ? 77 : 10) << row.what;
+    EXPECT_EQ(row.good ? 77 : 10, table.RotationStep()) << row.what;
   }
 }
 
@@ -216,7 +216,7 @@ TEST(LegendCodec, ABadEntryLeavesTheHeaderNumberTaken) {
     LegendTable table;
     EXPECT_FALSE(DecodeLegend(damaged, table)) << record;
     EXPECT_EQ(77, table.RotationStep()) << record;
-    EXPECT_EQ(table.Entries(), LegendTable().Entries()) << record;
+    EXPECT_EQ(LegendTable().Entries(), table.Entries()) << record;
   }
 }
 
@@ -227,8 +227,8 @@ TEST(LegendCodec, AFileCutAnywhereIsBad) {
   for (std::size_t size = 0; size < kFile; ++size) {
     LegendTable table;
     ASSERT_FALSE(DecodeLegend(bytes.substr(0, size), table)) << size;
-    ASSERT_EQ(table.RotationStep(), size < kRecord ? 10 : 77) << size;
-    ASSERT_EQ(table.Entries(), LegendTable().Entries()) << size;
+    ASSERT_EQ(size < kRecord ? 10 : 77, table.RotationStep()) << size;
+    ASSERT_EQ(LegendTable().Entries(), table.Entries()) << size;
   }
 }
 
@@ -250,8 +250,8 @@ void ExpectWholeTable(std::string_view bytes) {
     return;
   }
   for (std::size_t i = 0; i < 16; ++i) {
-    ASSERT_EQ(table.Entries()[i].number,
-              i < 11 ? static_cast<int>(i) + 1 : static_cast<int>(i) + 90);
+    ASSERT_EQ(i < 11 ? static_cast<int>(i) + 1 : static_cast<int>(i) + 90,
+              table.Entries()[i].number);
   }
 }
 
@@ -304,20 +304,20 @@ TEST(LegendCodec, AnyValuesThatFitTheirFieldsComeBack) {
     LegendTable table;
     const LegendTable built_in;
     for (const HanRec& entry : built_in.Entries()) {
-      LegendStyle style;
+      LegendValues values;
       for (std::int32_t* value :
-           {&style.kind, &style.prm1, &style.prm2, &style.prm3, &style.width}) {
+           {&values.kind, &values.prm1, &values.prm2, &values.prm3, &values.width}) {
         *value = std::uniform_int_distribution<std::int32_t>(-9, 99)(random);
       }
-      style.color = std::uniform_int_distribution<std::int32_t>(0, 0xFFFFFF)(random);
-      ASSERT_EQ(0, table.Change(entry.number, entry.is_point, style));
+      values.color = std::uniform_int_distribution<std::int32_t>(0, 0xFFFFFF)(random);
+      ASSERT_EQ(0, table.Change(entry.number, entry.is_point, values));
     }
     const std::string bytes = EncodeLegend(table);
     LegendTable read;
     ASSERT_TRUE(DecodeLegend(bytes, read));
-    ASSERT_EQ(EncodeLegend(read), bytes);
+    ASSERT_EQ(bytes, EncodeLegend(read));
     for (std::size_t place = 0; place < 16; ++place) {
-      ASSERT_EQ(read.Entries()[place].style, table.Entries()[place].style);
+      ASSERT_EQ(table.Entries()[place].values, read.Entries()[place].values);
     }
   }
 }

@@ -10,10 +10,10 @@
 namespace tavix {
 namespace {
 
-constexpr LegendStyle kStyle{3, 11, 12, 13, 2, 0x00AABBCC};
+constexpr LegendValues kValues{3, 11, 12, 13, 2, 0x00AABBCC};
 
 TEST(LegendTable, StartsWithTheBuiltInEntries) {
-  // number, point, kind, three parameters, width, colour; 103 before 102 is meant.
+  // number, point, kind, three parameters, width, colour; 103 stands before 102.
   const HanRec rows[] = {
       {1, true, {1, 2, 10, 1, 1, 0}},       {2, true, {2, 10, 10, 1, 1, 0}},
       {3, true, {3, 10, 10, 1, 1, 0}},      {4, true, {4, 10, 10, 1, 1, 0}},
@@ -24,7 +24,7 @@ TEST(LegendTable, StartsWithTheBuiltInEntries) {
       {103, false, {103, 0, 0, 0, 1, 255}}, {102, false, {102, 4, 2, 0, 1, 0}},
       {104, false, {104, 4, 2, 2, 1, 255}}, {105, false, {105, 4, 2, 2, 1, 255}}};
   const LegendTable table;
-  EXPECT_EQ(table.Entries(), std::vector<HanRec>(std::begin(rows), std::end(rows)));
+  EXPECT_EQ(std::vector<HanRec>(std::begin(rows), std::end(rows)), table.Entries());
   EXPECT_EQ(10, table.RotationStep());
   for (int n = 1; n <= 11; ++n) {
     std::u16string title = u"?";
@@ -36,34 +36,32 @@ TEST(LegendTable, StartsWithTheBuiltInEntries) {
 TEST(LegendTable, AddedEntriesAreNumberedFrom201) {
   LegendTable table;
   std::int16_t number = 0;
-  EXPECT_EQ(0, table.Add(true, kStyle, &number));
+  EXPECT_EQ(0, table.Add(true, kValues, &number));
   EXPECT_EQ(201, number);
-  EXPECT_EQ(0, table.Add(false, kStyle, &number));
+  EXPECT_EQ(0, table.Add(false, kValues, &number));
   EXPECT_EQ(202, number);
   ASSERT_EQ(18U, table.Entries().size());
-  EXPECT_EQ((HanRec{201, true, kStyle}), table.Entries()[16]);
-  EXPECT_EQ((HanRec{202, false, kStyle}), table.Entries()[17]);
+  EXPECT_EQ((HanRec{201, true, kValues}), table.Entries()[16]);
+  EXPECT_EQ((HanRec{202, false, kValues}), table.Entries()[17]);
 }
 
 TEST(LegendTable, NumbersWrapAfterTheLargest) {
   LegendTable table;
   std::int16_t number = 0;
-  for (int i = 201; i <= 32767; ++i) ASSERT_EQ(0, table.Add(true, kStyle, &number));
+  for (int i = 201; i <= 32767; ++i) ASSERT_EQ(0, table.Add(true, kValues, &number));
   EXPECT_EQ(32767, number);
-  ASSERT_EQ(0, table.Add(true, kStyle, &number));
+  ASSERT_EQ(0, table.Add(true, kValues, &number));
   EXPECT_EQ(-32768, number);
-  HanRec entry;
-  EXPECT_EQ(0, table.Get(-32768, &entry));
+  EXPECT_TRUE(table.Find(-32768));
 }
 
-TEST(LegendTable, ChangingReplacesLookAndCategoryOfTheFirstMatch) {
+TEST(LegendTable, ChangingReplacesValuesAndCategoryOfTheFirstMatch) {
   LegendTable table;
-  EXPECT_EQ(0, table.Change(5, false, kStyle));
-  HanRec entry;
-  ASSERT_EQ(0, table.Get(5, &entry));
-  EXPECT_EQ((HanRec{5, false, kStyle}), entry);
-  ASSERT_EQ(0, table.Get(6, &entry));
-  EXPECT_EQ(6, entry.style.kind);
+  EXPECT_EQ(0, table.Change(5, false, kValues));
+  ASSERT_TRUE(table.Find(5));
+  EXPECT_EQ((HanRec{5, false, kValues}), *table.Find(5));
+  ASSERT_TRUE(table.Find(6));
+  EXPECT_EQ(6, table.Find(6)->values.kind);
 }
 
 TEST(LegendTable, WhereANumberRepeatsTheFirstEntryCounts) {
@@ -71,13 +69,12 @@ TEST(LegendTable, WhereANumberRepeatsTheFirstEntryCounts) {
   std::int16_t number = 0;
   // The run-time numbers go once around until the built-in 5 has a namesake.
   do {
-    ASSERT_EQ(0, table.Add(true, kStyle, &number));
+    ASSERT_EQ(0, table.Add(true, kValues, &number));
   } while (number != 5);
-  HanRec entry;
-  ASSERT_EQ(0, table.Get(5, &entry));
-  EXPECT_EQ(5, entry.style.kind);
+  ASSERT_TRUE(table.Find(5));
+  EXPECT_EQ(5, table.Find(5)->values.kind);
   ASSERT_EQ(0, table.Change(5, true, {}));
-  EXPECT_EQ(kStyle, table.Entries().back().style);
+  EXPECT_EQ(kValues, table.Entries().back().values);
 }
 
 // Every number there is, at lengths before and after the added numbers have gone around.
@@ -96,12 +93,8 @@ TEST(LegendTable, FindsTheFirstEntryFromTheHead) {
     }
     for (int i = -32768; i <= 32767; ++i) {
       const auto number = static_cast<std::int16_t>(i);
-      const HanRec* expected = first[static_cast<std::uint16_t>(number)];
-      HanRec entry;
-      ASSERT_EQ(table.Get(number, &entry), expected ? 0 : -1) << i << " of " << length;
-      if (expected) {
-        ASSERT_EQ(entry, *expected) << i << " of " << length;
-      }
+      ASSERT_EQ(first[static_cast<std::uint16_t>(number)], table.Find(number))
+          << i << " of " << length;
     }
   }
 }
@@ -110,11 +103,9 @@ TEST(LegendTable, UnknownNumbersAreRefusedAndChangeNothing) {
   for (const std::int16_t number : {std::int16_t{0}, std::int16_t{12}, std::int16_t{100},
                                     std::int16_t{106}, std::int16_t{201}, std::int16_t{-1}}) {
     LegendTable table;
-    HanRec entry{77, true, kStyle};
-    EXPECT_EQ(-1, table.Get(number, &entry)) << number;
-    EXPECT_EQ((HanRec{77, true, kStyle}), entry) << number;
-    EXPECT_EQ(-1, table.Change(number, true, kStyle)) << number;
-    EXPECT_EQ(table.Entries(), LegendTable().Entries()) << number;
+    EXPECT_FALSE(table.Find(number)) << number;
+    EXPECT_EQ(-1, table.Change(number, true, kValues)) << number;
+    EXPECT_EQ(LegendTable().Entries(), table.Entries()) << number;
   }
 }
 
@@ -130,7 +121,7 @@ TEST(LegendTable, CopiesEntriesInListOrder) {
     EXPECT_EQ(row.copied, table.CopyOut(row.count, copies.data()));
     for (std::size_t i = 0; i < copies.size(); ++i) {
       if (i < row.copied) {
-        EXPECT_EQ(copies[i], table.Entries()[i]);
+        EXPECT_EQ(table.Entries()[i], copies[i]);
       } else {
         EXPECT_EQ(-5, copies[i].number);
       }
@@ -160,25 +151,24 @@ TEST(LegendTable, HasElevenTitles) {
 TEST(LegendTable, StoredEntriesLeaveAddedOnesInPlace) {
   LegendTable table;
   std::int16_t number = 0;
-  ASSERT_EQ(0, table.Add(true, kStyle, &number));
+  ASSERT_EQ(0, table.Add(true, kValues, &number));
   table.TakeStored({});
-  HanRec entry;
-  ASSERT_EQ(0, table.Get(number, &entry));
-  EXPECT_EQ((HanRec{201, true, kStyle}), entry);
+  ASSERT_TRUE(table.Find(number));
+  EXPECT_EQ((HanRec{201, true, kValues}), *table.Find(number));
 }
 
 TEST(LegendTable, StoredEntriesAreNumberedByPlace) {
   LegendTable table;
   ASSERT_EQ(0, table.SetTitle(1, u"title"));
-  std::array<LegendStyle, LegendTable::kStoredLegends> styles;
-  for (std::size_t i = 0; i < styles.size(); ++i) styles[i].kind = static_cast<int>(i) + 50;
-  table.TakeStored(styles);
+  std::array<LegendValues, LegendTable::kStoredLegends> stored;
+  for (std::size_t i = 0; i < stored.size(); ++i) stored[i].kind = static_cast<int>(i) + 50;
+  table.TakeStored(stored);
   ASSERT_EQ(16U, table.Entries().size());
-  for (std::size_t i = 0; i < styles.size(); ++i) {
+  for (std::size_t i = 0; i < stored.size(); ++i) {
     const HanRec& entry = table.Entries()[i];
-    EXPECT_EQ(entry.number, i < 11 ? static_cast<int>(i) + 1 : static_cast<int>(i) + 90);
-    EXPECT_EQ(entry.is_point, i < 11);
-    EXPECT_EQ(entry.style, styles[i]);
+    EXPECT_EQ(i < 11 ? static_cast<int>(i) + 1 : static_cast<int>(i) + 90, entry.number);
+    EXPECT_EQ(i < 11, entry.is_point);
+    EXPECT_EQ(stored[i], entry.values);
   }
   std::u16string title;
   ASSERT_EQ(0, table.GetTitle(1, &title));

@@ -34,7 +34,7 @@ TEST(LineIndex, OfRecordsWithOnePairTheFirstCountsUntilItIsRemoved) {
     index.Remove({2, 1});
   }
   EXPECT_EQ(LineIndex::kNoRecord, index.Find({1, 2}));
-  index.Remove({1, 2});  // there is none: nothing happens
+  index.Remove({1, 2});  // no such record: nothing happens
 }
 
 TEST(LineIndex, AgreesWithAPlainRowOfLines) {

@@ -1,4 +1,4 @@
-// The search for a line beside the reading of records one after another that it stands for.
+// The search for a line, compared with reading the records one after another.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -107,7 +107,7 @@ void CompareInRandomUse(unsigned seed, int keys, unsigned outside, bool spoils) 
     return LineKeys::Of(static_cast<int>(random()) % keys, static_cast<int>(random()) % keys);
   };
   CLinDb lines(0);
-  ASSERT_EQ(1, lines.Open());
+  ASSERT_TRUE(lines.Open());
   Outsider outsider;
   std::int32_t id = 0;
   int found_lines = 0;
@@ -163,7 +163,7 @@ class StarOfLines : public LineSearch {
   static constexpr int kLines = 3000;
 
   StarOfLines() {
-    EXPECT_EQ(1, lines_.Open());
+    EXPECT_TRUE(lines_.Open());
     std::int32_t id = 0;
     for (int key = 1; key <= kLines; ++key) EXPECT_EQ(0, lines_.Add(LineKeys::Of(key, 0), 1, &id));
   }

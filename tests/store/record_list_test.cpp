@@ -14,7 +14,7 @@ namespace {
 struct Rec {
   std::int32_t key = 0;
   bool removed = false;
-  int serial = 0;  // tells records with one key apart
+  int serial = 0;  // distinguishes records with one key
 };
 
 // The same list written as plainly as possible: no holes, no index.
@@ -49,7 +49,7 @@ class PlainList {
     return cursor_ ? 0 : -1;
   }
 
-  // One walker each way, the backward one first in every round.
+  // One step each way per round, backward first.
   int FindOutward(std::int32_t key) {
     if (!cursor_) return FindFirst(key);
     auto back = static_cast<std::ptrdiff_t>(*cursor_);
@@ -226,21 +226,20 @@ TEST(RecordList, AppendingKeepsTheCurrentRecord) {
   EXPECT_EQ(0, list.Current()->serial);
 }
 
-// Serials are places: the search goes from the place `from` for the key 7.
+// Serials are positions: the search for key 7 starts at position `from`.
 TEST(RecordList, OutwardSearchPrefersTheNearerAndThenTheBackwardOne) {
   const struct {
     const char* keys;  // one digit per record
     int from;
     int found;
-  } rows[] = {
-      {"0700700", 3, 4},  // ahead is nearer
-      {"0707000", 2, 3},  // the backward walker starts on the cursor: ahead is a round nearer
-      {"0700700", 2, 1},  // one before and two ahead are one round: backward is tried first
-      {"7000070", 2, 0}, {"7000700", 2, 4}, {"7000700", 1, 0},  // at the head
-      {"7000700", 6, 4},                                        // only behind
-      {"0000777", 0, 4},                                        // only ahead
-      {"0077700", 3, 3},                                        // the current record itself
-      {"7000070", 4, 5}};
+  } rows[] = {{"0700700", 3, 4},  // ahead is nearer
+              {"0707000", 2, 3},  // backward starts on the cursor itself: ahead is a round nearer
+              {"0700700", 2, 1},  // one before and two ahead are one round: backward is tried first
+              {"7000070", 2, 0}, {"7000700", 2, 4}, {"7000700", 1, 0},  // at the head
+              {"7000700", 6, 4},                                        // only behind
+              {"0000777", 0, 4},                                        // only ahead
+              {"0077700", 3, 3},                                        // the current record itself
+              {"7000070", 4, 5}};
   for (const auto& row : rows) {
     RecordList<Rec> list;
     int place = 0;

@@ -6,7 +6,7 @@
 
 namespace tavix::test {
 
-void DrawFace(HDC dc, int bitmap, POINT at) {
+void DrawFace(HDC dc, unsigned bitmap, POINT at) {
   const HBITMAP face =
       ::LoadBitmapW(::GetModuleHandleW(L"tavix.dll"), MAKEINTRESOURCEW(static_cast<WORD>(bitmap)));
   ASSERT_NE(nullptr, face) << bitmap;

@@ -1,4 +1,4 @@
-// The faces of the on-screen buttons as the library carries them.
+// The faces of the on-screen buttons as the library holds them.
 #pragma once
 
 #include <windows.h>
@@ -6,6 +6,6 @@
 namespace tavix::test {
 
 // Draws the library's bitmap of this number with its top left corner at `at`.
-void DrawFace(HDC dc, int bitmap, POINT at);
+void DrawFace(HDC dc, unsigned bitmap, POINT at);
 
 }  // namespace tavix::test

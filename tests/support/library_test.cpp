@@ -19,4 +19,12 @@ int LibraryTest::CurrentIndex() {
   return index;
 }
 
+int LibraryTest::Angle() {
+  int angle = -1;
+  EXPECT_EQ(0, Tavix_GetAng(&angle));
+  return angle;
+}
+
+void InstanceTest::SetUp() { ASSERT_EQ(0, Tavix_Crt()); }
+
 }  // namespace tavix::test

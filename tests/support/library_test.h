@@ -20,6 +20,9 @@ class LibraryTest : public testing::Test {
 
   static int CurrentIndex();
 
+  // The angle of the current instance's view, in degrees.
+  static int Angle();
+
   [[nodiscard]] std::filesystem::path LegendFile() const { return data_.Path() / L"HANREI.DAT"; }
   // What is written first when the legend is saved.
   [[nodiscard]] std::filesystem::path FileBeside() const { return data_.Path() / L"HANREI.NEW"; }
@@ -27,6 +30,12 @@ class LibraryTest : public testing::Test {
  private:
   PrivateFolder data_{L"ROVCOND_DATA_FOLDER"};
   PrivateFolder root_{L"CE_DEVICE_ROOT"};
+};
+
+// Instance 0 exists, without a window.
+class InstanceTest : public LibraryTest {
+ protected:
+  void SetUp() override;
 };
 
 }  // namespace tavix::test

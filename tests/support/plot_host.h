@@ -44,4 +44,6 @@ class PlotHost {
   std::vector<Command> commands_;
 };
 
+using Commands = std::vector<PlotHost::Command>;
+
 }  // namespace tavix::test

@@ -3,6 +3,8 @@
 #include <tavix/tavix.h>
 
 #include "tests/support/message_pump.h"
+#include "tests/support/raw_canvas.h"
+#include "tests/support/raw_north_arrow.h"
 
 namespace tavix::test {
 
@@ -62,6 +64,13 @@ Picture PlotTest::Shown() {
 Picture PlotTest::Redrawn() {
   EXPECT_EQ(0, Tavix_Drw(1));
   return Shown();
+}
+
+Picture PlotTest::CrossesAt(std::initializer_list<POINT> pixels) {
+  const RawCanvas canvas(Window());
+  for (const POINT& at : pixels) DrawRawPoint(canvas.Dc(), kCross, at);
+  DrawRawNorthArrow(canvas.Dc(), Angle(), Client().bottom);
+  return canvas.Take();
 }
 
 bool PlotTest::AwaitsPaint() { return ::GetUpdateRect(Window(), nullptr, FALSE) != FALSE; }

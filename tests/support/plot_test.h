@@ -1,6 +1,7 @@
 // Tests with a plot window on the screen.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 
 #include "tests/support/library_test.h"
@@ -15,6 +16,9 @@ struct Ground {
   double x;
   double y;
 };
+
+// A small point that is seen in any view.
+inline constexpr PointLegend kCross{4, 9, 0, 0, 1, RGB(255, 0, 0)};
 
 class PlotTest : public LibraryTest {
  protected:
@@ -43,6 +47,9 @@ class PlotTest : public LibraryTest {
   // What the window shows once it has painted what it has to; or after a redraw of everything.
   static Picture Shown();
   static Picture Redrawn();
+
+  // The window with nothing but crosses at these pixels, and the north arrow of a turned view.
+  static Picture CrossesAt(std::initializer_list<POINT> pixels);
 
   // Whether the window has something to paint.
   static bool AwaitsPaint();

@@ -1,10 +1,12 @@
-// The plot window as the system sees it.
+// The plot window as Windows knows it: its place, style, class and buttons.
 #include <tavix/tavix.h>
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "tests/support/low_byte.h"
+#include "tests/support/plot_input.h"
 #include "tests/support/plot_test.h"
 
 namespace tavix::test {
@@ -70,10 +72,10 @@ TEST_F(PlotWindow, ShowsAndHidesByTheLowByte) {
 
 TEST_F(PlotWindow, GoesWithItsInstance) {
   const HWND window = Window();
-  std::array<HWND, 11> buttons{};
-  for (int k = 0; k < 11; ++k) {
-    buttons[static_cast<std::size_t>(k)] = ::GetDlgItem(window, 401 + 4 * k);
-    EXPECT_TRUE(::IsWindow(buttons[static_cast<std::size_t>(k)])) << k;
+  std::vector<HWND> buttons;
+  for (const ButtonRow& button : kButtonTable) {
+    buttons.push_back(ButtonWindow(button.id));
+    EXPECT_TRUE(::IsWindow(buttons.back())) << button.id;
   }
   EXPECT_EQ(0, Tavix_Del());
   EXPECT_FALSE(::IsWindow(window));
@@ -97,7 +99,7 @@ TEST_F(PlotWindow, GivesARatioOnlyAfterOneWasSet) {
     EXPECT_EQ(0, Tavix_GetTatYok(&tate, &yoko));
     EXPECT_EQ(row.tate, tate);
     EXPECT_EQ(row.yoko, yoko);
-    EXPECT_EQ(0, Tavix_Drw(1));  // not even a ratio that is no number stops it
+    EXPECT_EQ(0, Tavix_Drw(1));  // even a ratio of 0:0 does not stop it
     EXPECT_EQ(0, Tavix_Drw(0));
   }
 }

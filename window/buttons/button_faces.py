@@ -20,7 +20,7 @@ def _edge(width, height, sunken):
         face[inner_at[1]][x] = SHADE
     for y in range(1, bottom):
         face[y][inner_at[0]] = SHADE
-    # The lower right edge takes both of its corners, as the system draws its own buttons.
+    # The lower right edge takes both of its corners, as Windows draws its own buttons.
     for x in range(width):
         face[0][x], face[bottom][x] = outer
     for y in range(height):

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the pictures of the plot window's button column from buttons.txt and ../button_table.h.
+"""Makes the pictures of the plot window's button column from buttons.txt and button_table.h.
 
     window/buttons/make_buttons.py FOLDER          writes the BMP files and buttons.rc into FOLDER
     window/buttons/make_buttons.py --sheet X.png   writes one enlarged picture of all of them
@@ -49,7 +49,7 @@ def main():
         parser.error("say a folder, or --sheet")
 
     folder = Path(__file__).resolve().parent
-    source = picture_source.read(folder / "buttons.txt", folder.parent / "button_table.h")
+    source = picture_source.read(folder / "buttons.txt", folder / "button_table.h")
     pictures = button_faces.faces(source.buttons)
     if arguments.folder:
         write_resources(arguments.folder, pictures, source.palette)

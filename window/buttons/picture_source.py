@@ -7,7 +7,7 @@ TRANSPARENT = "."
 
 
 class SourceError(Exception):
-    """A line of the picture source that cannot be meant."""
+    """A line of the picture source that has no meaning."""
 
 
 @dataclass(frozen=True)

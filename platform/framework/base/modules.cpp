@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <new>
+#include <string_view>
 #include <vector>
 
+#include "framework/string.h"
 #include "platform/framework/base/modules.h"
 
 namespace {
@@ -84,4 +86,30 @@ HINSTANCE AfxFindResourceHandle(LPCWSTR name, LPCWSTR type) {
   const HINSTANCE found = afx::FindInModules(
       [&](HINSTANCE module) { return ::FindResourceW(module, name, type) != nullptr; });
   return found ? found : AfxGetResourceHandle();
+}
+
+// ---- String resources
+
+namespace {
+
+// The string resource `id` of a module, where it lies in the module; empty when there is none.
+std::wstring_view FindText(HINSTANCE module, UINT id) {
+  LPCWSTR text = nullptr;
+  // Asked with a size of 0, the system gives the address of the text, which no NUL closes.
+  const int length = ::LoadStringW(module, id, reinterpret_cast<LPWSTR>(&text), 0);
+  return {text, static_cast<std::size_t>(length > 0 ? length : 0)};
+}
+
+}  // namespace
+
+BOOL CString::LoadStringW(UINT id) {
+  std::wstring_view found;
+  // Strings are stored in blocks of sixteen. A module may hold the block of this id without a text
+  // for it: the search then goes on to the next module.
+  afx::FindInModules([&](HINSTANCE module) {
+    found = FindText(module, id);
+    return !found.empty();
+  });
+  *this = CString(found.data(), static_cast<int>(found.size()));
+  return !found.empty();
 }

@@ -7,17 +7,6 @@
 #include "framework/exception.h"
 #include "framework/win_app.h"
 
-BOOL CWnd::UpdateData(BOOL saveAndValidate) {
-  CDataExchange exchange(this, saveAndValidate);
-  try {
-    DoDataExchange(&exchange);
-    return TRUE;
-  } catch (CUserException* refused) {
-    refused->Delete();
-    return FALSE;
-  }
-}
-
 HWND CDataExchange::PrepareCtrl(int id) {
   const HWND item = ::GetDlgItem(m_pDlgWnd->m_hWnd, id);
   if (!item) AfxThrowResourceException();

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "framework/platform.h"
 #include "platform/objectstore/memory_store.h"
 
 namespace {

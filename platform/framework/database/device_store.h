@@ -1,7 +1,7 @@
 // The store behind the device's database calls and classes.
 #pragma once
 
-#include "framework/export.h"
+#include "framework/platform.h"
 #include "platform/objectstore/object_store.h"
 
 // The store installed last, or the process's own in-memory one, which sorts without regard to case

@@ -1,5 +1,7 @@
 #include "framework/dc.h"
 
+#include "framework/exception.h"
+#include "framework/wnd.h"
 #include "platform/framework/gdi/handle_map.h"
 
 namespace {
@@ -171,4 +173,28 @@ CSize CDC::GetTextExtent(LPCWSTR text, int count) const {
   CSize size;
   ::GetTextExtentPoint32W(m_hAttribDC, text, count, &size);
   return size;
+}
+
+// ---- Device contexts of windows. The context goes back to the system as it came; ~CDC then finds
+//      nothing to delete.
+
+CClientDC::CClientDC(CWnd* window) : m_hWnd(window ? window->m_hWnd : nullptr) {
+  if (!Attach(::GetDC(m_hWnd))) AfxThrowResourceException();
+}
+
+CClientDC::~CClientDC() { ::ReleaseDC(m_hWnd, Detach()); }
+
+CWindowDC::CWindowDC(CWnd* window) : m_hWnd(window ? window->m_hWnd : nullptr) {
+  if (!Attach(::GetWindowDC(m_hWnd))) AfxThrowResourceException();
+}
+
+CWindowDC::~CWindowDC() { ::ReleaseDC(m_hWnd, Detach()); }
+
+CPaintDC::CPaintDC(CWnd* window) : m_hWnd(window->m_hWnd) {
+  if (!Attach(::BeginPaint(m_hWnd, &m_ps))) AfxThrowResourceException();
+}
+
+CPaintDC::~CPaintDC() {
+  Detach();
+  ::EndPaint(m_hWnd, &m_ps);
 }

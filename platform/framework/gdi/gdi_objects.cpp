@@ -1,10 +1,92 @@
 #include "framework/gdi_objects.h"
 
+#include <algorithm>
+#include <array>
+
 #include "framework/dc.h"
 #include "framework/exception.h"
 #include "framework/extension_module.h"
-#include "framework/window_dc.h"
-#include "platform/framework/gdi/gdi_map.h"
+#include "platform/framework/gdi/handle_map.h"
+
+namespace {
+
+bool IsLiveGdiHandle(HGDIOBJ handle) { return ::GetObjectType(handle) != 0; }
+
+// Never destroyed: global pens and brushes still ask for it at the process's end.
+afx::PermanentMap<CGdiObject, HGDIOBJ>& PermanentGdiObjects() {
+  static auto& map = *new afx::PermanentMap<CGdiObject, HGDIOBJ>;
+  return map;
+}
+
+// The object of class T for the handle. An owner of another class (a CGdiObject that attached a
+// pen) does not stand for a T.
+template <class T>
+T* GdiObjectFromHandle(HGDIOBJ handle) {
+  if (!handle) return nullptr;
+  if (T* permanent = dynamic_cast<T*>(PermanentGdiObjects().Find(handle))) return permanent;
+  static auto& temporary =
+      *new afx::TemporaryMap<T, HGDIOBJ, &CGdiObject::m_hObject, &IsLiveGdiHandle>;
+  return temporary.Get(handle);
+}
+
+// The bitmap that memory contexts begin with. It also stands for a bitmap of no size.
+HGDIOBJ StockBitmap() {
+  const HDC memory = ::CreateCompatibleDC(nullptr);
+  const HGDIOBJ bitmap = ::GetCurrentObject(memory, OBJ_BITMAP);
+  ::DeleteDC(memory);
+  return bitmap;
+}
+
+// The system hands these out to everyone, and they are nobody's.
+bool IsStockObject(HGDIOBJ handle) {
+  static const auto objects = [] {
+    std::array<HGDIOBJ, STOCK_LAST + 2> all{};
+    for (int index = 0; index <= STOCK_LAST; ++index) {
+      all[static_cast<std::size_t>(index)] = ::GetStockObject(index);
+    }
+    all.back() = StockBitmap();
+    return all;
+  }();
+  return std::find(objects.begin(), objects.end(), handle) != objects.end();
+}
+
+}  // namespace
+
+// ---- CGdiObject
+
+CGdiObject::~CGdiObject() {
+  // A temporary object, or one whose handle another object has taken over, owns nothing.
+  if (m_hObject && PermanentGdiObjects().Find(m_hObject) == this) DeleteObject();
+}
+
+CGdiObject* CGdiObject::FromHandle(HGDIOBJ handle) {
+  return GdiObjectFromHandle<CGdiObject>(handle);
+}
+
+BOOL CGdiObject::Attach(HGDIOBJ handle) {
+  // What is selected everywhere must not lead to one of the many objects that hold it: that one may
+  // be gone when the others select it back.
+  if (handle && !IsStockObject(handle)) PermanentGdiObjects().Set(handle, this);
+  return Borrow(handle);
+}
+
+BOOL CGdiObject::Borrow(HGDIOBJ handle) {
+  if (!handle) return FALSE;
+  m_hObject = handle;
+  return TRUE;
+}
+
+HGDIOBJ CGdiObject::Detach() {
+  const HGDIOBJ handle = m_hObject;
+  if (handle) PermanentGdiObjects().Remove(handle, this);
+  m_hObject = nullptr;
+  return handle;
+}
+
+BOOL CGdiObject::DeleteObject() {
+  const HGDIOBJ handle = Detach();
+  return handle && (IsStockObject(handle) || ::DeleteObject(handle));
+}
 
 // ---- CPen
 
@@ -12,7 +94,7 @@ CPen::CPen(int style, int width, COLORREF colour) {
   if (!CreatePen(style, width, colour)) AfxThrowResourceException();
 }
 
-CPen* CPen::FromHandle(HPEN handle) { return afx::GdiObjectFromHandle<CPen>(handle); }
+CPen* CPen::FromHandle(HPEN handle) { return GdiObjectFromHandle<CPen>(handle); }
 
 // ---- CBrush
 
@@ -28,13 +110,13 @@ CBrush::CBrush(CBitmap* bitmap) {
   if (!CreatePatternBrush(bitmap)) AfxThrowResourceException();
 }
 
-CBrush* CBrush::FromHandle(HBRUSH handle) { return afx::GdiObjectFromHandle<CBrush>(handle); }
+CBrush* CBrush::FromHandle(HBRUSH handle) { return GdiObjectFromHandle<CBrush>(handle); }
 
 BOOL CBrush::CreatePatternBrush(CBitmap* bitmap) { return Attach(::CreatePatternBrush(*bitmap)); }
 
 // ---- CFont
 
-CFont* CFont::FromHandle(HFONT handle) { return afx::GdiObjectFromHandle<CFont>(handle); }
+CFont* CFont::FromHandle(HFONT handle) { return GdiObjectFromHandle<CFont>(handle); }
 
 BOOL CFont::CreatePointFont(int tenthsOfPoints, LPCWSTR faceName, CDC* dc) {
   LOGFONTW font = {};
@@ -61,7 +143,7 @@ BOOL CFont::CreatePointFontIndirect(const LOGFONTW* font, CDC* dc) {
 
 // ---- CBitmap
 
-CBitmap* CBitmap::FromHandle(HBITMAP handle) { return afx::GdiObjectFromHandle<CBitmap>(handle); }
+CBitmap* CBitmap::FromHandle(HBITMAP handle) { return GdiObjectFromHandle<CBitmap>(handle); }
 
 BOOL CBitmap::LoadBitmapW(LPCWSTR name) {
   return Attach(::LoadBitmapW(AfxFindResourceHandle(name, RT_BITMAP), name));
@@ -77,4 +159,4 @@ BOOL CBitmap::CreateCompatibleBitmap(CDC* dc, int width, int height) {
 
 // ---- CRgn
 
-CRgn* CRgn::FromHandle(HRGN handle) { return afx::GdiObjectFromHandle<CRgn>(handle); }
+CRgn* CRgn::FromHandle(HRGN handle) { return GdiObjectFromHandle<CRgn>(handle); }

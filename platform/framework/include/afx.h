@@ -2,7 +2,6 @@
 #pragma once
 
 #include "framework/exception.h"
-#include "framework/export.h"
 #include "framework/file.h"
 #include "framework/geometry.h"
 #include "framework/object.h"

@@ -4,21 +4,15 @@
 
 #include <afx.h>
 
-#include "framework/button.h"
-#include "framework/combo_box.h"
 #include "framework/command_handlers.h"
+#include "framework/controls.h"
 #include "framework/data_exchange.h"
 #include "framework/dc.h"
 #include "framework/dialog.h"
-#include "framework/edit.h"
 #include "framework/extension_module.h"
 #include "framework/frame_wnd.h"
 #include "framework/gdi_objects.h"
-#include "framework/list_box.h"
 #include "framework/menu.h"
-#include "framework/scroll_bar.h"
-#include "framework/static_control.h"
 #include "framework/win_app.h"
-#include "framework/window_dc.h"
 #include "framework/window_handlers.h"
 #include "framework/wnd.h"

@@ -8,7 +8,6 @@
 //  - use from one thread at a time.
 #pragma once
 
-#include "framework/export.h"
 #include "framework/platform.h"
 
 // ---- Objects and properties

@@ -7,7 +7,6 @@
 #include "framework/exception.h"
 #include "framework/extension_module.h"
 #include "framework/win_app.h"
-#include "platform/framework/window/message_box.h"
 #include "platform/framework/window/message_loop.h"
 #include "platform/framework/window/wnd_binding.h"
 
@@ -16,14 +15,24 @@ ON_COMMAND(IDOK, &CDialog::OnOK)
 ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
 END_MESSAGE_MAP()
 
-struct CDialog::ModalState {
-  int result = IDCANCEL;  // what a dialog answers whose window goes without EndDialog
-  bool ended = false;
-  HWND owner = nullptr;
-  std::optional<afx::ScopedDisable> owner_waits;
-};
-
 namespace {
+
+// Disables a window for as long as it lives; a window that was disabled before stays so.
+class ScopedDisable {
+ public:
+  explicit ScopedDisable(HWND window)
+      : window_(window && ::IsWindowEnabled(window) ? window : nullptr) {
+    if (window_) ::EnableWindow(window_, FALSE);
+  }
+  ~ScopedDisable() {
+    if (window_) ::EnableWindow(window_, TRUE);
+  }
+  ScopedDisable(const ScopedDisable&) = delete;
+  ScopedDisable& operator=(const ScopedDisable&) = delete;
+
+ private:
+  HWND window_;  // null when there is nothing to enable again
+};
 
 // The top-level window that waits for the dialog.
 HWND OwnerOf(const CWnd* parent) {
@@ -40,6 +49,13 @@ const DLGTEMPLATE* TemplateOf(LPCWSTR name) {
 }
 
 }  // namespace
+
+struct CDialog::ModalState {
+  int result = IDCANCEL;  // what a dialog answers whose window goes without EndDialog
+  bool ended = false;
+  HWND owner = nullptr;
+  std::optional<ScopedDisable> owner_waits;
+};
 
 CDialog::CDialog(LPCWSTR templateName, CWnd* parent)
     : m_lpszTemplateName(templateName), m_pParentWnd(parent) {}

@@ -2,6 +2,21 @@
 
 #include "framework/win_app.h"
 
+namespace {
+
+// Offers the message to its window and then to each parent or owner up to `last` (included; null:
+// to the top) that has an object. TRUE when one of them handled it.
+BOOL WalkPreTranslateTree(HWND last, MSG* message) {
+  for (HWND window = message->hwnd; window; window = ::GetParent(window)) {
+    CWnd* object = CWnd::FromHandlePermanent(window);
+    if (object && object->PreTranslateMessage(message)) return TRUE;
+    if (window == last) break;
+  }
+  return FALSE;
+}
+
+}  // namespace
+
 namespace afx {
 
 BOOL PumpModalMessage() {
@@ -22,39 +37,25 @@ BOOL PumpModalMessage() {
   return TRUE;
 }
 
-ScopedDisable::ScopedDisable(HWND window)
-    : window_(window && ::IsWindowEnabled(window) ? window : nullptr) {
-  if (window_) ::EnableWindow(window_, FALSE);
-}
-
-ScopedDisable::~ScopedDisable() {
-  if (window_) ::EnableWindow(window_, TRUE);
-}
-
-}  // namespace afx
-
-namespace afx {
-
-BOOL WalkPreTranslateTree(HWND last, MSG* message) {
-  for (HWND window = message->hwnd; window; window = ::GetParent(window)) {
-    CWnd* object = CWnd::FromHandlePermanent(window);
-    if (object && object->PreTranslateMessage(message)) return TRUE;
-    if (window == last) break;
+void ReportAndDelete(CException* exception) {
+  wchar_t sentence[512] = {};
+  if (exception->GetErrorMessage(sentence, ARRAYSIZE(sentence))) {
+    AfxMessageBox(sentence, MB_ICONSTOP);
   }
-  return FALSE;
+  exception->Delete();
 }
 
 }  // namespace afx
 
 BOOL AfxPreTranslateMessage(MSG* message) {
   if (CWinThread* thread = AfxGetThread()) return thread->PreTranslateMessage(message);
-  return afx::WalkPreTranslateTree(nullptr, message);
+  return WalkPreTranslateTree(nullptr, message);
 }
 
 BOOL CWinThread::PreTranslateMessage(MSG* message) {
   CWnd* mainWindow = AfxGetMainWnd();
   const HWND mainHandle = mainWindow ? mainWindow->m_hWnd : nullptr;
-  if (afx::WalkPreTranslateTree(mainHandle, message)) return TRUE;
+  if (WalkPreTranslateTree(mainHandle, message)) return TRUE;
   // A window beside the main one (a modeless dialog, say) lets the main one's keys work too.
   return mainHandle && message->hwnd && ::GetAncestor(message->hwnd, GA_ROOTOWNER) != mainHandle &&
          mainWindow->PreTranslateMessage(message);

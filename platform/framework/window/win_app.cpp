@@ -4,8 +4,6 @@
 #include "framework/extension_module.h"
 #include "platform/framework/base/modules.h"
 
-namespace afx {
-
 namespace {
 
 CString ExecutableName() {
@@ -17,10 +15,36 @@ CString ExecutableName() {
   return dot > 0 ? name.Left(dot) : name;
 }
 
-}  // namespace
-}  // namespace afx
+// The icon that goes with the buttons when the caller names none.
+UINT WithIcon(UINT type) {
+  if (type & MB_ICONMASK) return type;
+  switch (type & MB_TYPEMASK) {
+    case MB_OK:
+    case MB_OKCANCEL:
+      return type | MB_ICONEXCLAMATION;
+    case MB_YESNO:
+    case MB_YESNOCANCEL:
+      return type | MB_ICONQUESTION;
+    default:
+      return type;  // retry boxes have none, as hosts know it
+  }
+}
 
-CWinApp::CWinApp(LPCWSTR appName) : m_appName(appName), m_exeName(afx::ExecutableName()) {
+// The window that must wait for the answer: the last active popup of the main window, or what is
+// active when there is no application.
+HWND OwnerOfMessageBox() {
+  CWnd* main = AfxGetMainWnd();
+  const HWND owner = main ? main->m_hWnd : ::GetActiveWindow();
+  return owner ? ::GetLastActivePopup(owner) : nullptr;
+}
+
+int ShowMessageBox(LPCWSTR text, UINT type) {
+  return ::MessageBoxW(OwnerOfMessageBox(), text, AfxGetAppName(), WithIcon(type));
+}
+
+}  // namespace
+
+CWinApp::CWinApp(LPCWSTR appName) : m_appName(appName), m_exeName(ExecutableName()) {
   if (!appName) m_appName = m_exeName;
   m_pszAppName = m_appName;
   m_pszExeName = m_exeName;
@@ -47,6 +71,8 @@ void CWinApp::OnAppExit() {
   if (m_pMainWnd) m_pMainWnd->SendMessageW(WM_CLOSE);
 }
 
+// ---- What the process knows of its application
+
 CWinApp* AfxGetApp() { return afx::ProcessState().app; }
 
 CWinThread* AfxGetThread() { return AfxGetApp(); }
@@ -58,9 +84,26 @@ CWnd* AfxGetMainWnd() {
 
 LPCWSTR AfxGetAppName() {
   if (const CWinApp* app = AfxGetApp()) return app->m_pszAppName;
-  static const CString name = afx::ExecutableName();
+  static const CString name = ExecutableName();
   return name;
 }
+
+// ---- Message boxes
+
+int CWinApp::DoMessageBox(LPCWSTR text, UINT type, UINT) { return ShowMessageBox(text, type); }
+
+int AfxMessageBox(LPCWSTR text, UINT type, UINT helpId) {
+  CWinApp* app = AfxGetApp();
+  return app ? app->DoMessageBox(text, type, helpId) : ShowMessageBox(text, type);
+}
+
+int AfxMessageBox(UINT textId, UINT type, UINT helpId) {
+  CString text;
+  text.LoadStringW(textId);
+  return AfxMessageBox(text, type, helpId == UINT(-1) ? textId : helpId);
+}
+
+// ---- Running
 
 void AfxPostQuitMessage(int exitCode) { ::PostQuitMessage(exitCode); }
 

@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 
+#include "framework/data_exchange.h"
 #include "framework/dc.h"
 #include "framework/exception.h"
 #include "framework/extension_module.h"
@@ -282,4 +283,15 @@ int CWnd::GetCheckedRadioButton(int firstId, int lastId) const {
     if (IsDlgButtonChecked(id)) return id;
   }
   return 0;
+}
+
+BOOL CWnd::UpdateData(BOOL saveAndValidate) {
+  CDataExchange exchange(this, saveAndValidate);
+  try {
+    DoDataExchange(&exchange);
+    return TRUE;
+  } catch (CUserException* refused) {
+    refused->Delete();
+    return FALSE;
+  }
 }

@@ -4,7 +4,7 @@
 #include "framework/exception.h"
 #include "framework/window_handlers.h"
 #include "framework/wnd.h"
-#include "platform/framework/window/message_box.h"
+#include "platform/framework/window/message_loop.h"
 #include "platform/framework/window/wnd_binding.h"
 
 namespace afx {

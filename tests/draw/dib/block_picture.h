@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "draw/dib/pixel_block.h"
+#include "draw/dib/dib_section.h"
 
 namespace tavix::test {
 

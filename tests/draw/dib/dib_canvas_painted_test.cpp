@@ -1,8 +1,8 @@
-// Wide strokes and large circles where their own colour is everything already.
+// Wide strokes and large circles where all is painted in their colour already.
 #include <gtest/gtest.h>
 
 #include "draw/dib/dib_canvas.h"
-#include "draw/dib/system_sample.h"
+#include "draw/dib/reference_bitmap.h"
 #include "draw/ink/ink_canvas.h"
 
 namespace tavix::test {
@@ -11,66 +11,66 @@ namespace {
 constexpr int kWidth = 150;
 constexpr int kHeight = 90;
 constexpr ScreenSegment kAcross{{-20, 45}, {170, 45}};
-constexpr LegendStyle kWide{101, 0, 0, 0, 100, 0};
+constexpr Pen kWide{100, 0};
 
-// From now on each stroke that the system draws turns colours over.
+// From now on each stroke that GDI draws turns colours over.
 void ShowEveryStroke(CDC& dc) { dc.SetROP2(R2_NOT); }
 
-TEST(PaintedBits, AreNotPaintedAgain) {
-  SystemSample sample(kWidth, kHeight);
-  sample.Fill(0x00FFFFFF);
-  LearntDrawing learnt;
-  DibCanvas canvas(sample.Dc(), sample.Pixels(), learnt);
-  canvas.UseLineStyle(kWide);
+TEST(PaintedDib, AreNotPaintedAgain) {
+  ReferenceBitmap reference(kWidth, kHeight);
+  reference.Fill(0x00FFFFFF);
+  RasterCache cache;
+  DibCanvas canvas(reference.Dc(), reference.Pixels(), cache);
+  canvas.UsePen(kWide);
   canvas.Line(kAcross);
-  const OwnSample painted(sample);
-  EXPECT_TRUE(sample.Pixels().Has(0, 0, 0));
-  ShowEveryStroke(sample.Dc());
+  const TrialBitmap painted(reference);
+  EXPECT_TRUE(reference.Pixels().Has(0, 0, 0));
+  ShowEveryStroke(reference.Dc());
   canvas.Line(kAcross);
   canvas.Circle({70, 40}, 30);
-  EXPECT_TRUE(painted.Equals(sample));
-  canvas.UseLineStyle({101, 0, 0, 0, 100, 255});
+  EXPECT_TRUE(painted.Equals(reference));
+  canvas.UsePen({100, 255});
   canvas.Line(kAcross);
-  EXPECT_FALSE(painted.Equals(sample)) << "another colour is drawn";
+  EXPECT_FALSE(painted.Equals(reference)) << "another colour is drawn";
 }
 
-TEST(PaintedBits, ArePaintedAgainAfterALabel) {
-  SystemSample sample(kWidth, kHeight);
-  sample.Fill(0);
-  LearntDrawing learnt;
-  DibCanvas canvas(sample.Dc(), sample.Pixels(), learnt);
-  canvas.UsePointStyle({2, 300, 10, 0, 1, 0});
-  const OwnSample painted(sample);
-  ShowEveryStroke(sample.Dc());
+TEST(PaintedDib, ArePaintedAgainAfterALabel) {
+  ReferenceBitmap reference(kWidth, kHeight);
+  reference.Fill(0);
+  RasterCache cache;
+  DibCanvas canvas(reference.Dc(), reference.Pixels(), cache);
+  canvas.UsePointSymbol({2, 300, 10, LabelContent::kName, {1, 0}});
+  const TrialBitmap painted(reference);
+  ShowEveryStroke(reference.Dc());
   canvas.Mark({70, 40});
-  EXPECT_TRUE(painted.Equals(sample));
+  EXPECT_TRUE(painted.Equals(reference));
   canvas.Label({70, 40}, u" ");
   canvas.Mark({70, -100});
-  EXPECT_FALSE(painted.Equals(sample));
+  EXPECT_FALSE(painted.Equals(reference));
 }
 
 TEST(CirclesThatPassBy, AreNotDrawn) {
-  SystemSample sample(kWidth, kHeight);
-  sample.Fill(0x00FFFFFF);
-  LearntDrawing learnt;
-  DibCanvas canvas(sample.Dc(), sample.Pixels(), learnt);
-  canvas.UseLineStyle({101, 0, 0, 0, 3, 0});
+  ReferenceBitmap reference(kWidth, kHeight);
+  reference.Fill(0x00FFFFFF);
+  RasterCache cache;
+  DibCanvas canvas(reference.Dc(), reference.Pixels(), cache);
+  canvas.UsePen({3, 0});
   canvas.Line({{10, 10}, {20, 20}});
-  const OwnSample before(sample);
-  // From now on a circle that the system draws is filled.
-  ::SelectObject(sample.Dc().m_hDC, ::GetStockObject(BLACK_BRUSH));
+  const TrialBitmap before(reference);
+  // From now on a circle that GDI draws is filled.
+  ::SelectObject(reference.Dc().m_hDC, ::GetStockObject(BLACK_BRUSH));
   canvas.Circle({75, 45}, 5000);
   canvas.Circle({75, 45}, -100);
   canvas.Circle({400, 45}, 200);
-  EXPECT_TRUE(before.Equals(sample));
+  EXPECT_TRUE(before.Equals(reference));
   canvas.Circle({75, 45}, 60);
-  EXPECT_FALSE(before.Equals(sample)) << "one that shows is drawn";
+  EXPECT_FALSE(before.Equals(reference)) << "one that shows is drawn";
 }
 
 TEST(PaintedInk, IsNotPaintedAgain) {
-  OneBitCanvas picture(kWidth, kHeight);
+  OneBitBitmap picture(kWidth, kHeight);
   InkCanvas canvas(picture, kWidth, kHeight);
-  canvas.UseLineStyle(kWide);
+  canvas.UsePen(kWide);
   canvas.Line(kAcross);
   const std::vector<std::uint8_t> painted(picture.Bits(),
                                           picture.Bits() + picture.Stride() * kHeight);
@@ -80,7 +80,7 @@ TEST(PaintedInk, IsNotPaintedAgain) {
   ShowEveryStroke(picture.Dc());
   canvas.Line(kAcross);
   EXPECT_TRUE(is_painted());
-  canvas.UseLineStyle({101, 0, 0, 0, 100, 0x00FFFFFF});
+  canvas.UsePen({100, 0x00FFFFFF});
   canvas.Line(kAcross);
   EXPECT_FALSE(is_painted());
 }

@@ -1,106 +1,68 @@
 // Crowded pictures of everything, drawn both ways.
 #include <gtest/gtest.h>
 
-#include "tests/draw/dib/twin_canvases.h"
+#include "tests/draw/dib/canvas_pair.h"
 
 namespace tavix::test {
 namespace {
 
-const char16_t* const kNames[] = {
-    u"P1",
-    u"P20931",
-    u"T-7 (east)",
-    u"测",
-    u"基準点12",
-    u"ｱｲｳ",
-    u"a&b",
-    u"&",
-    u"&&",
-    u"two\tparts",
-    u"two\nlines",
-    u"two\r\nlines",
-    u"\x01",
-    u" ",
-    u"  in  between  ",
-    u"~!@#$%^*()_+|`-=\\{}[]:\";'<>?,./",
-    u"ABCDEFGHIJKLMNOPQRSTUVWXYZ",
-    u"abcdefghijklmnopqrstuvwxyz",
-    u"fjfjjJgypqWWMiil1||",
-    u"a name that is a good deal longer than any other name of a point that is in use",
-    u"0123456789",
-    u"é",
-    u"P1\x7F",
-};
-
 constexpr std::uint32_t kGrey = 0x00808080;  // of labels in the side view
 
-struct Scene {
-  unsigned seed;
-  int width;
-  int height;
-  int entities;
-  int most_size;
-  int most_width;
-};
-
-class BitsScenes : public testing::TestWithParam<Scene> {
+class DibScenes : public testing::TestWithParam<Scene> {
  protected:
-  void DrawLine(TwinCanvases& twins) {
+  void DrawLine(CanvasPair& pair) {
     const Scene& scene = GetParam();
-    twins.UseLineStyle({101, 0, 0, 0, dice_.Between(0, scene.most_width), dice_.Color()});
+    pair.UsePen(dice_.AnyPen(scene.most_width));
     for (int i = dice_.Between(1, 4); i > 0; --i) {
       const ScreenPoint start = dice_.Place(scene.width, scene.height, 5);
-      twins.Line({start, dice_.Place(scene.width, scene.height, 5)});
+      pair.Line({start, dice_.Place(scene.width, scene.height, 5)});
     }
   }
 
-  void DrawPoints(TwinCanvases& twins) {
+  void DrawPoints(CanvasPair& pair) {
     const Scene& scene = GetParam();
-    const LegendStyle style{dice_.Between(0, 12),
-                            dice_.Between(0, scene.most_size),
-                            dice_.Between(0, 3) == 0 ? dice_.Between(1, 40) : dice_.Between(9, 12),
-                            0,
-                            dice_.Between(0, scene.most_width),
-                            dice_.Color()};
-    twins.UsePointStyle(style);
-    twins.UseTextColor(dice_.Between(0, 3) == 0 ? kGrey : 0);
+    const PointSymbol symbol{dice_.Between(0, 12), dice_.Between(0, scene.most_size),
+                             dice_.Between(0, 3) == 0 ? dice_.Between(1, 40) : dice_.Between(9, 12),
+                             LabelContent::kName, dice_.AnyPen(scene.most_width)};
+    pair.UsePointSymbol(symbol);
+    pair.UseTextColor(dice_.Between(0, 3) == 0 ? kGrey : 0);
     for (int i = dice_.Between(1, 6); i > 0; --i) {
       const ScreenPoint at = dice_.Place(scene.width, scene.height, 20);
-      if (style.prm1 > 0) twins.Mark(at);
-      twins.Label(at, kNames[dice_.Between(0, static_cast<int>(std::size(kNames)) - 1)]);
+      if (symbol.size > 0) pair.Mark(at);
+      pair.Label(at, dice_.Label());
     }
   }
 
   Dice dice_{GetParam().seed};
 };
 
-TEST_P(BitsScenes, AreTheSystems) {
+TEST_P(DibScenes, AreGdis) {
   const Scene& scene = GetParam();
-  LearntDrawing learnt;
-  TwinCanvases twins(scene.width, scene.height, learnt);
+  RasterCache cache;
+  CanvasPair pair(scene.width, scene.height, cache);
   for (int i = 0; i < scene.entities; ++i) {
     switch (dice_.Between(0, 9)) {
       case 0:
-        twins.UseLineStyle({101, 0, 0, 0, 1, dice_.Color()});
-        twins.Circle(dice_.Place(scene.width, scene.height, 9), dice_.Between(-30, 30));
+        pair.UsePen({1, dice_.Color()});
+        pair.Circle(dice_.Place(scene.width, scene.height, 9), dice_.Between(-30, 30));
         break;
       case 1:
       case 2:
       case 3:
-        DrawLine(twins);
+        DrawLine(pair);
         break;
       default:
-        DrawPoints(twins);
+        DrawPoints(pair);
     }
     if (i % 50 == 49) {
-      ASSERT_TRUE(twins.AreSame()) << i;
+      ASSERT_TRUE(pair.AreSame()) << i;
     }
   }
-  EXPECT_TRUE(twins.ShowSomething());
+  EXPECT_TRUE(pair.ShowSomething());
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Dice, BitsScenes,
+    Dice, DibScenes,
     testing::Values(Scene{1, 240, 320, 600, 40, 3}, Scene{2, 64, 48, 600, 40, 3},
                     Scene{3, 640, 480, 400, 16, 1}, Scene{4, 101, 1, 200, 12, 1},
                     Scene{5, 1, 77, 200, 12, 2}, Scene{6, 240, 320, 600, 90, 9},

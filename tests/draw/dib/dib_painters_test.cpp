@@ -5,7 +5,7 @@
 
 #include "draw/line_painter.h"
 #include "draw/point_painter.h"
-#include "tests/draw/dib/twin_canvases.h"
+#include "tests/draw/dib/canvas_pair.h"
 
 namespace tavix::test {
 namespace {
@@ -22,11 +22,11 @@ class DibPainters : public testing::TestWithParam<int> {
     EXPECT_EQ(0, view_.SetAngle(GetParam()));
   }
 
-  void TearDown() override { EXPECT_TRUE(twins_.ShowSomething()); }
+  void TearDown() override { EXPECT_TRUE(pair_.ShowSomething()); }
 
-  std::int16_t Add(bool is_point, const LegendStyle& style) {
+  std::int16_t Add(bool is_point, const LegendValues& values) {
     std::int16_t number = 0;
-    legend_.Add(is_point, style, &number);
+    legend_.Add(is_point, values, &number);
     return number;
   }
 
@@ -38,13 +38,13 @@ class DibPainters : public testing::TestWithParam<int> {
 
   LegendTable legend_;
   CViewState view_;
-  LearntDrawing learnt_;
-  TwinCanvases twins_{kWidth, kHeight, learnt_};
+  RasterCache cache_;
+  CanvasPair pair_{kWidth, kHeight, cache_};
   Dice dice_{static_cast<unsigned>(GetParam())};
 };
 
 TEST_P(DibPainters, DrawLinesOfEveryKind) {
-  LinePainter painter(twins_, view_, legend_);
+  LinePainter painter(pair_, view_, legend_);
   for (int kind = 101; kind <= 105; ++kind) {
     for (const int width : {0, 1, 2}) {
       const std::int16_t legend =
@@ -58,11 +58,11 @@ TEST_P(DibPainters, DrawLinesOfEveryKind) {
     }
   }
   painter.DrawCircle(101, {1e6, 1e6}, 1.41421e6);
-  EXPECT_TRUE(twins_.AreSame());
+  EXPECT_TRUE(pair_.AreSame());
 }
 
 TEST_P(DibPainters, DrawPointsOfEveryKind) {
-  PointPainter painter(twins_, view_, legend_);
+  PointPainter painter(pair_, view_, legend_);
   for (int round = 0; round < 8; ++round) {
     for (int kind = 1; kind <= 11; ++kind) {
       const std::int16_t legend = Add(
@@ -74,14 +74,14 @@ TEST_P(DibPainters, DrawPointsOfEveryKind) {
       }
     }
   }
-  EXPECT_TRUE(twins_.AreSame());
+  EXPECT_TRUE(pair_.AreSame());
 }
 
-// The first of each pass has no look before it; all others have that of the one before.
+// The first of each pass has no symbol before it; all others have that of the one before.
 TEST_P(DibPainters, DrawWhatHasNoLegendEntry) {
   constexpr std::int16_t kUnknown = 999;
   constexpr std::int16_t kNone = -1;
-  LinePainter lines(twins_, view_, legend_);
+  LinePainter lines(pair_, view_, legend_);
   lines.DrawCircle(kNone, {5, 5}, 30);
   lines.DrawSegment(kUnknown, {-50, -50}, {50, 50});
   lines.DrawCircle(kUnknown, {8, 5}, 30);
@@ -92,14 +92,14 @@ TEST_P(DibPainters, DrawWhatHasNoLegendEntry) {
     lines.DrawCircle(kNone, Ground(), 20);
     lines.DrawCircle(legend, Ground(), 25);
   }
-  PointPainter points(twins_, view_, legend_);
+  PointPainter points(pair_, view_, legend_);
   points.Draw({1, 1, u"A", Ground(), kUnknown});
   for (std::int16_t legend = 1; legend <= LegendTable::kPointLegends; ++legend) {
     points.Draw({1, 1, u"A", {legend * 8.0 - 50, -20.0}, legend});
     points.Draw({2, 2, u"B", {legend * 8.0 - 50, 20.0}, kUnknown});
     points.Draw({3, 3, u"C", {legend * 8.0 - 50, 60.0}, kNone});
   }
-  EXPECT_TRUE(twins_.AreSame());
+  EXPECT_TRUE(pair_.AreSame());
 }
 
 INSTANTIATE_TEST_SUITE_P(Degrees, DibPainters, testing::Values(0, 15, 90, 133, 180, 270, 359));

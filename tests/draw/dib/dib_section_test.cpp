@@ -1,5 +1,7 @@
 #include "draw/dib/dib_section.h"
 
+#include <afxwin.h>
+
 #include <gtest/gtest.h>
 
 namespace tavix::test {

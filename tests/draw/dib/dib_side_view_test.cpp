@@ -4,7 +4,7 @@
 #include <string>
 
 #include "draw/side_view.h"
-#include "tests/draw/dib/twin_canvases.h"
+#include "tests/draw/dib/canvas_pair.h"
 
 namespace tavix::test {
 namespace {
@@ -31,10 +31,10 @@ class DibSideView : public testing::TestWithParam<unsigned> {
   Dice dice_{GetParam()};
   CViewState view_;
   LegendTable legend_;
-  CPnt3List points_{0};
+  CPnt3List points_;
 };
 
-TEST_P(DibSideView, IsTheSystems) {
+TEST_P(DibSideView, IsGdis) {
   std::int16_t legend = AddLegend();
   for (int key = 1; key <= 600; ++key) {
     if (dice_.Between(0, 9) == 0) legend = AddLegend();
@@ -43,11 +43,11 @@ TEST_P(DibSideView, IsTheSystems) {
     points_.Add({key, dice_.Between(-5, 999), name, view_.ScreenToGround(plan),
                  static_cast<double>(dice_.Between(-60, 60)), legend});
   }
-  LearntDrawing learnt;
-  TwinCanvases twins(kWidth, kHeight, learnt);
-  DrawSideView(twins, {view_, legend_, points_, kWidth, kHeight, 0.0});
-  EXPECT_TRUE(twins.AreSame());
-  EXPECT_TRUE(twins.ShowSomething());
+  RasterCache cache;
+  CanvasPair pair(kWidth, kHeight, cache);
+  DrawSideView(pair, {view_, legend_, points_, kWidth, kHeight, 0.0});
+  EXPECT_TRUE(pair.AreSame());
+  EXPECT_TRUE(pair.ShowSomething());
 }
 
 INSTANTIATE_TEST_SUITE_P(Dice, DibSideView, testing::Values(1U, 2U, 3U, 4U));

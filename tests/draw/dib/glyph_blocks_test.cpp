@@ -1,4 +1,4 @@
-#include "draw/dib/glyph_blocks.h"
+#include "draw/dib/glyph.h"
 
 #include <gtest/gtest.h>
 
@@ -12,16 +12,16 @@ namespace {
 constexpr int kCell = 11;
 constexpr ScreenPoint kOrigin{4, 3};
 
-// Levels that leave their share of every value, but `odd`, which does not.
-SmoothBlend Blend(int odd) {
-  SmoothBlend blend;
+// Levels of a fixed weight, but for `odd`.
+BlendTable Blend(int odd) {
+  BlendTable blend;
   for (int level = 0; level < 255; ++level) {
-    BlendRamp ramp;
+    BlendRow row;
     for (int value = 0; value < 256; ++value) {
-      ramp.at(static_cast<std::size_t>(value)) = static_cast<std::uint8_t>(value * level / 255);
+      row.at(static_cast<std::size_t>(value)) = static_cast<std::uint8_t>(value * level / 255);
     }
-    if (level == odd) ramp[100] = static_cast<std::uint8_t>(ramp[100] + 2);
-    blend.Learn(static_cast<std::uint8_t>(level), ramp);
+    if (level == odd) row[100] = static_cast<std::uint8_t>(row[100] + 2);
+    blend.Set(static_cast<std::uint8_t>(level), row);
   }
   return blend;
 }
@@ -47,7 +47,7 @@ void Colour(BlockPicture& picture) {
 }
 
 TEST(GlyphsInBlocks, DrawWhatTheGlyphDraws) {
-  const SmoothBlend blend = Blend(-1);
+  const BlendTable blend = Blend(-1);
   std::minstd_rand random;
   for (const int pixels : {0, 1, 2, 5, 20, 60, 200}) {
     for (int round = 0; round < 20; ++round) {
@@ -70,7 +70,7 @@ TEST(GlyphsInBlocks, DrawWhatTheGlyphDraws) {
 
 // Wherever they fit, nothing outside of the picture is touched; the sanitizers watch.
 TEST(GlyphsInBlocks, FitOnlyWhereAllOfABlockIsInside) {
-  const SmoothBlend blend = Blend(-1);
+  const BlendTable blend = Blend(-1);
   std::minstd_rand random;
   for (int round = 0; round < 50; ++round) {
     const auto blocks = GlyphBlocks::From(AnyGlyph(random, 1 + round), blend);
@@ -88,7 +88,7 @@ TEST(GlyphsInBlocks, FitOnlyWhereAllOfABlockIsInside) {
   }
 }
 
-TEST(GlyphsInBlocks, AreNotMadeWhereALevelLeavesNoFixedShare) {
+TEST(GlyphsInBlocks, AreNotMadeWhereALevelHasNoFixedWeight) {
   BlockPicture picture(20, 20);
   picture.Set(5, 5, 154 * 0x00010101);
   const auto glyph = Glyph::FromPicture(picture.Block(), kOrigin, kCell);

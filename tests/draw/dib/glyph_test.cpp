@@ -9,15 +9,15 @@ namespace {
 
 constexpr std::uint32_t kGrey80 = 0x00808080;
 
-// A level that takes everything down by its own share, and black.
-SmoothBlend Blend() {
-  SmoothBlend blend;
+// A level that leaves half of the background, and black.
+BlendTable Blend() {
+  BlendTable blend;
   for (const int level : {0, 0x80}) {
-    BlendRamp ramp;
+    BlendRow row;
     for (int value = 0; value < 256; ++value) {
-      ramp.at(static_cast<std::size_t>(value)) = static_cast<std::uint8_t>(value * level / 255);
+      row.at(static_cast<std::size_t>(value)) = static_cast<std::uint8_t>(value * level / 255);
     }
-    blend.Learn(static_cast<std::uint8_t>(level), ramp);
+    blend.Set(static_cast<std::uint8_t>(level), row);
   }
   return blend;
 }
@@ -43,7 +43,7 @@ TEST(Glyphs, RememberTheirPixelsAndTheWayToTheNext) {
 
 TEST(Glyphs, DarkenWhatLiesBelow) {
   const auto glyph = Glyph::FromPicture(CharacterPicture().Block(), {2, 2}, 2);
-  const SmoothBlend blend = Blend();
+  const BlendTable blend = Blend();
   BlockPicture drawn(4, 4, 0x00FF8040);
   glyph->Draw(drawn.Block(), blend, {0, 0});
   EXPECT_EQ(0u, drawn.At(1, 1));
@@ -54,7 +54,7 @@ TEST(Glyphs, DarkenWhatLiesBelow) {
 
 TEST(Glyphs, AreCutAtEachEdge) {
   const auto glyph = Glyph::FromPicture(CharacterPicture().Block(), {2, 2}, 2);
-  const SmoothBlend blend = Blend();
+  const BlendTable blend = Blend();
   const struct {
     ScreenPoint at;
     const char* picture;

@@ -1,11 +1,10 @@
-// What is known of a picture against a look at every pixel of it.
+// What is known of a picture, against a scan of every pixel of it.
 #include "draw/dib/painted_area.h"
 
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "tests/draw/dib/block_picture.h"
+#include "tests/draw/random_scene.h"
 
 namespace tavix::test {
 namespace {
@@ -24,14 +23,10 @@ bool EveryPixelHas(const PixelBlock& block, const PixelBox& box, std::uint32_t v
 
 class PaintedAreas : public testing::Test {
  protected:
-  int Between(int low, int high) {
-    return low + static_cast<int>(random_() % static_cast<unsigned>(high - low + 1));
-  }
-
   PixelBox Box() {
-    const int left = Between(-90, 170);
-    const int top = Between(-90, 120);
-    return {left, top, left + Between(0, 90), top + Between(0, 90)};
+    const int left = dice_.Between(-90, 170);
+    const int top = dice_.Between(-90, 120);
+    return {left, top, left + dice_.Between(0, 90), top + dice_.Between(0, 90)};
   }
 
   void Fill(const PixelBox& box, std::uint32_t value) {
@@ -42,7 +37,7 @@ class PaintedAreas : public testing::Test {
     }
   }
 
-  std::mt19937 random_{5};
+  Dice dice_{5};
   BlockPicture picture_{141, 97};
   PaintedArea<PixelBlock> area_{picture_.Block()};
 };

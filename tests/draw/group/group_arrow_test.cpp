@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "tests/draw/group/group_test.h"
-#include "tests/draw/group/ink_canvas.h"
+#include "tests/draw/group/raw_ink_picture.h"
 #include "tests/support/picture_compare.h"
 
 namespace tavix::test {
@@ -27,7 +27,7 @@ class GroupArrow : public GroupTest {
 
   void Expect(const Row& row) {
     SetUpPlot(row);
-    const InkCanvas canvas(row.height, row.width);
+    const RawInkPicture canvas(row.height, row.width);
     for (const POINT& at : row.ink) DrawRawPoint(canvas.Dc(), {4, 1}, at);
     canvas.Arrow(row.arrow);
     EXPECT_TRUE(SamePicture(canvas.Take(), Build(row.height, row.width))) << row.what;
@@ -92,13 +92,13 @@ TEST_F(GroupArrow, TakesTheFramesBorderForInk) {
   constexpr int kWide = 400;
   MakePlot(240, 180);
   ASSERT_EQ(0, Tavix_SetWak(1, 254, 2970, 254, 2100));
-  const InkCanvas first(kHigh, kWide);
+  const RawInkPicture first(kHigh, kWide);
   first.Arrow({70, 70});
   EXPECT_TRUE(SamePicture(first.Take(), Build(kHigh, kWide)));
   ASSERT_EQ(0, Tavix_WakDsp(1));
   ASSERT_EQ(0, Tavix_GrpStt(kHigh, kWide));
   ASSERT_EQ(0, Tavix_WakDsp(0));  // to read without the border
-  const InkCanvas second(kHigh, kWide);
+  const RawInkPicture second(kHigh, kWide);
   second.Arrow({330, 70});
   EXPECT_TRUE(SamePicture(second.Take(), Read(kHigh, kWide)));
 }

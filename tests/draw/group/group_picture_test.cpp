@@ -4,7 +4,7 @@
 #include <string>
 
 #include "tests/draw/group/group_test.h"
-#include "tests/draw/group/ink_canvas.h"
+#include "tests/draw/group/raw_ink_picture.h"
 #include "tests/support/picture_compare.h"
 #include "tests/support/raw_canvas.h"
 
@@ -30,7 +30,7 @@ TEST_F(GroupPictureOf, NothingIsWhiteButForTheArrow) {
     int width;
   } rows[] = {{180, 240}, {200, 200}, {140, 300}, {300, 141}, {131, 32}, {90, 33}, {1, 1}};
   for (const auto& row : rows) {
-    const InkCanvas canvas(row.height, row.width);
+    const RawInkPicture canvas(row.height, row.width);
     canvas.Arrow({70, 70});
     EXPECT_TRUE(SamePicture(canvas.Take(), Build(row.height, row.width)))
         << row.height << " by " << row.width;
@@ -40,7 +40,7 @@ TEST_F(GroupPictureOf, NothingIsWhiteButForTheArrow) {
 TEST_F(GroupPictureOf, EveryMarkAndColourIsInkButWhite) {
   for (const COLORREF color : {COLORREF{0}, kYellow, kCyan, kLightGrey, RGB(255, 0, 0), kWhite}) {
     Tavix_DrwClr();
-    const InkCanvas canvas(kHeight, kWidth);
+    const RawInkPicture canvas(kHeight, kWidth);
     for (int kind = 2; kind <= 11; ++kind) {
       const PointLegend look{kind, 13, 12, kind % 2, 1 + kind % 3, color};
       const POINT at{20 + 20 * kind, 30 + 12 * (kind % 5)};
@@ -58,7 +58,7 @@ TEST_F(GroupPictureOf, AWhiteMarkHidesWhatIsUnderIt) {
   const PointLegend hole{8, 15, 0, 0, 1, kWhite};
   ASSERT_EQ(0, Enter(1, GroundAt({180, 120}), AddLegend(square)));
   ASSERT_EQ(0, Enter(2, GroundAt({180, 120}), AddLegend(hole)));
-  const InkCanvas canvas(kHeight, kWidth);
+  const RawInkPicture canvas(kHeight, kWidth);
   DrawRawPoint(canvas.Dc(), InInk(square), {180, 120});
   DrawRawPoint(canvas.Dc(), hole, {180, 120});
   canvas.Arrow({70, 70});
@@ -85,7 +85,7 @@ TEST_F(GroupPictureOf, LinesAndFiguresAreInkButWhite) {
   ASSERT_EQ(0, Tavix_FigMdlLin(from.x, from.y, to.x, to.y));
   ASSERT_EQ(0, Tavix_FigEnd());
 
-  const InkCanvas canvas(kHeight, kWidth);
+  const RawInkPicture canvas(kHeight, kWidth);
   canvas.Line({140, 100}, {238, 60});
   canvas.Line({150, 20}, {230, 170});
   {
@@ -103,7 +103,7 @@ TEST_F(GroupPictureOf, ACircleWithoutALegendEntryIsInkAndHollow) {
   ASSERT_EQ(0, Tavix_FigMdlCir(centre.x, centre.y, 40.0));
   ASSERT_EQ(0, Tavix_FigMdlCir(centre.x, centre.y - 5.0, 40.0));
   ASSERT_EQ(0, Tavix_FigEnd());
-  const InkCanvas canvas(kHeight, kWidth);
+  const RawInkPicture canvas(kHeight, kWidth);
   ::Ellipse(canvas.Dc(), 220, 160, 140, 80);
   ::Ellipse(canvas.Dc(), 215, 160, 135, 80);
   canvas.Arrow({70, 70});
@@ -124,7 +124,7 @@ TEST_F(GroupPictureOf, TheGroundWidthOfTheWindowFillsThePicture) {
       {180, 240, {170, 120}},
   };
   for (const auto& row : rows) {
-    const InkCanvas canvas(row.height, row.width);
+    const RawInkPicture canvas(row.height, row.width);
     DrawRawPoint(canvas.Dc(), InInk(cross), row.at);
     canvas.Arrow({70, 70});
     EXPECT_TRUE(SamePicture(canvas.Take(), Build(row.height, row.width)))
@@ -142,7 +142,7 @@ TEST_F(GroupPictureOf, TurnsWithTheView) {
       {0, {200, 70}}, {90, {140, 170}}, {180, {40, 110}}, {270, {100, 10}}, {30, {199, 112}}};
   for (const auto& row : rows) {
     ASSERT_EQ(0, Tavix_SetAng(row.degrees));
-    const InkCanvas canvas(kHeight, kWidth);
+    const RawInkPicture canvas(kHeight, kWidth);
     DrawRawPoint(canvas.Dc(), InInk(square), row.at);
     // 270 degrees: the mark stands in the first square's columns 96 to 104, and in its rows.
     canvas.Arrow(
@@ -156,7 +156,7 @@ TEST_F(GroupPictureOf, HasTheVerticalRatioOfTheView) {
   const PointLegend square{6, 9, 0, 0, 1, kYellow};
   ASSERT_EQ(0, Enter(1, {-20.0, 50.0}, AddLegend(square)));
   ASSERT_EQ(0, Tavix_SetTatYok(3, 1));
-  const InkCanvas canvas(kHeight, kWidth);
+  const RawInkPicture canvas(kHeight, kWidth);
   DrawRawPoint(canvas.Dc(), InInk(square), {170, 150});
   canvas.Arrow({70, 70});
   EXPECT_TRUE(SamePicture(canvas.Take(), Build(kHeight, kWidth)));
@@ -170,7 +170,7 @@ TEST_F(GroupPictureOf, OneSheetIsThePicturesWidthInFrameMode) {
   const int width = 250;
   // The sheet's height stands for 170 m of ground, its width for 170 * 210 / 297.
   const double scale = width / (170.0 * 210 / 297);
-  const InkCanvas canvas(height, width);
+  const RawInkPicture canvas(height, width);
   DrawRawPoint(canvas.Dc(), InInk(square),
                {static_cast<LONG>(125 + 30 * scale), static_cast<LONG>(150 + 20 * scale)});
   canvas.Arrow({70, 70});
@@ -181,7 +181,7 @@ TEST_F(GroupPictureOf, ItsScaleHasTheCapOfEveryView) {
   const PointLegend square{6, 9, 0, 0, 1, kYellow};
   ASSERT_EQ(0, Enter(1, {0.0, 0.00048828125}, AddLegend(square)));
   ASSERT_EQ(0, Tavix_Zom(-0.0004, -0.0005, 0.0004, 0.0005));  // cut to 100000 pixels a metre
-  const InkCanvas canvas(kHeight, 480);
+  const RawInkPicture canvas(kHeight, 480);
   DrawRawPoint(canvas.Dc(), InInk(square), {240 + 48, 90});
   canvas.Arrow({70, 70});
   EXPECT_TRUE(SamePicture(canvas.Take(), Build(kHeight, 480)));

@@ -1,6 +1,6 @@
 // What the user draws beside the figures of a survey.
 
-#include "tests/host/window_test.h"
+#include "tests/host/support/main_window_fixture.h"
 
 namespace fieldhost {
 namespace {

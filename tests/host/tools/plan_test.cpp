@@ -36,7 +36,7 @@ POINT PlanTest::PixelOf(double north, double east) const {
           std::lround(size.cy * 0.5 - (north - kSide / 2) * pixels_per_metre_)};
 }
 
-// Painted after the fit, and without buttons, every corner has its mark and nothing else is there.
+// Painted after the fit, and without buttons, every vertex has its mark and nothing else is there.
 bool PlanTest::ShowsTheSurveyAlone() const {
   constexpr int kMarkRadius = 2;
   const tavix::test::Picture shown = Shown();

@@ -3,7 +3,7 @@
 // positions.
 #pragma once
 
-#include "tests/host/window_test.h"
+#include "tests/host/support/main_window_fixture.h"
 
 namespace fieldhost {
 
@@ -14,7 +14,7 @@ class PlanTest : public WindowTest {
   // The plot has no buttons, which a mouse over them would light up.
   void SetUp() override;
 
-  // Taps the pixel of a ground position, whatever size the window has got since, as long as the
+  // Taps the pixel of a ground position, also after the window was resized, as long as the
   // view was not panned or turned.
   void Tap(double north, double east) const;
   // For a view that was zoomed about its middle.

@@ -64,8 +64,8 @@ class SheetFrame : public PlanTest {
     Close(FillDialog(paper, landscape, scale), IDOK);
   }
 
-  // Paper, scale and origin as the line tells them of the view as it is now.
-  [[nodiscard]] std::wstring ToldSheet() const {
+  // Paper, scale and origin of the view as it is now, as the line shows them.
+  [[nodiscard]] std::wstring ShownSheet() const {
     Command(ID_TOOL_CANCEL);
     return TextOf(Info());
   }
@@ -102,7 +102,7 @@ TEST_F(SheetFrame, ShowsPaperScaleAndOrigin) {
   constexpr double kPixels = 2.0;  // metres
   double north = 0.0;
   double east = 0.0;
-  ASSERT_EQ(2, std::swscanf(ToldSheet().c_str(), L"A4 1:1000 X %lf Y %lf", &north, &east));
+  ASSERT_EQ(2, std::swscanf(ShownSheet().c_str(), L"A4 1:1000 X %lf Y %lf", &north, &east));
   EXPECT_NEAR(50.0 - 297.0 / 2, north, kPixels);
   EXPECT_NEAR(50.0 - 210.0 / 2, east, kPixels);
   ExpectTallFrame(210.0 / 297.0);
@@ -117,7 +117,7 @@ TEST_F(SheetFrame, ShowsPaperScaleAndOrigin) {
 TEST_F(SheetFrame, TakesEveryWayUpAndATypedScale) {
   ChooseSheet(kA3, true, L"1:750");
   ExpectInfoBegins(L"A3 landscape 1:750  X ");
-  ChooseSheet(kB4, false, L"99");  // of those whose scale the library tells one too low
+  ChooseSheet(kB4, false, L"99");  // one of those that the library reports one too low
   ExpectInfoBegins(L"B4 1:99  X ");
   Exit();
 }
@@ -128,10 +128,10 @@ TEST_F(SheetFrame, DialogSaysWhatIsWrongWithAScale) {
     const wchar_t* said;
   } rows[] = {
       {L"", L"Type a scale, such as 500 for 1:500."},
-      {L"0", L"'0' is no scale: type a whole number from 1 to 1000000."},
-      {L"-5", L"'-5' is no scale: type a whole number from 1 to 1000000."},
-      {L"abc", L"'abc' is no scale: type a whole number from 1 to 1000000."},
-      {L"2:500", L"'2:500' is no scale: type a whole number from 1 to 1000000."},
+      {L"0", L"'0' is not a scale: type a whole number from 1 to 1000000."},
+      {L"-5", L"'-5' is not a scale: type a whole number from 1 to 1000000."},
+      {L"abc", L"'abc' is not a scale: type a whole number from 1 to 1000000."},
+      {L"2:500", L"'2:500' is not a scale: type a whole number from 1 to 1000000."},
   };
   const HWND dialog = FillDialog(kA4, false, L"500");
   for (const auto& row : rows) {
@@ -197,19 +197,19 @@ TEST_F(SheetFrame, WithoutASheetThereIsNoneToMove) {
   Exit();
 }
 
-TEST_F(SheetFrame, IsLaidOutAnewInAResizedWindow) {
+TEST_F(SheetFrame, IsLaidOutAgainInAResizedWindow) {
   ChooseSheet(kA4, false, L"25000");
   ExpectInfoBegins(L"A4 1:25000  X ");
   const std::wstring before = TextOf(Info());
   for (const int width : {420, 360, 300}) {
     Widen(width);
     ExpectTallFrame(210.0 / 297.0);
-    EXPECT_EQ(before, ToldSheet());
+    EXPECT_EQ(before, ShownSheet());
   }
   Exit();
 }
 
-TEST_F(SheetFrame, IsLaidOutAnewBesideTheButtons) {
+TEST_F(SheetFrame, IsLaidOutAgainBesideTheButtons) {
   ChooseSheet(kA3, true, L"1000");
   ExpectInfoBegins(L"A3 landscape 1:1000  X ");
   const std::wstring before = TextOf(Info());
@@ -221,10 +221,10 @@ TEST_F(SheetFrame, IsLaidOutAnewBesideTheButtons) {
   EXPECT_EQ(right_edge(), shown.width - 20 - 1);  // it runs on below where the buttons will be
   Command(ID_VIEW_BUTTONS);
   EXPECT_TRUE(WaitUntil([&] { return right_edge() == shown.width - 20 - 5; }));
-  EXPECT_EQ(before, ToldSheet());
+  EXPECT_EQ(before, ShownSheet());
   Command(ID_VIEW_BUTTONS);
   ExpectShown(shown);
-  EXPECT_EQ(before, ToldSheet());
+  EXPECT_EQ(before, ShownSheet());
   Exit();
 }
 

@@ -72,5 +72,68 @@ TEST(OriginAboutSameMiddle, StaysAtTheSameScale) {
   EXPECT_EQ(OriginAboutSameMiddle(origin, sheet, sheet.scale, 45), origin);
 }
 
+TEST(ParseScale, TakesWhatUsersType) {
+  const struct {
+    const char* typed;
+    int scale;
+  } rows[] = {
+      {"500", 500},
+      {" 500 ", 500},
+      {"1:500", 500},
+      {"1 : 500", 500},
+      {"1/500", 500},
+      {"1", 1},
+      {"1:1", 1},
+      {"1000000", 1000000},
+      {"1,000,000", 1000000},
+      {"25 000", 25000},
+      {"00250", 250},
+      {"５００", 500},
+      {"１：２５００", 2500},
+      {"１／１，０００", 1000},
+      {"　６００　", 600},
+  };
+  for (const auto& row : rows) EXPECT_EQ(row.scale, ParseScale(row.typed)) << row.typed;
+}
+
+TEST(ParseScale, RefusesTheRest) {
+  for (const char* typed :
+       {"",      "  ",  "0",    "1:0",  "-5",    "+5",      "abc",     "500m",
+        "2:500", "1:",  ":",    ":500", "1:5:5", "1:500/2", "1000001", "99999999999999999999",
+        "12.5",  "1e3", ",500", "0x10", "1:-5"}) {
+    EXPECT_EQ(std::nullopt, ParseScale(typed)) << typed;
+  }
+}
+
+TEST(NoScale, SaysWhatIsWrong) {
+  EXPECT_EQ("Type a scale, such as 500 for 1:500.", NoScale(" "));
+  EXPECT_EQ("'12.5' is not a scale: type a whole number from 1 to 1000000.", NoScale("12.5"));
+}
+
+TEST(UsualScales, AreScalesInOrder) {
+  EXPECT_TRUE(std::is_sorted(UsualScales().begin(), UsualScales().end()));
+  for (const int scale : UsualScales()) EXPECT_EQ(ParseScale(std::to_string(scale)), scale);
+}
+
+// The library reports the scale as it computes it here: for some scales one too low.
+TEST(ScaleNow, IsWhatWasSetThoughTheReportIsTruncated) {
+  int reported_one_too_low = 0;
+  for (int set = 1; set <= kLargestScale; ++set) {
+    const double sheet_by_ground = 1.0 / set;
+    const int reported = static_cast<int>(1.0 / sheet_by_ground);
+    reported_one_too_low += reported != set;
+    ASSERT_EQ(set, ScaleNow(reported, {set, reported}));
+  }
+  EXPECT_GT(reported_one_too_low, 0);
+}
+
+TEST(ScaleNow, IsTheReportOfAZoomedView) {
+  EXPECT_EQ(750, ScaleNow(750, {500, 500}));
+  EXPECT_EQ(499, ScaleNow(499, {500, 500}));
+  EXPECT_EQ(93, ScaleNow(93, {93, 92}));
+  EXPECT_EQ(0, ScaleNow(0, {500, 500}));
+  EXPECT_EQ(500, ScaleNow(500, {}));
+}
+
 }  // namespace
 }  // namespace fieldhost

@@ -7,7 +7,7 @@ namespace {
 
 using tavix::test::Picture;
 
-constexpr const wchar_t* kAskForCorner = L"Trace: tap the first corner.";
+constexpr const wchar_t* kAskForVertex = L"Trace: tap the first vertex.";
 
 class Toolbox : public PlanTest {
  protected:
@@ -22,9 +22,9 @@ TEST_F(Toolbox, AnotherToolEndsTheFirstWithoutATrace) {
   const Picture before = Shown();
   Command(ID_TOOL_TRACE);
   Tap(0, 0);
-  ExpectInfoBegins(L"1 corner");
+  ExpectInfoBegins(L"1 vertex");
   Tap(100, 0);
-  ExpectInfoBegins(L"2 corners");
+  ExpectInfoBegins(L"2 vertices");
   Command(ID_TOOL_CIRCLE);
   ExpectInfo(L"Circle: tap its centre.");
   ExpectShown(before);
@@ -54,17 +54,17 @@ TEST_F(Toolbox, ToolChosenAgainIsPutAway) {
 
 TEST_F(Toolbox, KeysWorkTheTool) {
   Press(VK_F7);
-  ExpectInfo(kAskForCorner);
+  ExpectInfo(kAskForVertex);
   Tap(0, 0);
-  ExpectInfoBegins(L"1 corner");
+  ExpectInfoBegins(L"1 vertex");
   Tap(100, 0);
-  ExpectInfoBegins(L"2 corners");
+  ExpectInfoBegins(L"2 vertices");
   Press(VK_BACK);
-  ExpectInfoBegins(L"1 corner");
+  ExpectInfoBegins(L"1 vertex");
   Tap(0, 100);
-  ExpectInfoBegins(L"2 corners");
+  ExpectInfoBegins(L"2 vertices");
   Press(VK_RETURN);
-  ExpectInfo(L"Line drawn: 2 corners  100.000 m");
+  ExpectInfo(L"Line drawn: 2 vertices  100.000 m");
   Press(VK_F6);
   ExpectInfo(L"Circle: tap its centre.");
   Press(VK_ESCAPE);

@@ -3,8 +3,7 @@
 #include <gtest/gtest.h>
 #include <tdialog.h>
 
-#include "platform/tdialog/ok_button_place.h"
-#include "tests/platform/framework_window/modal_driver.h"
+#include "tests/platform/support/modal_driver.h"
 #include "tests/platform/tdialog/test_resources.h"
 
 namespace {
@@ -123,31 +122,6 @@ TEST(DeviceDialog, CanBeUsedAgain) {
     EXPECT_EQ(IDOK, dialog.DoModal());
     EXPECT_TRUE(hasButton);
   }
-}
-
-TEST(OkButtonPlace, FirstClearCornerElseAStripBelow) {
-  const SIZE client = {100, 80};
-  const SIZE button = {30, 10};
-  const struct Row {
-    const char* name;
-    std::vector<RECT> items;
-    RECT place;
-    int extraHeight;
-  } rows[] = {
-      {"nothing there", {}, {65, 65, 95, 75}, 0},
-      {"items elsewhere", {{0, 0, 60, 80}}, {65, 65, 95, 75}, 0},
-      {"touching the margin", {{0, 0, 100, 60}}, {65, 65, 95, 75}, 0},
-      {"into the margin", {{0, 70, 61, 80}}, {65, 5, 95, 15}, 0},
-      {"both corners taken", {{0, 70, 61, 80}, {90, 0, 100, 3}}, {65, 85, 95, 95}, 20},
-      {"one that covers all", {{0, 0, 100, 80}}, {65, 85, 95, 95}, 20},
-  };
-  for (const Row& row : rows) {
-    const auto place = tdialog::PlaceOkButton(client, button, 5, row.items);
-    EXPECT_TRUE(::EqualRect(&place.button, &row.place)) << row.name;
-    EXPECT_EQ(row.extraHeight, place.extraHeight) << row.name;
-  }
-  const auto narrow = tdialog::PlaceOkButton({20, 8}, button, 5, {});
-  EXPECT_EQ(20, narrow.extraHeight) << "a dialog smaller than the button";
 }
 
 }  // namespace

@@ -12,6 +12,8 @@
 #include <string>
 #include <vector>
 
+#include "window/buttons/button_table.h"
+
 namespace {
 
 struct Picture {
@@ -156,8 +158,8 @@ TEST(ButtonPictures, PressedFacesAreSunkenAndTheOthersRaised) {
 
 TEST(ButtonPictures, RotatingBackIsTheMirrorImageOfRotating) {
   const auto files = ListedFiles();
-  const Picture clockwise = Read(files.at(433));
-  const Picture back = Read(files.at(437));
+  const Picture clockwise = Read(files.at(tavix::kRotateButton));
+  const Picture back = Read(files.at(tavix::kRotateBackButton));
   for (int y = 3; y < 17; ++y) {
     for (int x = 3; x < 17; ++x) {
       EXPECT_EQ(ColourAt(clockwise, x, y), ColourAt(back, 19 - x, y)) << x << ", " << y;

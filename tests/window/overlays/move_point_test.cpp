@@ -5,8 +5,8 @@
 #include "tests/support/message_pump.h"
 #include "tests/support/picture_compare.h"
 #include "tests/support/raw_canvas.h"
+#include "tests/support/raw_overlays.h"
 #include "tests/window/overlays/overlay_test.h"
-#include "tests/window/overlays/raw_overlays.h"
 
 namespace tavix::test {
 namespace {

@@ -3,9 +3,10 @@
 #include <cmath>
 
 #include "tests/support/picture_compare.h"
+#include "tests/support/plot_input.h"
 #include "tests/support/plot_test.h"
 #include "tests/support/raw_canvas.h"
-#include "tests/window/overlays/raw_overlays.h"
+#include "tests/support/raw_overlays.h"
 
 namespace tavix::test {
 namespace {
@@ -142,7 +143,7 @@ TEST_F(PaperFrame, KeepsItsOriginUnderANewScale) {
   ExpectOrigin(1000, 2000);
   EXPECT_EQ(0, Tavix_SetWakScl(1000));
   ExpectOrigin(1000, 2000);
-  Tavix_Drw(1);                            // the origin is worked out anew from the view
+  Tavix_Drw(1);                            // the origin follows from the view again
   const double pixel = 0.21 * 1000 / 120;  // ground under one, metres
   // The middle of the frame stays half a pixel beside the middle of the window.
   EXPECT_NEAR(1000, Origin().x, pixel);
@@ -198,15 +199,15 @@ TEST_F(PaperFrame, TheButtonsTellTheNewScale) {
   Enter(1, {0, 0}, 1);
   Enter(2, {100, 50}, 1);
   const struct {
-    WPARAM button;
-    double pixels_per_metre;     // afterwards
-  } rows[] = {{417, 1.5},        // whole: fitted into the frame, as above
-              {409, 1.5 * 1.5},  // zoom in
-              {413, 1.5},        // zoom out
-              {413, 1.0},
-              {417, 1.5}};  // whole: back to the view that was fitted
+    ButtonId button;
+    double pixels_per_metre;               // afterwards
+  } rows[] = {{kWholeViewButton, 1.5},     // whole: fitted into the frame, as above
+              {kZoomInButton, 1.5 * 1.5},  // zoom in
+              {kZoomOutButton, 1.5},       // zoom out
+              {kZoomOutButton, 1.0},
+              {kWholeViewButton, 1.5}};  // whole: back to the view that was fitted
   for (const auto& [button, pixels_per_metre] : rows) {
-    ::SendMessageW(Window(), WM_COMMAND, button, 0);
+    Press(button);
     EXPECT_EQ(static_cast<int>(170 / pixels_per_metre / 0.297), Scale()) << button;
     ExpectOrigin(50 + (90 - 175) / pixels_per_metre, 25 + (49 - 110) / pixels_per_metre);
   }

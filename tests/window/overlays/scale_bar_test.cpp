@@ -3,7 +3,7 @@
 #include "tests/support/picture_compare.h"
 #include "tests/support/plot_test.h"
 #include "tests/support/raw_canvas.h"
-#include "tests/window/overlays/raw_overlays.h"
+#include "tests/support/raw_overlays.h"
 
 namespace tavix::test {
 namespace {

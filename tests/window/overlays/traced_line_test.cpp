@@ -2,8 +2,8 @@
 
 #include "tests/support/picture_compare.h"
 #include "tests/support/raw_canvas.h"
+#include "tests/support/raw_overlays.h"
 #include "tests/window/overlays/overlay_test.h"
-#include "tests/window/overlays/raw_overlays.h"
 
 namespace tavix::test {
 namespace {

@@ -1,4 +1,4 @@
-// The colour field of the settings dialog, and the system's chooser behind it.
+// The colour field of the settings dialog, and the colour chooser behind it.
 #include <tavix/tavix.h>
 
 #include "tests/window/settings/settings_test.h"

@@ -5,13 +5,12 @@
 #include <deque>
 
 #include "tests/support/message_pump.h"
+#include "tests/support/plot_input.h"
 #include "tests/support/taken_memory.h"
 #include "tests/window/settings/settings_test.h"
 
 namespace tavix::test {
 namespace {
-
-constexpr int kSettingsButton = 429;
 
 constexpr UINT kNotify = 900;
 
@@ -99,12 +98,12 @@ TEST_F(SettingsEnd, EndsTheColourChooserToo) {
   }
 }
 
-// The button that opened the dialog is inside the system's handling of its click all the while.
+// The button that opened the dialog is still handling its click all the while.
 TEST_F(SettingsEnd, SurvivesTheButtonThatWasPressed) {
   for (const Way& way : kWays) {
     ASSERT_EQ(0, Tavix_SetBtn(1));
     const ::test::ModalDriver driver({End(way)});
-    const HWND button = ::GetDlgItem(Window(), kSettingsButton);
+    const HWND button = ButtonWindow(kSettingsButton);
     ::PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
     ::PostMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
     ASSERT_TRUE(PumpUntil([&] { return driver.Done() && !::IsWindow(button); })) << way.name;

@@ -8,29 +8,19 @@
 
 #include "tests/support/legend_bytes.h"
 #include "tests/support/picture_compare.h"
-#include "tests/support/raw_canvas.h"
+#include "tests/support/plot_input.h"
 #include "tests/window/settings/settings_test.h"
 
 namespace tavix::test {
 namespace {
 
-constexpr int kWhole = 417;
-constexpr int kRotate = 433;
-
-const PointLegend kCross{4, 9, 0, 0, 1, RGB(255, 0, 0)};
-
 class SettingsOfPlot : public SettingsTest {
  protected:
-  static void Press(int button) {
-    ::SendMessageW(Window(), WM_COMMAND, static_cast<WPARAM>(button), 0);
-  }
-
   // The step of the rotate button, which turns the view.
   static int StepInUse() {
-    int angle = -1;
     EXPECT_EQ(0, Tavix_SetAng(0));
-    Press(kRotate);
-    EXPECT_EQ(0, Tavix_GetAng(&angle));
+    Press(kRotateButton);
+    const int angle = Angle();
     EXPECT_EQ(0, Tavix_SetAng(0));
     return angle;
   }
@@ -39,12 +29,6 @@ class SettingsOfPlot : public SettingsTest {
     std::pair<int, int> ratio;
     Tavix_GetTatYok(&ratio.first, &ratio.second);
     return ratio;
-  }
-
-  static Picture PointsAt(std::initializer_list<POINT> pixels) {
-    const RawCanvas canvas(Window());
-    for (const POINT& at : pixels) DrawRawPoint(canvas.Dc(), kCross, at);
-    return canvas.Take();
   }
 };
 
@@ -123,7 +107,7 @@ TEST_F(SettingsOfPlot, DrawsLinesAndFiguresWhileTheBoxIsChecked) {
   ASSERT_EQ(0, Tavix_FigMdlLin(20.0, -30.0, 20.0, 30.0));
   ASSERT_EQ(0, Tavix_FigEnd());
   const Picture with = Redrawn();
-  const Picture without = PointsAt({{70, 90}, {170, 90}});
+  const Picture without = CrossesAt({{70, 90}, {170, 90}});
   ASSERT_FALSE(with == without);
   const Step is_on = [](HWND dialog) { EXPECT_TRUE(IsChecked(dialog, kDrawLines)); };
   const Step is_off = [](HWND dialog) { EXPECT_FALSE(IsChecked(dialog, kDrawLines)); };
@@ -138,9 +122,9 @@ TEST_F(SettingsOfPlot, DrawsLinesAndFiguresWhileTheBoxIsChecked) {
 TEST_F(SettingsOfPlot, RedrawsOnOkAndNotOnCancel) {
   ASSERT_EQ(0, Enter(1, {10.0, 20.0}, AddLegend(kCross)));
   Cancel();
-  EXPECT_TRUE(SamePicture(PointsAt({}), Shown()));
+  EXPECT_TRUE(SamePicture(CrossesAt({}), Shown()));
   Confirm();
-  EXPECT_TRUE(SamePicture(PointsAt({{140, 80}}), Shown()));
+  EXPECT_TRUE(SamePicture(CrossesAt({{140, 80}}), Shown()));
 }
 
 TEST_F(SettingsOfPlot, HasNoRatioUnlessOneWasGiven) {
@@ -206,13 +190,13 @@ TEST_F(SettingsOfPlot, FitsTheViewToAChangedRatio) {
   ASSERT_EQ(0, Enter(2, {40.0, 10.0}, look));
   ASSERT_EQ(0, Tavix_SetTatYok(1, 1));
   Confirm({Type(kVertical, L"2")});  // 80 high in 160 pixels
-  EXPECT_TRUE(SamePicture(PointsAt({{110, 170}, {130, 10}}), Shown()));
+  EXPECT_TRUE(SamePicture(CrossesAt({{110, 170}, {130, 10}}), Shown()));
   // The view fitted is the home view, and nothing is left to be fitted.
   ASSERT_EQ(0, Tavix_Zom(-45.0, -60.0, 45.0, 60.0));
   const Picture zoomed = Shown();
-  Press(kWhole);
-  EXPECT_TRUE(SamePicture(PointsAt({{110, 170}, {130, 10}}), Shown()));
-  Press(kWhole);
+  Press(kWholeViewButton);
+  EXPECT_TRUE(SamePicture(CrossesAt({{110, 170}, {130, 10}}), Shown()));
+  Press(kWholeViewButton);
   EXPECT_TRUE(SamePicture(zoomed, Shown()));
 }
 
@@ -222,9 +206,9 @@ TEST_F(SettingsOfPlot, KeepsTheViewWithTheSameRatio) {
   ASSERT_EQ(0, Enter(2, {20.0, 10.0}, look));
   ASSERT_EQ(0, Tavix_SetTatYok(2, 1));
   Confirm();
-  EXPECT_TRUE(SamePicture(PointsAt({{120, 90}, {130, 50}}), Shown()));
+  EXPECT_TRUE(SamePicture(CrossesAt({{120, 90}, {130, 50}}), Shown()));
   Confirm({Type(kVertical, L"2")});
-  EXPECT_TRUE(SamePicture(PointsAt({{120, 90}, {130, 50}}), Shown()));
+  EXPECT_TRUE(SamePicture(CrossesAt({{120, 90}, {130, 50}}), Shown()));
 }
 
 }  // namespace

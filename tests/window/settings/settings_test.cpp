@@ -4,10 +4,10 @@
 
 #include <cstddef>
 
+#include "tests/support/plot_input.h"
+
 namespace tavix::test {
 namespace {
-
-constexpr int kSettingsButton = 429;
 
 LRESULT Send(HWND dialog, int item, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
   return ::SendMessageW(::GetDlgItem(dialog, item), message, wParam, lParam);
@@ -87,8 +87,7 @@ void SettingsTest::RunDialog(const std::vector<Step>& steps) {
     });
   }
   const ::test::ModalDriver driver(std::move(all));
-  ::SendMessageW(Window(), WM_COMMAND, kSettingsButton,
-                 reinterpret_cast<LPARAM>(::GetDlgItem(Window(), kSettingsButton)));
+  Press(kSettingsButton);
   EXPECT_EQ(steps.size(), done) << "steps";
   EXPECT_EQ(0, left_open) << "dialogs left open";
 }

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/platform/framework_window/modal_driver.h"
+#include "tests/platform/support/modal_driver.h"
 #include "tests/support/plot_test.h"
 
 namespace tavix::test {

@@ -4,7 +4,7 @@
 // and needs a compiler that accepts it (GCC for Windows does).
 #pragma once
 
-#include "framework/cmd_target.h"
+#include "framework/message_map.h"
 
 namespace afx {
 

@@ -2,7 +2,6 @@
 // moves a value to the item or back (CWnd::UpdateData). A DDV function after it checks the value.
 #pragma once
 
-#include "framework/export.h"
 #include "framework/string.h"
 #include "framework/wnd.h"
 

@@ -1,4 +1,4 @@
-// CCeDBDatabase: a database of the device's object store.
+// CCeDBDatabase: a database of the device's object store; CCeDBEnum: a walk over the databases.
 //
 // A seek returns the record it found, or 0. Calls that fail say why through GetLastError.
 //
@@ -117,4 +117,22 @@ class AFX_FRAMEWORK CCeDBDatabase {
 
   CEOID m_oidDatabase = 0;  // of the open one
   CEOID m_oidCurrRec = 0;
+};
+
+class AFX_FRAMEWORK CCeDBEnum {
+ public:
+  // Over the databases of one type, or over all for 0.
+  explicit CCeDBEnum(DWORD dwIdentifier = 0);
+  ~CCeDBEnum();
+  CCeDBEnum(const CCeDBEnum&) = delete;
+  CCeDBEnum& operator=(const CCeDBEnum&) = delete;
+
+  // The next database, 0 behind the last. Once a database was deleted the walk is over
+  // (ERROR_KEY_DELETED) until it starts anew.
+  CEOID Next();
+
+  // Starts anew.
+  BOOL Reset(DWORD dwIdentifier = 0);
+
+  HANDLE m_hEnum = INVALID_HANDLE_VALUE;
 };

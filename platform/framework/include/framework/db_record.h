@@ -1,10 +1,107 @@
-// CCeDBRecord: a record in memory, on its way to or from a database.
+// CCeDBProp and CCeDBRecord: the properties of a database record, and a record in memory.
 #pragma once
 
+#include <windbase.h>
+
+#include <memory>
 #include <vector>
 
-#include "framework/db_prop.h"
+// A property of a record, or, without a value, a property to sort by.
+class AFX_FRAMEWORK CCeDBProp {
+ public:
+  enum enType : WORD {
+    Type_Undefined = 0,
+    Type_Short = CEVT_I2,
+    Type_UShort = CEVT_UI2,
+    Type_Long = CEVT_I4,
+    Type_ULong = CEVT_UI4,
+    Type_Filetime = CEVT_FILETIME,
+    Type_String = CEVT_LPWSTR,
+    Type_Blob = CEVT_BLOB,
+    Type_Bool = CEVT_BOOL,
+    Type_Double = CEVT_R8,
+  };
 
+  enum enSortFlags : WORD {
+    Sort_Ascending = 0,
+    Sort_Descending = CEDB_SORT_DESCENDING,
+    Sort_CaseInsensitive = CEDB_SORT_CASEINSENSITIVE,
+    Sort_UnknownFirst = CEDB_SORT_UNKNOWNFIRST,
+    Sort_GenericOrder = CEDB_SORT_GENERICORDER,
+  };
+
+  // Whether a string or blob is copied, or stays the caller's and must outlive the property.
+  enum enMode { Copy, NoCopy };
+
+  // ---- Making. A property without a value serves to sort, to filter and to delete.
+
+  CCeDBProp();
+  CCeDBProp(enType nType, WORD wIdent = 0, WORD wSortFlags = Sort_Ascending);
+  CCeDBProp(short iVal, WORD wIdent = 0);
+  CCeDBProp(USHORT uiVal, WORD wIdent = 0);
+  CCeDBProp(long lVal, WORD wIdent = 0);
+  CCeDBProp(ULONG ulVal, WORD wIdent = 0);
+  CCeDBProp(FILETIME filetime, WORD wIdent = 0);
+  CCeDBProp(LPCWSTR lpwstr, WORD wIdent = 0, enMode nMode = Copy);
+  CCeDBProp(CEBLOB blob, WORD wIdent = 0, enMode nMode = Copy);
+  // From a value of the device's calls; its string or blob is copied.
+  explicit CCeDBProp(const CEPROPVAL& value);
+
+  // A copy has strings and blobs of its own when the original has.
+  CCeDBProp(const CCeDBProp& prop);
+  CCeDBProp(CCeDBProp&& prop) noexcept;
+  CCeDBProp& operator=(const CCeDBProp& prop);
+  CCeDBProp& operator=(CCeDBProp&& prop) noexcept;
+  ~CCeDBProp();
+
+  // ---- What it is
+
+  WORD GetIdent() const { return HIWORD(m_propVal.propid); }
+  enType GetType() const { return static_cast<enType>(LOWORD(m_propVal.propid)); }
+  WORD GetSortFlags() const { return m_wSortFlags; }
+  void SetIdent(WORD wIdent);
+  void SetSortFlags(WORD wSortFlags) { m_wSortFlags = wSortFlags; }
+  // As the device's calls take it; good until the property changes.
+  const CEPROPVAL& GetPropVal() const { return m_propVal; }
+
+  // ---- Its value. Get does not convert: ask for the type the property has. Set gives the property
+  //      the type of the value. What GetString and GetBlob point to lives as long as the property
+  //      keeps its value.
+
+  short GetShort() const { return m_propVal.val.iVal; }
+  USHORT GetUShort() const { return m_propVal.val.uiVal; }
+  long GetLong() const { return m_propVal.val.lVal; }
+  ULONG GetULong() const { return m_propVal.val.ulVal; }
+  FILETIME GetFiletime() const { return m_propVal.val.filetime; }
+  LPWSTR GetString() const { return m_propVal.val.lpwstr; }
+  CEBLOB GetBlob() const { return m_propVal.val.blob; }
+  BOOL GetBool() const { return m_propVal.val.boolVal; }
+  double GetDouble() const { return m_propVal.val.dblVal; }
+
+  void SetShort(short iVal);
+  void SetUShort(USHORT uiVal);
+  void SetLong(long lVal);
+  void SetULong(ULONG ulVal);
+  void SetFiletime(FILETIME filetime);
+  void SetString(LPCWSTR lpwstr, enMode nMode = Copy);
+  void SetBlob(CEBLOB blob, enMode nMode = Copy);
+  void SetBool(BOOL boolVal);
+  void SetDouble(double dblVal);
+
+  WORD m_wSortFlags = Sort_Ascending;  // of a property to sort by
+
+ private:
+  void SetType(enType type);
+  void Swap(CCeDBProp& other) noexcept;
+  // Makes a string or blob the property's own; null stays null.
+  LPBYTE Keep(const void* bytes, size_t count);
+
+  CEPROPVAL m_propVal{};
+  std::unique_ptr<BYTE[]> m_copy;  // what the value points to, when it is the property's own
+};
+
+// A record on its way to or from a database.
+//
 // Properties that are added stay their owner's, who keeps them until the record is done with them.
 // Those that a read put in belong to the record, and their addresses are good until the next read.
 class AFX_FRAMEWORK CCeDBRecord {

@@ -5,7 +5,6 @@
 // AfxTermExtensionModule on detach.
 #pragma once
 
-#include "framework/export.h"
 #include "framework/object.h"
 #include "framework/platform.h"
 

@@ -1,11 +1,58 @@
-// The drawing objects: CPen, CBrush, CFont, CBitmap, CRgn. Each Create call needs an empty object
-// and is FALSE when the system refuses; constructors that create throw a CResourceException then.
+// The drawing objects: CGdiObject and its classes CPen, CBrush, CFont, CBitmap, CRgn.
 #pragma once
 
-#include "framework/gdi_object.h"
 #include "framework/geometry.h"
+#include "framework/object.h"
+#include "framework/platform.h"
 
+class CBitmap;
 class CDC;
+
+// The owner of one GDI object.
+//
+// An object that was created or attached is deleted with its CGdiObject. Select the old object back
+// into the device context first: GDI does not delete an object that is still selected, and it then
+// lives on until the process ends.
+class AFX_FRAMEWORK CGdiObject : public CObject {
+ public:
+  HGDIOBJ m_hObject = nullptr;
+
+  CGdiObject() = default;
+  ~CGdiObject() override;
+
+  operator HGDIOBJ() const { return m_hObject; }
+  HGDIOBJ GetSafeHandle() const { return m_hObject; }
+
+  // The object that owns the handle, or a temporary one that does not own it and lives as long as
+  // the handle; null for a null handle.
+  static CGdiObject* FromHandle(HGDIOBJ handle);
+
+  // Takes the handle over; the object must be empty. FALSE for a null handle. A stock object, or
+  // the stock bitmap that the system gives in place of one of no size, is held but never owned.
+  BOOL Attach(HGDIOBJ handle);
+  // Gives the handle back; the caller owns it.
+  HGDIOBJ Detach();
+  // Deletes the system's object. FALSE when empty or when the system refuses.
+  BOOL DeleteObject();
+
+  // Writes at most `count` bytes that describe the object (a LOGPEN, BITMAP, ...); the number
+  // written.
+  int GetObjectW(int count, void* object) const { return ::GetObjectW(m_hObject, count, object); }
+  int GetObjectA(int count, void* object) const { return GetObjectW(count, object); }
+  // OBJ_PEN, OBJ_BRUSH, ...; 0 for a dead handle.
+  UINT GetObjectType() const { return ::GetObjectType(m_hObject); }
+
+  // A stock object such as BLACK_PEN, WHITE_BRUSH, SYSTEM_FONT. Deleting it is harmless.
+  BOOL CreateStockObject(int index) { return Attach(::GetStockObject(index)); }
+  BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
+
+ protected:
+  // Holds a handle of the system's own. FALSE for a null handle.
+  BOOL Borrow(HGDIOBJ handle);
+};
+
+// Each Create call of the classes below needs an empty object and is FALSE when the system refuses;
+// constructors that create throw a CResourceException then.
 
 class AFX_FRAMEWORK CPen : public CGdiObject {
  public:
@@ -28,7 +75,7 @@ class AFX_FRAMEWORK CBrush : public CGdiObject {
   CBrush() = default;
   explicit CBrush(COLORREF colour);
   CBrush(int hatch, COLORREF colour);
-  explicit CBrush(class CBitmap* bitmap);
+  explicit CBrush(CBitmap* bitmap);
 
   static CBrush* FromHandle(HBRUSH handle);
   operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
@@ -39,7 +86,7 @@ class AFX_FRAMEWORK CBrush : public CGdiObject {
   }
   BOOL CreateBrushIndirect(const LOGBRUSH* brush) { return Attach(::CreateBrushIndirect(brush)); }
   // The bitmap must outlive the brush.
-  BOOL CreatePatternBrush(class CBitmap* bitmap);
+  BOOL CreatePatternBrush(CBitmap* bitmap);
   BOOL CreateSysColorBrush(int index) { return Borrow(::GetSysColorBrush(index)); }
   int GetLogBrush(LOGBRUSH* brush) const { return GetObjectW(sizeof(*brush), brush); }
 };

@@ -2,7 +2,6 @@
 // Detach gave it up, for example to the window whose bar it becomes.
 #pragma once
 
-#include "framework/export.h"
 #include "framework/object.h"
 #include "framework/string.h"
 

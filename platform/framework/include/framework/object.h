@@ -1,7 +1,6 @@
 // CObject: the root of the framework's classes.
 #pragma once
 
-#include "framework/export.h"
 #include "framework/platform.h"
 
 // What is known of a class while the program runs.

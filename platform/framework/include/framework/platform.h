@@ -1,4 +1,5 @@
-// The one place that includes <windows.h>.
+// What every header of the framework begins with: <windows.h>, included here alone, and what
+// framework.dll exports and its users import.
 //
 // The framework is the wide-character one whatever the host defines: every string parameter is
 // LPCWSTR. <windows.h> renames calls such as DrawText to DrawTextW or DrawTextA, and so would
@@ -11,6 +12,12 @@
 #define NOMINMAX
 #endif
 #include <windows.h>
+
+#if defined(AFX_FRAMEWORK_BUILD)
+#define AFX_FRAMEWORK __declspec(dllexport)
+#else
+#define AFX_FRAMEWORK __declspec(dllimport)
+#endif
 
 // Marks a handler of the message map; it says nothing to the compiler.
 #define afx_msg

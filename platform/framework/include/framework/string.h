@@ -10,7 +10,6 @@
 
 #include <cstdarg>
 
-#include "framework/export.h"
 #include "framework/platform.h"
 
 class AFX_FRAMEWORK CString {

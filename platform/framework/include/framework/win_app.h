@@ -2,7 +2,7 @@
 // one global object of a class derived from CWinApp; it is optional, see AfxPreTranslateMessage.
 #pragma once
 
-#include "framework/cmd_target.h"
+#include "framework/message_map.h"
 #include "framework/string.h"
 #include "framework/wnd.h"
 

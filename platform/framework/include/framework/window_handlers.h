@@ -2,9 +2,9 @@
 // CWnd holds one of each that passes the message on.
 #pragma once
 
+#include "framework/controls.h"
 #include "framework/dc.h"
 #include "framework/menu.h"
-#include "framework/scroll_bar.h"
 #include "framework/wnd.h"
 
 namespace afx {

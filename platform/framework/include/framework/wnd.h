@@ -8,8 +8,8 @@
 // Members named after macros of <windows.h> are declared twice, see framework/platform.h.
 #pragma once
 
-#include "framework/cmd_target.h"
 #include "framework/geometry.h"
+#include "framework/message_map.h"
 #include "framework/string.h"
 
 class CDC;

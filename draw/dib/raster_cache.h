@@ -1,0 +1,97 @@
+// What has been probed of GDI's drawing, kept from one redraw to the next.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "draw/dib/blend_table.h"
+#include "draw/dib/bounded_cache.h"
+#include "draw/dib/bresenham.h"
+#include "draw/dib/mark_mask.h"
+#include "draw/dib/smooth_labels.h"
+#include "store/symbols.h"
+
+namespace tavix {
+
+// The settings of the screen that GDI's drawing depends on. They are read before each redraw: the
+// messages that announce a change go to top-level windows only, and not every host hands them on.
+struct ScreenSettings {
+  UINT smoothing = 0;  // of text: whether, and how, as one number
+  int depth = 0;       // bits of a pixel, a second old at most
+
+  [[nodiscard]] static ScreenSettings Now();
+
+  friend bool operator==(const ScreenSettings&, const ScreenSettings&) = default;
+};
+
+// Which font GDI takes for labels of a height: another one when fonts are installed or removed, or
+// when another one replaces the default face.
+struct FontIdentity {
+  std::wstring face;
+  DWORD check_sum = 0;  // of the font's file
+  LONG height = 0;      // pixels, like the others
+  LONG ascent = 0;
+  LONG average_width = 0;
+  LONG largest_width = 0;
+  LONG weight = 0;
+
+  [[nodiscard]] static FontIdentity OfLabels(int height);
+
+  friend bool operator==(const FontIdentity&, const FontIdentity&) = default;
+};
+
+// Probes how GDI draws as that is needed, each thing once, and keeps it for the redraws to come.
+// Whatever it hands out has been verified against GDI's drawing; null stands for what is left to
+// GDI: what is not the same everywhere, and what comes after very many others. A pointer is valid
+// until FollowSettings is called or the cache destroyed.
+class RasterCache {
+ public:
+  RasterCache() = default;
+  RasterCache(const RasterCache&) = delete;
+  RasterCache& operator=(const RasterCache&) = delete;
+
+  // To be called before a redraw: drops what has changed since the last one. That is text when its
+  // smoothing has changed, a label's height when GDI takes another font for it, and everything when
+  // the screen has another depth.
+  void FollowSettings(const ScreenSettings& settings = ScreenSettings::Now());
+
+  // Solid lines of one pixel.
+  [[nodiscard]] const TieRule* Lines();
+
+  // The mark of a symbol.
+  [[nodiscard]] const MarkMask* Mark(const PointSymbol& symbol);
+
+  // Labels of this height in pixels and this colour.
+  [[nodiscard]] SmoothLabels* Labels(int height, std::uint32_t color = 0);
+
+ private:
+  struct CachedMark {
+    explicit CachedMark(const PointSymbol& symbol);
+    std::optional<MarkMask> mask;
+  };
+
+  // A height and a colour.
+  using LabelKey = std::pair<int, std::uint32_t>;
+
+  struct CachedLabels {
+    explicit CachedLabels(const SmoothFont& labels_font);
+
+    SmoothLabels labels;
+    FontIdentity font;
+    bool checked = true;  // the font is the same as before, since FollowSettings
+  };
+
+  bool lines_probed_ = false;
+  std::optional<TieRule> lines_;
+  BoundedCache<PointSymbol, CachedMark, kMostMarks> marks_;
+  std::map<std::uint32_t, BlendTable> blends_;  // by the text's colour
+  BoundedCache<LabelKey, CachedLabels, kMostFonts> labels_;
+  ScreenSettings settings_;
+};
+
+}  // namespace tavix

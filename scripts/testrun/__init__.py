@@ -1,1 +1,0 @@
-"""The parts of ./test: numbered steps, their tally, test reports, a display, a package's host."""

@@ -1,0 +1,151 @@
+#include "store/packed_rtree.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <random>
+#include <vector>
+
+namespace tavix {
+namespace {
+
+using Positions = std::vector<std::uint32_t>;
+
+bool Overlap(const GroundExtent& a, const GroundExtent& b) {
+  return a.min.north <= b.max.north && b.min.north <= a.max.north && a.min.east <= b.max.east &&
+         b.min.east <= a.max.east;
+}
+
+Positions InTree(PackedRTree& tree, const GroundExtent& box, std::size_t most) {
+  Positions found;
+  tree.ForEachInOrder([&](const GroundExtent& part) { return Overlap(part, box); },
+                      [&](std::uint32_t position) {
+                        found.push_back(position);
+                        return found.size() < most;
+                      });
+  return found;
+}
+
+// A scan of all entries, which are in the order of their positions.
+Positions InScan(const std::vector<PackedRTree::Entry>& entries, const GroundExtent& box,
+                 std::size_t most) {
+  Positions found;
+  for (const PackedRTree::Entry& entry : entries) {
+    if (!Overlap({entry.at, entry.at}, box)) continue;
+    found.push_back(entry.position);
+    if (found.size() == most) break;
+  }
+  return found;
+}
+
+struct Spread {
+  const char* name;
+  std::function<GroundPoint(std::mt19937&)> point;
+};
+
+double Uniform(std::mt19937& random, double low, double high) {
+  return std::uniform_real_distribution<double>(low, high)(random);
+}
+
+const Spread kSpreads[] = {
+    {"even",
+     [](std::mt19937& r) {
+       return GroundPoint{Uniform(r, 0, 1e4), Uniform(r, 0, 1e4)};
+     }},
+    {"round the origin",
+     [](std::mt19937& r) {
+       return GroundPoint{Uniform(r, -5, 5), Uniform(r, -5, 5)};
+     }},
+    {"a grid with repeated points",
+     [](std::mt19937& r) {
+       return GroundPoint{std::floor(Uniform(r, 0, 20)), std::floor(Uniform(r, 0, 20))};
+     }},
+    {"one point",
+     [](std::mt19937&) {
+       return GroundPoint{-7.0, 3e5};
+     }},
+    {"a line",
+     [](std::mt19937& r) {
+       return GroundPoint{12.5, Uniform(r, -1e3, 1e3)};
+     }},
+    {"towns far apart",
+     [](std::mt19937& r) {
+       const double town = std::floor(Uniform(r, 0, 4)) * 1e5;
+       return GroundPoint{town + Uniform(r, 0, 30), -town + Uniform(r, 0, 30)};
+     }},
+    {"a few extremely far away",
+     [](std::mt19937& r) {
+       const double far = Uniform(r, 0, 100) < 1 ? 1e300 : 1.0;
+       return GroundPoint{far * Uniform(r, -1e3, 1e3), far * Uniform(r, -1e3, 1e3)};
+     }},
+    {"tiny",
+     [](std::mt19937& r) {
+       return GroundPoint{Uniform(r, 0, 1) * 1e-310, 0.0};
+     }},
+};
+
+TEST(PackedRTree, GivesWhatAScanGives) {
+  for (const Spread& spread : kSpreads) {
+    for (const std::size_t count : {1U, 16U, 17U, 129U, 2500U}) {
+      SCOPED_TRACE(testing::Message() << spread.name << ", " << count);
+      std::mt19937 random(61);
+      std::vector<PackedRTree::Entry> entries;
+      std::uint32_t position = 0;
+      for (std::size_t i = 0; i < count; ++i) {
+        position += 1 + static_cast<std::uint32_t>(random() % 3);
+        entries.push_back({spread.point(random), position});
+      }
+      PackedRTree tree;
+      tree.Build(entries);
+      for (int i = 0; i < 300; ++i) {
+        // A box at one of the points or between two: from nothing to all.
+        ExtentBuilder box;
+        const GroundPoint at = entries[random() % count].at;
+        box.Include(at);
+        const double reach = std::ldexp(1.0, static_cast<int>(random() % 40) - 20);
+        box.Include(GroundPoint{at.north + reach * Uniform(random, -1, 1),
+                                at.east + reach * Uniform(random, -1, 1)});
+        if (i % 50 == 0) box.Include(entries[random() % count].at);
+        const std::size_t most = i % 3 == 0 ? count : 1 + random() % 12;
+        ASSERT_EQ(InScan(entries, box.Extent(), most), InTree(tree, box.Extent(), most)) << i;
+      }
+    }
+  }
+}
+
+TEST(PackedRTree, WithoutPointsVisitsNothing) {
+  PackedRTree tree;
+  EXPECT_TRUE(tree.IsEmpty());
+  EXPECT_TRUE(InTree(tree, {{1, 1}, {-1, -1}}, 10).empty());
+  tree.Build({{{0, 0}, 5}});
+  EXPECT_EQ(Positions{5}, InTree(tree, {{1, 1}, {-1, -1}}, 10));
+  tree.Build({});
+  EXPECT_TRUE(tree.IsEmpty());
+  EXPECT_TRUE(InTree(tree, {{1, 1}, {-1, -1}}, 10).empty());
+}
+
+TEST(PackedRTree, TestsFewOfManyPoints) {
+  std::mt19937 random(62);
+  for (const Spread& spread : {kSpreads[0], kSpreads[5], kSpreads[6]}) {
+    std::vector<PackedRTree::Entry> entries;
+    for (std::uint32_t i = 0; i < 100000; ++i) entries.push_back({spread.point(random), i});
+    PackedRTree tree;
+    tree.Build(entries);
+    int tests = 0;
+    for (std::size_t i = 0; i < 100; ++i) {
+      const GroundPoint at = entries[i * 997].at;
+      const GroundExtent box{{at.north + 0.1, at.east + 0.1}, {at.north - 0.1, at.east - 0.1}};
+      tree.ForEachInOrder(
+          [&](const GroundExtent& part) {
+            ++tests;
+            return Overlap(part, box);
+          },
+          [](std::uint32_t) { return true; });
+    }
+    EXPECT_LT(tests / 100, 400) << spread.name;
+  }
+}
+
+}  // namespace
+}  // namespace tavix

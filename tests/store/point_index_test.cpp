@@ -1,0 +1,146 @@
+// The search for the nearest point, compared with a plain scan of the list.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+#include <vector>
+
+#include "store/point_list.h"
+
+namespace tavix {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+
+// The rule, literally: gather up to ten candidates in list order, then choose.
+std::int32_t PlainNearest(const std::vector<Point>& points, double tolerance, GroundPoint at) {
+  std::vector<std::pair<std::int32_t, double>> candidates;
+  for (const Point& point : points) {
+    const double north = at.north - point.at.north;
+    const double east = at.east - point.at.east;
+    if (!(std::fabs(north) <= tolerance && std::fabs(east) <= tolerance)) continue;
+    candidates.emplace_back(point.key, north * north + east * east);
+    if (candidates.size() == 10) break;
+  }
+  if (candidates.empty()) return 0;
+  auto nearest = candidates.front();
+  for (const auto& candidate : candidates) {
+    if (candidate.second < nearest.second) nearest = candidate;
+  }
+  return nearest.first;
+}
+
+// A list under test and a plain vector of the same points. No key is 0.
+class PointsTwice {
+ public:
+  void Add(std::int32_t key, GroundPoint at) {
+    points_.Add({key, 1, u"P", at, 1});
+    plain_.push_back({key, 1, u"", at, 1});
+  }
+  void Move(std::size_t which, GroundPoint at) {
+    ASSERT_EQ(0, points_.Find(plain_[which].key));
+    ASSERT_EQ(0, points_.SetCurCrd(at));
+    plain_[which].at = at;
+  }
+  void Remove(std::size_t which) {
+    ASSERT_EQ(0, points_.Remove(plain_[which].key));
+    plain_.erase(plain_.begin() + static_cast<std::ptrdiff_t>(which));
+  }
+  void Clear() {
+    points_.Clear();
+    plain_.clear();
+  }
+  [[nodiscard]] std::size_t Count() const { return plain_.size(); }
+  [[nodiscard]] GroundPoint PositionOf(std::size_t which) const { return plain_[which].at; }
+
+  void ExpectSameNearest(double tolerance, GroundPoint at) const {
+    const std::int32_t expected = PlainNearest(plain_, tolerance, at);
+    std::int32_t key = 99;
+    const int code = points_.FindNearest(tolerance, at, &key);
+    ASSERT_EQ(plain_.empty() ? -3 : (expected == 0 ? -1 : 0), code);
+    ASSERT_EQ(key, expected) << tolerance << " round " << at.north << ", " << at.east;
+  }
+
+ private:
+  CPntList points_;
+  std::vector<Point> plain_;
+};
+
+// `whole`: coordinates are whole numbers, so that there are ties and points on the border;
+// `changes`: in a thousand steps; `strange`: some coordinates are not finite.
+void CompareInRandomUse(unsigned seed, int points, int side, bool whole, unsigned changes,
+                        bool strange) {
+  SCOPED_TRACE(testing::Message() << "seed " << seed);
+  std::mt19937 random(seed);
+  const auto coordinate = [&] {
+    if (strange && random() % 50 == 0) {
+      const double odd[] = {kInfinity, -kInfinity, kNoNumber, 1e300, -1e300, -0.0};
+      return odd[random() % 6];
+    }
+    const double value = std::uniform_real_distribution<double>(-side, side)(random);
+    return whole ? std::floor(value) : value;
+  };
+  const auto some_position = [&] { return GroundPoint{coordinate(), coordinate()}; };
+  PointsTwice lists;
+  std::int32_t key = 0;
+  for (int i = 0; i < points; ++i) lists.Add(++key, some_position());
+  for (int step = 0; step < 3000; ++step) {
+    if (random() % 1000 < changes) {
+      const auto choice = static_cast<unsigned>(random() % 100);
+      const std::size_t which = lists.Count() == 0 ? 0 : random() % lists.Count();
+      if (choice < 45 || lists.Count() == 0) {
+        lists.Add(++key, some_position());
+      } else if (choice < 70) {
+        lists.Move(which, some_position());
+      } else if (choice < 99) {
+        lists.Remove(which);
+      } else if (random() % 8 == 0) {
+        lists.Clear();
+        for (int i = 0; i < points; ++i) lists.Add(++key, some_position());
+      } else {  // many at once, so that the list closes its holes
+        while (lists.Count() > static_cast<std::size_t>(points) / 3)
+          lists.Remove(random() % lists.Count());
+      }
+    }
+    const bool at_a_point = lists.Count() > 0 && random() % 3 == 0;
+    const GroundPoint at =
+        at_a_point ? lists.PositionOf(random() % lists.Count()) : some_position();
+    double tolerance = std::ldexp(1.0, static_cast<int>(random() % 24) - 10);
+    if (whole) tolerance = static_cast<double>(random() % 12);
+    if (strange && random() % 30 == 0) tolerance = random() % 2 == 0 ? kInfinity : kNoNumber;
+    ASSERT_NO_FATAL_FAILURE(lists.ExpectSameNearest(tolerance, at)) << "step " << step;
+  }
+}
+
+TEST(NearestPoint, IsTheOneAScanFinds) {
+  unsigned seed = 70;
+  for (const int points : {5, 140, 1500}) {
+    for (const int side : {12, 60, 3000}) {
+      CompareInRandomUse(++seed, points, side, true, 0, false);
+      CompareInRandomUse(++seed, points, side, true, 10, false);
+      CompareInRandomUse(++seed, points, side, false, 200, false);
+      CompareInRandomUse(++seed, points, side, side == 60, 50, true);
+    }
+  }
+}
+
+// Differences are rounded: a point may lie on the border of the square by a rounding only.
+TEST(NearestPoint, IsOnTheBorderAsTheDifferenceRounds) {
+  std::mt19937 random(90);
+  for (const double base : {0.1, 1e5, 123456789.123}) {
+    PointsTwice lists;
+    for (int i = 0; i < 600; ++i) {
+      lists.Add(i + 1, {base + 0.1 * (i % 25), base + 0.1 * static_cast<double>(i / 25)});
+    }
+    for (int i = 0; i < 3000; ++i) {
+      const GroundPoint at{base + 0.1 * static_cast<double>(random() % 30),
+                           base + 0.1 * static_cast<double>(random() % 30)};
+      ASSERT_NO_FATAL_FAILURE(lists.ExpectSameNearest(0.1 * static_cast<double>(random() % 4), at));
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tavix

@@ -1,0 +1,62 @@
+// The plan: lines, figures and points as a map, with everything that stands over it.
+#pragma once
+
+#include <array>
+
+#include "draw/plan_view.h"
+#include "window/overlays/map_surround.h"
+#include "window/overlays/moved_point.h"
+#include "window/overlays/rubber_band.h"
+#include "window/overlays/traced_line.h"
+#include "window/scenes/scene.h"
+
+namespace tavix {
+
+class PlanScene : public Scene {
+ public:
+  // `band` is the topmost overlay; it belongs to the window.
+  PlanScene(const PlotLinks& links, const OverlaySurfaces& surfaces, const RatioSetting& ratio,
+            RubberBand& band);
+
+  int Fit() override;
+  void Draw(PlanCanvas& canvas) const override;
+  void DrawNew(const Point& point) override;
+  void DrawNew(const Line& line) override;
+  [[nodiscard]] std::span<Overlay* const> Overlays() const override { return overlays_; }
+  [[nodiscard]] GroundPoint GroundUnder(ScreenPoint at) const override;
+  [[nodiscard]] std::array<ScreenPoint, 3> BandCorners(ScreenPoint first,
+                                                       ScreenPoint opposite) const override;
+  [[nodiscard]] bool IsPickable() const override { return true; }
+  void MarkDirty() override;
+  bool TakeDirty() override;
+
+  // Pans by half the drawing area.
+  void PressArrow(WPARAM key) override;
+
+  // What a drawing pass of the plan reads.
+  [[nodiscard]] PlotData Data() const;
+
+  [[nodiscard]] bool DrawsLines() const { return draws_lines_; }
+  void SetDrawsLines(bool draws_lines) { draws_lines_ = draws_lines; }
+
+  [[nodiscard]] PaperFrameOverlay& Frame() { return frame_; }
+  [[nodiscard]] ScaleBarOverlay& ScaleBar() { return scale_bar_; }
+  [[nodiscard]] MovedPoint& Moved() { return moved_point_; }
+  [[nodiscard]] TracedLine& Trace() { return traced_line_; }
+
+ private:
+  template <class DrawOn>
+  void DrawAtOnce(DrawOn draw);
+
+  const PlotLinks& links_;
+  const OverlaySurfaces& surfaces_;
+  bool draws_lines_ = true;
+  PaperFrameOverlay frame_;
+  NorthArrowOverlay north_arrow_;
+  ScaleBarOverlay scale_bar_;
+  TracedLine traced_line_;
+  MovedPoint moved_point_;
+  std::array<Overlay*, 6> overlays_;  // bottom to top
+};
+
+}  // namespace tavix
