@@ -1,4 +1,4 @@
-// Measures how long the figures take to be read anew from their files, as each redraw reads them.
+// Measures how long the figures take to be read again from their files, as each redraw reads them.
 //
 //   figure_bench [FIGURES]      10000 without an argument; polylines of ten points
 //

@@ -71,7 +71,7 @@ class CFigList {
   // or -3 and zeros without a point.
   int GetExtent(GroundExtent* extent) const;
 
-  // The refit flag.
+  // Whether the extents may have changed since the last fit.
   [[nodiscard]] bool Changed() const { return changed_; }
   void SetChanged(bool changed) { changed_ = changed; }
 

@@ -1,7 +1,7 @@
 #include "platform/user_folder.h"
 
 #include <windows.h>
-// The shell's header wants the system's before it.
+// <shlobj.h> needs <windows.h> before it.
 #include <shlobj.h>
 
 namespace tavix {

@@ -1,16 +1,16 @@
-// Folders that environment variables name, and those of the user's own.
+// Folders named by environment variables, and folders of the user.
 #pragma once
 
 #include <string>
 
 namespace tavix {
 
-// The folder that the environment variable `variable` names at this moment, without closing
-// slashes. Empty when it is unset or names nothing.
+// The folder named by the environment variable `variable`, read at each call, without trailing
+// slashes. Empty when the variable is unset or empty.
 std::wstring FolderFromEnvironment(const wchar_t* variable);
 
-// The folder Tavix\`name` of the user's local application data, made when missing. Empty when the
-// user has no such data.
+// The folder Tavix\`name` in the user's local application data, created if missing. Empty when the
+// user has no such folder.
 std::wstring FolderOfUser(const wchar_t* name);
 
 }  // namespace tavix

@@ -1,4 +1,4 @@
-// UTF-16 text between the portable stores (char16_t) and the system's calls (wchar_t).
+// Converts UTF-16 text between the portable stores (char16_t) and Windows calls (wchar_t).
 #pragma once
 
 #include <cstddef>
@@ -6,7 +6,7 @@
 
 namespace tavix {
 
-// The two types hold the same UTF-16 units here; only the name of the type differs.
+// Both types hold UTF-16 units on Windows; only the types differ.
 static_assert(sizeof(wchar_t) == sizeof(char16_t));
 
 inline const wchar_t* AsWide(const char16_t* text) {

@@ -23,7 +23,7 @@ _INSTANTIATION = re.compile(r"\bINSTANTIATE_TEST_SUITE_P\s*\(\s*(\w*)\s*,\s*(\w+
 class Test:
     """One test; its code keeps string literals and has no comments."""
 
-    name: str  # as GoogleTest prints it, with * for what tells the cases of a TEST_P apart
+    name: str  # as GoogleTest prints it, with * for what distinguishes the cases of a TEST_P
     body: str
     helpers: str  # what stands in its file outside of all tests
 

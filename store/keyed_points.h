@@ -65,7 +65,8 @@ class KeyedPoints {
     return 0;
   }
 
-  // The refit flag: set by every change but that of number and name.
+  // Whether the extents may have changed since the last fit: set by every change but that of number
+  // and name.
   [[nodiscard]] bool Changed() const { return changed_; }
   void SetChanged(bool changed) { changed_ = changed; }
 

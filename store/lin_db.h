@@ -63,7 +63,8 @@ class CLinDb {
   // that old ones have.
   int Clear();
 
-  // The refit flag: set by Add, SetCurHan and Remove, a failed one too.
+  // Whether the extents may have changed since the last fit: set by Add, SetCurHan and Remove, a
+  // failed one too.
   [[nodiscard]] bool Changed() const { return changed_; }
   void SetChanged(bool changed) { changed_ = changed; }
 

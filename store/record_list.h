@@ -147,7 +147,7 @@ class RecordList {
     return first;
   }
 
-  // The outward search as specified: of two records with one key the one with fewer records between
+  // The outward search step by step: of two records with one key the one with fewer records between
   // it and the cursor is found.
   [[nodiscard]] std::optional<Position> NearestWithKey(std::int32_t key, Position start) const {
     Position back = start + 1;  // records from `back` on have been tried

@@ -55,8 +55,10 @@ bool StartsAtTheWrongEnd(double r1, double r2) {
 }  // namespace
 
 // The power series of the Fresnel integrals, X to the north and Y to the east:
-//   X = L (1 - tau^2/10 + tau^4/216 - tau^6/9360),  Y = L tau (1/3 - tau^2/42 + tau^4/1320 -
-//   tau^6/75600),  L = A sqrt(2 tau); it ends early once a term of X falls below 1e-5.
+//   X = L (1 - tau^2/10 + tau^4/216 - tau^6/9360)
+//   Y = L tau (1/3 - tau^2/42 + tau^4/1320 - tau^6/75600)
+//   L = A sqrt(2 tau)
+// It ends early once a term of X falls below 1e-5.
 GroundPoint ClothoidPoint(double tau, double a) {
   constexpr int kMostTerms = 4;
   constexpr double kSmallTerm = 1e-5;

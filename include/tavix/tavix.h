@@ -83,8 +83,7 @@
 #define TAVIX_CALL __declspec(dllimport)
 #endif
 
-// ---- Fixed values a host may need
-// ----------------------------------------------------------------
+// ---- Fixed values ------------------------------------------------------------------------------
 
 // Pixels that the column of buttons takes from the drawing area, at its right.
 inline constexpr int kTavixButtonColumn = 20;

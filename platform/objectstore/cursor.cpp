@@ -99,7 +99,7 @@ Outcome<ObjectId> Cursor::SeekFromHere(std::int64_t offset) {
   if (offset == 1 && record_) return StandAt(NextRecord());
   auto here = static_cast<std::int64_t>(index_->Entries().Size());
   if (record_) here = static_cast<std::int64_t>(index_->Entries().Index(Locate()));
-  // The place of a deleted record lies just before the one that followed it.
+  // The place of a deleted record is just before the record that followed it.
   if (deleted_ && offset > 0) --here;
   return StandAtIndex(here + offset);
 }
@@ -131,7 +131,7 @@ SortIndex::Position Cursor::Smaller(const Property& value) const {
   return index_->FirstNotBefore(*FindProperty(heap_->Properties(slot), Order().property));
 }
 
-// The record behind the cursor; there must be a remembered one.
+// The record after the cursor, which must not be at the end.
 SortIndex::Position Cursor::NextRecord() {
   const Position here = Locate();
   return deleted_ ? here : index_->Entries().Next(here);

@@ -7,20 +7,20 @@
 
 namespace tavix {
 
-// Stands on a record, at the end of the order, or where a record was deleted: then the record that
-// followed it is remembered, so that a walk goes on there. What happens to other records does not
-// move it.
+// It is on a record, at the end of the order, or at the place of a deleted record: then the record
+// that followed is remembered, so that a walk goes on there. Changes to other records do not move
+// it.
 class Cursor {
  public:
   using Slot = RecordHeap::Slot;
 
-  // Stands on the first record. The index and the heap must outlive the cursor. An incrementing
+  // Starts on the first record. The index and the heap must outlive the cursor. An incrementing
   // cursor goes on to the next record after each read, and when its record is deleted.
   Cursor(SortIndex& index, const RecordHeap& heap, bool auto_increment);
 
   [[nodiscard]] const SortOrder& Order() const { return index_->Order(); }
 
-  // Every kind of seek but that for an object, for which StandOn serves. A seek that finds nothing
+  // Every kind of seek except the one for an object, which is StandOn. A seek that finds nothing
   // leaves the cursor at the end with kNoMoreItems; kInvalidParameter for a value of another
   // property than the order's.
   Outcome<ObjectId> Seek(const SeekTarget& target);
@@ -33,7 +33,7 @@ class Cursor {
   [[nodiscard]] Outcome<RecordView> Peek() const;
   Outcome<RecordView> Read();
 
-  // A record is about to be deleted, or to take another place in this cursor's order.
+  // To be called before a record is deleted, or moves within this cursor's order.
   void BeforeDelete(Slot slot);
   void BeforeMove(Slot slot);
 
@@ -55,9 +55,9 @@ class Cursor {
   bool auto_increment_;
 
   std::optional<Slot> record_;  // none: the end
-  bool deleted_ = false;        // the cursor's record is gone; `record_` is the one behind it
+  bool deleted_ = false;  // the cursor's record was deleted; `record_` is the one that followed it
 
-  Position position_;  // of `record_`, while the entries have this version
+  Position position_;  // of `record_`, valid while the entries have version `version_`
   std::uint64_t version_ = 0;
 };
 

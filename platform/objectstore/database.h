@@ -27,19 +27,20 @@ class Database {
 
   // ---- Description
 
-  // The part of a name that counts: up to 31 characters.
+  // The significant part of a name: its first 31 characters.
   static std::u16string_view CutName(std::u16string_view name);
   void SetName(std::u16string_view name);
   void SetType(std::uint32_t type);
 
-  // kInvalidParameter for orders that cannot be.
+  // kInvalidParameter for more than four orders, an order on a blob or on an unknown type, or two
+  // orders on one tag.
   static StoreError CheckOrders(std::span<const SortOrder> orders);
   // The orders have been checked, and no cursor is open.
   void SetOrders(std::span<const SortOrder> orders);
 
   // ---- Cursors
 
-  // Null when there is no order on this property. The cursor must go before the database.
+  // Null when no sort order uses this property. The cursor must be destroyed before the database.
   std::unique_ptr<Cursor> OpenCursor(PropertyId sort, bool auto_increment);
   void CloseCursor(const Cursor& cursor);
   [[nodiscard]] bool IsOpen() const { return !cursors_.empty(); }

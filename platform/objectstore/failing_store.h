@@ -1,4 +1,4 @@
-// A store for tests that fails where it is told to.
+// A store for tests that fails on request.
 #pragma once
 
 #include <array>
@@ -7,8 +7,8 @@
 
 namespace tavix {
 
-// Passes every call on to another store until the call's turn to fail has come; a call that fails
-// so does not reach the other store.
+// Forwards every call to another store, except those that Fail makes fail: they do not reach the
+// other store.
 class FailingStore : public ObjectStore {
  public:
   enum class Operation {
@@ -34,9 +34,9 @@ class FailingStore : public ObjectStore {
 
   // After `passing` more calls of this operation, the next `times` calls fail with `error`.
   void Fail(Operation operation, StoreError error, int passing = 0, int times = kAlways);
-  // Takes back what Fail asked for.
+  // Undoes Fail.
   void Pass(Operation operation);
-  // How often the operation was called, failures included.
+  // The number of calls of the operation, failures included.
   [[nodiscard]] int Calls(Operation operation) const;
 
   Outcome<ObjectId> CreateDatabase(std::u16string_view name, std::uint32_t type,
@@ -65,7 +65,7 @@ class FailingStore : public ObjectStore {
     int calls = 0;
   };
 
-  // kNone when the call is to be passed on.
+  // kNone when the call is to be forwarded.
   StoreError Turn(Operation operation);
 
   ObjectStore& inner_;

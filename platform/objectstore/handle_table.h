@@ -9,19 +9,19 @@
 
 namespace tavix {
 
-// What a handle stands for: a database with a seek pointer, or a walk over the databases.
+// What a handle refers to: a database with a seek pointer, or an enumeration of databases.
 struct OpenObject {
   Database* database = nullptr;  // null for an enumeration
   std::unique_ptr<Cursor> cursor;
 
   std::uint32_t type = 0;       // of the databases to find, 0 for all
-  ObjectId last_found = 0;      // the walk goes on behind this one
-  std::uint64_t deletions = 0;  // how many databases had been deleted when the walk began
+  ObjectId last_found = 0;      // the enumeration continues after this one
+  std::uint64_t deletions = 0;  // number of databases deleted before the enumeration began
 };
 
-// A handle that was closed finds nothing, also when its place is in use again: handles count how
-// often their place was taken. All have a high bit set that keeps them apart from the system's
-// handles, so that one passed to the system's CloseHandle by mistake closes nothing.
+// A closed handle finds nothing, even when its slot is in use again: a handle contains how often
+// its slot has been used. All handles have a high bit set that system handles do not have, so that
+// one passed to CloseHandle by mistake closes nothing.
 class HandleTable {
  public:
   [[nodiscard]] bool IsFull() const;

@@ -1,4 +1,4 @@
-// The object store in memory: what it holds is gone with the store.
+// The object store in memory: its contents are lost when it is destroyed.
 #pragma once
 
 #include <memory>
@@ -14,8 +14,7 @@ std::uint64_t SystemFileTime();
 
 class MemoryStore : public ObjectStore {
  public:
-  // `fold` decides what sorting without regard to case means; `clock` tells when a database
-  // changed.
+  // `fold` defines case-insensitive sorting; `clock` gives the time of a change.
   explicit MemoryStore(CaseFold fold = &FoldAscii, FileTimeClock clock = &SystemFileTime);
 
   Outcome<ObjectId> CreateDatabase(std::u16string_view name, std::uint32_t type,
@@ -41,9 +40,9 @@ class MemoryStore : public ObjectStore {
  private:
   [[nodiscard]] Database* DatabaseOf(ObjectId id) const;
   [[nodiscard]] Database* DatabaseNamed(std::u16string_view name) const;
-  // The open database behind a handle, null for an enumeration or a closed one.
+  // The open database of a handle; null for an enumeration or a closed handle.
   [[nodiscard]] OpenObject* OpenDatabaseOf(StoreHandle handle);
-  // The slot of a record of this database in `slot`; false when it is none.
+  // Stores the slot of a record of this database in `slot`; false when there is no such record.
   [[nodiscard]] bool FindRecord(const Database& database, ObjectId record,
                                 Database::Slot& slot) const;
   Outcome<ObjectId> WriteNew(OpenObject& open, std::span<const Property> properties);
@@ -55,7 +54,7 @@ class MemoryStore : public ObjectStore {
   ObjectDirectory directory_;
   std::vector<std::unique_ptr<Database>> databases_;  // in the order of creation
   std::uint64_t deletions_ = 0;                       // of databases, so far
-  HandleTable handles_;                               // last: its cursors go before the databases
+  HandleTable handles_;  // last member, so that its cursors are destroyed before the databases
 };
 
 }  // namespace tavix

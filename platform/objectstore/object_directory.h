@@ -1,4 +1,4 @@
-// Where the object with an identifier is.
+// From an identifier to its object.
 #pragma once
 
 #include <array>
@@ -12,9 +12,9 @@ namespace tavix {
 
 class Database;
 
-// Gives out identifiers in rising order, each once, and finds their objects in constant time. The
-// places lie in pages by identifier; a page goes when its last object has gone, so that what stays
-// behind of an old identifier is one empty pointer for every 1024 of them.
+// Assigns identifiers in ascending order, each once, and finds their objects in constant time. The
+// places are kept in pages of 1024 identifiers. A page is freed with its last object, so old
+// identifiers cost one null pointer for each page.
 class ObjectDirectory {
  public:
   static constexpr std::uint32_t kIsDatabase = 0xFFFFFFFF;
@@ -24,7 +24,7 @@ class ObjectDirectory {
     std::uint32_t slot = kIsDatabase;  // of a record
   };
 
-  // A new identifier, or 0 when all have been given out. Its place is set as soon as it is known.
+  // A new identifier, or 0 when all have been used. The caller sets its place next.
   ObjectId Add();
   void Set(ObjectId id, Place place);
 

@@ -1,16 +1,16 @@
-// The object store: databases of typed records, as the device keeps them.
+// The object store: databases of typed records, as on the device.
 //
-// What an implementation must keep to:
-//  1. Every database and every record has an identifier that is unique in the store. It is never
-//     used again, so an old one finds nothing rather than something else.
-//  2. A handle has one sort order and one seek pointer. The pointer is on a record, or at the end
-//     of the order, or at the place of a record that was deleted.
-//  3. The order: by the sort property's value, as the sort order's flags say; records with equal
-//     values in the order they were created; records without the property last, or first when the
-//     order says so.
-//  4. A record keeps its place at the seek pointers of all handles when its sort property changes.
-//  5. A call that fails changes nothing, except that a seek which finds nothing leaves the pointer
-//     at the end.
+// Rules for every implementation:
+//  1. Every database and every record has an identifier that is unique in the store. Identifiers
+//     are never reused: the identifier of a deleted object finds nothing.
+//  2. A handle has one sort order and one seek pointer. The pointer is on a record, at the end of
+//     the order, or at the place of a deleted record.
+//  3. The order: by the value of the sort property, according to the flags of the sort order;
+//     records with equal values in the order of their creation; records without the property last,
+//     or first if the order has `unknown_first`.
+//  4. A seek pointer stays on its record when a write moves the record in the order.
+//  5. A call that fails changes nothing, except that a seek that finds nothing moves the pointer to
+//     the end.
 //  6. One thread at a time.
 #pragma once
 
@@ -38,7 +38,7 @@ enum class StoreError {
   kTooManyOpen,       // no handles are left
 };
 
-// A result with the reason when there is none. True as a condition when the call worked.
+// A result, or the reason why there is no result. True in a condition when the call succeeded.
 template <class T>
 struct Outcome {
   T value{};
@@ -76,15 +76,15 @@ struct DatabaseInfo {
   std::uint32_t record_count = 0;
   std::uint64_t bytes = 0;     // of all values
   std::uint64_t modified = 0;  // 100 ns steps since the start of 1601, UTC
-  // How often a record was added, changed or deleted, one for each call that did: whoever keeps
-  // something beside the database sees whether it still fits.
+  // The number of calls that added, changed or deleted a record. Data derived from the database is
+  // up to date while this number stays the same.
   std::uint64_t changes = 0;
 
   [[nodiscard]] std::u16string_view Name() const { return name.data(); }
   [[nodiscard]] std::span<const SortOrder> Orders() const { return {orders.data(), order_count}; }
 };
 
-// What to make different about a database; what is not given stays.
+// Changes to a database; members without a value change nothing.
 struct DatabaseChange {
   std::optional<std::u16string_view> name = std::nullopt;
   std::optional<std::uint32_t> type = std::nullopt;
@@ -97,7 +97,7 @@ struct ObjectInfo {
   DatabaseInfo database;  // of a database
 };
 
-// What to seek, and from where. A seek by value needs the handle's sort property.
+// What to seek, and from where. A seek by value takes a value of the handle's sort property.
 struct SeekTarget {
   enum class Kind {
     kObject,      // the record with identifier `object`
@@ -155,25 +155,25 @@ class ObjectStore {
   // Of any object; kNotFound.
   virtual Outcome<ObjectInfo> Info(ObjectId object) = 0;
 
-  // All of it or nothing; fails as CreateDatabase does, and with kInUse for new orders while a
+  // Makes all changes or none. Fails as CreateDatabase does, and with kInUse for new orders while a
   // handle is open on the database.
   virtual StoreError ChangeDatabase(ObjectId database, const DatabaseChange& change) = 0;
 
   // ---- Handles
 
   // The seek pointer starts at the first record. `sort` is one of the database's sort properties;
-  // none takes its first order. Fails with
-  // kTooManyOpen. With `auto_increment` a read moves the pointer to the next record.
+  // without one the first order is used. With `auto_increment` a read moves the pointer to the next
+  // record. Fails with kTooManyOpen.
   virtual Outcome<StoreHandle> Open(ObjectId database, PropertyId sort, bool auto_increment) = 0;
 
-  // Walks over the databases of one type, or of all types for 0, in the order of their creation.
+  // Enumerates the databases of one type, or of all types for 0, in the order of their creation.
   virtual Outcome<StoreHandle> OpenEnumeration(std::uint32_t type) = 0;
 
-  // The next database of an enumeration; kNoMoreItems behind the last, kDeleted once any database
+  // The next database of an enumeration; kNoMoreItems after the last one, kDeleted if any database
   // was deleted since the enumeration began.
   virtual Outcome<ObjectId> NextDatabase(StoreHandle enumeration) = 0;
 
-  // Ends either sort of handle.
+  // Closes a handle of either kind.
   virtual StoreError Close(StoreHandle handle) = 0;
 
   // ---- Records
@@ -183,15 +183,15 @@ class ObjectStore {
   virtual Outcome<ObjectId> Seek(StoreHandle handle, const SeekTarget& target,
                                  std::uint32_t* index) = 0;
 
-  // kNoMoreItems at the end; kDeleted where the record is gone, unless the handle increments: then
-  // the record behind it is read.
+  // kNoMoreItems at the end; kDeleted if the record was deleted, unless the handle increments: then
+  // the next record is read.
   virtual Outcome<RecordView> Read(StoreHandle handle) = 0;
 
   // The same without moving the pointer of a handle that increments.
   virtual Outcome<RecordView> Peek(StoreHandle handle) = 0;
 
   // Sets, adds and removes properties of a record, or of a new one when `record` is 0, and leaves
-  // the seek pointer on it. Of two values for one property the later counts.
+  // the seek pointer on it. Of two values for one property the later one is used.
   virtual Outcome<ObjectId> Write(StoreHandle handle, ObjectId record,
                                   std::span<const Property> properties) = 0;
 

@@ -61,7 +61,7 @@ void OrderedEntries::Insert(Position position, const OrderedEntry& entry) {
   ++version_;
   ++size_;
   if (position == End()) {
-    // Entries that arrive in order fill stretch after stretch to the brim.
+    // Entries that arrive in order fill each stretch completely.
     if (stretches_.empty() || stretches_.back().size() == kMaxStretch) {
       stretches_.emplace_back();
       stretches_.back().reserve(kMaxStretch);
@@ -102,7 +102,7 @@ void OrderedEntries::Assign(const std::vector<OrderedEntry>& sorted) {
   ++version_;
   size_ = sorted.size();
   stretches_.clear();
-  // Three quarters full: room for what is put between later.
+  // Three quarters full, to leave room for later insertions.
   constexpr std::size_t kFill = kMaxStretch - kMaxStretch / 4;
   for (std::size_t from = 0; from < sorted.size(); from += kFill) {
     const std::size_t to = std::min(from + kFill, sorted.size());

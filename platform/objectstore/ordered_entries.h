@@ -1,4 +1,4 @@
-// A sorted row of records that takes insertions anywhere.
+// A sorted sequence of records with fast insertion anywhere.
 #pragma once
 
 #include <algorithm>
@@ -10,14 +10,14 @@
 
 namespace tavix {
 
-// Sums over the front of a row of counts, as a Fenwick tree: changing one count, summing the counts
-// before a place, and finding the place of the n-th counted thing all take logarithmic time.
+// Prefix sums of a sequence of counts, kept as a Fenwick tree: changing one count, summing the
+// counts before a place, and finding the place of the n-th item all take logarithmic time.
 class PrefixCounts {
  public:
-  // One place for each count of the row, in its order.
+  // One place for each count, in this order.
   void Assign(const std::vector<std::size_t>& counts);
 
-  // A further place at the end, with a count of 0.
+  // Adds a place with a count of 0 at the end.
   void Append();
 
   void Change(std::size_t place, std::ptrdiff_t by);
@@ -28,14 +28,14 @@ class PrefixCounts {
     std::size_t place;
     std::size_t rest;  // of n, within the place
   };
-  // The place whose count takes in the n-th thing, counted from 0; n is less than the whole sum.
+  // The place that contains item n, counted from 0; n is less than the total.
   [[nodiscard]] Found Find(std::size_t n) const;
 
  private:
   std::vector<std::size_t> tree_;  // tree_[i]: the sum of the LowBit(i + 1) counts that end at i
 };
 
-// A record in a sort order, with enough of its value to find its place without looking it up.
+// A record in a sort order, with enough of its value to compare most records without reading them.
 struct OrderedEntry {
   std::uint64_t number = 0;  // of the sort property's value
   ObjectId id = 0;
@@ -43,9 +43,9 @@ struct OrderedEntry {
   std::uint32_t unknown : 1 = 0;  // the record has no such property
 };
 
-// The row is cut into short stretches: an insertion moves the entries of one stretch only, and a
-// table of the stretches' lengths turns a position into an index and back. The order is the
-// caller's: it says where an entry goes.
+// The sequence is divided into short stretches: an insertion moves the entries of one stretch only,
+// and the prefix sums of the stretches' lengths convert a position to an index and back. The caller
+// keeps the order: it says where an entry goes.
 class OrderedEntries {
  public:
   struct Position {
@@ -71,8 +71,8 @@ class OrderedEntries {
   // End for an index of Size() or more.
   [[nodiscard]] Position AtIndex(std::size_t index) const;
 
-  // The first entry for which `before` is false; it is true for all entries up to there and for
-  // none behind.
+  // The first entry for which `before` is false. `before` must be true for all entries up to there
+  // and false for all others.
   template <class Before>
   [[nodiscard]] Position Partition(Before before) const {
     const auto last = std::partition_point(lasts_.begin(), lasts_.end(), before);
@@ -87,12 +87,12 @@ class OrderedEntries {
   void Insert(Position position, const OrderedEntry& entry);
   void Erase(Position position);
 
-  // Takes the place of all that was there; `sorted` is in order.
+  // Replaces all entries; `sorted` is in order.
   void Assign(const std::vector<OrderedEntry>& sorted);
-  // All entries in order, behind what `out` holds.
+  // Appends all entries, in order, to `out`.
   void AppendTo(std::vector<OrderedEntry>& out) const;
 
-  // Changes whenever positions do: a position is good while this stays the same.
+  // Changes whenever positions change: a position is valid while this stays the same.
   [[nodiscard]] std::uint64_t Version() const { return version_; }
 
  private:
@@ -103,7 +103,7 @@ class OrderedEntries {
   void TallyStretches();
 
   std::vector<Stretch> stretches_;
-  std::vector<OrderedEntry> lasts_;  // of each stretch, side by side for a quick search
+  std::vector<OrderedEntry> lasts_;  // of each stretch, in one array for a fast search
   PrefixCounts lengths_;
   std::size_t size_ = 0;
   std::uint64_t version_ = 0;

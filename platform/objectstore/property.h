@@ -1,4 +1,4 @@
-// The typed values that records of a database hold.
+// The typed values in the records of a database.
 #pragma once
 
 #include <cstddef>
@@ -23,7 +23,7 @@ enum class PropertyType : std::uint16_t {
   kBlob = 65,
 };
 
-// True for the nine types above, false for any other number a caller made into one.
+// True for the nine types above, false for any other number.
 bool IsKnownType(PropertyType type);
 
 // Strings and blobs: their value lies outside the property itself.
@@ -31,8 +31,8 @@ inline bool IsVariableSize(PropertyType type) {
   return type == PropertyType::kString || type == PropertyType::kBlob;
 }
 
-// What names a property in a record: the application's tag with the type of the value. Two
-// properties with one tag and different types are different properties.
+// Identifies a property in a record: the application's tag and the type of the value. Two
+// properties with the same tag and different types are different properties.
 class PropertyId {
  public:
   constexpr PropertyId() = default;
@@ -56,12 +56,12 @@ class PropertyId {
   std::uint32_t value_ = 0;
 };
 
-// One property with its value. A string or a blob is not owned: whoever makes the property keeps
-// the text or the bytes alive, and a property handed out by a store is good until the next change
-// of that store. A reader must ask for the type the property has.
+// One property with its value. A string or blob is not owned: the creator of the property keeps the
+// text or bytes alive, and a property returned by a store is valid until that store changes. Read
+// the value as the type that the property has.
 class Property {
  public:
-  // The most bytes a string or blob may have, and all values of one record together.
+  // The largest size in bytes of a string or blob, and of all values of one record together.
   static constexpr std::size_t kMaxValueBytes = 65471;
   static constexpr std::size_t kMaxRecordBytes = 131072;
 
@@ -95,9 +95,9 @@ class Property {
   static Property Blob(std::uint16_t tag, std::span<const std::byte> bytes) {
     return {PropertyId(tag, PropertyType::kBlob), bytes.data(), bytes.size()};
   }
-  // For writing only: takes the property out of the record.
+  // For writing only: removes the property from the record.
   static Property Removal(PropertyId id) { return {id, nullptr, kRemoval}; }
-  // The same property with its string or blob at another place.
+  // The same property with its string or blob at another address.
   static Property WithData(const Property& other, const void* data) {
     return {other.id_, data, other.size_};
   }
@@ -145,7 +145,7 @@ class Property {
 // The property with this identifier, or null.
 const Property* FindProperty(std::span<const Property> properties, PropertyId id);
 
-// The bytes the value takes: 2, 4 or 8, or the length of the string or blob.
+// The size of the value in bytes: 2, 4 or 8, or the length of the string or blob.
 std::size_t ValueBytes(const Property& property);
 
 // True when both hold the same property with the same value.
@@ -156,15 +156,15 @@ bool SameProperty(const Property& one, const Property& other);
 // False when a property has no known type, a string or blob is missing, or its value is too long.
 bool AreValid(std::span<const Property> properties);
 
-// True when the properties can be a new record as they are: none twice and no removals.
+// True when the properties can be stored as a new record unchanged: no duplicates and no removals.
 bool AreDistinct(std::span<const Property> properties);
 
-// The properties of a record after a write: values replace those with the same identifier, new ones
-// go to the end, removals take away. The views point where they did.
+// The properties of a record after a write: a value replaces one with the same identifier or is
+// appended, a removal removes it. Strings and blobs are not copied.
 std::vector<Property> MergeValues(std::span<const Property> record,
                                   std::span<const Property> written);
 
-// False when the values of one record are too long together.
+// False when the values are too large for one record.
 bool FitInRecord(std::span<const Property> properties);
 
 }  // namespace tavix

@@ -5,8 +5,8 @@
 namespace tavix {
 namespace {
 
-// A copy of a string or blob, with a zero character behind it: a reader may pass a string on as it
-// is. Every other value is its own copy.
+// A copy of a string or blob, followed by a zero character, so that readers can use a string in
+// place. Other values have no data to copy.
 Property Copy(const Property& property) {
   if (!IsVariableSize(property.Type())) return property;
   const std::span<const std::byte> bytes = property.AsBytes();
@@ -43,7 +43,7 @@ RecordHeap::Slot RecordHeap::Add(ObjectId id, std::span<const Property> properti
 }
 
 void RecordHeap::Replace(Slot slot, std::span<const Property> properties) {
-  // The new values are copied before the old ones go, for they may be the same memory.
+  // The new values are copied before the old ones are freed: they may be in the same memory.
   Record& record = records_[slot];
   const std::vector<Property> wanted(properties.begin(), properties.end());
   const Record old = record;

@@ -1,4 +1,4 @@
-// The records of one database, side by side in memory.
+// The records of one database in memory.
 #pragma once
 
 #include <cstddef>
@@ -10,9 +10,9 @@
 
 namespace tavix {
 
-// Records live in numbered slots. The properties of all records share one array, each record a
-// stretch of it; strings and blobs are single allocations that the heap owns. A slot keeps its
-// number while its record lives and may be used again afterwards.
+// Records have numbered slots. The properties of all records share one array, of which each record
+// has a stretch; strings and blobs are separate allocations that the heap owns. A slot keeps its
+// number while its record exists and may be reused afterwards.
 class RecordHeap {
  public:
   using Slot = std::uint32_t;
@@ -32,7 +32,7 @@ class RecordHeap {
 
   [[nodiscard]] ObjectId Id(Slot slot) const { return records_[slot].id; }
 
-  // Good until the heap next changes.
+  // Valid until the heap changes.
   [[nodiscard]] std::span<const Property> Properties(Slot slot) const {
     const Record& record = records_[slot];
     return {cells_.data() + record.first, record.count};
@@ -43,7 +43,7 @@ class RecordHeap {
 
   [[nodiscard]] std::size_t Count() const { return records_.size() - free_slots_.size(); }
 
-  // What all values take together.
+  // The size of all values in bytes.
   [[nodiscard]] std::uint64_t Bytes() const { return bytes_; }
 
  private:
@@ -53,7 +53,7 @@ class RecordHeap {
     std::uint32_t count = 0;  // of cells, all in use
   };
 
-  // A stretch of cells for `count` properties: one given back earlier, or new ones at the end.
+  // A stretch of cells for `count` properties: a free one, or a new one at the end.
   std::uint32_t TakeCells(std::uint32_t count);
   void GiveCellsBack(std::uint32_t first, std::uint32_t count);
   void Fill(Record& record, std::span<const Property> properties);

@@ -7,19 +7,19 @@
 
 namespace tavix {
 
-// ---- The order of property values, folded into one number as far as it goes
+// ---- The order of property values, expressed as one number as far as possible
 
 namespace {
 
 constexpr std::uint64_t kSignBit = std::uint64_t{1} << 63;
 
-// Two's complement to a number that rises: the negative half comes first.
+// Two's complement to an unsigned number in the same order: negative values come first.
 std::uint64_t FromSigned(std::int64_t value) {
   return static_cast<std::uint64_t>(value) ^ kSignBit;
 }
 
-// IEEE doubles rise with their bits when positive and fall when negative. Both zeros are one value;
-// what is no number stands beyond the infinities.
+// The bits of IEEE doubles increase with positive values and decrease with negative ones. Both
+// zeros are one value; NaN sorts beyond the infinities.
 std::uint64_t FromDouble(double value) {
   const auto bits = std::bit_cast<std::uint64_t>(value == 0.0 ? 0.0 : value);
   return (bits & kSignBit) != 0 ? ~bits : bits | kSignBit;
@@ -55,7 +55,7 @@ std::uint64_t Ascending(const Property& value, const SortOrder& order, CaseFold 
   return value.AsFileTime();
 }
 
-// A number that rises as the order goes on. Two values of one type other than string have equal
+// A number that increases along the order. Two values of one type other than string have equal
 // numbers exactly when they are equal; two strings with equal numbers agree in their first four
 // characters, and CompareStrings decides.
 std::uint64_t SortNumber(const Property& value, const SortOrder& order, CaseFold fold) {
@@ -63,7 +63,7 @@ std::uint64_t SortNumber(const Property& value, const SortOrder& order, CaseFold
   return order.descending ? ~number : number;
 }
 
-// The rest of the order of two strings: by UTF-16 units, a beginning before the whole.
+// The order of two strings: by UTF-16 units, a prefix before the longer string.
 std::strong_ordering CompareStrings(std::u16string_view one, std::u16string_view other,
                                     const SortOrder& order, CaseFold fold) {
   const auto compare_units = [&](char16_t left, char16_t right) {
@@ -111,7 +111,7 @@ void SortIndex::Settle() {
   const auto before = [this](const OrderedEntry& one, const OrderedEntry& other) {
     return Before(one, other);
   };
-  // A few are put in one by one; many are merged in one pass over everything.
+  // A few entries are inserted one by one; many are merged in one pass.
   constexpr std::size_t kFewShare = 16;
   if (pending_.size() * kFewShare <= entries_.Size() || pending_.size() == 1) {
     for (const OrderedEntry& entry : pending_) {

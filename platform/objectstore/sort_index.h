@@ -11,16 +11,16 @@
 
 namespace tavix {
 
-// Makes one character of all its cases, so that strings can be compared without regard to case.
+// Maps all cases of a character to one, for case-insensitive comparison.
 using CaseFold = char16_t (*)(char16_t);
 
-// Of the letters A to Z only.
+// For the letters A to Z only.
 char16_t FoldAscii(char16_t character);
 
-// Nothing is sorted until someone asks for the order: an index that no handle has ever used costs
-// nothing, and records that arrive in a burst are put in order together.
+// Sorting is deferred until the order is used: an index that no handle has used costs nothing, and
+// records that were added in a burst are sorted together.
 //
-// An order on no property is the order of creation.
+// An order without a property is the order of creation.
 class SortIndex {
  public:
   using Position = OrderedEntries::Position;
@@ -32,25 +32,25 @@ class SortIndex {
 
   [[nodiscard]] const SortOrder& Order() const { return order_; }
 
-  // A record has come.
+  // To be called after a record was added.
   void Add(Slot slot);
-  // A record is about to go, or to change; it must still have its values.
+  // To be called before a record is deleted or changed, while it still has its values.
   void Remove(Slot slot);
   // True when replacing the values of a record by `properties` moves it in this order.
   [[nodiscard]] bool Moves(Slot slot, std::span<const Property> properties) const;
 
-  // Puts all records in order. The calls below see the order as of the last of these.
+  // Puts all records in order. The calls below use the order as of the last Settle.
   void Settle();
 
   [[nodiscard]] const OrderedEntries& Entries() const { return entries_; }
 
-  // Where a record is.
+  // The position of a record.
   [[nodiscard]] Position Find(Slot slot) const;
 
-  // The first record with this value of the sort property, or behind it. Records without the
-  // property have no place among the values.
+  // The first record with this value of the sort property or a later one. Records without the
+  // property are not considered.
   [[nodiscard]] Position FirstNotBefore(const Property& value) const;
-  // The stretch of records that have the property.
+  // The range of records that have the property.
   [[nodiscard]] Position KnownBegin() const;
   [[nodiscard]] Position KnownEnd() const;
 
@@ -58,14 +58,14 @@ class SortIndex {
 
  private:
   [[nodiscard]] OrderedEntry Entry(Slot slot) const;
-  // The numbers settle nearly all of it: a search stays within the row.
+  // Nearly always the numbers decide, so that a search reads no records.
   [[nodiscard]] bool Before(const OrderedEntry& one, const OrderedEntry& other) const {
     if (one.unknown == other.unknown && one.number != other.number)
       return one.number < other.number;
     return BeforeBeyondNumbers(one, other);
   }
   [[nodiscard]] bool BeforeBeyondNumbers(const OrderedEntry& one, const OrderedEntry& other) const;
-  // The order of an entry's value and a value with its number; the entry has the property.
+  // Compares an entry's value with `value`, whose number is `number`; the entry has the property.
   [[nodiscard]] std::strong_ordering Compare(const OrderedEntry& entry, const Property& value,
                                              std::uint64_t number) const;
 

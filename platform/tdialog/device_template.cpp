@@ -5,8 +5,8 @@
 namespace tdialog {
 namespace {
 
-// Where a template has what, in WORDs. The names of menu and class and the title follow its head,
-// and then the size of the font, if there is one. An extended template begins with 1 and 0xFFFF.
+// Offsets in a template, in WORDs. The names of menu and class and the title follow the header,
+// then the size of the font, if there is one. An extended template begins with 1 and 0xFFFF.
 struct Layout {
   std::size_t style;
   std::size_t extendedStyle;
@@ -21,11 +21,11 @@ const Layout& LayoutOf(const std::vector<WORD>& words) {
   return words[0] == 1 && words[1] == 0xFFFF ? kExtended : kPlain;
 }
 
-// Styles that are looked at here, all but the font's in the upper half of theirs.
+// The upper halves of the styles that are read or changed here.
 constexpr WORD kCaptionOkButton = 0x8000;  // WS_EX_CAPTIONOKBTN
 constexpr WORD kVisible = HIWORD(WS_VISIBLE);
 
-// Where a name ends that begins at `at`: a text with its null, or 0xFFFF and a number.
+// The offset after the name at `at`: a text with its NUL, or 0xFFFF and a number.
 std::size_t PastName(const std::vector<WORD>& words, std::size_t at) {
   constexpr WORD kNumber = 0xFFFF;
   if (at < words.size() && words[at] == kNumber) return at + 2;
@@ -33,7 +33,8 @@ std::size_t PastName(const std::vector<WORD>& words, std::size_t at) {
   return at + 1;
 }
 
-// 0 when the template has no font of its own, or the system's for messages.
+// The offset of the font size; 0 when the template has no font of its own, or the system's message
+// font.
 std::size_t PointsAt(const std::vector<WORD>& words) {
   constexpr WORD kMessageFont = 0x7FFF;
   const Layout& layout = LayoutOf(words);
@@ -66,8 +67,8 @@ int DeviceTemplate::FontPoints() const { return pointsAt_ ? words_[pointsAt_] : 
 
 void DeviceTemplate::SetFontPoints(int points) { words_[pointsAt_] = static_cast<WORD>(points); }
 
-// Only the system knows what a dialog unit is with a font, and what borders and captions take: it
-// makes the window, without items and never shown.
+// Only the system knows the size of a dialog unit with a font, and of borders and captions. The
+// window is created without items and never shown.
 SIZE DeviceTemplate::WindowSize(int extraHeight) const {
   std::vector<WORD> bare = words_;
   const Layout& layout = LayoutOf(bare);

@@ -22,7 +22,7 @@ std::optional<int> ValueWithin(std::wstring_view text, const IntegerLimits& limi
   const bool negative = text.starts_with(L'-');
   if (negative) text.remove_prefix(1);
   if (text.empty() || !IsDigit(text.front())) return std::nullopt;
-  // Beyond this the limits decide whatever follows, and the sum cannot overflow.
+  // Larger than any limit, and small enough that the next step cannot overflow.
   constexpr long long kBeyondAnyLimit = 1LL << 40;
   long long value = 0;
   for (const wchar_t character : text) {

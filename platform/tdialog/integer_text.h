@@ -1,4 +1,4 @@
-// What may stand in an edit for a whole number, and what it means.
+// The text of an edit for a whole number: what is allowed in it, and its value.
 #pragma once
 
 #include <optional>
@@ -12,11 +12,12 @@ struct IntegerLimits {
   int digits;  // the most digits, without the minus
 };
 
-// Whether the text may stand in the edit while the user is typing: nothing, a minus (with a
-// smallest below 0), at most so many digits. The value need not be within the limits yet.
+// Whether the text is allowed in the edit while the user is typing: an optional minus (if
+// `smallest` is below 0) and at most `digits` digits, or nothing. The value may still be outside
+// the limits.
 bool MayStand(std::wstring_view text, const IntegerLimits& limits);
 
-// The number, brought within the limits; nothing for a text without digits.
+// The number, clamped to the limits; nothing for a text without digits.
 std::optional<int> ValueWithin(std::wstring_view text, const IntegerLimits& limits);
 
 }  // namespace tdialog

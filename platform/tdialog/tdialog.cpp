@@ -32,8 +32,9 @@ std::vector<PixelRect> ItemsOf(const CWnd& dialog) {
   return items;
 }
 
-// Where windows may stand on the screen that `window` is on, or on the main one without a window.
-// A program can set the main one's, which not every system lets its monitor know.
+// The work area of the monitor that shows `window`, or of the primary monitor without a window. The
+// work area of the primary monitor can be set by programs, and not every system reports that in
+// GetMonitorInfo.
 PixelRect WorkArea(HWND window) {
   MONITORINFO monitor = {};
   monitor.cbSize = sizeof monitor;
@@ -68,8 +69,8 @@ BOOL TDialog::Create(LPCWSTR templateName, CWnd* parent) {
   return CreateIndirect(dialogTemplate.Get(), parent);
 }
 
-// Dialog units come with the font. The strip that the OK button may need has room too: whether it
-// is needed shows only when the items are there.
+// Dialog units depend on the font. Room for the strip of the OK button is always included: whether
+// the strip is needed is known only when the items exist.
 void TDialog::FitToScreen(tdialog::DeviceTemplate& dialogTemplate, HWND owner) {
   m_wantsOkButton = dialogTemplate.HasCaptionOkButton();
   m_hasSmallerFont = FALSE;
@@ -88,7 +89,7 @@ void TDialog::FitToScreen(tdialog::DeviceTemplate& dialogTemplate, HWND owner) {
 }
 
 void TDialog::PreSubclassWindow() {
-  // The close box cancels; a template of the device need not ask for it.
+  // The close box cancels. Templates of the device may lack the style for it.
   if ((GetStyle() & WS_CAPTION) == WS_CAPTION) ModifyStyle(0, WS_SYSMENU);
   CDialog::PreSubclassWindow();
 }
@@ -124,7 +125,7 @@ void TDialog::AddOkButton() {
   SetDefID(IDOK);
 }
 
-// On a screen that is too small for its own font the dialog stands in the corner.
+// A dialog with a smaller font than its template's is placed in the upper left corner.
 void TDialog::StayOnScreen() {
   CRect window;
   GetWindowRect(window);

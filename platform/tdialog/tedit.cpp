@@ -25,7 +25,7 @@ std::wstring TextOf(const CWnd& window) {
   return std::wstring(text, static_cast<std::size_t>(text.GetLength()));
 }
 
-// The clipboard's text, or nothing. The clipboard is closed again.
+// The text on the clipboard, empty without one.
 std::wstring ClipboardText(HWND owner) {
   std::wstring text;
   if (!::OpenClipboard(owner)) return text;
@@ -47,7 +47,7 @@ BOOL TEditInt::Link(CWnd* dialog, UINT id, int emptyValue, int smallest, int lar
   m_largest = largest;
   m_digits = digits;
   if (!TEdit::Link(dialog, id)) return FALSE;
-  // Digits need no text composition, which would also go past the keys that are checked here.
+  // Digits need no input method, and its text would bypass the checks of OnChar.
   ::ImmAssociateContext(m_hWnd, nullptr);
   return TRUE;
 }
@@ -78,7 +78,7 @@ bool TEditInt::Accepts(LPCWSTR inserted) const {
 }
 
 void TEditInt::OnChar(UINT character, UINT repeatCount, UINT flags) {
-  const bool isControl = character < L' ';  // Backspace, Ctrl+C and their like
+  const bool isControl = character < L' ';  // Backspace, Ctrl+C and similar
   const wchar_t inserted[] = {static_cast<wchar_t>(character), 0};
   if (isControl || Accepts(inserted)) TEdit::OnChar(character, repeatCount, flags);
 }

@@ -170,7 +170,7 @@ TEST(StepExactly, AnyNumberOfRoundsIsPassedAtOnce) {
     for (const double step : row.steps) steps.push_back({step, -step});
     const GroundPoint end = StepExactly({row.at, -row.at}, steps, kMost);
     EXPECT_EQ(row.end, end.north) << row.what;
-    EXPECT_EQ(end.east, -row.end) << row.what;
+    EXPECT_EQ(-row.end, end.east) << row.what;
   }
   EXPECT_TRUE(std::isnan(StepExactly({std::nan(""), 0}, Steps{{1, 1}}, kMost).north));
 }

@@ -76,7 +76,7 @@ TEST_F(ImmediateDrawing, InATurnedAndStretchedView) {
 }
 
 // Nothing is before it: a full redraw shows it with the symbol of the point before.
-TEST_F(ImmediateDrawing, OfAPointWithoutALegendEntryIsNone) {
+TEST_F(ImmediateDrawing, OfAPointWithoutALegendEntryDrawsNothing) {
   MakePlot(200, 160);
   const PointLegend square{6, 15, 0, 0, 1, RGB(255, 0, 0)};
   Tavix_DrwFlg(1);

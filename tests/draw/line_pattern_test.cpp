@@ -119,7 +119,7 @@ std::size_t ExpectTheVisiblePieces(const CViewState& view, const Pieces& full, c
 }
 
 void ExpectSamePieces(const Pieces& given, const Pieces& expected) {
-  ASSERT_EQ(given.size(), expected.size());
+  ASSERT_EQ(expected.size(), given.size());
   for (std::size_t i = 0; i < given.size(); ++i) {
     ASSERT_TRUE(SamePiece(given[i], expected[i])) << i;
   }

@@ -14,8 +14,8 @@ namespace {
 
 constexpr wchar_t kNamePrefix[] = L"process-";
 
-// An open folder. While it is open nobody can rename or remove it. The system closes it with the
-// process, also with one that is killed, so that a process id that is used again does no harm.
+// An open folder. While it is open, no process can rename or remove it. The system closes it when
+// the process ends, even if it is killed, so that a reused process id does no harm.
 class HeldFolder {
  public:
   HeldFolder() = default;
@@ -37,7 +37,7 @@ class HeldFolder {
   HANDLE handle_ = INVALID_HANDLE_VALUE;
 };
 
-// What a pattern finds in a folder.
+// The files and folders that match a pattern.
 std::vector<WIN32_FIND_DATAW> Entries(const std::wstring& pattern) {
   std::vector<WIN32_FIND_DATAW> entries;
   WIN32_FIND_DATAW entry;
@@ -50,13 +50,14 @@ std::vector<WIN32_FIND_DATAW> Entries(const std::wstring& pattern) {
   return entries;
 }
 
-// A folder itself, and no link that leads to one.
+// A folder, but not a link to one.
 bool IsFolder(const WIN32_FIND_DATAW& entry) {
   constexpr DWORD kKind = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
   return (entry.dwFileAttributes & kKind) == FILE_ATTRIBUTE_DIRECTORY;
 }
 
-// Removes as much of a folder as can be removed, links in it too, but nothing that they lead to.
+// Removes a folder with its contents, as far as possible. Links in it are removed, not their
+// targets.
 void RemoveTree(const std::wstring& folder) {
   for (const WIN32_FIND_DATAW& entry : Entries(folder + L"\\*")) {
     const std::wstring name = entry.cFileName;
@@ -72,8 +73,8 @@ void RemoveTree(const std::wstring& folder) {
   RemoveDirectoryW(folder.c_str());
 }
 
-// Only a folder that nobody holds can be renamed, and under its new name nobody can begin to hold
-// it.
+// Only a folder that no process holds can be renamed, and no process holds a folder with the new
+// name.
 void RemoveFoldersWithoutOwner(const std::wstring& parent) {
   for (const WIN32_FIND_DATAW& entry : Entries(parent + L"\\" + kNamePrefix + L"*")) {
     if (!IsFolder(entry)) continue;
@@ -88,8 +89,8 @@ class OwnFolder {
   explicit OwnFolder(const std::wstring& parent) {
     if (parent.empty()) return;
     RemoveFoldersWithoutOwner(parent);
-    // A folder that is there already, or that another process takes for one without an owner before
-    // it is held, is left to others. More attempts than a few mean that none can be made.
+    // A name is given up when its folder exists already, or when another process removes the folder
+    // as ownerless before it is held. If several attempts fail, no folder can be created.
     constexpr int kAttempts = 20;
     const std::wstring name = parent + L"\\" + kNamePrefix + std::to_wstring(GetCurrentProcessId());
     for (int i = 0; i < kAttempts && !held_.IsHeld(); ++i) {
@@ -112,9 +113,9 @@ class OwnFolder {
   HeldFolder held_;
 };
 
-// Tavix\DeviceRoot\process-<id> in the user's local application data, without a closing backslash;
-// made at the first call and removed with its contents when the process ends. A folder that cannot
-// be made is named all the same; empty when the user has no local application data.
+// Tavix\DeviceRoot\process-<id> in the user's local application data, without a trailing backslash;
+// created at the first call and removed with its contents when the process ends. If it cannot be
+// created, its path is returned all the same. Empty when the user has no local application data.
 const std::wstring& ProcessRoot() {
   static const OwnFolder folder(tavix::FolderOfUser(L"DeviceRoot"));
   return folder.Path();
@@ -124,7 +125,7 @@ const std::wstring& ProcessRoot() {
 
 bool LiesInDeviceRoot(LPCWSTR path) { return path && path[0] == L'\\' && path[1] != L'\\'; }
 
-// On the present drive, where the system looks for a path with one leading backslash.
+// Adds the current drive, where the system looks for a path with one leading backslash.
 std::wstring WithDrive(const std::wstring& path) {
   std::wstring full(GetFullPathNameW(path.c_str(), 0, nullptr, nullptr), L'\0');
   full.resize(
@@ -132,7 +133,7 @@ std::wstring WithDrive(const std::wstring& path) {
   return full;
 }
 
-// A mapped path is not to be mapped again: the root itself is no path of the device.
+// The root must not itself look like a path of the device: mapped paths may be mapped again.
 std::wstring DeviceRoot() {
   const std::wstring root = tavix::FolderFromEnvironment(L"CE_DEVICE_ROOT");
   if (root.empty()) return ProcessRoot();

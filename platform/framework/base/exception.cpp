@@ -13,8 +13,8 @@ IMPLEMENT_DYNAMIC(CFileException, CException)
 
 namespace {
 
-// Copies a message, cut to `maxCount` characters with the closing NUL. FALSE, and nothing written,
-// for a buffer without room.
+// Copies a message, truncated to `maxCount` characters including the NUL. FALSE, and nothing
+// written, when `maxCount` is 0.
 BOOL CopyMessage(LPCWSTR message, LPWSTR text, UINT maxCount) {
   if (maxCount == 0) return FALSE;
   const std::size_t count = std::min<std::size_t>(std::wcslen(message), maxCount - 1);
@@ -88,7 +88,7 @@ void CFileException::ThrowOsError(LONG osError, LPCWSTR fileName) {
   AfxThrowFileException(OsErrorToException(osError), osError, fileName);
 }
 
-// By the cause alone: it is known even where the system gave no error code.
+// By the cause alone, which is known even when the system gave no error code.
 BOOL CFileException::GetErrorMessage(LPWSTR text, UINT maxCount) const {
   static constexpr LPCWSTR kMessages[] = {
       L"No error occurred.",

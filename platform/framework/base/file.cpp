@@ -27,7 +27,7 @@ DWORD SharingOf(UINT flags) {
       return FILE_SHARE_WRITE;
     case CFile::shareDenyNone:
       return FILE_SHARE_READ | FILE_SHARE_WRITE;
-    default:  // exclusive, and the compatible mode, which counts as that
+    default:  // exclusive, and the compatible mode, which is treated as exclusive
       return 0;
   }
 }

@@ -1,4 +1,4 @@
-// Extension modules, and where resources are looked for.
+// Extension modules, and the modules that are searched for resources.
 
 #include "framework/extension_module.h"
 
@@ -12,7 +12,8 @@
 
 namespace {
 
-// Head first. Never destroyed: modules leave it while the process ends.
+// The head is the first element. Never destroyed: modules are removed from it at the end of the
+// process.
 std::vector<CDynLinkLibrary*>& Chain() {
   static auto& chain = *new std::vector<CDynLinkLibrary*>;
   return chain;
@@ -28,7 +29,7 @@ BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& record, HMODULE module) {
 }
 
 void AfxTermExtensionModule(AFX_EXTENSION_MODULE& record, BOOL all) {
-  // A copy: each entry takes itself out of the chain.
+  // A copy, because each entry removes itself from the chain.
   for (CDynLinkLibrary* entry : std::vector(Chain())) {
     if (all || entry->m_hModule == record.hModule) delete entry;
   }

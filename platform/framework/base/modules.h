@@ -1,4 +1,4 @@
-// What the framework knows about the process, and the modules that resources are looked for in.
+// The application of the process, and the modules that are searched for resources.
 #pragma once
 
 #include "framework/extension_module.h"
@@ -15,14 +15,14 @@ struct ModuleState {
 
 ModuleState& ProcessState();
 
-// The module the framework itself is in.
+// The module of the framework itself.
 HINSTANCE FrameworkModule();
 
-// The entries' modules, head first; null after the last.
+// The module of the chain's entry `index`, counted from the head; null after the last one.
 HINSTANCE ChainModule(std::size_t index);
 
-// The first module that `has(module)` is true for, or null. The order: the application's, the chain
-// from its head, the framework.
+// The first module for which `has(module)` is true, or null. The order: the application's module,
+// the chain from its head, the framework.
 template <class Has>
 HINSTANCE FindInModules(Has has) {
   if (const HINSTANCE application = AfxGetResourceHandle(); has(application)) return application;

@@ -11,7 +11,7 @@ struct CObList::Node {
   CObject* element;
 };
 
-// Nodes are made in blocks and freed with the list's last element.
+// Nodes are allocated in blocks, which are freed when the list becomes empty.
 struct CObList::Block {
   Block* older;
   std::unique_ptr<Node[]> nodes;

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <utility>
 
-// The characters of one or more strings, with a count of the strings that share them. They lie
-// right behind the block, closed by a NUL.
+// The header of a string's characters, with the number of strings that share them. The characters
+// follow the header and end with a NUL.
 struct CString::Block {
   long users;
   int length;
@@ -47,7 +47,7 @@ int ToIndex(std::wstring_view::size_type place) {
 
 bool IsSpace(WCHAR ch) { return std::iswspace(ch) != 0; }
 
-// What TrimLeft and TrimRight take away: how many characters at each end `belongs` accepts.
+// How many characters at the start or the end satisfy `belongs`.
 template <class Belongs>
 int CountAtStart(std::wstring_view text, Belongs belongs) {
   return static_cast<int>(std::find_if_not(text.begin(), text.end(), belongs) - text.begin());
@@ -346,8 +346,9 @@ void CString::Format(UINT formatId, ...) {
 }
 
 void CString::FormatV(LPCWSTR format, va_list arguments) {
-  // The system's printf, in which %s is a wide string; it only says how long the result is when
-  // asked to measure. The result may be made of this very string, so it is put together apart.
+  // In the printf functions of the system's C library %s is a wide string; only _vscwprintf returns
+  // the length of a result that does not fit. The arguments may point into this string, so the
+  // result is built in another one.
   va_list again;
   va_copy(again, arguments);
   const int length = format ? ::_vscwprintf(format, arguments) : 0;
@@ -406,8 +407,8 @@ void CString::Assign(LPCWSTR text, int length) {
 }
 
 // Replaces `removed` characters from `index` on by `length` characters of `text`, which may be part
-// of this very string: the result is put together in a new block unless there is room behind the
-// end of one that is this string's alone.
+// of this string: the result is built in a new block, unless the text is appended to an unshared
+// block with room for it.
 void CString::Splice(int index, int removed, LPCWSTR text, int length) {
   const int old_length = GetLength();
   const int new_length = old_length - removed + length;
@@ -418,7 +419,7 @@ void CString::Splice(int index, int removed, LPCWSTR text, int length) {
     ReleaseBuffer(new_length);
     return;
   }
-  // Room to grow by half, so that a string built piece by piece is copied seldom.
+  // Grows by half, so that a string that is built by appending is copied rarely.
   const int room = appends && old_length > 0 ? new_length + new_length / 2 : new_length;
   LPWSTR joined = Block::New(room)->Characters();
   std::copy_n(characters_, index, joined);

@@ -40,9 +40,9 @@ COLORREF* CColorDialog::GetSavedCustomColors() {
 
 namespace {
 
-constexpr int kFileNamesCapacity = 32768;  // characters, for several names with their folder
+constexpr int kFileNamesCapacity = 32768;  // characters, for a folder and several names
 
-// The part after the last character of `marks`, or all of it.
+// The part of the path after the last character that is one of `marks`, or all of it.
 CString After(const CString& path, LPCWSTR marks) {
   int last = -1;
   for (const wchar_t* mark = marks; *mark; ++mark) last = std::max(last, path.ReverseFind(*mark));
@@ -54,7 +54,7 @@ CString After(const CString& path, LPCWSTR marks) {
 CFileDialog::CFileDialog(BOOL open, LPCWSTR defaultExtension, LPCWSTR fileName, DWORD flags,
                          LPCWSTR filter, CWnd* parent)
     : CCommonDialog(parent), m_open(open), m_extension(defaultExtension), m_filter(filter) {
-  m_filter += L'|';  // ended by two, even when the caller gave one or none
+  m_filter += L'|';  // the list must end with two NULs
   m_filter.Replace(L'|', L'\0');
 
   LPWSTR names = m_fileNames.GetBufferSetLength(kFileNamesCapacity);
@@ -98,8 +98,8 @@ CString CFileDialog::GetFolderPath() const {
   return path.Left(path.GetLength() - GetFileName().GetLength() - 1);
 }
 
-// The buffer holds one full path, or a folder and then the names in it, each ended by a zero and
-// all by a second one. A position is a place in the buffer.
+// The buffer holds one full path, or a folder and then the names of files in it. Each ends with a
+// NUL, the whole with a second one. A position is an address in the buffer.
 
 POSITION CFileDialog::GetStartPosition() const {
   return *m_ofn.lpstrFile ? reinterpret_cast<POSITION>(m_ofn.lpstrFile) : nullptr;

@@ -1,5 +1,5 @@
-// The members of the controls that are more than one message. Classes whose members are all inline
-// are exported by being included here.
+// The members of the controls that are more than one message. A class whose members are all inline
+// is exported because it is included here.
 
 #include "framework/controls.h"
 #include "framework/dc.h"

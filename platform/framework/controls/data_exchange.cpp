@@ -44,7 +44,7 @@ CString TextOf(HWND item) {
 
 bool OnlySpaces(const wchar_t* text) { return text[std::wcsspn(text, L" \t")] == 0; }
 
-// The whole text as a number of type T, or refused.
+// The whole text as a number of type T. Refuses anything else.
 template <class T, class Parse>
 T NumberOf(CDataExchange* exchange, HWND item, LPCWSTR sentence, Parse parse) {
   const CString text = TextOf(item);
@@ -160,7 +160,7 @@ void DDX_CBString(CDataExchange* exchange, int id, CString& value) {
     return;
   }
   const LPCWSTR text = value;
-  // A list that does not hold the text shows it where it can be edited.
+  // If the list does not contain the text, it is shown in the edit of the combo box.
   const LRESULT selected = ::SendMessageW(item, CB_SELECTSTRING, static_cast<WPARAM>(-1),
                                           reinterpret_cast<LPARAM>(text));
   if (selected == CB_ERR) ::SetWindowTextW(item, text);

@@ -1,4 +1,4 @@
-// Between what the device's calls take and what the store takes.
+// Conversions between the types of the device's calls and those of the store.
 #pragma once
 
 #include <windbase.h>
@@ -9,24 +9,24 @@ inline HANDLE ToHandle(tavix::StoreHandle handle) {
   return reinterpret_cast<HANDLE>(static_cast<ULONG_PTR>(handle));
 }
 
-// 0, which no store gives out, for anything that cannot be a store's handle.
+// 0, which is no store's handle, for anything that cannot be a handle of a store.
 inline tavix::StoreHandle ToStoreHandle(HANDLE handle) {
   const auto value = reinterpret_cast<ULONG_PTR>(handle);
   const auto narrow = static_cast<tavix::StoreHandle>(value);
   return narrow == value ? narrow : 0;
 }
 
-// The last-error code for a reason, and 0 for none.
+// The last-error code of an error; ERROR_SUCCESS for kNone.
 DWORD ToLastError(tavix::StoreError error);
 
-// Sets the last error when there is one. True when there is none.
+// True for kNone; otherwise sets the last error and returns false.
 bool Worked(tavix::StoreError error);
 
-// The store's view of a value, which goes on pointing to the caller's text or bytes. A null string
-// or a null blob of some length comes out as one the store refuses.
+// A value as a property, which points to the caller's text or bytes. A null string, or a null blob
+// with a length, becomes a property that the store refuses.
 tavix::Property ToProperty(const CEPROPVAL& value);
 
-// The device's view of a value, which points to the store's text or bytes.
+// A property as a value of the device's calls, which points to the store's text or bytes.
 CEPROPVAL ToPropVal(const tavix::Property& property);
 
 tavix::SortOrder ToSortOrder(const SORTORDERSPEC& sorting);

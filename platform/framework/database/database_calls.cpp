@@ -1,4 +1,4 @@
-// The calls on whole databases, and on handles.
+// The calls on databases as a whole, and on handles.
 #include <windbase.h>
 
 #include <algorithm>
@@ -19,7 +19,7 @@ std::u16string_view Text(LPCWSTR text) {
   return text ? tavix::AsUtf16(text, wcslen(text)) : std::u16string_view();
 }
 
-// Placeholders of the generic order are no orders.
+// Placeholders for the generic order are left out.
 std::vector<SortOrder> ToSortOrders(const SORTORDERSPEC* sortings, WORD count) {
   std::vector<SortOrder> orders;
   for (WORD i = 0; i < count; ++i) {
@@ -102,7 +102,7 @@ BOOL WINAPI CeOidGetInfo(CEOID oid, CEOIDINFO* poidInfo) {
   }
   const Outcome<tavix::ObjectInfo> info = DeviceStore().Info(oid);
   if (!info) {
-    // The usual code for an identifier that finds nothing.
+    // The usual code for an unknown identifier.
     SetLastError(info.error == StoreError::kNotFound ? ERROR_INVALID_HANDLE
                                                      : ToLastError(info.error));
     return FALSE;

@@ -9,7 +9,7 @@
 
 namespace {
 
-// The calls take names as LPWSTR and leave them as they are.
+// The calls take names as LPWSTR but do not change them.
 LPWSTR Name(LPCWSTR name) { return const_cast<LPWSTR>(name); }
 
 CEPROPID SortId(const CCeDBProp& prop) { return prop.GetPropVal().propid; }
@@ -25,7 +25,7 @@ CEOID FindByName(LPCWSTR name) {
 
 using SortSpecs = std::array<SORTORDERSPEC, CEDB_MAXSORTORDER>;
 
-// False, with the last error set, for more properties than a database can be sorted by.
+// False, with the last error set, for more properties than a database can have sort orders.
 bool ToSortSpecs(const CCeDBProp* props, WORD count, SortSpecs& sortings) {
   if (count > sortings.size() || (count > 0 && !props)) {
     SetLastError(ERROR_INVALID_PARAMETER);
@@ -42,7 +42,8 @@ CCeDBProp ToSortProp(const SORTORDERSPEC& sorting) {
           static_cast<WORD>(sorting.dwFlags)};
 }
 
-// Whether a property of this identifier takes part; without a filter every one does.
+// Whether a property with this identifier passes the filter; without a filter every property
+// passes.
 bool Passes(WORD ident, int filter_count, const CCeDBProp* filter) {
   if (filter_count <= 0 || !filter) return true;
   const std::span<const CCeDBProp> props(filter, static_cast<size_t>(filter_count));
@@ -119,7 +120,7 @@ void CCeDBDatabase::Close() {
 // ---- The open database
 
 DWORD CCeDBDatabase::GetNumRecords() const {
-  // From the store itself: the device's call counts no further than a WORD does.
+  // From the store itself: the device's call counts records in a WORD.
   const auto info = DeviceStore().Info(m_oidDatabase);
   return info ? info.value.database.record_count : 0;
 }
@@ -232,7 +233,7 @@ DWORD CCeDBDatabase::GetCurrIndex() const {
 
 CEOID CCeDBDatabase::SeekTo(DWORD seekType, DWORD_PTR value) {
   const CEOID found = CeSeekDatabase(m_hDatabase, seekType, value, nullptr);
-  // A seek that could not be tried at all leaves everything where it was.
+  // A seek with invalid arguments changes nothing.
   if (found == 0 && GetLastError() != ERROR_NO_MORE_ITEMS) return 0;
   m_oidCurrRec = found;
   m_bEOF = found == 0;
@@ -256,7 +257,7 @@ CEOID CCeDBDatabase::AddRecord(CCeDBRecord* pRec) {
 
 BOOL CCeDBDatabase::ReadCurrRecord(CCeDBRecord* pRec, int nNumFilterProps,
                                    CCeDBProp* PropFilterArray) {
-  // Straight from the store: the device's call would copy everything once more.
+  // Directly from the store: the device's call would copy all values once more.
   const auto record = DeviceStore().Read(ToStoreHandle(m_hDatabase));
   if (!Worked(record.error)) return FALSE;
   pRec->DeleteAllProps();

@@ -6,7 +6,7 @@
 
 namespace {
 
-// CharLowerW takes one character in place of a pointer when the pointer's high part is 0.
+// CharLowerW converts a single character when the upper part of its pointer argument is 0.
 char16_t FoldAsSystem(char16_t character) {
   auto* const in_place_of_text = reinterpret_cast<LPWSTR>(static_cast<ULONG_PTR>(character));
   return static_cast<char16_t>(reinterpret_cast<ULONG_PTR>(CharLowerW(in_place_of_text)));

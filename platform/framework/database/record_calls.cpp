@@ -20,16 +20,16 @@ namespace {
 
 // ---- The buffer that a read fills
 
-// Every string and blob starts where a pointer could stand.
+// Aligns every string and blob as a CEPROPVAL.
 std::size_t Aligned(std::size_t bytes) {
   return (bytes + alignof(CEPROPVAL) - 1) / alignof(CEPROPVAL) * alignof(CEPROPVAL);
 }
 
-// The values of a record that a caller asked for, ready to be laid out in one stretch of memory:
-// the CEPROPVAL structures first, then the strings and blobs they point to.
+// The requested values of a record, to be written to one buffer: the CEPROPVAL structures first,
+// then the strings and blobs they point to.
 class ReadLayout {
  public:
-  // All properties of the record, or those of `wanted` in its order, absent ones marked.
+  // All properties of the record; or those of `wanted`, in this order, with missing ones marked.
   explicit ReadLayout(std::span<const Property> record);
   ReadLayout(std::span<const Property> record, std::span<const CEPROPID> wanted);
 
@@ -37,7 +37,7 @@ class ReadLayout {
   [[nodiscard]] bool HasAnyValue() const { return found_ > 0; }
   [[nodiscard]] std::size_t Bytes() const;
 
-  // Into memory of Bytes() bytes, aligned as LocalAlloc aligns.
+  // Writes Bytes() bytes to memory that is aligned as that of LocalAlloc.
   void Write(LPBYTE buffer) const;
 
  private:
@@ -91,7 +91,7 @@ void ReadLayout::Add(CEPROPID id, const Property* property) {
     ++found_;
     value.head = ToPropVal(*property);
     if (IsVariableSize(property->Type())) value.data = property->AsBytes();
-    // The store keeps a zero behind every string.
+    // In the store a zero follows every string.
     if (property->Type() == PropertyType::kString) {
       value.data = {value.data.data(), value.data.size() + sizeof(WCHAR)};
     }
@@ -103,8 +103,8 @@ void ReadLayout::Add(CEPROPID id, const Property* property) {
 }
 
 // Makes *buffer hold at least `wanted` bytes and stores that number in *size. A buffer that is too
-// small is freed and allocated anew when that is allowed, else FALSE with
-// ERROR_INSUFFICIENT_BUFFER; FALSE with ERROR_OUTOFMEMORY and a null buffer when there is none.
+// small is freed and reallocated if that is allowed. False with ERROR_INSUFFICIENT_BUFFER if not,
+// and with ERROR_OUTOFMEMORY and a null buffer if the allocation fails.
 bool MakeRoom(LPBYTE* buffer, LPDWORD size, std::size_t wanted, bool may_reallocate) {
   const bool too_small = !*buffer || *size < wanted;
   *size = static_cast<DWORD>(wanted);
@@ -122,7 +122,7 @@ bool MakeRoom(LPBYTE* buffer, LPDWORD size, std::size_t wanted, bool may_realloc
 
 // ---- Seeking
 
-// What a seek type and its value ask for; false when they ask for nothing that there is.
+// Converts a seek type and its value; false when they are invalid.
 bool ToTarget(DWORD seek_type, DWORD_PTR value, SeekTarget& target) {
   const auto number = static_cast<DWORD>(value);
   SeekTarget::Kind kind = SeekTarget::Kind::kSmaller;
@@ -189,7 +189,7 @@ CEOID WINAPI CeReadRecordProps(HANDLE hDbase, DWORD dwFlags, LPWORD lpcPropID, C
     return rgPropID ? ReadLayout(record.properties, {rgPropID, *lpcPropID})
                     : ReadLayout(record.properties);
   };
-  // A buffer that is too small must not move the seek pointer: only look until there is room.
+  // If the buffer is too small, the seek pointer must not move: Peek until there is room.
   const Outcome<tavix::RecordView> next = store.Peek(handle);
   if (!Worked(next.error)) return 0;
   const std::size_t wanted = lay_out(next.value).Bytes();
@@ -212,7 +212,7 @@ CEOID WINAPI CeWriteRecordProps(HANDLE hDbase, CEOID oidRecord, WORD cPropID,
     SetLastError(ERROR_INVALID_PARAMETER);
     return 0;
   }
-  constexpr std::size_t kUsual = 16;  // as many take no memory of their own
+  constexpr std::size_t kUsual = 16;  // up to this number without an allocation
   std::array<Property, kUsual> few;
   std::vector<Property> many(cPropID > kUsual ? cPropID : 0);
   const std::span<Property> properties =

@@ -8,7 +8,7 @@ namespace {
 
 bool IsLiveContext(HDC handle) { return ::GetObjectType(handle) != 0; }
 
-// Never destroyed: global contexts still ask for it at the process's end.
+// Never destroyed: global contexts still use it at the end of the process.
 afx::PermanentMap<CDC, HDC>& PermanentContexts() {
   static auto& map = *new afx::PermanentMap<CDC, HDC>;
   return map;
@@ -175,8 +175,7 @@ CSize CDC::GetTextExtent(LPCWSTR text, int count) const {
   return size;
 }
 
-// ---- Device contexts of windows. The context goes back to the system as it came; ~CDC then finds
-//      nothing to delete.
+// ---- Device contexts of windows: released, and detached so that ~CDC does not delete them
 
 CClientDC::CClientDC(CWnd* window) : m_hWnd(window ? window->m_hWnd : nullptr) {
   if (!Attach(::GetDC(m_hWnd))) AfxThrowResourceException();

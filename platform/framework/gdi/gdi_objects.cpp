@@ -12,14 +12,14 @@ namespace {
 
 bool IsLiveGdiHandle(HGDIOBJ handle) { return ::GetObjectType(handle) != 0; }
 
-// Never destroyed: global pens and brushes still ask for it at the process's end.
+// Never destroyed: global pens and brushes still use it at the end of the process.
 afx::PermanentMap<CGdiObject, HGDIOBJ>& PermanentGdiObjects() {
   static auto& map = *new afx::PermanentMap<CGdiObject, HGDIOBJ>;
   return map;
 }
 
 // The object of class T for the handle. An owner of another class (a CGdiObject that attached a
-// pen) does not stand for a T.
+// pen) is not used in place of a T.
 template <class T>
 T* GdiObjectFromHandle(HGDIOBJ handle) {
   if (!handle) return nullptr;
@@ -29,7 +29,7 @@ T* GdiObjectFromHandle(HGDIOBJ handle) {
   return temporary.Get(handle);
 }
 
-// The bitmap that memory contexts begin with. It also stands for a bitmap of no size.
+// The bitmap initially selected in memory contexts. GDI also returns it for a bitmap without size.
 HGDIOBJ StockBitmap() {
   const HDC memory = ::CreateCompatibleDC(nullptr);
   const HGDIOBJ bitmap = ::GetCurrentObject(memory, OBJ_BITMAP);
@@ -37,7 +37,7 @@ HGDIOBJ StockBitmap() {
   return bitmap;
 }
 
-// The system hands these out to everyone, and they are nobody's.
+// These belong to the system and are shared by all.
 bool IsStockObject(HGDIOBJ handle) {
   static const auto objects = [] {
     std::array<HGDIOBJ, STOCK_LAST + 2> all{};
@@ -55,7 +55,7 @@ bool IsStockObject(HGDIOBJ handle) {
 // ---- CGdiObject
 
 CGdiObject::~CGdiObject() {
-  // A temporary object, or one whose handle another object has taken over, owns nothing.
+  // A temporary object, or one whose handle was attached to another object since, owns nothing.
   if (m_hObject && PermanentGdiObjects().Find(m_hObject) == this) DeleteObject();
 }
 
@@ -64,8 +64,8 @@ CGdiObject* CGdiObject::FromHandle(HGDIOBJ handle) {
 }
 
 BOOL CGdiObject::Attach(HGDIOBJ handle) {
-  // What is selected everywhere must not lead to one of the many objects that hold it: that one may
-  // be gone when the others select it back.
+  // Many objects may hold the same stock object. FromHandle must not return one of them: it may be
+  // gone when another selects the stock object back.
   if (handle && !IsStockObject(handle)) PermanentGdiObjects().Set(handle, this);
   return Borrow(handle);
 }
@@ -131,7 +131,7 @@ BOOL CFont::CreatePointFontIndirect(const LOGFONTW* font, CDC* dc) {
   CWindowDC screen(nullptr);
   CDC& device = dc ? *dc : screen;
   LOGFONTW inPixels = *font;
-  // Rounded to whole pixels; below zero it is the height of the characters.
+  // In whole pixels; negative, because it is the height of the characters.
   POINT height = {
       0, ::MulDiv(device.GetDeviceCaps(LOGPIXELSY), font->lfHeight, kTenthsOfPointsInAnInch)};
   POINT origin = {0, 0};

@@ -1,4 +1,4 @@
-// Which C++ objects stand for which handles.
+// The maps from handles to the C++ objects that represent them.
 #pragma once
 
 #include <algorithm>
@@ -8,7 +8,7 @@
 
 namespace afx {
 
-// The objects that hold a handle for good: one for each handle, the last one set.
+// The objects that hold a handle permanently: one for each handle, the last one set.
 template <class Object, class Handle>
 class PermanentMap {
  public:
@@ -17,7 +17,7 @@ class PermanentMap {
     return found == objects_.end() ? nullptr : found->second;
   }
   void Set(Handle handle, Object* object) { objects_[handle] = object; }
-  // Does nothing when another object holds the handle by now.
+  // Does nothing when another object holds the handle.
   void Remove(Handle handle, const Object* object) {
     const auto found = objects_.find(handle);
     if (found != objects_.end() && found->second == object) objects_.erase(found);
@@ -28,10 +28,11 @@ class PermanentMap {
   std::unordered_map<Handle, Object*> objects_;
 };
 
-// Objects made for handles that have none, one for each handle, kept until the handle is dead. Dead
-// ones are looked for when the map has doubled, so that it stays within twice the live ones.
+// Objects created for handles without one, one for each handle, kept until the handle is dead. Dead
+// entries are removed when the map has doubled, so that its size stays within twice the live
+// handles.
 //
-// `Member` is where the object keeps its handle; alive(handle) tells whether the handle is in use.
+// `Member` is the object's handle; alive(handle) is true while the handle is in use.
 template <class Object, class Handle, auto Member, bool (*alive)(Handle)>
 class TemporaryMap {
  public:

@@ -1,4 +1,4 @@
-// What an extension module's DllMain needs.
+// For the DllMain of an extension module.
 #pragma once
 
 #include <afx.h>

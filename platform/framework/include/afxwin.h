@@ -1,5 +1,5 @@
 // The framework's windows: CWnd and its messages, drawing, controls, dialogs, the application.
-// Include this before anything else of <windows.h>.
+// Include it before any other header that needs <windows.h>.
 #pragma once
 
 #include <afx.h>

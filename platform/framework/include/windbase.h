@@ -1,10 +1,10 @@
 // The device's database calls, by their usual names.
 //
 // Differs from the device:
-//  - a handle is closed with CeCloseDatabaseHandle, for the system's CloseHandle does not know it;
-//  - the value of CeSeekDatabase is as wide as a pointer, for it may be one;
-//  - databases live in memory and end with the process;
-//  - windows are not notified of changes: hwndNotify is taken and ignored;
+//  - a handle is closed with CeCloseDatabaseHandle: it is not a system handle for CloseHandle;
+//  - the value of CeSeekDatabase is a DWORD_PTR, because for some seek types it is a pointer;
+//  - databases are kept in memory until the process ends;
+//  - windows are not notified of changes: hwndNotify is ignored;
 //  - use from one thread at a time.
 #pragma once
 
@@ -12,7 +12,7 @@
 
 // ---- Objects and properties
 
-typedef DWORD CEOID;  // of a database or a record; never used again in the life of the process
+typedef DWORD CEOID;  // of a database or a record; never reused within the process
 typedef CEOID* PCEOID;
 typedef DWORD CEPROPID;  // application's tag in the high word, CEVT_ type in the low one
 typedef CEPROPID* PCEPROPID;
@@ -51,8 +51,8 @@ typedef union _CEVALUNION {
 } CEVALUNION;
 typedef CEVALUNION* PCEVALUNION;
 
-#define CEDB_PROPNOTFOUND 0x0100  // set by a read
-#define CEDB_PROPDELETE 0x0200    // asked of a write
+#define CEDB_PROPNOTFOUND 0x0100  // set by a read: the record has no such property
+#define CEDB_PROPDELETE 0x0200    // for a write: removes the property
 
 typedef struct _CEPROPVAL {
   CEPROPID propid;
@@ -89,7 +89,7 @@ typedef struct _CEDBASEINFO {
   DWORD dwFlags;
   WCHAR szDbaseName[CEDB_MAXDBASENAMELEN];
   DWORD dwDbaseType;
-  WORD wNumRecords;  // 65535 stands for that many or more
+  WORD wNumRecords;  // 65535: that many or more
   WORD wNumSortOrder;
   DWORD dwSize;  // bytes of all values
   FILETIME ftLastModified;
@@ -98,7 +98,7 @@ typedef struct _CEDBASEINFO {
 typedef CEDBASEINFO* PCEDBASEINFO;
 
 #define OBJTYPE_INVALID 0
-#define OBJTYPE_FILE 1  // these two do not occur: files have no identifiers here
+#define OBJTYPE_FILE 1  // these two do not occur: files have no identifiers
 #define OBJTYPE_DIRECTORY 2
 #define OBJTYPE_DATABASE 3
 #define OBJTYPE_RECORD 4
@@ -117,7 +117,7 @@ typedef struct _CEOIDINFO {
 } CEOIDINFO;
 typedef CEOIDINFO* PCEOIDINFO;
 
-// ---- Calls. Those that fail say why through GetLastError.
+// ---- Calls. When a call fails, GetLastError gives the reason.
 
 #define CEDB_AUTOINCREMENT 0x00000001  // of CeOpenDatabase
 #define CEDB_ALLOWREALLOC 0x00000001   // of CeReadRecordProps
@@ -125,10 +125,10 @@ typedef CEOIDINFO* PCEOIDINFO;
 #define CEDB_SEEK_CEOID 0x00000001            // the record dwValue
 #define CEDB_SEEK_BEGINNING 0x00000002        // dwValue records after the first
 #define CEDB_SEEK_END 0x00000004              // dwValue records before the last
-#define CEDB_SEEK_CURRENT 0x00000008          // dwValue, as a LONG, records on or back
+#define CEDB_SEEK_CURRENT 0x00000008          // dwValue, as a LONG, records forward or back
 #define CEDB_SEEK_VALUESMALLER 0x00000010     // the nearest value before *dwValue in the order
 #define CEDB_SEEK_VALUEFIRSTEQUAL 0x00000020  // the first record with *dwValue
-#define CEDB_SEEK_VALUEGREATER 0x00000040     // the first record with *dwValue or behind it
+#define CEDB_SEEK_VALUEGREATER 0x00000040     // the first record with *dwValue or a later value
 #define CEDB_SEEK_VALUENEXTEQUAL 0x00000080   // the next record, if it has *dwValue
 
 #ifdef __cplusplus
@@ -140,57 +140,61 @@ extern "C" {
 AFX_FRAMEWORK CEOID WINAPI CeCreateDatabase(LPWSTR lpszName, DWORD dwDbaseType, WORD wNumSortOrder,
                                             SORTORDERSPEC* rgSortSpecs);
 
-// FALSE with ERROR_SHARING_VIOLATION while it is open, ERROR_INVALID_PARAMETER when it is none.
+// FALSE with ERROR_SHARING_VIOLATION while the database is open, ERROR_INVALID_PARAMETER when there
+// is no such database.
 AFX_FRAMEWORK BOOL WINAPI CeDeleteDatabase(CEOID oidDbase);
 
-// Opens the database *poid, or, when *poid is 0, the one named, and stores its identifier there.
-// The seek pointer starts at the first record in the order of propid; 0 takes the first order there
-// is. INVALID_HANDLE_VALUE on failure: ERROR_FILE_NOT_FOUND for the name, ERROR_INVALID_PARAMETER.
+// Opens the database *poid, or, when *poid is 0, the database with the given name, and stores its
+// identifier in *poid. The seek pointer starts at the first record in the order of propid; 0 uses
+// the database's first order. INVALID_HANDLE_VALUE on failure: ERROR_FILE_NOT_FOUND for the name,
+// ERROR_INVALID_PARAMETER.
 AFX_FRAMEWORK HANDLE WINAPI CeOpenDatabase(PCEOID poid, LPWSTR lpszName, CEPROPID propid,
                                            DWORD dwFlags, HWND hwndNotify);
 
-// Ends a handle of CeOpenDatabase or CeFindFirstDatabase.
+// Closes a handle of CeOpenDatabase or CeFindFirstDatabase.
 AFX_FRAMEWORK BOOL WINAPI CeCloseDatabaseHandle(HANDLE hObject);
 
-// A walk over the databases of one type, or of all for 0; INVALID_HANDLE_VALUE on failure.
+// Enumerates the databases of one type, or of all types for 0; INVALID_HANDLE_VALUE on failure.
 AFX_FRAMEWORK HANDLE WINAPI CeFindFirstDatabase(DWORD dwDbaseType);
 
-// 0 behind the last with ERROR_NO_MORE_ITEMS, with ERROR_KEY_DELETED once a database was deleted.
+// 0 with ERROR_NO_MORE_ITEMS after the last database, with ERROR_KEY_DELETED if a database was
+// deleted since the enumeration began.
 AFX_FRAMEWORK CEOID WINAPI CeFindNextDatabase(HANDLE hEnum);
 
 // FALSE with ERROR_INVALID_HANDLE when there is no such object.
 AFX_FRAMEWORK BOOL WINAPI CeOidGetInfo(CEOID oid, CEOIDINFO* poidInfo);
 
-// Sets what dwFlags calls valid. Sort orders cannot change while the database is open:
-// ERROR_SHARING_VIOLATION.
+// Sets the members that dwFlags marks as valid. Sort orders cannot change while the database is
+// open: ERROR_SHARING_VIOLATION.
 AFX_FRAMEWORK BOOL WINAPI CeSetDatabaseInfo(CEOID oidDbase, CEDBASEINFO* pNewInfo);
 
-// The record the seek pointer moved to, and its index in the order in *lpdwIndex when that is not
-// null. 0 with ERROR_NO_MORE_ITEMS leaves the pointer at the end; with ERROR_INVALID_PARAMETER, and
-// with ERROR_KEY_DELETED for no steps from a deleted record, where it was. A value is a CEPROPVAL
-// of the sort property.
+// Moves the seek pointer and returns the record there; stores its index in the order in *lpdwIndex
+// when that is not null. 0 with ERROR_NO_MORE_ITEMS moves the pointer to the end. 0 with
+// ERROR_INVALID_PARAMETER, or with ERROR_KEY_DELETED for a step of 0 from a deleted record, does
+// not move it. A value is a CEPROPVAL of the sort property.
 AFX_FRAMEWORK CEOID WINAPI CeSeekDatabase(HANDLE hDatabase, DWORD dwSeekType, DWORD_PTR dwValue,
                                           LPDWORD lpdwIndex);
 
-// Reads the *lpcPropID properties of rgPropID, or all of them when that is null, and stores their
-// count. The values, an array of CEPROPVAL with what they point to behind, go to *lplpBuffer of
-// *lpcbBuffer bytes; with CEDB_ALLOWREALLOC it may be null or comes from LocalAlloc, is allocated
-// anew when too small, and is for the caller to free with LocalFree.
+// Reads the *lpcPropID properties of rgPropID, or all properties when that is null, and then stores
+// their number in *lpcPropID. The values are an array of CEPROPVAL, followed by the strings and
+// blobs they point to; they are written to *lplpBuffer of *lpcbBuffer bytes. With CEDB_ALLOWREALLOC
+// the buffer is null or from LocalAlloc; it is reallocated when it is too small, and the caller
+// frees it with LocalFree.
 //
 // The record's identifier, or 0: ERROR_NO_MORE_ITEMS, ERROR_KEY_DELETED, ERROR_INVALID_PARAMETER;
-// ERROR_INSUFFICIENT_BUFFER with the size wanted in *lpcbBuffer; ERROR_NO_DATA when none of the
-// properties is there, with the buffer filled all the same.
+// ERROR_INSUFFICIENT_BUFFER with the required size in *lpcbBuffer; ERROR_NO_DATA, with the buffer
+// filled, when the record has none of the properties.
 AFX_FRAMEWORK CEOID WINAPI CeReadRecordProps(HANDLE hDbase, DWORD dwFlags, LPWORD lpcPropID,
                                              CEPROPID* rgPropID, LPBYTE* lplpBuffer,
                                              LPDWORD lpcbBuffer);
 
-// Writes into a record, or a new one for 0, and leaves the seek pointer on it. 0 on failure:
-// ERROR_INVALID_PARAMETER, ERROR_DISK_FULL. The values are copied.
+// Writes to a record, or to a new one for 0, and leaves the seek pointer on it. Returns its
+// identifier, 0 on failure: ERROR_INVALID_PARAMETER, ERROR_DISK_FULL. The values are copied.
 AFX_FRAMEWORK CEOID WINAPI CeWriteRecordProps(HANDLE hDbase, CEOID oidRecord, WORD cPropID,
                                               CEPROPVAL* rgPropVal);
 
-// FALSE with ERROR_INVALID_PARAMETER. A handle whose seek pointer was on the record fails to read
-// until it seeks, or goes on to the next record if it increments.
+// FALSE with ERROR_INVALID_PARAMETER when there is no such record. A handle whose seek pointer was
+// on the record cannot read until it seeks; one that increments moves to the next record.
 AFX_FRAMEWORK BOOL WINAPI CeDeleteRecord(HANDLE hDatabase, CEOID oidRecord);
 
 #ifdef __cplusplus

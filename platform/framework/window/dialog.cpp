@@ -34,7 +34,7 @@ class ScopedDisable {
   HWND window_;  // null when there is nothing to enable again
 };
 
-// The top-level window that waits for the dialog.
+// The top-level window that is disabled while the dialog is open.
 HWND OwnerOf(const CWnd* parent) {
   CWnd* main = AfxGetMainWnd();
   HWND window = parent ? parent->m_hWnd : main ? ::GetLastActivePopup(main->m_hWnd) : nullptr;
@@ -51,7 +51,7 @@ const DLGTEMPLATE* TemplateOf(LPCWSTR name) {
 }  // namespace
 
 struct CDialog::ModalState {
-  int result = IDCANCEL;  // what a dialog answers whose window goes without EndDialog
+  int result = IDCANCEL;  // also when the window is destroyed without EndDialog
   bool ended = false;
   HWND owner = nullptr;
   std::optional<ScopedDisable> owner_waits;
@@ -93,7 +93,7 @@ BOOL CDialog::CreateFromTemplate(const DLGTEMPLATE* dialogTemplate, HWND owner) 
   const HWND window =
       ::CreateDialogIndirectParamW(AfxGetResourceHandle(), dialogTemplate, owner, &DialogProc, 0);
   if (hook.IsBound()) return window != nullptr;
-  if (window) ::DestroyWindow(window);  // no hook was to be had, so it would not be ours
+  if (window) ::DestroyWindow(window);  // without the hook the window is not bound to this object
   return FALSE;
 }
 
@@ -102,7 +102,7 @@ INT_PTR CDialog::DoModal() {
       m_lpDialogTemplate ? m_lpDialogTemplate : TemplateOf(m_lpszTemplateName);
   if (!dialogTemplate) return -1;
 
-  // From here on windows of the host are told of this dialog, and may end it.
+  // From here on, messages to windows of the host may make them end this dialog.
   ModalState state;
   state.owner = OwnerOf(m_pParentWnd);
   m_modal = &state;
@@ -116,7 +116,7 @@ INT_PTR CDialog::DoModal() {
     }
   }
   EndDialog(state.result);
-  // An owner that ended the dialog while it was being disabled is enabled only here.
+  // Enables an owner that ended the dialog while it was being disabled.
   state.owner_waits.reset();
   m_modal = nullptr;
   DestroyWindow();
@@ -141,9 +141,9 @@ void CDialog::EndDialog(int result) {
   MakeWay();
 }
 
-// Not the system's EndDialog: it would let an owner take input that took none before.
+// The system's EndDialog is not used: it would enable an owner that was disabled before.
 void CDialog::MakeWay() {
-  // Hidden before the owner takes input again, so that the owner becomes the active window.
+  // Hidden before the owner is enabled, so that the owner becomes the active window.
   if (m_hWnd) {
     SetWindowPos(nullptr, 0, 0, 0, 0,
                  SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
@@ -151,12 +151,12 @@ void CDialog::MakeWay() {
   m_modal->owner_waits.reset();
   if (!m_hWnd) return;
   if (m_modal->owner && ::GetActiveWindow() == m_hWnd) ::SetActiveWindow(m_modal->owner);
-  // The loop may be waiting: a message sent to us does not wake it.
+  // Wakes the loop: a sent message does not.
   PostMessageW(WM_NULL);
 }
 
 void CDialog::PostNcDestroy() {
-  // Likewise when the window goes, with its owner, say.
+  // Wakes the loop when the window is destroyed, for example with its owner.
   if (m_modal) ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0);
 }
 
@@ -195,8 +195,8 @@ BOOL CDialog::PreTranslateMessage(MSG* message) {
 
 BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
   if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) return TRUE;
-  // Only commands travel on; what a control says is the dialog's own business. Commands of the
-  // system begin at 0xF000.
+  // Only commands are routed further, notifications of controls are not. System commands begin at
+  // 0xF000.
   const bool isCommand = nCode == CN_COMMAND && (nID & 0x8000) && nID < 0xF000;
   if (!isCommand) return FALSE;
   CWnd* owner = GetOwner();

@@ -20,7 +20,7 @@ BOOL CFrameWnd::Create(LPCWSTR className, LPCWSTR windowName, DWORD style, const
                 parent ? parent->m_hWnd : nullptr, menu.m_hMenu, context)) {
     return FALSE;
   }
-  menu.Detach();  // the window's from here
+  menu.Detach();  // the window owns the menu now
   return TRUE;
 }
 

@@ -4,8 +4,8 @@
 
 namespace {
 
-// Offers the message to its window and then to each parent or owner up to `last` (included; null:
-// to the top) that has an object. TRUE when one of them handled it.
+// Calls PreTranslateMessage of the message's window and then of each parent or owner that has an
+// object, up to and including `last` (null: to the top). TRUE when one of them handled it.
 BOOL WalkPreTranslateTree(HWND last, MSG* message) {
   for (HWND window = message->hwnd; window; window = ::GetParent(window)) {
     CWnd* object = CWnd::FromHandlePermanent(window);
@@ -56,7 +56,7 @@ BOOL CWinThread::PreTranslateMessage(MSG* message) {
   CWnd* mainWindow = AfxGetMainWnd();
   const HWND mainHandle = mainWindow ? mainWindow->m_hWnd : nullptr;
   if (WalkPreTranslateTree(mainHandle, message)) return TRUE;
-  // A window beside the main one (a modeless dialog, say) lets the main one's keys work too.
+  // Accelerators of the main window also work in other top-level windows, such as modeless dialogs.
   return mainHandle && message->hwnd && ::GetAncestor(message->hwnd, GA_ROOTOWNER) != mainHandle &&
          mainWindow->PreTranslateMessage(message);
 }

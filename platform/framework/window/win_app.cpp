@@ -15,7 +15,7 @@ CString ExecutableName() {
   return dot > 0 ? name.Left(dot) : name;
 }
 
-// The icon that goes with the buttons when the caller names none.
+// Adds the icon that goes with the buttons when the caller gives no icon.
 UINT WithIcon(UINT type) {
   if (type & MB_ICONMASK) return type;
   switch (type & MB_TYPEMASK) {
@@ -26,12 +26,12 @@ UINT WithIcon(UINT type) {
     case MB_YESNOCANCEL:
       return type | MB_ICONQUESTION;
     default:
-      return type;  // retry boxes have none, as hosts know it
+      return type;  // boxes with Retry have no icon, as usual
   }
 }
 
-// The window that must wait for the answer: the last active popup of the main window, or what is
-// active when there is no application.
+// The window that the box disables: the last active popup of the main window, or of the active
+// window when there is no application.
 HWND OwnerOfMessageBox() {
   CWnd* main = AfxGetMainWnd();
   const HWND owner = main ? main->m_hWnd : ::GetActiveWindow();

@@ -1,11 +1,11 @@
-// The program entry of a framework-style host, which runs the process's CWinApp: main, and wmain
-// for a host that is linked with -municode.
+// The program entry of framework-style hosts: runs the application object of the process. main, and
+// wmain for hosts that are linked with -municode.
 
 #include <afxwin.h>
 
 namespace {
 
-// The command line behind the program's name, which may stand in quotes.
+// The command line after the program's name, which may be in quotes.
 LPWSTR ArgumentsOnly(LPWSTR commandLine) {
   bool quoted = false;
   for (; *commandLine && (quoted || *commandLine > L' '); ++commandLine) {

@@ -1,4 +1,5 @@
-// CWnd: from its class to its end, and the members that are more than one call of the system.
+// CWnd: window classes, creation and destruction, and the members that are more than one call of
+// the system.
 
 #include "framework/wnd.h"
 
@@ -20,7 +21,7 @@
 
 namespace {
 
-// The names handed out; they stay where they are.
+// Keeps the names of the classes; their addresses stay valid.
 LPCWSTR KeepName(const std::wstring& name) {
   static auto& names = *new std::set<std::wstring>;
   return names.insert(name).first->c_str();
@@ -35,7 +36,7 @@ BOOL AfxRegisterClass(WNDCLASSW* windowClass) {
 }
 
 LPCWSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor, HBRUSH background, HICON icon) {
-  // The name tells the combination, so that the same one finds its class again.
+  // The name contains the combination, so that the same combination finds its class again.
   wchar_t text[96];
   std::swprintf(text, std::size(text), L"Afx:%x:%p:%p:%p", classStyle, static_cast<void*>(cursor),
                 static_cast<void*>(background), static_cast<void*>(icon));
@@ -52,7 +53,7 @@ LPCWSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor, HBRUSH background, 
   return name;
 }
 
-// ---- Life of a window
+// ---- Creation and destruction
 
 const CWnd CWnd::wndTop(HWND_TOP);
 const CWnd CWnd::wndBottom(HWND_BOTTOM);
@@ -120,9 +121,10 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR windowName, DWORD 
       ::CreateWindowExW(create.dwExStyle, create.lpszClass, create.lpszName,
                         static_cast<DWORD>(create.style), create.x, create.y, create.cx, create.cy,
                         create.hwndParent, create.hMenu, create.hInstance, create.lpCreateParams);
-  // A window that began and failed has told us its end itself.
+  // If creation failed after the window was bound, the end of the window has already released the
+  // object.
   if (hook.IsBound()) return window != nullptr;
-  if (window) ::DestroyWindow(window);  // no hook was to be had, so it would not be ours
+  if (window) ::DestroyWindow(window);  // without the hook the window is not bound to this object
   PostNcDestroy();
   return FALSE;
 }
@@ -139,7 +141,8 @@ BOOL CWnd::DestroyWindow() {
   if (!window) return FALSE;
   const bool permanent = FromHandlePermanent(window) == this;
   const BOOL destroyed = ::DestroyWindow(window);
-  // An attached window's end is not seen, and `this` may be deleted by now: only the map can tell.
+  // The object gets no messages of an attached window, and `this` may be deleted: only the map
+  // shows whether the object still holds the handle.
   if (permanent && FromHandlePermanent(window) == this) Detach();
   return destroyed;
 }

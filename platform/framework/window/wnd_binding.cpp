@@ -8,7 +8,7 @@
 namespace afx {
 namespace {
 
-// The maps are never destroyed: windows of global objects still ask for them at the process's end.
+// The maps are never destroyed: global objects still use them at the end of the process.
 auto& PermanentWindows() {
   static auto& map = *new PermanentMap<CWnd, HWND>;
   return map;
@@ -63,7 +63,7 @@ HWND CWindowBinding::Release(CWnd& object) {
   const HWND window = object.m_hWnd;
   if (!window) return nullptr;
   afx::RemovePermanentWindow(window, &object);
-  // Somebody who subclassed after us holds our procedure, which then stays.
+  // If the window was subclassed again, AfxWndProc must stay: the later procedure calls it.
   if (object.m_pfnSuper && ProcedureOf(window) == &AfxWndProc) {
     SetProcedure(window, object.m_pfnSuper);
   }
@@ -89,8 +89,8 @@ namespace {
 
 thread_local CreationHook* innermost = nullptr;
 
-// The system makes a hidden helper window for text input with a thread's first window; it is not
-// the one that was asked for.
+// With a thread's first window the system creates a hidden window for the input method; that is not
+// the window to bind.
 bool IsInputMethodWindow(HWND window) {
   wchar_t name[8] = {};
   ::GetClassNameW(window, name, ARRAYSIZE(name));
@@ -121,7 +121,7 @@ LRESULT CALLBACK CreationHook::OnHook(int code, WPARAM wParam, LPARAM lParam) {
     }
   }
   const LRESULT refused = ::CallNextHookEx(nullptr, code, wParam, lParam);
-  // A window that another hook refuses ends without a message.
+  // A window that another hook refuses gets no messages, not even WM_NCDESTROY.
   if (bound && refused != 0) CWindowBinding::WindowIsGone(*bound);
   return refused;
 }

@@ -1,17 +1,16 @@
-// How a CWnd and its window find each other, from the first message to the last.
+// Binds a CWnd and its window to each other, from the first message to the last.
 #pragma once
 
 #include "framework/wnd.h"
 
 class CWindowBinding {
  public:
-  // Takes the handle, tells the object (PreSubclassWindow) and puts AfxWndProc before the window's
-  // own procedure.
+  // Sets the handle, calls PreSubclassWindow and puts AfxWndProc before the window's own procedure.
   static void Subclass(CWnd& object, HWND window);
-  // The reverse of Subclass, or of a mere Attach. Returns the handle.
+  // Undoes Subclass or Attach. Returns the handle.
   static HWND Release(CWnd& object);
-  // The window has got its last message: releases it and lets the object know, which may delete
-  // itself on that.
+  // To be called after the window's last message: releases it and calls PostNcDestroy, which may
+  // delete the object.
   static void WindowIsGone(CWnd& object);
   static LRESULT CallWindowProcedure(CWnd& object, UINT message, WPARAM wParam, LPARAM lParam) {
     return object.WindowProc(message, wParam, lParam);
@@ -22,16 +21,16 @@ namespace afx {
 
 // The process's map of windows.
 CWnd* FindPermanentWindow(HWND window);
-// Makes `object` the one of this window; an object that held the handle before (of a window that
-// died unseen) becomes empty.
+// Makes `object` the object of this window. An object that still held the handle (of an attached
+// window that was destroyed) becomes empty.
 void SetPermanentWindow(HWND window, CWnd* object);
 void RemovePermanentWindow(HWND window, const CWnd* object);
 CWnd* TemporaryWindow(HWND window);
 
 inline bool IsLiveWindow(HWND window) { return ::IsWindow(window) != FALSE; }
 
-// Binds a CWnd to the window that is being made before the window gets its first message. While it
-// lives, the first window this thread makes becomes `object`'s.
+// Binds a CWnd to its window before the window gets its first message: the first window that this
+// thread creates during the lifetime of the hook is bound to `object`.
 class CreationHook {
  public:
   explicit CreationHook(CWnd& object);
@@ -39,7 +38,7 @@ class CreationHook {
   CreationHook(const CreationHook&) = delete;
   CreationHook& operator=(const CreationHook&) = delete;
 
-  // False as long as no window was made.
+  // False until a window was created.
   bool IsBound() const { return object_ == nullptr; }
 
  private:

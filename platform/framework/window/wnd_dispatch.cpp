@@ -1,4 +1,4 @@
-// From the system into CWnd::WindowProc, and from there to the handlers.
+// The way of a message: from AfxWndProc to CWnd::WindowProc, and from there to the handlers.
 
 #include "framework/command_handlers.h"
 #include "framework/exception.h"
@@ -10,7 +10,7 @@
 namespace afx {
 namespace {
 
-// The message a window procedure of this thread is handling.
+// The message that this thread is handling.
 MSG& CurrentMessage() {
   static thread_local MSG message = {};
   return message;
@@ -30,8 +30,8 @@ class ScopedCurrentMessage {
   const MSG previous_;
 };
 
-// No C++ exception may pass through the system's code that called us. What is left undone is chosen
-// so that the system does not ask again at once.
+// Exceptions must not leave a window procedure. What is done in place of the rest of the handler
+// keeps the system from sending the message again at once.
 LRESULT AnswerAfterException(HWND window, UINT message) {
   if (message == WM_CREATE) return -1;
   if (message == WM_PAINT) ::ValidateRect(window, nullptr);
@@ -56,7 +56,7 @@ LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     }
   }
   if (message == WM_NCDESTROY) {
-    // Looked up again: the handler may have deleted the object.
+    // Looked up again, because the handler may have deleted the object.
     if (CWnd* left = CWnd::FromHandlePermanent(window)) CWindowBinding::WindowIsGone(*left);
   }
   return result;
@@ -70,7 +70,7 @@ END_MESSAGE_MAP()
 
 namespace {
 
-// The number under which the map lists the message.
+// The message number under which the map lists the message.
 UINT MessageInMap(UINT message) {
   return WM_CTLCOLORMSGBOX <= message && message <= WM_CTLCOLORSTATIC ? WM_CTLCOLOR : message;
 }
@@ -136,7 +136,7 @@ BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* result) {
                   static_cast<int>(MAKELONG(header->code, WM_NOTIFY)), &notify, nullptr);
 }
 
-// ---- Reflection: what a control's parent is told is offered to the control first
+// ---- Reflection: messages to a control's parent are offered to the control first
 
 BOOL CWnd::ReflectLastMsg(HWND child, LRESULT* result) {
   CWnd* object = FromHandlePermanent(child);

@@ -13,15 +13,15 @@ namespace tdialog {
 class DeviceTemplate;
 }
 
-// A dialog of the device. A template with the extended style 0x80000000 (WS_EX_CAPTIONOKBTN) has an
-// OK button in the caption there; where the system has none, the dialog gets a visible button OK
-// with id IDOK, in a place where it hides no item, and grows when there is no such place. A
-// template that has an item IDOK keeps it and gets none. The caption's close box and Escape cancel,
-// Enter confirms.
+// A dialog of the device. On the device, a template with the extended style 0x80000000
+// (WS_EX_CAPTIONOKBTN) has an OK button in the caption. Here the dialog gets a visible OK button
+// with id IDOK, in a place where it covers no item; it grows when there is no such place. A
+// template that has an item IDOK keeps it and gets no other. The caption's close box and Escape
+// cancel, Enter confirms.
 //
-// The dialog stands inside the screen's work area as a whole. Where a template of the resources is
-// too large for that, the dialog takes the largest smaller font of the template's that fits, not
-// below five points, and stands in the upper left corner.
+// The dialog is placed inside the screen's work area. If its template from the resources is too
+// large for that, the dialog uses the largest size of the template's font that fits, at least five
+// points, and is placed in the upper left corner.
 class TDIALOG_CLASS TDialog : public CDialog {
  public:
   TDialog() = default;
@@ -34,7 +34,7 @@ class TDIALOG_CLASS TDialog : public CDialog {
 
  protected:
   // Adds the button and moves the dialog onto the screen. A derived class calls this before it
-  // makes items of its own.
+  // creates items of its own.
   BOOL OnInitDialog() override;
   void PreSubclassWindow() override;
 
@@ -51,25 +51,26 @@ class TDIALOG_CLASS TDialog : public CDialog {
 // An edit of a dialog.
 class TDIALOG_CLASS TEdit : public CEdit {
  public:
-  // Takes over the edit `id` of `dialog` until its window goes. FALSE when there is none.
+  // Subclasses the edit `id` of `dialog` until its window is destroyed. FALSE when there is no such
+  // edit.
   BOOL Link(CWnd* dialog, UINT id);
 };
 
-// An edit for a whole number. Keys and pasted text that would leave anything but such a number are
-// refused: other characters than digits, more digits than given, a minus unless `smallest` is below
-// 0. Leaving the edit brings what was entered within the limits.
+// An edit for a whole number. Keys and pasted text are refused if they would leave anything else:
+// characters other than digits, more digits than given, a minus unless `smallest` is below 0. When
+// the edit loses the focus, the number is clamped to the limits.
 class TDIALOG_CLASS TEditInt : public TEdit {
  public:
-  // Takes over the edit `id` of `dialog`. `emptyValue` is what an empty edit stands for; it may lie
-  // outside `smallest` to `largest`. `digits`, 1 to 10, does not count a minus. FALSE when there is
-  // no such edit.
+  // Subclasses the edit `id` of `dialog`. `emptyValue` is the value of an empty edit; it may be
+  // outside `smallest` to `largest`. `digits`, 1 to 10, does not include a minus. FALSE when there
+  // is no such edit.
   BOOL Link(CWnd* dialog, UINT id, int emptyValue, int smallest, int largest, int digits);
 
-  // Shows the value, within the limits; the empty value as an empty edit.
+  // Shows the value, clamped to the limits; the empty value as an empty edit.
   void SetValue(int value);
-  // What is shown, within the limits; the empty value for an empty edit or a lone minus.
+  // The number shown, clamped to the limits; the empty value for an empty edit or a lone minus.
   int GetValue() const;
-  // Nothing is entered, or a lone minus.
+  // TRUE when the edit is empty or holds a lone minus.
   BOOL IsEmpty() const;
 
  protected:
@@ -79,7 +80,7 @@ class TDIALOG_CLASS TEditInt : public TEdit {
   DECLARE_MESSAGE_MAP()
 
  private:
-  // Whether the text in place of the selection leaves something that may stand in the edit.
+  // Whether replacing the selection by the text leaves an allowed text.
   bool Accepts(LPCWSTR inserted) const;
 
   int m_emptyValue = 0;

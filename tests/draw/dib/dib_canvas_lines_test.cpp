@@ -23,7 +23,7 @@ class DibLines : public testing::Test {
   Dice dice_{1};
 };
 
-TEST_F(DibLines, OfEverySlopeAreGdis) {
+TEST_F(DibLines, OfEverySlopeMatchGdi) {
   constexpr int kReach = 95;
   for (int dy = -kReach; dy <= kReach; dy += 5) {
     for (int dx = -kReach; dx <= kReach; dx += 3) {
@@ -36,7 +36,7 @@ TEST_F(DibLines, OfEverySlopeAreGdis) {
 }
 
 // From inside of the picture to far around it, most of them crossing its edges or just not.
-TEST_F(DibLines, OfCirclesAroundThePictureAreGdis) {
+TEST_F(DibLines, OfCirclesAroundThePictureMatchGdi) {
   for (int i = 0; i < 400; ++i) {
     Use(i % 5 == 0 ? 40 : i % 3);
     const ScreenPoint at = dice_.Place(kWidth, kHeight, 200);
@@ -47,7 +47,7 @@ TEST_F(DibLines, OfCirclesAroundThePictureAreGdis) {
   }
 }
 
-TEST_F(DibLines, OfFewPixelsAreGdis) {
+TEST_F(DibLines, OfFewPixelsMatchGdi) {
   for (int dy = -4; dy <= 4; ++dy) {
     for (int dx = -4; dx <= 4; ++dx) {
       Use(dx & 1);
@@ -58,7 +58,7 @@ TEST_F(DibLines, OfFewPixelsAreGdis) {
   EXPECT_TRUE(pair_.AreSame());
 }
 
-TEST_F(DibLines, AreCutAsByGdi) {
+TEST_F(DibLines, AreCutAsGdiDoes) {
   for (const int outside : {0, 1, 40, 900, kFarthestStep - kWidth}) {
     for (int i = 0; i < 200; ++i) {
       Use(i & 1);
@@ -69,7 +69,7 @@ TEST_F(DibLines, AreCutAsByGdi) {
   }
 }
 
-TEST_F(DibLines, FromAfarAreGdis) {
+TEST_F(DibLines, FromAfarMatchGdi) {
   for (const int outside : {kFarthestStep, 1 << 20, 1 << 29}) {
     for (int i = 0; i < 100; ++i) {
       Use(1);
@@ -80,7 +80,7 @@ TEST_F(DibLines, FromAfarAreGdis) {
   }
 }
 
-TEST_F(DibLines, OfWidePensAreGdis) {
+TEST_F(DibLines, OfWidePensMatchGdi) {
   for (const int width : {2, 3, 7, -1, -5}) {
     for (int i = 0; i < 20; ++i) {
       Use(width);
@@ -91,7 +91,7 @@ TEST_F(DibLines, OfWidePensAreGdis) {
   }
 }
 
-TEST_F(DibLines, OfPaletteColoursAreGdis) {
+TEST_F(DibLines, OfPaletteColoursMatchGdi) {
   for (const std::int32_t high_byte : {0x01, 0x02, 0x10, 0x7F}) {
     pair_.UsePen({1, high_byte << 24 | 0x000003});
     pair_.Line({{high_byte, 5}, {high_byte + 90, 150}});

@@ -36,7 +36,7 @@ class DibScenes : public testing::TestWithParam<Scene> {
   Dice dice_{GetParam().seed};
 };
 
-TEST_P(DibScenes, AreGdis) {
+TEST_P(DibScenes, MatchGdi) {
   const Scene& scene = GetParam();
   RasterCache cache;
   CanvasPair pair(scene.width, scene.height, cache);

@@ -34,7 +34,7 @@ class DibSideView : public testing::TestWithParam<unsigned> {
   CPnt3List points_;
 };
 
-TEST_P(DibSideView, IsGdis) {
+TEST_P(DibSideView, MatchesGdi) {
   std::int16_t legend = AddLegend();
   for (int key = 1; key <= 600; ++key) {
     if (dice_.Between(0, 9) == 0) legend = AddLegend();

@@ -7,7 +7,7 @@ namespace {
 
 // ---- Lines
 
-TEST(TieRuleProbe, FindsGdisRule) {
+TEST(TieRuleProbe, FindsTheRuleOfGdi) {
   const std::optional<TieRule> rule = ProbeTieRule();
   ASSERT_TRUE(rule);
   EXPECT_TRUE(IsGdiTieRule(*rule));

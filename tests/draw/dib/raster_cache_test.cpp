@@ -14,7 +14,7 @@ PointSymbol Symbol(int mark, int size, int color) {
   return {mark, size, 10, LabelContent::kName, {1, color}};
 }
 
-class RasterCacheOf : public testing::Test {
+class RasterCacheTest : public testing::Test {
  protected:
   // Whether a label is drawn here and not left to GDI.
   bool DrawsLabel(int height, const std::u16string& text) {
@@ -31,7 +31,7 @@ class RasterCacheOf : public testing::Test {
   RasterCache cache_;
 };
 
-class CachedLabels : public RasterCacheOf {
+class CachedLabels : public RasterCacheTest {
  protected:
   void SetUp() override {
     if (!SmoothReference(10, 1).ReadGlyph(u'8')) {
@@ -40,13 +40,13 @@ class CachedLabels : public RasterCacheOf {
   }
 };
 
-TEST_F(RasterCacheOf, LinesAreKept) {
+TEST_F(RasterCacheTest, LinesAreKept) {
   const TieRule* lines = cache_.Lines();
   ASSERT_TRUE(lines);
   EXPECT_EQ(lines, cache_.Lines());
 }
 
-TEST_F(RasterCacheOf, MarksAreKeptWhateverTheLabel) {
+TEST_F(RasterCacheTest, MarksAreKeptWhateverTheLabel) {
   const MarkMask* mask = cache_.Mark(Symbol(2, 10, 0x00FF0000));
   ASSERT_TRUE(mask);
   EXPECT_EQ(mask, cache_.Mark({2, 10, 14, LabelContent::kNumber, {1, 0x00FF0000}}));
@@ -55,7 +55,7 @@ TEST_F(RasterCacheOf, MarksAreKeptWhateverTheLabel) {
 }
 
 // Memory stays within bounds, and what is known stays known.
-TEST_F(RasterCacheOf, MarksOfSymbolsWithoutEndAreLeftToGdi) {
+TEST_F(RasterCacheTest, MarksOfSymbolsWithoutEndAreLeftToGdi) {
   const MarkMask* first = cache_.Mark(Symbol(2, 4, 0));
   ASSERT_TRUE(first);
   const MarkMask* last = first;
@@ -64,7 +64,7 @@ TEST_F(RasterCacheOf, MarksOfSymbolsWithoutEndAreLeftToGdi) {
   EXPECT_EQ(first, cache_.Mark(Symbol(2, 4, 0)));
 }
 
-TEST_F(RasterCacheOf, LabelsOfHeightsWithoutEndAreLeftToGdi) {
+TEST_F(RasterCacheTest, LabelsOfHeightsWithoutEndAreLeftToGdi) {
   SmoothLabels* first = cache_.Labels(10);
   ASSERT_TRUE(first);
   SmoothLabels* last = first;
@@ -99,7 +99,7 @@ TEST_F(CachedLabels, OfOtherCharactersAreLeftToGdi) {
   EXPECT_FALSE(DrawsLabel(500, u"P1"));
 }
 
-TEST_F(RasterCacheOf, StaysWhileTheSettingsDo) {
+TEST_F(RasterCacheTest, StaysWhileTheSettingsDo) {
   cache_.FollowSettings();
   SmoothLabels* labels = cache_.Labels(10);
   const MarkMask* mark = cache_.Mark(Symbol(2, 4, 0));
@@ -109,7 +109,7 @@ TEST_F(RasterCacheOf, StaysWhileTheSettingsDo) {
 }
 
 // What is dropped makes room for more.
-class FullRasterCache : public RasterCacheOf {
+class FullRasterCache : public RasterCacheTest {
  protected:
   void SetUp() override {
     cache_.FollowSettings(kSettings);

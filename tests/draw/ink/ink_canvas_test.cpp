@@ -94,7 +94,7 @@ class InkScenes : public testing::TestWithParam<Scene> {
   InkCanvas ink_{ink_picture_, GetParam().width, GetParam().height};
 };
 
-TEST_P(InkScenes, AreGdis) {
+TEST_P(InkScenes, MatchGdi) {
   for (int i = 0; i < GetParam().entities; ++i) {
     if (dice_.Between(0, 9) < 2) {
       DrawLines();

@@ -106,7 +106,7 @@ TEST(BuildArc, IsTheShorterOne) {
 
 TEST(BuildArc, AHalfCircleIsStillAnArc) {
   const Polyline arc = BuildArc({0, 0}, {100, 0}, 50);
-  ASSERT_GE(arc.size(), 37U);  // 35 or 36 points between, as the last bit of the angles has it
+  ASSERT_GE(arc.size(), 37U);  // 35 or 36 points between, depending on the last bit of the angles
   ASSERT_LE(arc.size(), 38U);
   for (const GroundPoint p : arc) EXPECT_NEAR(50, DistanceOf(p, {50, 0}), 1e-9);
 }

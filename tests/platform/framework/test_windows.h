@@ -1,27 +1,9 @@
-// Windows and waits that several tests need.
+// Windows that several tests need.
 #pragma once
 
 #include <afxwin.h>
 
 namespace test {
-
-// Handles messages, with pre-translation, until `reached` or ten seconds are over. Tells which.
-template <class Condition>
-bool PumpUntil(Condition reached) {
-  constexpr DWORD kTooLong = 10000;
-  const DWORD start = ::GetTickCount();
-  while (!reached()) {
-    if (::GetTickCount() - start > kTooLong) return false;
-    MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-      if (AfxPreTranslateMessage(&message)) continue;
-      ::TranslateMessage(&message);
-      ::DispatchMessageW(&message);
-    }
-    if (!reached()) ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
-  }
-  return true;
-}
 
 // A top-level window, not shown.
 class FrameWindow : public CWnd {

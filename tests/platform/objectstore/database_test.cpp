@@ -14,9 +14,9 @@ TEST_P(DatabaseTest, NamesAreCutTo31Characters) {
     const std::u16string name(length, u'a');
     const ObjectId id = Store().CreateDatabase(name, 0, {}).value;
     ASSERT_NE(0U, id);
-    EXPECT_EQ(Store().Info(id).value.database.Name(), longest);
-    EXPECT_EQ(Store().FindDatabase(name).value, id);
-    EXPECT_EQ(Store().FindDatabase(longest).value, id);
+    EXPECT_EQ(longest, Store().Info(id).value.database.Name());
+    EXPECT_EQ(id, Store().FindDatabase(name).value);
+    EXPECT_EQ(id, Store().FindDatabase(longest).value);
     EXPECT_EQ(StoreError::kDuplicateName, Store().CreateDatabase(longest + u"b", 0, {}).error);
     EXPECT_EQ(StoreError::kNone, Store().DeleteDatabase(id));
   }
@@ -27,7 +27,7 @@ TEST_P(DatabaseTest, NamesAreUniqueAndNotEmpty) {
   const ObjectId lines = Store().CreateDatabase(u"lines", 0, {}).value;
   EXPECT_EQ(StoreError::kDuplicateName, Store().CreateDatabase(u"lines", 0, {}).error);
   EXPECT_TRUE(Store().CreateDatabase(u"Lines", 0, {})) << "case counts in names";
-  EXPECT_EQ(Store().FindDatabase(u"lines").value, lines);
+  EXPECT_EQ(lines, Store().FindDatabase(u"lines").value);
   EXPECT_EQ(StoreError::kNotFound, Store().FindDatabase(u"memos").error);
 }
 
@@ -47,10 +47,10 @@ TEST_P(DatabaseTest, InfoTellsWhatADatabaseIs) {
   EXPECT_EQ(1U, info.database.record_count);
   ASSERT_EQ(2U, info.database.Orders().size());
   EXPECT_TRUE(info.database.Orders()[0].descending);
-  EXPECT_EQ(info.database.Orders()[1].property, orders[1].property);
+  EXPECT_EQ(orders[1].property, info.database.Orders()[1].property);
   EXPECT_TRUE(info.database.Orders()[1].unknown_first);
   EXPECT_FALSE(Store().Info(record).value.is_database);
-  EXPECT_EQ(Store().Info(record).value.parent, database_);
+  EXPECT_EQ(database_, Store().Info(record).value.parent);
   EXPECT_EQ(StoreError::kNotFound, Store().Info(0).error);
   EXPECT_EQ(StoreError::kNotFound, Store().Info(record + 1).error);
 }
@@ -66,7 +66,7 @@ TEST_P(DatabaseTest, NameTypeAndOrdersCanChangeTogetherOrAlone) {
   EXPECT_EQ(StoreError::kNone, change({.type = 2}));
   EXPECT_EQ(u"old", Store().Info(database_).value.database.Name());
   EXPECT_EQ(StoreError::kNone, change({.name = u"new", .type = 3, .orders = std::span(&order, 1)}));
-  EXPECT_EQ(Store().FindDatabase(u"new").value, database_);
+  EXPECT_EQ(database_, Store().FindDatabase(u"new").value);
   EXPECT_EQ(StoreError::kNotFound, Store().FindDatabase(u"old").error);
   EXPECT_EQ(3U, Store().Info(database_).value.database.type);
   EXPECT_EQ(1U, Store().Info(database_).value.database.Orders().size());
@@ -113,7 +113,7 @@ TEST(Database, ChangesOfRecordsAreCounted) {
   store.Write(handle, record + 9, Values({Property::I2(1, 1)}));
   store.DeleteRecord(handle, record + 9);
   store.ChangeDatabase(database, {.type = 2});
-  EXPECT_EQ(3U, changes()) << "none for what changes no record";
+  EXPECT_EQ(3U, changes()) << "calls that change no record do not count";
   store.DeleteRecord(other, record);
   EXPECT_EQ(4U, changes());
 }
@@ -130,11 +130,11 @@ TEST(Database, ChangesAreTimed) {
     last = modified();
   };
   const StoreHandle handle = store.Open(database, kNoSort, false).value;
-  EXPECT_EQ(modified(), last);
+  EXPECT_EQ(last, modified());
   const ObjectId record = store.Write(handle, 0, Values({Property::I2(1, 1)})).value;
   expect_later();
   EXPECT_TRUE(store.Read(handle));
-  EXPECT_EQ(modified(), last);
+  EXPECT_EQ(last, modified());
   EXPECT_TRUE(store.Write(handle, record, Values({Property::I2(1, 2)})));
   expect_later();
   EXPECT_EQ(StoreError::kNone, store.DeleteRecord(handle, record));
@@ -155,7 +155,7 @@ TEST_P(DatabaseTest, AnOpenDatabaseCannotBeDeleted) {
   EXPECT_EQ(StoreError::kInUse, Store().DeleteDatabase(database_));
   EXPECT_EQ(StoreError::kNone, Store().Close(first));
   EXPECT_EQ(StoreError::kInUse, Store().DeleteDatabase(database_));
-  EXPECT_EQ(Store().Seek(second, SeekTarget::To(kBeginning), nullptr).value, record);
+  EXPECT_EQ(record, Store().Seek(second, SeekTarget::To(kBeginning), nullptr).value);
   EXPECT_EQ(StoreError::kNone, Store().Close(second));
   EXPECT_EQ(StoreError::kNone, Store().DeleteDatabase(database_));
   EXPECT_EQ(StoreError::kInvalidParameter, Store().DeleteDatabase(database_));
@@ -189,7 +189,7 @@ TEST_P(DatabaseTest, AClosedHandleFindsNothingAlsoWhenItsPlaceIsTakenAgain) {
     EXPECT_EQ(StoreError::kInvalidParameter, Store().NextDatabase(bad).error);
     EXPECT_EQ(StoreError::kInvalidParameter, Store().Close(bad));
   }
-  EXPECT_EQ(Store().Read(young).value.id, record);
+  EXPECT_EQ(record, Store().Read(young).value.id);
 }
 
 TEST_P(DatabaseTest, HandlesRunOutAndComeBack) {
@@ -223,17 +223,17 @@ TEST_P(DatabaseTest, AnEnumerationFindsTheDatabasesOfOneTypeOrAll) {
     EXPECT_EQ(StoreError::kNone, Store().Close(walk));
     return found;
   };
-  EXPECT_EQ(all_of(0), (std::vector{a, b, c}));
-  EXPECT_EQ(all_of(7), (std::vector{a, c}));
+  EXPECT_EQ((std::vector{a, b, c}), all_of(0));
+  EXPECT_EQ((std::vector{a, c}), all_of(7));
   EXPECT_EQ(std::vector<ObjectId>(), all_of(9));
 }
 
 TEST_P(DatabaseTest, AnEnumerationEndsWhenADatabaseGoesAndSeesNewOnes) {
   const ObjectId a = Store().CreateDatabase(u"a", 0, {}).value;
   const StoreHandle walk = Store().OpenEnumeration(0).value;
-  EXPECT_EQ(Store().NextDatabase(walk).value, a);
+  EXPECT_EQ(a, Store().NextDatabase(walk).value);
   const ObjectId b = Store().CreateDatabase(u"b", 0, {}).value;
-  EXPECT_EQ(Store().NextDatabase(walk).value, b);
+  EXPECT_EQ(b, Store().NextDatabase(walk).value);
   EXPECT_EQ(StoreError::kNone, Store().DeleteDatabase(a));
   EXPECT_EQ(StoreError::kDeleted, Store().NextDatabase(walk).error);
   EXPECT_EQ(StoreError::kDeleted, Store().NextDatabase(walk).error);

@@ -1,4 +1,4 @@
-// Records that go, or move, under the seek pointers of open handles.
+// Records that are deleted, or move, under the seek pointers of open handles.
 #include "tests/platform/objectstore/store_fixture.h"
 
 namespace tavix {
@@ -34,7 +34,7 @@ TEST_P(DeleteTest, ADeletedRecordCannotBeReadAndTheWalkGoesOnBehindIt) {
   EXPECT_EQ(StoreError::kDeleted, Store().Read(handle_).error);
   EXPECT_EQ(StoreError::kDeleted, Store().Seek(handle_, SeekTarget::To(kCurrent), nullptr).error);
   EXPECT_EQ(StoreError::kDeleted, Store().Read(handle_).error);
-  EXPECT_EQ(Seek(handle_, SeekTarget::To(kCurrent, 1)), records_[2]);
+  EXPECT_EQ(records_[2], Seek(handle_, SeekTarget::To(kCurrent, 1)));
 }
 
 TEST_P(DeleteTest, StepsFromADeletedRecordCountItsNeighbours) {
@@ -48,8 +48,8 @@ TEST_P(DeleteTest, StepsFromADeletedRecordCountItsNeighbours) {
     SetUp();
     Seek(handle_, SeekTarget::ToObject(records_[2]));
     Delete(2);
-    EXPECT_EQ(Seek(handle_, SeekTarget::To(kCurrent, row.step)),
-              row.to == 6 ? 0 : records_[row.to]);
+    EXPECT_EQ(row.to == 6 ? 0 : records_[row.to],
+              Seek(handle_, SeekTarget::To(kCurrent, row.step)));
   }
 }
 
@@ -63,14 +63,14 @@ TEST_P(DeleteTest, AllEqualOnesCanBeDeletedWhileWalking) {
     record = Store().Seek(handle_, SeekTarget::ToValue(kNextEqual, Property::I2(kKey, 7)), nullptr);
   }
   EXPECT_EQ(4, deleted);
-  EXPECT_EQ(Walk(handle_), (std::vector{records_[4], records_[5]}));
+  EXPECT_EQ((std::vector{records_[4], records_[5]}), Walk(handle_));
 }
 
 TEST_P(DeleteTest, AnIncrementingHandleGoesOnByItself) {
   const StoreHandle going = Open(kByKey.property, true);
   Seek(going, SeekTarget::ToObject(records_[4]));
   Delete(4);
-  EXPECT_EQ(Store().Read(going).value.id, records_[5]);
+  EXPECT_EQ(records_[5], Store().Read(going).value.id);
   Seek(going, SeekTarget::ToObject(records_[5]));
   Delete(5);
   EXPECT_EQ(StoreError::kNoMoreItems, Store().Read(going).error);
@@ -80,7 +80,7 @@ TEST_P(DeleteTest, TheLastRecordOfTheOrderMayGo) {
   Seek(handle_, SeekTarget::ToObject(records_[5]));
   Delete(5);
   EXPECT_EQ(StoreError::kDeleted, Store().Read(handle_).error);
-  EXPECT_EQ(Seek(handle_, SeekTarget::To(kCurrent, -1)), records_[4]);
+  EXPECT_EQ(records_[4], Seek(handle_, SeekTarget::To(kCurrent, -1)));
   Delete(4);
   EXPECT_EQ(0U, Seek(handle_, SeekTarget::To(kCurrent, 1)));
   EXPECT_EQ(StoreError::kNoMoreItems, Store().Read(handle_).error);
@@ -93,14 +93,14 @@ TEST_P(DeleteTest, DeletesInARowKeepThePlace) {
   Delete(2);
   Delete(3);
   EXPECT_EQ(StoreError::kDeleted, Store().Read(watching).error);
-  EXPECT_EQ(Seek(watching, SeekTarget::To(kCurrent, 1)), records_[4]);
+  EXPECT_EQ(records_[4], Seek(watching, SeekTarget::To(kCurrent, 1)));
 }
 
 TEST_P(DeleteTest, OtherRecordsMayGoWithoutMovingThePointer) {
   Seek(handle_, SeekTarget::ToObject(records_[2]));
   Delete(0);
   Delete(3);
-  EXPECT_EQ(Current(handle_), records_[2]);
+  EXPECT_EQ(records_[2], Current(handle_));
   EXPECT_EQ(0U, NextSeven(handle_));
 }
 
@@ -108,8 +108,8 @@ TEST_P(DeleteTest, APointerFollowsItsRecordToItsNewPlace) {
   const StoreHandle watching = Open(kByKey.property);
   Seek(watching, SeekTarget::ToObject(records_[0]));
   Store().Write(handle_, records_[0], Values({Property::I2(kKey, 8)}));
-  EXPECT_EQ(Current(watching), records_[0]);
-  EXPECT_EQ(Seek(watching, SeekTarget::To(kCurrent, 1)), records_[4]);
+  EXPECT_EQ(records_[0], Current(watching));
+  EXPECT_EQ(records_[4], Seek(watching, SeekTarget::To(kCurrent, 1)));
 }
 
 TEST_P(DeleteTest, APlaceStaysWhenTheRecordBehindItMoves) {
@@ -117,28 +117,28 @@ TEST_P(DeleteTest, APlaceStaysWhenTheRecordBehindItMoves) {
   Seek(watching, SeekTarget::ToObject(records_[1]));
   Delete(1);
   Store().Write(handle_, records_[2], Values({Property::I2(kKey, 100)}));
-  EXPECT_EQ(Seek(watching, SeekTarget::To(kCurrent, 1)), records_[3]);
+  EXPECT_EQ(records_[3], Seek(watching, SeekTarget::To(kCurrent, 1)));
 }
 
 TEST_P(DeleteTest, ARecordThatGetsAKeyAgainStandsAsOldAsItIs) {
   Store().Write(handle_, records_[1], Values({Property::I2(kKey, 50)}));
   Store().Write(handle_, records_[1], Values({Property::I2(kKey, 7)}));
-  EXPECT_EQ(Walk(handle_), std::vector(records_.begin(), records_.end()));
+  EXPECT_EQ(std::vector(records_.begin(), records_.end()), Walk(handle_));
 }
 
 TEST_P(DeleteTest, ARecordThatLosesItsKeyGoesToTheUnknownOnes) {
   Store().Write(handle_, records_[0],
                 Values({Property::Removal(kByKey.property), Property::I2(kOther, 1)}));
-  EXPECT_EQ(Walk(handle_).back(), records_[0]);
+  EXPECT_EQ(records_[0], Walk(handle_).back());
 }
 
 TEST_P(DeleteTest, TwoHandlesHavePointersOfTheirOwn) {
   const StoreHandle other = Open(kByKey.property);
   Seek(handle_, SeekTarget::ToObject(records_[3]));
-  EXPECT_EQ(Current(other), records_[0]);
+  EXPECT_EQ(records_[0], Current(other));
   Delete(3);
   EXPECT_EQ(StoreError::kDeleted, Store().Read(handle_).error);
-  EXPECT_EQ(Current(other), records_[0]);
+  EXPECT_EQ(records_[0], Current(other));
   EXPECT_EQ(StoreError::kInvalidParameter, Store().DeleteRecord(other, records_[3]));
 }
 
@@ -146,7 +146,7 @@ TEST_P(DeleteTest, AHandleSeesWhatAnotherAdds) {
   const StoreHandle other = Open(kByKey.property);
   Seek(other, SeekTarget::ToObject(records_[3]));
   const ObjectId added = AddKey(handle_, 7);
-  EXPECT_EQ(NextSeven(other), added);
+  EXPECT_EQ(added, NextSeven(other));
 }
 
 TEST_P(DeleteTest, IdentifiersAreNeverUsedAgain) {

@@ -1,4 +1,4 @@
-// The failing store fails what it is told to, when it is told to, and nothing else.
+// The failing store fails the calls it was asked to fail, and no others.
 #include <functional>
 
 #include "tests/platform/objectstore/store_fixture.h"
@@ -68,7 +68,7 @@ TEST_F(FailingStoreTest, EveryOperationFailsAloneAndDoesNotReachTheStore) {
         row.operation == Operation::kChange || row.operation == Operation::kDelete
             ? StoreError::kInUse
             : StoreError::kNone;
-    EXPECT_EQ(row.call(), expected) << static_cast<int>(row.operation);
+    EXPECT_EQ(expected, row.call()) << static_cast<int>(row.operation);
     EXPECT_GE(failing.Calls(row.operation), 2);
   }
 }

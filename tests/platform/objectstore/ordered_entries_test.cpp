@@ -1,4 +1,4 @@
-// The sorted row and its table of counts, against plain vectors.
+// The sorted sequence and its prefix sums, against plain vectors.
 #include "platform/objectstore/ordered_entries.h"
 
 #include <gtest/gtest.h>
@@ -30,8 +30,8 @@ TEST(PrefixCounts, SumsAndFindsWhateverWasChanged) {
       EXPECT_EQ(before, sums.SumBefore(place));
       for (std::size_t rest = 0; rest < counts[place]; ++rest) {
         const PrefixCounts::Found found = sums.Find(before + rest);
-        EXPECT_EQ(found.place, place);
-        EXPECT_EQ(found.rest, rest);
+        EXPECT_EQ(place, found.place);
+        EXPECT_EQ(rest, found.rest);
       }
       before += counts[place];
     }
@@ -45,16 +45,16 @@ OrderedEntry Entry(std::uint64_t number) {
 }
 
 void ExpectSame(const OrderedEntries& entries, const std::vector<std::uint64_t>& expected) {
-  ASSERT_EQ(entries.Size(), expected.size());
+  ASSERT_EQ(expected.size(), entries.Size());
   OrderedEntries::Position position = entries.Begin();
   for (std::size_t i = 0; i < expected.size(); ++i) {
-    ASSERT_EQ(entries.At(position).number, expected[i]);
-    ASSERT_EQ(entries.Index(position), i);
-    ASSERT_EQ(entries.AtIndex(i), position);
+    ASSERT_EQ(expected[i], entries.At(position).number);
+    ASSERT_EQ(i, entries.Index(position));
+    ASSERT_EQ(position, entries.AtIndex(i));
     position = entries.Next(position);
   }
-  EXPECT_EQ(position, entries.End());
-  EXPECT_EQ(entries.AtIndex(expected.size()), entries.End());
+  EXPECT_EQ(entries.End(), position);
+  EXPECT_EQ(entries.End(), entries.AtIndex(expected.size()));
 }
 
 // What feeds the row: in order, against it, and anyhow.
@@ -103,7 +103,7 @@ TEST(OrderedEntries, TakesOverASortedRow) {
     ExpectSame(entries, expected);
     std::vector<OrderedEntry> back;
     entries.AppendTo(back);
-    EXPECT_EQ(back.size(), size);
+    EXPECT_EQ(size, back.size());
   }
 }
 

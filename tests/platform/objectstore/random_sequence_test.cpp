@@ -45,7 +45,7 @@ class Pair {
       const std::vector<ObjectId> sorted = model_.Sorted(cursors_[i].order);
       const StoreHandle handle = store_.Open(database_, IdOf(i), false).value;
       for (std::uint32_t at = 0; at < sorted.size(); ++at) {
-        ASSERT_EQ(store_.Seek(handle, SeekTarget::To(kBeginning, at), nullptr).value, sorted[at]);
+        ASSERT_EQ(sorted[at], store_.Seek(handle, SeekTarget::To(kBeginning, at), nullptr).value);
         ExpectRecord(store_.Read(handle).value);
       }
       ASSERT_FALSE(store_.Seek(
@@ -105,7 +105,7 @@ class Pair {
     if (model_.records.empty()) return;
     const ObjectId id = AnyRecord();
     const ModelRecord record = RandomRecord();
-    ASSERT_EQ(store_.Write(handles_[i], id, Written(record)).value, id);
+    ASSERT_EQ(id, store_.Write(handles_[i], id, Written(record)).value);
     for (ModelCursor& cursor : cursors_) {
       const ModelRecord& old = model_.records[id];
       const bool moves =
@@ -158,7 +158,7 @@ class Pair {
   void SeekValue(std::size_t i) {
     const ModelOrder order = cursors_[i].order;
     const std::vector<ObjectId> sorted = model_.Sorted(order);
-    // The value looked for becomes a record of the model for as long as it is compared.
+    // The value to find is a record of the model during the comparison.
     constexpr ObjectId kProbe = 0xFFFFFFFF;
     const std::u16string text = RandomText();
     const auto number = static_cast<std::int16_t>(static_cast<int>(Below(24)) - 12);
@@ -211,9 +211,9 @@ class Pair {
     std::uint32_t index = 0;
     const Outcome<ObjectId> found = store_.Seek(handles_[i], target, &index);
     StandAt(i, sorted, to);
-    ASSERT_EQ(found.value, cursors_[i].record.value_or(0)) << static_cast<int>(target.kind);
+    ASSERT_EQ(cursors_[i].record.value_or(0), found.value) << static_cast<int>(target.kind);
     if (found) {
-      ASSERT_EQ(index, to);
+      ASSERT_EQ(to, index);
     }
     CheckCursor(i);
   }
@@ -225,7 +225,7 @@ class Pair {
     } else if (!cursors_[i].record) {
       ASSERT_EQ(StoreError::kNoMoreItems, view.error);
     } else {
-      ASSERT_EQ(view.value.id, *cursors_[i].record);
+      ASSERT_EQ(*cursors_[i].record, view.value.id);
     }
   }
 
@@ -233,13 +233,13 @@ class Pair {
     const ModelRecord& record = model_.records.at(view.id);
     const Property* number = FindProperty(view.properties, kNumberId);
     const Property* text = FindProperty(view.properties, kTextId);
-    ASSERT_EQ(number != nullptr, record.number.has_value());
-    ASSERT_EQ(text != nullptr, record.text.has_value());
+    ASSERT_EQ(record.number.has_value(), number != nullptr);
+    ASSERT_EQ(record.text.has_value(), text != nullptr);
     if (number) {
-      ASSERT_EQ(number->AsI2(), *record.number);
+      ASSERT_EQ(*record.number, number->AsI2());
     }
     if (text) {
-      ASSERT_EQ(text->AsString(), *record.text);
+      ASSERT_EQ(*record.text, text->AsString());
     }
   }
 

@@ -1,4 +1,4 @@
-// Records: what is written is what is read.
+// Records: reading returns what was written.
 #include <array>
 #include <cmath>
 #include <limits>
@@ -31,7 +31,7 @@ TEST_P(RecordTest, EveryTypeKeepsItsExtremes) {
                     Property::Bool(6, true), Property::FileTime(7, 0xFFFFFFFFFFFFFFFF),
                     Property::String(8, u"点Ａ"), Property::Blob(9, kBytes)});
   const RecordView view = Read();
-  EXPECT_EQ(view.id, record);
+  EXPECT_EQ(record, view.id);
   ASSERT_EQ(9U, view.properties.size());
   EXPECT_EQ(-32768, view.properties[0].AsI2());
   EXPECT_EQ(65535, view.properties[1].AsUI2());
@@ -49,7 +49,7 @@ TEST_P(RecordTest, StringsOfEveryLengthComeBackWithAZeroBehind) {
     const std::u16string text(length, u'x');
     Add(handle_, {Property::String(1, text)});
     const std::u16string_view read = Read().properties[0].AsString();
-    EXPECT_EQ(read, text);
+    EXPECT_EQ(text, read);
     EXPECT_EQ(u'\0', read.data()[length]);
   }
 }
@@ -122,7 +122,7 @@ TEST_P(RecordTest, ARecordMayLoseItsLastProperty) {
   const ObjectId record = Add(handle_, {Property::I2(1, 10)});
   ASSERT_TRUE(Store().Write(handle_, record,
                             Values({Property::Removal(PropertyId(1, PropertyType::kI2))})));
-  EXPECT_EQ(Read().id, record);
+  EXPECT_EQ(record, Read().id);
   EXPECT_TRUE(Read().properties.empty());
 }
 

@@ -1,4 +1,4 @@
-// The seek pointer: where every kind of seek puts it, and what reading makes of it.
+// The seek pointer: where every kind of seek and reading move it.
 #include "tests/platform/objectstore/store_fixture.h"
 
 namespace tavix {
@@ -38,7 +38,7 @@ class SeekTest : public StoreTest {
 
 TEST_P(SeekTest, AHandleStartsAtTheFirstRecord) {
   Fill(kByKey);
-  EXPECT_EQ(Store().Read(Open(kByKey.property)).value.id, ten_);
+  EXPECT_EQ(ten_, Store().Read(Open(kByKey.property)).value.id);
 }
 
 TEST_P(SeekTest, AHandleOnNothingStartsAtTheEnd) {
@@ -57,10 +57,10 @@ TEST_P(SeekTest, ByPlaceFromEitherEnd) {
   Fill(kByKey);
   const std::vector<ObjectId> order = {ten_, twenty_[0], twenty_[1], twenty_[2], thirty_, none_};
   for (std::uint32_t i = 0; i < order.size(); ++i) {
-    EXPECT_EQ(Seek(SeekTarget::To(kBeginning, i)).value, order[i]);
-    EXPECT_EQ(index_, i);
-    EXPECT_EQ(Seek(SeekTarget::To(kEnd, i)).value, order[order.size() - 1 - i]);
-    EXPECT_EQ(index_, order.size() - 1 - i);
+    EXPECT_EQ(order[i], Seek(SeekTarget::To(kBeginning, i)).value);
+    EXPECT_EQ(i, index_);
+    EXPECT_EQ(order[order.size() - 1 - i], Seek(SeekTarget::To(kEnd, i)).value);
+    EXPECT_EQ(order.size() - 1 - i, index_);
   }
   for (const SeekTarget::Kind kind : {kBeginning, kEnd}) {
     for (const std::int64_t offset :
@@ -94,13 +94,13 @@ TEST_P(SeekTest, FromHereBothWays) {
 
 TEST_P(SeekTest, ByObject) {
   Fill(kByKey);
-  EXPECT_EQ(Seek(SeekTarget::ToObject(twenty_[2])).value, twenty_[2]);
+  EXPECT_EQ(twenty_[2], Seek(SeekTarget::ToObject(twenty_[2])).value);
   EXPECT_EQ(3U, index_);
-  EXPECT_EQ(Seek(SeekTarget::ToObject(none_)).value, none_);
+  EXPECT_EQ(none_, Seek(SeekTarget::ToObject(none_)).value);
   EXPECT_EQ(5U, index_);
   for (const ObjectId no_record : {ObjectId{0}, database_, ObjectId{999}, ~ObjectId{0}}) {
     EXPECT_EQ(StoreError::kInvalidParameter, Seek(SeekTarget::ToObject(no_record)).error);
-    EXPECT_EQ(Current(handle_), none_) << "the pointer stays";
+    EXPECT_EQ(none_, Current(handle_)) << "the pointer stays";
   }
 }
 
@@ -131,7 +131,7 @@ TEST_P(SeekTest, ByValueRising) {
         Row{kGreater, 30, thirty_}, Row{kGreater, 31, 0}}) {
     SCOPED_TRACE(testing::Message() << static_cast<int>(row.kind) << " " << row.key);
     EXPECT_EQ(row.found, SeekKey(row.kind, row.key).value);
-    EXPECT_EQ(AtEnd(), row.found == 0);
+    EXPECT_EQ(row.found == 0, AtEnd());
   }
 }
 
@@ -139,30 +139,30 @@ TEST_P(SeekTest, ByValueFalling) {
   SortOrder falling = kByKey;
   falling.descending = true;
   Fill(falling);
-  EXPECT_EQ(SeekKey(kSmaller, 20).value, thirty_) << "before 20 in the order stands 30";
-  EXPECT_EQ(SeekKey(kSmaller, 15).value, twenty_[0]);
+  EXPECT_EQ(thirty_, SeekKey(kSmaller, 20).value) << "30 comes before 20 in this order";
+  EXPECT_EQ(twenty_[0], SeekKey(kSmaller, 15).value);
   EXPECT_EQ(0U, SeekKey(kSmaller, 30).value);
-  EXPECT_EQ(SeekKey(kGreater, 25).value, twenty_[0]);
+  EXPECT_EQ(twenty_[0], SeekKey(kGreater, 25).value);
   EXPECT_EQ(0U, SeekKey(kGreater, 9).value);
-  EXPECT_EQ(SeekKey(kFirstEqual, 20).value, twenty_[0]);
+  EXPECT_EQ(twenty_[0], SeekKey(kFirstEqual, 20).value);
 }
 
 TEST_P(SeekTest, UnknownRecordsAreNoValues) {
   SortOrder unknown_first = kByKey;
   unknown_first.unknown_first = true;
   Fill(unknown_first);
-  EXPECT_EQ(Seek(SeekTarget::To(kBeginning)).value, none_);
+  EXPECT_EQ(none_, Seek(SeekTarget::To(kBeginning)).value);
   EXPECT_EQ(0U, SeekKey(kSmaller, 10).value);
-  EXPECT_EQ(SeekKey(kGreater, -32768).value, ten_);
+  EXPECT_EQ(ten_, SeekKey(kGreater, -32768).value);
   EXPECT_EQ(0U, SeekKey(kGreater, 31).value);
 }
 
 TEST_P(SeekTest, NextEqualWalksTheEqualOnes) {
   Fill(kByKey);
-  EXPECT_EQ(SeekKey(kFirstEqual, 20).value, twenty_[0]);
-  EXPECT_EQ(SeekKey(kNextEqual, 20).value, twenty_[1]);
+  EXPECT_EQ(twenty_[0], SeekKey(kFirstEqual, 20).value);
+  EXPECT_EQ(twenty_[1], SeekKey(kNextEqual, 20).value);
   EXPECT_EQ(2U, index_);
-  EXPECT_EQ(SeekKey(kNextEqual, 20).value, twenty_[2]);
+  EXPECT_EQ(twenty_[2], SeekKey(kNextEqual, 20).value);
   EXPECT_EQ(StoreError::kNoMoreItems, SeekKey(kNextEqual, 20).error);
   EXPECT_TRUE(AtEnd());
   EXPECT_EQ(StoreError::kNoMoreItems, SeekKey(kNextEqual, 20).error);
@@ -173,7 +173,7 @@ TEST_P(SeekTest, NextEqualLooksOneRecordOnAndNoFurther) {
   Seek(SeekTarget::ToObject(ten_));
   EXPECT_EQ(0U, SeekKey(kNextEqual, 30).value);
   Seek(SeekTarget::ToObject(ten_));
-  EXPECT_EQ(SeekKey(kNextEqual, 20).value, twenty_[0]);
+  EXPECT_EQ(twenty_[0], SeekKey(kNextEqual, 20).value);
   Seek(SeekTarget::ToObject(thirty_));
   EXPECT_EQ(0U, SeekKey(kNextEqual, 0).value) << "the next record has no key";
 }
@@ -184,7 +184,7 @@ TEST_P(SeekTest, ValuesOfAnotherPropertyAreRefusedAndThePointerStays) {
   for (const SeekTarget::Kind kind : {kSmaller, kFirstEqual, kGreater, kNextEqual}) {
     for (const Property& value : {Property::I2(kOther, 1), Property::I4(kKey, 20), Property()}) {
       EXPECT_EQ(StoreError::kInvalidParameter, Seek(SeekTarget::ToValue(kind, value)).error);
-      EXPECT_EQ(Current(handle_), thirty_);
+      EXPECT_EQ(thirty_, Current(handle_));
     }
   }
 }
@@ -201,13 +201,13 @@ TEST_P(SeekTest, ByValueNeedsAnOrder) {
 TEST_P(SeekTest, ReadingStaysOrGoesOnAsOpened) {
   Fill(kByKey);
   const StoreHandle staying = Open(kByKey.property);
-  EXPECT_EQ(Store().Read(staying).value.id, ten_);
-  EXPECT_EQ(Store().Read(staying).value.id, ten_);
+  EXPECT_EQ(ten_, Store().Read(staying).value.id);
+  EXPECT_EQ(ten_, Store().Read(staying).value.id);
 
   const StoreHandle going = Open(kByKey.property, true);
-  EXPECT_EQ(Store().Peek(going).value.id, ten_);
+  EXPECT_EQ(ten_, Store().Peek(going).value.id);
   for (const ObjectId record : {ten_, twenty_[0], twenty_[1], twenty_[2], thirty_, none_}) {
-    EXPECT_EQ(Store().Read(going).value.id, record);
+    EXPECT_EQ(record, Store().Read(going).value.id);
   }
   EXPECT_EQ(StoreError::kNoMoreItems, Store().Peek(going).error);
   EXPECT_EQ(StoreError::kNoMoreItems, Store().Read(going).error);
@@ -217,18 +217,18 @@ TEST_P(SeekTest, NextEqualAfterAnIncrementingReadSkipsOne) {
   // Compatibility: the read has moved the pointer already, and the seek moves it again.
   Fill(kByKey, true);
   SeekKey(kFirstEqual, 20);
-  EXPECT_EQ(Store().Read(handle_).value.id, twenty_[0]);
-  EXPECT_EQ(SeekKey(kNextEqual, 20).value, twenty_[2]);
+  EXPECT_EQ(twenty_[0], Store().Read(handle_).value.id);
+  EXPECT_EQ(twenty_[2], SeekKey(kNextEqual, 20).value);
 }
 
 TEST_P(SeekTest, AWriteLeavesThePointerOnItsRecord) {
   Fill(kByKey);
-  EXPECT_EQ(Current(handle_), twenty_[2]);
+  EXPECT_EQ(twenty_[2], Current(handle_));
   Store().Write(handle_, ten_, Values({Property::I2(kOther, 5)}));
-  EXPECT_EQ(Current(handle_), ten_);
+  EXPECT_EQ(ten_, Current(handle_));
   Store().Write(handle_, ten_, Values({Property::I2(kKey, 25)}));
-  EXPECT_EQ(Current(handle_), ten_);
-  EXPECT_EQ(Seek(SeekTarget::To(kCurrent, 1)).value, thirty_) << "its place is a new one";
+  EXPECT_EQ(ten_, Current(handle_));
+  EXPECT_EQ(thirty_, Seek(SeekTarget::To(kCurrent, 1)).value) << "its place is a new one";
 }
 
 TEST_P(SeekTest, LongStringsAreFoundPastTheirFirstCharacters) {
@@ -244,12 +244,12 @@ TEST_P(SeekTest, LongStringsAreFoundPastTheirFirstCharacters) {
   const auto seek = [&](SeekTarget::Kind kind, std::u16string_view name) {
     return Seek(SeekTarget::ToValue(kind, Property::String(9, name))).value;
   };
-  EXPECT_EQ(Walk(handle_), (std::vector{station, station_a, station_a_again, station_b}));
-  EXPECT_EQ(seek(kFirstEqual, u"STATION-A"), station_a);
-  EXPECT_EQ(seek(kNextEqual, u"STATION-A"), station_a_again);
+  EXPECT_EQ((std::vector{station, station_a, station_a_again, station_b}), Walk(handle_));
+  EXPECT_EQ(station_a, seek(kFirstEqual, u"STATION-A"));
+  EXPECT_EQ(station_a_again, seek(kNextEqual, u"STATION-A"));
   EXPECT_EQ(0U, seek(kFirstEqual, u"STATION-"));
-  EXPECT_EQ(seek(kSmaller, u"STATION-B"), station_a);
-  EXPECT_EQ(seek(kGreater, u"STATION-"), station_a);
+  EXPECT_EQ(station_a, seek(kSmaller, u"STATION-B"));
+  EXPECT_EQ(station_a, seek(kGreater, u"STATION-"));
   EXPECT_EQ(0U, seek(kSmaller, u"STAT"));
 }
 

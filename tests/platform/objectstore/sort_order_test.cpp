@@ -1,4 +1,4 @@
-// Sort orders: what comes before what.
+// Sort orders: which record comes first.
 #include <cmath>
 #include <limits>
 
@@ -54,7 +54,7 @@ TEST_P(SortOrderTest, EveryTypeRises) {
     for (auto value = row.values.rbegin(); value != row.values.rend(); ++value) {
       expected.insert(expected.begin(), Add(handle, {*value}));
     }
-    EXPECT_EQ(Walk(handle), expected);
+    EXPECT_EQ(expected, Walk(handle));
     Store().Close(handle);
     Store().DeleteDatabase(database_);
   }
@@ -67,7 +67,7 @@ TEST_P(SortOrderTest, EveryTypeFalls) {
     std::vector<ObjectId> expected;
     for (const Property& value : row.values)
       expected.insert(expected.begin(), Add(handle, {value}));
-    EXPECT_EQ(Walk(handle), expected);
+    EXPECT_EQ(expected, Walk(handle));
     Store().Close(handle);
     Store().DeleteDatabase(database_);
   }
@@ -81,7 +81,7 @@ TEST_P(SortOrderTest, EqualValuesStayInTheOrderTheyCameRisingAndFalling) {
     const ObjectId b = AddKey(handle, descending ? 4 : 6);
     const ObjectId c = AddKey(handle, 5);
     const ObjectId d = AddKey(handle, 5);
-    EXPECT_EQ(Walk(handle), (std::vector{a, c, d, b}));
+    EXPECT_EQ((std::vector{a, c, d, b}), Walk(handle));
     Store().Close(handle);
     Store().DeleteDatabase(database_);
   }
@@ -91,9 +91,9 @@ TEST_P(SortOrderTest, BothZerosAreOneValue) {
   const StoreHandle handle = Make({.property = PropertyId(kTag, PropertyType::kR8)});
   const ObjectId first = Add(handle, {Property::R8(kTag, 0.0)});
   const ObjectId second = Add(handle, {Property::R8(kTag, -0.0)});
-  EXPECT_EQ(Walk(handle), (std::vector{first, second}));
+  EXPECT_EQ((std::vector{first, second}), Walk(handle));
   const SeekTarget target = SeekTarget::ToValue(kFirstEqual, Property::R8(kTag, -0.0));
-  EXPECT_EQ(Store().Seek(handle, target, nullptr).value, first);
+  EXPECT_EQ(first, Store().Seek(handle, target, nullptr).value);
 }
 
 TEST_P(SortOrderTest, RecordsWithoutThePropertyComeLastOrFirst) {
@@ -108,7 +108,7 @@ TEST_P(SortOrderTest, RecordsWithoutThePropertyComeLastOrFirst) {
       const ObjectId high = AddKey(handle, 5);
       std::vector<ObjectId> expected = {descending ? high : low, descending ? low : high};
       expected.insert(unknown_first ? expected.begin() : expected.end(), {missing, other_type});
-      EXPECT_EQ(Walk(handle), expected);
+      EXPECT_EQ(expected, Walk(handle));
       Store().Close(handle);
       Store().DeleteDatabase(database_);
     }
@@ -124,16 +124,16 @@ TEST_P(SortOrderTest, CaseCountsUnlessTheOrderIgnoresIt) {
     const ObjectId small_a = Add(handle, {Property::String(kTag, u"bencA")});
     const std::vector<ObjectId> expected = ignore_case ? std::vector{small_a, small_b, large_b}
                                                        : std::vector{large_b, small_a, small_b};
-    EXPECT_EQ(Walk(handle), expected);
+    EXPECT_EQ(expected, Walk(handle));
     const SeekTarget target = SeekTarget::ToValue(kFirstEqual, Property::String(kTag, u"BENCH"));
-    EXPECT_EQ(Store().Seek(handle, target, nullptr).value, ignore_case ? small_b : large_b);
+    EXPECT_EQ(ignore_case ? small_b : large_b, Store().Seek(handle, target, nullptr).value);
     Store().Close(handle);
     Store().DeleteDatabase(database_);
   }
 }
 
 TEST(SortOrder, TheStoreFoldsCaseAsItIsTold) {
-  // A fold of its own: full-width letters too.
+  // A case fold that includes full-width letters.
   MemoryStore store(+[](char16_t unit) {
     return unit >= 0xFF41 && unit <= 0xFF5A ? static_cast<char16_t>(unit - 0x20) : FoldAscii(unit);
   });
@@ -161,11 +161,11 @@ TEST_P(SortOrderTest, OneDatabaseHasFourOrdersAtOnce) {
   const ObjectId a = add(1, 1, u"b", 9.0);
   const ObjectId b = add(2, 3, u"a", 7.0);
   const ObjectId c = add(3, 2, u"c", 8.0);
-  EXPECT_EQ(Walk(Open(orders[0].property)), (std::vector{a, b, c}));
-  EXPECT_EQ(Walk(Open(orders[1].property)), (std::vector{b, c, a}));
-  EXPECT_EQ(Walk(Open(orders[2].property)), (std::vector{b, a, c}));
-  EXPECT_EQ(Walk(Open(orders[3].property)), (std::vector{b, c, a}));
-  EXPECT_EQ(Walk(writer), (std::vector{a, b, c})) << "no sort property takes the first order";
+  EXPECT_EQ((std::vector{a, b, c}), Walk(Open(orders[0].property)));
+  EXPECT_EQ((std::vector{b, c, a}), Walk(Open(orders[1].property)));
+  EXPECT_EQ((std::vector{b, a, c}), Walk(Open(orders[2].property)));
+  EXPECT_EQ((std::vector{b, c, a}), Walk(Open(orders[3].property)));
+  EXPECT_EQ((std::vector{a, b, c}), Walk(writer)) << "no sort property takes the first order";
 }
 
 TEST_P(SortOrderTest, WithoutOrdersRecordsComeAsCreated) {
@@ -173,7 +173,7 @@ TEST_P(SortOrderTest, WithoutOrdersRecordsComeAsCreated) {
   const StoreHandle handle = Open(kNoSort);
   const ObjectId a = AddKey(handle, 9);
   const ObjectId b = AddKey(handle, 1);
-  EXPECT_EQ(Walk(handle), (std::vector{a, b}));
+  EXPECT_EQ((std::vector{a, b}), Walk(handle));
 }
 
 TEST_P(SortOrderTest, OrdersThatCannotBeAreRefused) {
@@ -201,10 +201,10 @@ TEST_P(SortOrderTest, NewOrdersSortWhatIsThere) {
   const SortOrder other = {.property = PropertyId(kOther, PropertyType::kI2)};
   const DatabaseChange change = {.orders = std::span(&other, 1)};
   EXPECT_EQ(StoreError::kInUse, Store().ChangeDatabase(database_, change));
-  EXPECT_EQ(Walk(handle), (std::vector{a, b}));
+  EXPECT_EQ((std::vector{a, b}), Walk(handle));
   Store().Close(handle);
   EXPECT_EQ(StoreError::kNone, Store().ChangeDatabase(database_, change));
-  EXPECT_EQ(Walk(Open(other.property)), (std::vector{b, a}));
+  EXPECT_EQ((std::vector{b, a}), Walk(Open(other.property)));
   EXPECT_EQ(StoreError::kInvalidParameter,
             Store().Open(database_, PropertyId(kKey, PropertyType::kI2), false).error);
 }

@@ -1,4 +1,4 @@
-// A store with one database, and short words for what tests do with it.
+// A store with one database, and short names for what the tests do with it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -20,8 +20,8 @@ inline std::span<const Property> Values(std::initializer_list<Property> values) 
 
 using enum SeekTarget::Kind;
 
-// Every test of the contract runs with the store itself and with the failing store that passes all
-// calls on, so that the two cannot drift apart.
+// Every test of the contract runs with the store itself and with a failing store that forwards all
+// calls, so that both behave alike.
 enum class StoreKind { kMemory, kPassingOn };
 
 class StoreTest : public testing::TestWithParam<StoreKind> {
@@ -62,7 +62,7 @@ class StoreTest : public testing::TestWithParam<StoreKind> {
     }
     return order;
   }
-  // The record under the pointer, 0 for none.
+  // The record under the pointer, or 0.
   ObjectId Current(StoreHandle handle) {
     return Store().Seek(handle, SeekTarget::To(kCurrent, 0), nullptr).value;
   }

@@ -1,6 +1,5 @@
-// A plain reading of the store's rules, with nothing in it to be quick: one database, the order
-// found by sorting everything anew each time. Random sequences are run through it and through the
-// store.
+// A simple model of the store's rules, without any optimisation: one database, whose order is found
+// by sorting all records each time. Random sequences are applied to it and to the store.
 #pragma once
 
 #include <algorithm>
@@ -60,8 +59,8 @@ class StoreModel {
 // One handle of the model: a place among the sorted records.
 struct ModelCursor {
   ModelOrder order;
-  std::optional<ObjectId> record;  // none: the end
-  bool deleted = false;            // `record` is the one behind a deleted one
+  std::optional<ObjectId> record;  // without a value: the end
+  bool deleted = false;            // `record` is the one after a deleted record
 };
 
 }  // namespace tavix

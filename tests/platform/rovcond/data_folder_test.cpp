@@ -1,7 +1,6 @@
-// GetDataFolder: which folder it names, and what it does when there is no room for the name.
+// GetDataFolder: which folder it returns, and what it does when the path does not fit.
 #include <gtest/gtest.h>
 #include <rovcond.h>
-#include <shlobj.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -9,6 +8,7 @@
 #include <string>
 
 #include "tests/platform/support/environment_variable.h"
+#include "tests/platform/support/local_app_data.h"
 #include "tests/platform/support/scratch_folder.h"
 
 namespace {
@@ -29,11 +29,7 @@ struct Answer {
   BOOL found;
 };
 
-std::wstring LocalData() {
-  WCHAR folder[MAX_PATH];
-  EXPECT_EQ(S_OK, SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder));
-  return std::wstring(folder) + L"\\Tavix\\Data";
-}
+std::wstring LocalData() { return LocalAppData() + L"\\Tavix\\Data"; }
 
 TEST(DataFolder, IsTheOneThatTheVariableNamesWithoutClosingBackslashes) {
   static constexpr struct {
@@ -70,7 +66,7 @@ TEST(DataFolder, NamedByTheVariableIsNotMade) {
   const ScratchFolder scratch;
   const std::wstring missing = scratch / L"missing";
   const EnvironmentVariable variable(kVariable, missing.c_str());
-  EXPECT_EQ(Answer().Folder(), missing);
+  EXPECT_EQ(missing, Answer().Folder());
   EXPECT_FALSE(std::filesystem::exists(missing));
 }
 
@@ -82,7 +78,7 @@ TEST(DataFolder, LiesInTheLocalDataWhenTheVariableNamesNothing) {
     const EnvironmentVariable variable(kVariable, value);
     const Answer answer;
     EXPECT_TRUE(answer.found);
-    EXPECT_EQ(answer.Folder(), LocalData());
+    EXPECT_EQ(LocalData(), answer.Folder());
     EXPECT_TRUE(std::filesystem::is_directory(LocalData()));
     EXPECT_TRUE(answer.KeptToItsRoom());
   }
@@ -102,8 +98,8 @@ TEST(DataFolder, ThatDoesNotFitIsRefusedWithAnEmptyString) {
     const std::wstring value = folder + std::wstring(row.backslashes, L'\\');
     const EnvironmentVariable variable(kVariable, value.c_str());
     const Answer answer;
-    EXPECT_EQ(answer.found, row.fits ? TRUE : FALSE) << row.length;
-    EXPECT_EQ(answer.Folder(), row.fits ? folder : std::wstring());
+    EXPECT_EQ(row.fits ? TRUE : FALSE, answer.found) << row.length;
+    EXPECT_EQ(row.fits ? folder : std::wstring(), answer.Folder());
     EXPECT_TRUE(answer.KeptToItsRoom());
   }
 }

@@ -9,8 +9,8 @@
 
 namespace test {
 
-// Once a visible dialog of this thread is open and enabled, does the steps one by one, each in a
-// turn of the message loop of its own. Only one driver at a time.
+// Waits for a visible, enabled dialog of this thread and then does the steps, each in its own turn
+// of the message loop. Only one driver at a time.
 class ModalDriver {
  public:
   using Step = std::function<void(HWND dialog)>;
@@ -28,7 +28,7 @@ class ModalDriver {
 
   bool Done() const { return done_ == steps_.size(); }
 
-  // The thread's visible dialog that takes input, or null.
+  // The thread's visible, enabled dialog, or null.
   static HWND OpenDialog() {
     HWND found = nullptr;
     ::EnumThreadWindows(::GetCurrentThreadId(), &TakeIfOpen, reinterpret_cast<LPARAM>(&found));

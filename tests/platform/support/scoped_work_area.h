@@ -5,7 +5,7 @@
 
 namespace test {
 
-// Makes this the main screen's work area for as long as it lives.
+// Makes this the work area of the primary screen for a scope.
 class ScopedWorkArea {
  public:
   explicit ScopedWorkArea(RECT area) {

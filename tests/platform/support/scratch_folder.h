@@ -1,4 +1,4 @@
-// A folder of a test's own, made empty and taken away in the end.
+// A folder for one test, created empty and removed at the end.
 #pragma once
 
 #include <windows.h>

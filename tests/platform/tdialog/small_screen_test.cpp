@@ -64,10 +64,10 @@ TEST(SmallScreen, TakesAFontWithWhichAllOfItIsSeen) {
     TDialog dialog;
     ASSERT_TRUE(dialog.Create(id));
     ExpectInside(dialog, area, id);
-    EXPECT_EQ(PlaceOf(dialog).TopLeft(), area.TopLeft()) << id;
+    EXPECT_EQ(area.TopLeft(), PlaceOf(dialog).TopLeft()) << id;
     EXPECT_LT(-FontHeight(dialog), -FontHeight(large)) << id;
     if (CWnd* ok = dialog.GetDlgItem(IDOK)) {
-      EXPECT_EQ(ok->GetFont()->m_hObject, dialog.GetFont()->m_hObject) << id;
+      EXPECT_EQ(dialog.GetFont()->m_hObject, ok->GetFont()->m_hObject) << id;
     }
   }
 }
@@ -92,7 +92,7 @@ TEST(SmallScreen, ModalDialogsToo) {
   const ScopedWorkArea small(area);
   EXPECT_EQ(IDOK, dialog.DoModal());
   EXPECT_TRUE(IsInside(dialog.place, area));
-  EXPECT_EQ(dialog.place.TopLeft(), area.TopLeft());
+  EXPECT_EQ(area.TopLeft(), dialog.place.TopLeft());
 }
 
 TEST(SmallScreen, StandsInTheCornerWhereNothingFits) {

@@ -26,7 +26,7 @@ TEST(DeviceDialog, HasAVisibleOkButtonThatHidesNothing) {
     CWnd* ok = dialog.GetDlgItem(IDOK);
     ASSERT_NE(nullptr, ok) << id;
     EXPECT_TRUE(ok->GetStyle() & WS_VISIBLE);
-    EXPECT_EQ(ok->GetFont(), dialog.GetFont());
+    EXPECT_EQ(dialog.GetFont(), ok->GetFont());
     EXPECT_EQ(UINT{IDOK}, dialog.GetDefID());
     const CRect button = RectInDialog(dialog, *ok);
     CRect client;
@@ -34,7 +34,7 @@ TEST(DeviceDialog, HasAVisibleOkButtonThatHidesNothing) {
     EXPECT_TRUE(CRect().UnionRect(client, button));
     CRect both;
     both.UnionRect(client, button);
-    EXPECT_EQ(both, client) << "inside the dialog " << id;
+    EXPECT_EQ(client, both) << "inside the dialog " << id;
     for (HWND item = ::GetWindow(dialog.m_hWnd, GW_CHILD); item;
          item = ::GetWindow(item, GW_HWNDNEXT)) {
       if (item == ok->m_hWnd) continue;
@@ -53,12 +53,12 @@ TEST(DeviceDialog, GrowsOnlyWhenThereIsNoRoom) {
   TDialog withRoom;
   ASSERT_TRUE(withRoom.Create(IDD_ROOM));
   withRoom.GetClientRect(room);
-  EXPECT_EQ(room.Height(), size.Height());
+  EXPECT_EQ(size.Height(), room.Height());
   TDialog withoutRoom;
   ASSERT_TRUE(withoutRoom.Create(IDD_FULL));
   withoutRoom.GetClientRect(full);
   EXPECT_GT(full.Height(), size.Height());
-  EXPECT_EQ(full.Width(), size.Width());
+  EXPECT_EQ(size.Width(), full.Width());
 }
 
 TEST(DeviceDialog, KeepsTheTemplatesOwnOk) {

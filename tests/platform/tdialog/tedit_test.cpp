@@ -1,4 +1,4 @@
-// Edits for whole numbers: what they take, show and give.
+// Edits for whole numbers: what they accept, show and return.
 
 #include <gtest/gtest.h>
 #include <tdialog.h>
@@ -59,7 +59,7 @@ TEST(TEditInt, TypingReplacesTheSelection) {
   number.Type(L"45");
   number.edit.SetSel(0, 0);
   number.Type(L"9-");
-  EXPECT_EQ(L"-45", number.Text()) << "nothing goes before the minus";
+  EXPECT_EQ(L"-45", number.Text()) << "nothing is accepted before the minus";
 }
 
 void PutOnClipboard(HWND owner, const std::wstring& text) {

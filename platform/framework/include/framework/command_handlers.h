@@ -1,7 +1,7 @@
 // The message-map macros for commands and control notifications.
 //
-// A handler may be named as `OnOpen` or as `&CMainFrame::OnOpen`; the first form is the older one
-// and needs a compiler that accepts it (GCC for Windows does).
+// A handler is written as `&CMainFrame::OnOpen`, or in the older form `OnOpen`, which GCC for
+// Windows accepts.
 #pragma once
 
 #include "framework/message_map.h"
@@ -17,7 +17,7 @@ struct CommandHandler {
   }
 };
 
-// The handler's answer FALSE lets the command travel on.
+// A handler that returns FALSE passes the command on.
 template <class T>
 struct CommandExHandler {
   using Member = BOOL (T::*)(UINT);
@@ -54,7 +54,7 @@ struct MessageHandler {
 
 }  // namespace afx
 
-// Reflected rows are kept apart from the parent's own by adding this to the message.
+// Added to the message number of reflected rows, to separate them from the parent's rows.
 inline constexpr UINT WM_REFLECT_BASE = 0xBC00;
 
 #define ON_CONTROL_RANGE(code, firstId, lastId, handler)                                    \
@@ -73,7 +73,7 @@ inline constexpr UINT WM_REFLECT_BASE = 0xBC00;
                                                  handler),
 #define ON_MESSAGE(message, handler) \
   AfxMessageEntry<afx::MessageHandler, ThisClass>(message, 0, 0, 0, handler),
-// `variable` holds the number that RegisterWindowMessage gave; it is read at each message.
+// `variable` holds the number from RegisterWindowMessage; it is read at each message.
 #define ON_REGISTERED_MESSAGE(variable, handler) \
   AfxMessageEntry<afx::MessageHandler, ThisClass>(0, 0, 0, 0, handler, &variable),
 // In the map of a control: its own notifications, before the parent sees them.

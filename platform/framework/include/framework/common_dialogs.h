@@ -1,4 +1,4 @@
-// CColorDialog and CFileDialog: the system's dialogs.
+// CColorDialog and CFileDialog: the common dialogs of the system.
 #pragma once
 
 #include "framework/object_list.h"
@@ -24,7 +24,7 @@ class AFX_FRAMEWORK CColorDialog : public CCommonDialog {
  public:
   CHOOSECOLORW m_cc = {};
 
-  // Any colour but black is the choice at first, or 0 with CC_RGBINIT in `flags`.
+  // `initial` is selected first; black (0) only with CC_RGBINIT in `flags`.
   explicit CColorDialog(COLORREF initial = 0, DWORD flags = 0, CWnd* parent = nullptr);
   INT_PTR DoModal() override;
 
@@ -39,13 +39,13 @@ class AFX_FRAMEWORK CFileDialog : public CCommonDialog {
   OPENFILENAMEW m_ofn = {};
 
   // open TRUE: File Open, FALSE: Save As. defaultExtension, without a dot, is appended to a name
-  // typed without one. filter: pairs "text|*.a;*.b|", ended by "||". The strings are copied.
+  // without extension. filter: pairs "text|*.a;*.b|", ended by "||". The strings are copied.
   explicit CFileDialog(BOOL open, LPCWSTR defaultExtension = nullptr, LPCWSTR fileName = nullptr,
                        DWORD flags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
                        LPCWSTR filter = nullptr, CWnd* parent = nullptr);
   INT_PTR DoModal() override;
 
-  // After IDOK; with several files chosen, the first.
+  // Valid after IDOK; of several files, the first.
   CString GetPathName() const;
   CString GetFileName() const;    // name.ext
   CString GetFileExt() const;     // ext
@@ -54,13 +54,13 @@ class AFX_FRAMEWORK CFileDialog : public CCommonDialog {
   CString GetFolderPath() const;
   BOOL GetReadOnlyPref() const { return (m_ofn.Flags & OFN_READONLY) != 0; }
 
-  // The chosen files one by one, with OFN_ALLOWMULTISELECT; null after the last.
+  // All chosen files, with OFN_ALLOWMULTISELECT; the position becomes null after the last.
   POSITION GetStartPosition() const;
   CString GetNextPathName(POSITION& position) const;
 
  private:
   BOOL m_open;
   CString m_extension;
-  CString m_filter;     // with the system's null characters between its parts
-  CString m_fileNames;  // the system's buffer
+  CString m_filter;     // with NULs between its parts, as the system expects
+  CString m_fileNames;  // the buffer of m_ofn
 };

@@ -1,5 +1,5 @@
 // The standard controls: CButton, CBitmapButton, CStatic, CEdit, CComboBox, CListBox, CScrollBar.
-// Each class creates a control, and sends one message for each call.
+// Most members send one message to the control.
 #pragma once
 
 #include "framework/gdi_objects.h"
@@ -21,29 +21,29 @@ class AFX_FRAMEWORK CButton : public CWnd {
     SendMessageW(BM_SETSTYLE, style, static_cast<LPARAM>(redraw));
   }
 
-  // Draws an owner-drawn button (BS_OWNERDRAW); called through the parent's WM_DRAWITEM.
+  // Draws an owner-drawn button (BS_OWNERDRAW); called for the parent's WM_DRAWITEM.
   virtual void DrawItem(DRAWITEMSTRUCT*) {}
 
  protected:
   BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 };
 
-// A button shown as a bitmap for each state. The style given to Create must hold BS_OWNERDRAW.
+// A button with a bitmap for each state. The style given to Create must include BS_OWNERDRAW.
 class AFX_FRAMEWORK CBitmapButton : public CButton {
  public:
-  // By name or number from the resources (AfxFindResourceHandle); null or 0 for a state that has
-  // none. FALSE when a named one is missing; those before it stay loaded.
+  // By name or number from the resources (AfxFindResourceHandle); null or 0 for a state without a
+  // bitmap. FALSE when a bitmap is missing; the ones before it stay loaded.
   BOOL LoadBitmaps(LPCWSTR up, LPCWSTR selected = nullptr, LPCWSTR focused = nullptr,
                    LPCWSTR disabled = nullptr);
   BOOL LoadBitmaps(UINT up, UINT selected = 0, UINT focused = 0, UINT disabled = 0);
-  // Takes the control `id` of `parent` over and loads the bitmaps named after its caption with U,
-  // D, F and X appended; the first is needed. The button then takes their size.
+  // Subclasses the control `id` of `parent` and loads the bitmaps whose names are its caption with
+  // U, D, F and X appended; only the first is required. Then SizeToContent.
   BOOL AutoLoad(UINT id, CWnd* parent);
   // Gives the button the size of its first bitmap.
   void SizeToContent();
 
-  // Pressed: the selected bitmap; else with the focus: the focused; else disabled: the disabled. A
-  // state that has no bitmap shows the first one.
+  // Shows the first of these states that applies and has a bitmap: selected (pressed), focused,
+  // disabled; otherwise the first bitmap.
   void DrawItem(DRAWITEMSTRUCT* item) override;
 
  protected:
@@ -60,7 +60,7 @@ class AFX_FRAMEWORK CStatic : public CWnd {
     return CWnd::Create(L"STATIC", text, style, rect, parent, id);
   }
 
-  // The caller keeps the bitmap or icon, which must outlive its being shown. The old one returns.
+  // The caller owns the bitmap or icon and keeps it while it is shown. Returns the previous one.
   HBITMAP SetBitmap(HBITMAP bitmap) {
     return reinterpret_cast<HBITMAP>(
         SendMessageW(STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(bitmap)));
@@ -86,7 +86,7 @@ class AFX_FRAMEWORK CEdit : public CWnd {
   void ReplaceSel(LPCWSTR text, BOOL canUndo = FALSE) {
     SendMessageW(EM_REPLACESEL, static_cast<WPARAM>(canUndo), reinterpret_cast<LPARAM>(text));
   }
-  // The longest text a user can enter; 0 is the system's largest.
+  // The length of the longest text that can be entered; 0 is the system's maximum.
   void LimitText(int count = 0) { SendMessageW(EM_LIMITTEXT, static_cast<WPARAM>(count)); }
   void SetLimitText(UINT count) { SendMessageW(EM_SETLIMITTEXT, count); }
   UINT GetLimitText() const { return static_cast<UINT>(SendMessageW(EM_GETLIMITTEXT)); }
@@ -107,8 +107,8 @@ class AFX_FRAMEWORK CEdit : public CWnd {
   void Clear() { SendMessageW(WM_CLEAR); }
 };
 
-// Indexes of combo and list boxes count from 0; CB_ERR or LB_ERR (-1) says that there is no such
-// item, CB_ERRSPACE or LB_ERRSPACE (-2) that memory ran out.
+// Indexes of combo and list boxes count from 0. CB_ERR or LB_ERR (-1): no such item; CB_ERRSPACE or
+// LB_ERRSPACE (-2): out of memory.
 class AFX_FRAMEWORK CComboBox : public CWnd {
  public:
   virtual BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
@@ -117,7 +117,7 @@ class AFX_FRAMEWORK CComboBox : public CWnd {
 
   int GetCount() const { return Send(CB_GETCOUNT); }
   int GetCurSel() const { return Send(CB_GETCURSEL); }
-  // -1 selects nothing, which then also is the answer.
+  // -1 selects nothing; the result is then -1 too.
   int SetCurSel(int index) { return Send(CB_SETCURSEL, index); }
   int GetTopIndex() const { return Send(CB_GETTOPINDEX); }
   int GetLBText(int index, LPWSTR text) const { return Send(CB_GETLBTEXT, index, text); }
@@ -148,7 +148,7 @@ class AFX_FRAMEWORK CComboBox : public CWnd {
   int InsertString(int index, LPCWSTR text) { return Send(CB_INSERTSTRING, index, text); }
   int DeleteString(UINT index) { return Send(CB_DELETESTRING, static_cast<int>(index)); }
   void ResetContent() { Send(CB_RESETCONTENT); }
-  // Searches from the item after startAfter (-1: from the start) and around; case does not count.
+  // Searches from the item after startAfter (-1: from the start) and wraps around, ignoring case.
   int FindString(int startAfter, LPCWSTR prefix) const {
     return Send(CB_FINDSTRING, startAfter, prefix);
   }
@@ -213,7 +213,7 @@ class AFX_FRAMEWORK CScrollBar : public CWnd {
   BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
     return CWnd::Create(L"SCROLLBAR", nullptr, style, rect, parent, id);
   }
-  // Null for a null handle, as the bar of a window's own frame has.
+  // Null for a null handle, which the message of a window's own scroll bar has.
   static CScrollBar* FromHandle(HWND window);
 
   int GetScrollPos() const { return ::GetScrollPos(m_hWnd, SB_CTL); }

@@ -1,5 +1,6 @@
-// Dialog data exchange: DoDataExchange of a dialog calls one DDX function for each item, which
-// moves a value to the item or back (CWnd::UpdateData). A DDV function after it checks the value.
+// Dialog data exchange. DoDataExchange of a dialog calls a DDX function for each item, which moves
+// a value to the item or back (see CWnd::UpdateData), and after it a DDV function to check the
+// value.
 #pragma once
 
 #include "framework/string.h"
@@ -15,17 +16,20 @@ class AFX_FRAMEWORK CDataExchange {
   CDataExchange(CWnd* dialog, BOOL saveAndValidate)
       : m_bSaveAndValidate(saveAndValidate), m_pDlgWnd(dialog) {}
 
-  // The item's handle, remembered for Fail. Throws (ends the exchange) when there is no such item.
+  // The item's handle, which is remembered for Fail. Throws a CResourceException when there is no
+  // such item.
   HWND PrepareCtrl(int id);
   HWND PrepareEditCtrl(int id);
-  // Puts the focus on the last item and ends the exchange; UpdateData returns FALSE.
+  // Sets the focus to the last item and ends the exchange with a CUserException; UpdateData returns
+  // FALSE.
   [[noreturn]] void Fail();
 };
 
-// Connects `control` with the item by subclassing it, once.
+// Subclasses the item with `control`, unless that has a window already.
 AFX_FRAMEWORK void DDX_Control(CDataExchange* exchange, int id, CWnd& control);
 
-// An edit's text. A text that is not such a number is told to the user, and the exchange fails.
+// The text of an edit. If it is not a number of the type, a message box says so and the exchange
+// fails.
 AFX_FRAMEWORK void DDX_Text(CDataExchange* exchange, int id, CString& value);
 AFX_FRAMEWORK void DDX_Text(CDataExchange* exchange, int id, int& value);
 AFX_FRAMEWORK void DDX_Text(CDataExchange* exchange, int id, UINT& value);
@@ -33,7 +37,7 @@ AFX_FRAMEWORK void DDX_Text(CDataExchange* exchange, int id, long& value);
 AFX_FRAMEWORK void DDX_Text(CDataExchange* exchange, int id, double& value);
 
 AFX_FRAMEWORK void DDX_Check(CDataExchange* exchange, int id, int& value);  // 0, 1 or 2
-// The index, from 0, of the checked button in the group that starts with `id`; -1 for none.
+// The index, from 0, of the checked button in the group that starts with `id`; -1 without one.
 AFX_FRAMEWORK void DDX_Radio(CDataExchange* exchange, int id, int& value);
 AFX_FRAMEWORK void DDX_CBIndex(CDataExchange* exchange, int id, int& index);
 AFX_FRAMEWORK void DDX_CBString(CDataExchange* exchange, int id, CString& value);

@@ -1,10 +1,10 @@
-// CCeDBDatabase: a database of the device's object store; CCeDBEnum: a walk over the databases.
+// CCeDBDatabase: a database of the device's object store; CCeDBEnum: an enumeration of databases.
 //
-// A seek returns the record it found, or 0. Calls that fail say why through GetLastError.
+// A seek returns the record it found, or 0. When a call fails, GetLastError gives the reason.
 //
-// Differs from the class that hosts know: windows are not notified, so pParent is taken and ignored
-// and there are no OnRecord... calls; the number of records and the last modification come as DWORD
-// and FILETIME; GetNumChanges is an addition, for the sake of what is kept beside a database.
+// Differs from the usual class: windows are not notified, so pParent is ignored and there are no
+// OnRecord... calls; the number of records is a DWORD and the last modification a FILETIME;
+// GetNumChanges is an addition.
 #pragma once
 
 #include "framework/db_record.h"
@@ -22,19 +22,19 @@ class AFX_FRAMEWORK CCeDBDatabase {
   // ---- Databases as a whole
 
   static BOOL Exists(LPCWSTR lpszName);
-  // The identifier of the new database, which is not opened; up to CEDB_MAXSORTORDER properties to
-  // sort by.
+  // The identifier of the new database, which is not opened; 0 on failure. Up to CEDB_MAXSORTORDER
+  // properties to sort by.
   CEOID Create(LPCWSTR lpszName, DWORD dwIdent = 0, WORD wNumProps = 0,
                CCeDBProp* pSortProps = NULL);
   static BOOL Delete(LPCWSTR lpszName);
   static BOOL Delete(CEOID oidDatabase);
-  // Closes and deletes the open one.
+  // Closes the open database and deletes it.
   BOOL Delete();
 
   // ---- Opening
   //
-  // Closes what was open. The first record in the order becomes the current one. Without a property
-  // to sort by, the database's first order is taken.
+  // Closes the open database first. The first record in the order becomes the current one. Without
+  // a property to sort by, the database's first order is used.
 
   BOOL Open(LPCWSTR lpszName, CCeDBProp* pSortProp = NULL, CWnd* pParent = NULL);
   BOOL Open(CEOID oidDatabase, CCeDBProp* pSortProp = NULL, CWnd* pParent = NULL);
@@ -48,21 +48,21 @@ class AFX_FRAMEWORK CCeDBDatabase {
   DWORD GetIdent() const;
   CString GetName() const;
   FILETIME GetLastModified() const;
-  // How often a record of it was added, changed or deleted, by whomsoever; one for each call that
-  // did. 0xFFFFFFFFFFFFFFFF when that cannot be told.
+  // The number of calls that added, changed or deleted a record, through any handle. Data derived
+  // from the database is up to date while it stays the same. 0xFFFFFFFFFFFFFFFF when it is unknown.
   ULONGLONG GetNumChanges() const;
   BOOL SetIdent(DWORD dwIdent);
   BOOL SetName(LPCWSTR lpszName);
   WORD GetNumSortProps() const;
-  // Fills up to wNumProps properties and returns how many.
+  // Fills up to wNumProps properties and returns their number.
   WORD GetSortProps(CCeDBProp* pSortProps, WORD wNumProps) const;
   // FALSE when the database is not sorted by such a property.
   BOOL GetSortPropFromIdent(WORD wIdent, CCeDBProp* pSortProp) const;
-  // Closes the database, for an open one keeps its orders.
+  // Closes the database, because the orders of an open one cannot change.
   BOOL SetSortProps(WORD wNumProps, CCeDBProp* pSortProps);
 
-  // ---- Seeking. A seek that finds nothing leaves no current record and sets m_bEOF, but for
-  //      SeekValueSmaller, which never sets it. A value must be one of the property sorted by.
+  // ---- Seeking. After a seek that finds nothing there is no current record, and m_bEOF is set,
+  //      except by SeekValueSmaller. A value must be of the property sorted by.
 
   CEOID SeekFirst();
   CEOID SeekLast();
@@ -71,12 +71,12 @@ class AFX_FRAMEWORK CCeDBDatabase {
   CEOID SeekToIndex(DWORD dwIndex);
   CEOID SeekToRecord(CEOID oidRecord);
   CEOID SeekFirstEqual(const CCeDBProp& prop);
-  // The next record if its value is equal. After a read with m_bAutoSeekNext one record has been
-  // passed already.
+  // The next record if its value is equal. A read with m_bAutoSeekNext has already moved to the
+  // next record.
   CEOID SeekNextEqual(const CCeDBProp& prop);
-  // The nearest smaller value, of equal ones the first; the nearest larger in a falling order.
+  // The first record with the nearest smaller value; in a descending order, the nearest larger one.
   CEOID SeekValueSmaller(const CCeDBProp& prop);
-  // The first with this value or a larger one; with this or a smaller one in a falling order.
+  // The first record with this value or a larger one; in a descending order, this or a smaller one.
   CEOID SeekValueGreater(const CCeDBProp& prop);
 
   CEOID GetCurrRecord() const { return m_oidCurrRec; }
@@ -85,8 +85,8 @@ class AFX_FRAMEWORK CCeDBDatabase {
 
   // ---- Records
   //
-  // A filter is an array of properties whose identifiers say which ones take part; their types and
-  // values do not count.
+  // A filter is an array of properties: only properties with their identifiers are read or written.
+  // Their types and values are ignored.
 
   // The new record becomes the current one.
   CEOID AddRecord(CCeDBRecord* pRec);
@@ -95,15 +95,15 @@ class AFX_FRAMEWORK CCeDBDatabase {
   // Properties that the record does not hold stay as they are.
   BOOL WriteCurrRecord(CCeDBRecord* pRec, int nNumFilterProps = 0,
                        CCeDBProp* PropFilterArray = NULL);
-  // Takes properties out of the current record, by identifier and type.
+  // Removes properties from the current record, by identifier and type.
   BOOL DeleteCurrProps(CCeDBProp* pPropArray, int nNumProps);
-  // SeekNext finds the record behind it; with m_bAutoSeekNext that becomes the current one.
+  // SeekNext then finds the following record; with m_bAutoSeekNext that becomes the current one.
   BOOL DeleteCurrRecord();
 
   // ---- Data members
 
   HANDLE m_hDatabase = INVALID_HANDLE_VALUE;  // for the device's calls; closed by Close
-  BOOL m_bAutoSeekNext = TRUE;                // go on to the next record after a read or a deletion
+  BOOL m_bAutoSeekNext = TRUE;                // move to the next record after a read or a deletion
   BOOL m_bEOF = FALSE;                        // the last seek, or step after a read, found nothing
 
  private:
@@ -115,23 +115,23 @@ class AFX_FRAMEWORK CCeDBDatabase {
   CEOID Write(CEOID oidRecord, std::vector<CEPROPVAL>& values);
   CEDBASEINFO Describe() const;
 
-  CEOID m_oidDatabase = 0;  // of the open one
+  CEOID m_oidDatabase = 0;  // of the open database
   CEOID m_oidCurrRec = 0;
 };
 
 class AFX_FRAMEWORK CCeDBEnum {
  public:
-  // Over the databases of one type, or over all for 0.
+  // The databases of one type, or all for 0.
   explicit CCeDBEnum(DWORD dwIdentifier = 0);
   ~CCeDBEnum();
   CCeDBEnum(const CCeDBEnum&) = delete;
   CCeDBEnum& operator=(const CCeDBEnum&) = delete;
 
-  // The next database, 0 behind the last. Once a database was deleted the walk is over
-  // (ERROR_KEY_DELETED) until it starts anew.
+  // The next database, or 0 after the last. After a database was deleted, Next fails with
+  // ERROR_KEY_DELETED until Reset.
   CEOID Next();
 
-  // Starts anew.
+  // Restarts the enumeration.
   BOOL Reset(DWORD dwIdentifier = 0);
 
   HANDLE m_hEnum = INVALID_HANDLE_VALUE;

@@ -30,10 +30,10 @@ class AFX_FRAMEWORK CCeDBProp {
     Sort_GenericOrder = CEDB_SORT_GENERICORDER,
   };
 
-  // Whether a string or blob is copied, or stays the caller's and must outlive the property.
+  // Whether a string or blob is copied, or is the caller's and must outlive the property.
   enum enMode { Copy, NoCopy };
 
-  // ---- Making. A property without a value serves to sort, to filter and to delete.
+  // ---- Construction. A property without a value is for sorting, filtering and deleting.
 
   CCeDBProp();
   CCeDBProp(enType nType, WORD wIdent = 0, WORD wSortFlags = Sort_Ascending);
@@ -47,26 +47,25 @@ class AFX_FRAMEWORK CCeDBProp {
   // From a value of the device's calls; its string or blob is copied.
   explicit CCeDBProp(const CEPROPVAL& value);
 
-  // A copy has strings and blobs of its own when the original has.
+  // A copy owns its string or blob if the original does.
   CCeDBProp(const CCeDBProp& prop);
   CCeDBProp(CCeDBProp&& prop) noexcept;
   CCeDBProp& operator=(const CCeDBProp& prop);
   CCeDBProp& operator=(CCeDBProp&& prop) noexcept;
   ~CCeDBProp();
 
-  // ---- What it is
+  // ---- Identifier and type
 
   WORD GetIdent() const { return HIWORD(m_propVal.propid); }
   enType GetType() const { return static_cast<enType>(LOWORD(m_propVal.propid)); }
   WORD GetSortFlags() const { return m_wSortFlags; }
   void SetIdent(WORD wIdent);
   void SetSortFlags(WORD wSortFlags) { m_wSortFlags = wSortFlags; }
-  // As the device's calls take it; good until the property changes.
+  // As the device's calls take it; valid until the property changes.
   const CEPROPVAL& GetPropVal() const { return m_propVal; }
 
-  // ---- Its value. Get does not convert: ask for the type the property has. Set gives the property
-  //      the type of the value. What GetString and GetBlob point to lives as long as the property
-  //      keeps its value.
+  // ---- Value. Get does not convert: use the one for the property's type. Set changes the type to
+  //      that of the value. What GetString and GetBlob point to is valid until the value changes.
 
   short GetShort() const { return m_propVal.val.iVal; }
   USHORT GetUShort() const { return m_propVal.val.uiVal; }
@@ -93,17 +92,18 @@ class AFX_FRAMEWORK CCeDBProp {
  private:
   void SetType(enType type);
   void Swap(CCeDBProp& other) noexcept;
-  // Makes a string or blob the property's own; null stays null.
+  // Copies a string or blob into m_copy.
   LPBYTE Keep(const void* bytes, size_t count);
 
   CEPROPVAL m_propVal{};
-  std::unique_ptr<BYTE[]> m_copy;  // what the value points to, when it is the property's own
+  std::unique_ptr<BYTE[]> m_copy;  // what the value points to, if the property owns it
 };
 
 // A record on its way to or from a database.
 //
-// Properties that are added stay their owner's, who keeps them until the record is done with them.
-// Those that a read put in belong to the record, and their addresses are good until the next read.
+// Added properties stay owned by the caller and must exist as long as the record uses them.
+// Properties that a read put in belong to the record; their addresses are valid until the next
+// read.
 class AFX_FRAMEWORK CCeDBRecord {
  public:
   CCeDBRecord();
@@ -116,12 +116,12 @@ class AFX_FRAMEWORK CCeDBRecord {
   BOOL AddProps(CCeDBProp* pPropArray, int nNumProps);
 
   WORD GetNumProps() const;
-  // Null when there is none.
+  // Null when there is no such property.
   CCeDBProp* GetPropFromIdent(WORD wIdent) const;
   CCeDBProp* GetPropFromIndex(int nIndex) const;
   CCeDBProp* operator[](int nIndex) const { return GetPropFromIndex(nIndex); }
-  // Gives each property of the array, which has an identifier, the value it has in this record.
-  // FALSE when one is not there; it is left as it was.
+  // Sets each property of the array to the record's value for its identifier. FALSE when a property
+  // is not in the record; it is not changed.
   BOOL GetMultiProps(CCeDBProp* pPropArray, int nNumProps) const;
 
   void DeleteProp(WORD wPropIdent);
@@ -130,12 +130,12 @@ class AFX_FRAMEWORK CCeDBRecord {
  private:
   friend class CCeDBDatabase;
 
-  // A record that is read into again and again takes memory the first time only.
+  // So that repeated reads into one record allocate memory only once.
   void Reserve(size_t count);
-  // Copies a value that was read; its place among all properties follows when all are there.
+  // Copies a value that was read. ListRead adds it to m_props after the last value.
   void TakeRead(const CEPROPVAL& value) { m_read.emplace_back(value); }
   void ListRead();
-  // Puts the values of the properties that take part into m_values.
+  // Collects in m_values the values of the properties for which takesPart is true.
   template <class TakesPart>
   void GatherValues(TakesPart takesPart) {
     m_values.clear();
@@ -145,6 +145,6 @@ class AFX_FRAMEWORK CCeDBRecord {
   }
 
   std::vector<CCeDBProp*> m_props;  // all, in order
-  std::vector<CCeDBProp> m_read;    // those of the record's own
-  std::vector<CEPROPVAL> m_values;  // on their way into the database
+  std::vector<CCeDBProp> m_read;    // those owned by the record
+  std::vector<CEPROPVAL> m_values;  // to be written to the database
 };

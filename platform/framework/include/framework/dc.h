@@ -1,5 +1,5 @@
-// CDC: a device context. The drawing calls are the system's own, in logical units; a call that
-// fails says so as the system's does.
+// CDC: a device context; CClientDC, CWindowDC and CPaintDC: those of a window. Members call the GDI
+// functions of the same name, in logical units, and return their results.
 //
 // Drawing names that <windows.h> defines as macros are declared twice, see framework/platform.h.
 #pragma once
@@ -12,8 +12,8 @@ class CWnd;
 
 class AFX_FRAMEWORK CDC : public CObject {
  public:
-  HDC m_hDC = nullptr;        // drawing goes here
-  HDC m_hAttribDC = nullptr;  // questions are answered by this one; usually the same
+  HDC m_hDC = nullptr;        // for drawing
+  HDC m_hAttribDC = nullptr;  // for queries; usually the same
 
   CDC() = default;
   ~CDC() override;  // deletes a context that was created or attached
@@ -43,8 +43,8 @@ class AFX_FRAMEWORK CDC : public CObject {
   }
   BOOL DeleteDC();
 
-  // ---- Objects: each call selects and returns the object selected before, owned by whoever owned
-  // it (null when the system refused). Put it back before the new one dies.
+  // ---- Objects: each call selects an object and returns the one selected before (null when GDI
+  //      refuses), whose owner does not change. Select it back before the new one is destroyed.
 
   CGdiObject* SelectObject(CGdiObject* object);
   CPen* SelectObject(CPen* pen);
@@ -135,7 +135,7 @@ class AFX_FRAMEWORK CDC : public CObject {
   void FrameRect(const RECT* rect, CBrush* brush) { ::FrameRect(m_hDC, rect, *brush); }
   void InvertRect(const RECT* rect) { ::InvertRect(m_hDC, rect); }
   BOOL FillRgn(CRgn* region, CBrush* brush) { return ::FillRgn(m_hDC, *region, *brush); }
-  // Fills without a brush; leaves the colour as the background colour.
+  // Fills without a brush; the colour becomes the background colour.
   void FillSolidRect(const RECT* rect, COLORREF colour);
   void FillSolidRect(int x, int y, int width, int height, COLORREF colour);
   void DrawFocusRect(const RECT* rect) { ::DrawFocusRect(m_hDC, rect); }
@@ -215,8 +215,8 @@ class AFX_FRAMEWORK CDC : public CObject {
   BOOL GetTextMetricsA(TEXTMETRICW* metrics) const { return GetTextMetricsW(metrics); }
 };
 
-// ---- Device contexts of windows, got on construction and given back on destruction. A null window
-//      is the whole screen. A constructor that gets no context throws a CResourceException.
+// ---- Device contexts of windows, released on destruction. A null window is the whole screen. The
+//      constructors throw a CResourceException when there is no context.
 
 class AFX_FRAMEWORK CClientDC : public CDC {
  public:

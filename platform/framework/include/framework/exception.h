@@ -1,4 +1,4 @@
-// Exceptions, thrown as pointers and ended with Delete() by whoever catches them.
+// Exceptions. They are thrown as pointers; the handler that catches one calls Delete().
 #pragma once
 
 #include "framework/object.h"
@@ -7,11 +7,11 @@
 class AFX_FRAMEWORK CException : public CObject {
   DECLARE_DYNAMIC(CException)
  public:
-  // Frees an exception that was made with new.
+  // Deletes an exception that was created with new.
   void Delete();
 
-  // A sentence for the user, cut to `maxCount` characters with the closing NUL. FALSE when there is
-  // none.
+  // A message for the user, truncated to `maxCount` characters including the NUL. FALSE when the
+  // exception has no message.
   virtual BOOL GetErrorMessage(LPWSTR text, UINT maxCount) const;
 
  protected:
@@ -19,21 +19,21 @@ class AFX_FRAMEWORK CException : public CObject {
   ~CException() override = default;
 };
 
-// A resource is missing or the system has no more of it.
+// A resource was not found or could not be created.
 class AFX_FRAMEWORK CResourceException : public CException {
   DECLARE_DYNAMIC(CResourceException)
  public:
   BOOL GetErrorMessage(LPWSTR text, UINT maxCount) const override;
 };
 
-// No memory.
+// Out of memory.
 class AFX_FRAMEWORK CMemoryException : public CException {
   DECLARE_DYNAMIC(CMemoryException)
  public:
   BOOL GetErrorMessage(LPWSTR text, UINT maxCount) const override;
 };
 
-// The user has been told already, or has changed his mind.
+// The user was informed already, or cancelled.
 class AFX_FRAMEWORK CUserException : public CException {
   DECLARE_DYNAMIC(CUserException)
 };
@@ -61,7 +61,7 @@ class AFX_FRAMEWORK CFileException : public CException {
 
   explicit CFileException(int cause = none, LONG osError = -1, LPCWSTR fileName = nullptr);
 
-  // The cause that a system error code stands for.
+  // The cause that corresponds to a system error code.
   static int OsErrorToException(LONG osError);
   [[noreturn]] static void ThrowOsError(LONG osError, LPCWSTR fileName = nullptr);
   BOOL GetErrorMessage(LPWSTR text, UINT maxCount) const override;

@@ -1,21 +1,21 @@
 // CFile: a file of bytes.
 //
-// A path that begins with exactly one backslash lies, on the device, in its root folder; here it
-// lies in the folder that stands for it, see AfxMapDevicePath. All calls that take a path map it.
+// On the device, a path that begins with exactly one backslash is in the root folder. Here it is in
+// the folder that AfxMapDevicePath describes. All calls that take a path map it.
 #pragma once
 
 #include "framework/exception.h"
 #include "framework/object.h"
 #include "framework/string.h"
 
-// The path as the system knows it: of a path that begins with exactly one backslash, the file in
-// the folder that the environment variable CE_DEVICE_ROOT names at this moment. When it is unset or
-// empty, the folder is one that this process has to itself and that goes with the process:
-// Tavix\DeviceRoot\process-<id> in the user's local application data. Any other path, a mapped one
-// among them, comes back unchanged.
+// Maps a path of the device to a path of the system. A path that begins with exactly one backslash
+// is placed in the folder named by the environment variable CE_DEVICE_ROOT, which is read at each
+// call. When it is unset or empty, the folder is one of this process alone, which is removed when
+// the process ends: Tavix\DeviceRoot\process-<id> in the user's local application data. Any other
+// path, including a mapped one, is returned unchanged.
 AFX_FRAMEWORK CString AfxMapDevicePath(LPCWSTR path);
 
-// Calls that fail throw a CFileException*, but for Open, which returns FALSE.
+// Calls that fail throw a CFileException*, except Open, which returns FALSE.
 class AFX_FRAMEWORK CFile : public CObject {
   DECLARE_DYNAMIC(CFile)
  public:
@@ -29,28 +29,28 @@ class AFX_FRAMEWORK CFile : public CObject {
     shareDenyRead = 0x0030,
     shareDenyNone = 0x0040,
     modeNoInherit = 0x0080,
-    modeCreate = 0x1000,      // makes the file, or empties the one there is
+    modeCreate = 0x1000,      // creates the file, or truncates an existing one
     modeNoTruncate = 0x2000,  // with modeCreate: an existing file keeps its contents
     typeText = 0x4000,        // accepted and without effect
     typeBinary = 0x8000,      // accepted and without effect
   };
   enum SeekPosition { begin = 0, current = 1, end = 2 };
-  static const HANDLE hFileNull;  // of a file that is not open
+  static const HANDLE hFileNull;  // m_hFile of a file that is not open
 
   CFile();
-  explicit CFile(HANDLE file);  // takes the handle, and closes it in the end
+  explicit CFile(HANDLE file);  // takes ownership of the handle
   CFile(LPCWSTR path, UINT flags);
   ~CFile() override;
 
-  // A null `error` is allowed; otherwise it receives the cause of a failure.
+  // `error` receives the cause of a failure; it may be null.
   virtual BOOL Open(LPCWSTR path, UINT flags, CFileException* error = nullptr);
 
-  // At most `count` bytes; returns how many there were, 0 at the end of the file.
+  // Reads up to `count` bytes and returns their number, 0 at the end of the file.
   virtual UINT Read(void* buffer, UINT count);
-  // All of the bytes; fewer is a full disk.
+  // Writes all bytes; if only some can be written, throws diskFull.
   virtual void Write(const void* buffer, UINT count);
 
-  // A negative place throws badSeek. Returns the new position.
+  // Returns the new position. A negative position throws badSeek.
   virtual ULONGLONG Seek(LONGLONG offset, UINT from);
   void SeekToBegin() { Seek(0, begin); }
   ULONGLONG SeekToEnd() { return Seek(0, end); }
@@ -58,16 +58,16 @@ class AFX_FRAMEWORK CFile : public CObject {
   virtual ULONGLONG GetLength() const;
   virtual void SetLength(ULONGLONG length);
 
-  // Keeps these bytes, which may lie behind the end, from every other handle until they are
-  // unlocked or the file is closed.
+  // Locks these bytes, which may be beyond the end, against other handles until UnlockRange or
+  // Close.
   virtual void LockRange(ULONGLONG position, ULONGLONG count);
   virtual void UnlockRange(ULONGLONG position, ULONGLONG count);
 
   virtual void Flush();
   virtual void Close();
-  virtual void Abort();  // closes whatever happens
+  virtual void Abort();  // closes and ignores errors
 
-  // The full path the file was opened by.
+  // The full path of the open file.
   virtual CString GetFilePath() const { return m_strFileName; }
   virtual CString GetFileName() const;
 

@@ -1,23 +1,24 @@
-// CFrameWnd: a main window with a caption and a menu. Make it with new: it deletes itself when its
-// window is gone.
+// CFrameWnd: a main window with a caption and a menu. Create it with new: it deletes itself after
+// its window was destroyed.
 #pragma once
 
 #include "framework/wnd.h"
 
 class AFX_FRAMEWORK CFrameWnd : public CWnd {
  public:
-  static const RECT rectDefault;  // lets the system choose place and size
+  static const RECT rectDefault;  // the system chooses position and size
 
-  // className null: one with an arrow cursor and the window background. menuName: of the resources.
+  // A null className is a class with an arrow cursor and the window background. menuName is in the
+  // resources.
   virtual BOOL Create(LPCWSTR className, LPCWSTR windowName, DWORD style = WS_OVERLAPPEDWINDOW,
                       const RECT& rect = rectDefault, CWnd* parent = nullptr,
                       LPCWSTR menuName = nullptr, DWORD exStyle = 0,
                       CCreateContext* context = nullptr);
-  // Keys that become commands; of the resources.
+  // Loads an accelerator table from the resources.
   BOOL LoadAccelTable(LPCWSTR name);
 
   BOOL PreTranslateMessage(MSG* message) override;
-  // Itself, then the application.
+  // Routes to the window, then to the application.
   BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
  protected:

@@ -11,8 +11,8 @@ class CDC;
 // The owner of one GDI object.
 //
 // An object that was created or attached is deleted with its CGdiObject. Select the old object back
-// into the device context first: GDI does not delete an object that is still selected, and it then
-// lives on until the process ends.
+// into the device context first: GDI does not delete a selected object, which then remains until
+// the process ends.
 class AFX_FRAMEWORK CGdiObject : public CObject {
  public:
   HGDIOBJ m_hObject = nullptr;
@@ -27,16 +27,16 @@ class AFX_FRAMEWORK CGdiObject : public CObject {
   // the handle; null for a null handle.
   static CGdiObject* FromHandle(HGDIOBJ handle);
 
-  // Takes the handle over; the object must be empty. FALSE for a null handle. A stock object, or
-  // the stock bitmap that the system gives in place of one of no size, is held but never owned.
+  // Takes ownership of the handle; the object must be empty. FALSE for a null handle. A stock
+  // object, or the stock bitmap that GDI returns for a bitmap without size, is held but not owned.
   BOOL Attach(HGDIOBJ handle);
-  // Gives the handle back; the caller owns it.
+  // Gives up the handle, which the caller then owns.
   HGDIOBJ Detach();
-  // Deletes the system's object. FALSE when empty or when the system refuses.
+  // Deletes the GDI object. FALSE when there is none or GDI refuses.
   BOOL DeleteObject();
 
-  // Writes at most `count` bytes that describe the object (a LOGPEN, BITMAP, ...); the number
-  // written.
+  // Writes up to `count` bytes that describe the object (a LOGPEN, BITMAP, ...) and returns their
+  // number.
   int GetObjectW(int count, void* object) const { return ::GetObjectW(m_hObject, count, object); }
   int GetObjectA(int count, void* object) const { return GetObjectW(count, object); }
   // OBJ_PEN, OBJ_BRUSH, ...; 0 for a dead handle.
@@ -47,12 +47,12 @@ class AFX_FRAMEWORK CGdiObject : public CObject {
   BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
 
  protected:
-  // Holds a handle of the system's own. FALSE for a null handle.
+  // Holds a handle without owning it. FALSE for a null handle.
   BOOL Borrow(HGDIOBJ handle);
 };
 
-// Each Create call of the classes below needs an empty object and is FALSE when the system refuses;
-// constructors that create throw a CResourceException then.
+// The Create calls of the classes below need an empty object and return FALSE when GDI refuses.
+// Constructors that create throw a CResourceException then.
 
 class AFX_FRAMEWORK CPen : public CGdiObject {
  public:
@@ -62,7 +62,7 @@ class AFX_FRAMEWORK CPen : public CGdiObject {
   static CPen* FromHandle(HPEN handle);
   operator HPEN() const { return static_cast<HPEN>(m_hObject); }
 
-  // width in logical units; 0 is one pixel whatever the mapping.
+  // width in logical units; 0 is one pixel in every mapping mode.
   BOOL CreatePen(int style, int width, COLORREF colour) {
     return Attach(::CreatePen(style, width, colour));
   }

@@ -34,7 +34,7 @@ class CSize : public tagSIZE {
   CSize operator-(SIZE other) const { return {cx - other.cx, cy - other.cy}; }
   CSize operator-() const { return {-cx, -cy}; }
 
-  // The point this far from, or this far before, the other.
+  // The point moved by this size, or by its negative.
   CPoint operator+(POINT point) const;
   CPoint operator-(POINT point) const;
 };
@@ -87,8 +87,8 @@ inline CPoint CSize::operator+(POINT point) const { return {cx + point.x, cy + p
 inline CPoint CSize::operator-(POINT point) const { return {cx - point.x, cy - point.y}; }
 
 // Right and bottom lie outside. Normalised means left <= right and top <= bottom; Width and Height
-// may be negative otherwise, and the calls that intersect, unite or look inside expect normalised
-// rectangles. Pointers must not be null.
+// may be negative otherwise, and the calls that combine rectangles or test points expect normalised
+// ones. Pointers must not be null.
 class CRect : public tagRECT {
  public:
   CRect() : tagRECT{0, 0, 0, 0} {}
@@ -103,7 +103,7 @@ class CRect : public tagRECT {
   operator RECT*() { return this; }
   operator const RECT*() const { return this; }
 
-  // ---- Measures and places; TopLeft and BottomRight may be written to
+  // ---- Size and position; TopLeft and BottomRight can be assigned to
 
   int Width() const { return right - left; }
   int Height() const { return bottom - top; }
@@ -135,7 +135,7 @@ class CRect : public tagRECT {
     if (top > bottom) std::swap(top, bottom);
   }
 
-  // ---- Moving; MoveToXY and its kin keep the size
+  // ---- Moving; the size stays
 
   void OffsetRect(int dx, int dy) { ::OffsetRect(this, dx, dy); }
   void OffsetRect(POINT by) { OffsetRect(by.x, by.y); }
@@ -162,7 +162,7 @@ class CRect : public tagRECT {
 
   BOOL IntersectRect(const RECT* a, const RECT* b) { return ::IntersectRect(this, a, b); }
   BOOL UnionRect(const RECT* a, const RECT* b) { return ::UnionRect(this, a, b); }
-  // What of `a` the other leaves, where that is a rectangle; else `a`.
+  // `a` without `b` where that is a rectangle; otherwise `a`.
   BOOL SubtractRect(const RECT* a, const RECT* b) { return ::SubtractRect(this, a, b); }
 
   // ---- Operators: + and - of a point or size move, of a rectangle inflate and deflate

@@ -1,5 +1,5 @@
 // CMenu: a menu. A menu that was loaded, created or attached is destroyed with its object, unless
-// Detach gave it up, for example to the window whose bar it becomes.
+// it was detached, for example because it became the menu of a window.
 #pragma once
 
 #include "framework/object.h"
@@ -14,7 +14,8 @@ class AFX_FRAMEWORK CMenu : public CObject {
   CMenu() = default;
   ~CMenu() override;
 
-  // The object that holds the handle, or a temporary one; null for a null handle.
+  // The object that holds the handle, or a temporary one that does not own it and lives as long as
+  // the handle; null for a null handle.
   static CMenu* FromHandle(HMENU handle);
   HMENU GetSafeHmenu() const { return m_hMenu; }
   operator HMENU() const { return m_hMenu; }
@@ -40,7 +41,7 @@ class AFX_FRAMEWORK CMenu : public CObject {
   }
   BOOL DeleteMenu(UINT item, UINT flags) { return ::DeleteMenu(m_hMenu, item, flags); }
   BOOL RemoveMenu(UINT item, UINT flags) { return ::RemoveMenu(m_hMenu, item, flags); }
-  // The state before, or -1 (as a number without sign) when there is no such item.
+  // The previous state, or 0xFFFFFFFF when there is no such item.
   UINT EnableMenuItem(UINT item, UINT flags) {
     return static_cast<UINT>(::EnableMenuItem(m_hMenu, item, flags));
   }
@@ -57,7 +58,8 @@ class AFX_FRAMEWORK CMenu : public CObject {
   int GetMenuStringW(UINT item, CString& text, UINT flags) const;
   CMenu* GetSubMenu(int position) const { return FromHandle(::GetSubMenu(m_hMenu, position)); }
 
-  // Screen coordinates. With TPM_RETURNCMD the chosen id, else non-zero on success.
+  // x and y are screen coordinates. Returns the chosen id with TPM_RETURNCMD, otherwise non-zero on
+  // success.
   BOOL TrackPopupMenu(UINT flags, int x, int y, CWnd* owner, const RECT* rect = nullptr);
 
   // ---- The same for hosts compiled without UNICODE

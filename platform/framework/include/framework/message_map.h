@@ -1,7 +1,6 @@
-// Message maps: which member function of a class answers which message. A map is a table of
-// entries, one for each handler, followed by the map of the base class. Each entry keeps its
-// handler with the class and the signature it was written with; both are checked where the map is
-// compiled.
+// Message maps: which member function of a class handles which message; and CCmdTarget, the base of
+// all classes with a map. A map is a table of entries, one for each handler, with a link to the map
+// of the base class. Class and signature of a handler are checked where the map is compiled.
 #pragma once
 
 #include <array>
@@ -14,12 +13,12 @@
 class CCmdTarget;
 struct AFX_MSGMAP_ENTRY;
 
-// Any handler's address, whatever its signature: member pointers all have one size. This header
-// keeps to C++17, as hosts may: the bytes are copied.
+// The address of a handler of any signature: all member pointers have the same size. The bytes are
+// copied, because hosts may compile this header as C++17.
 using AFX_HANDLER = std::array<std::byte, sizeof(void (CCmdTarget::*)())>;
 
-// What a handler is called with. For a command, message is the command's code, wParam its id; for a
-// notification, lParam is the NMHDR and notifyResult where its answer goes.
+// The message that a handler is called for. For a command, message is the notification code and
+// wParam the id; for a notification, lParam is the NMHDR and notifyResult receives the result.
 struct AFX_MESSAGE {
   UINT message = 0;
   WPARAM wParam = 0;
@@ -29,9 +28,9 @@ struct AFX_MESSAGE {
 
 using AFX_INVOKER = LRESULT (*)(CCmdTarget&, const AFX_MSGMAP_ENTRY&, const AFX_MESSAGE&);
 
-// One row of a map. nMessage is a window message, or WM_COMMAND with nCode and nID to nLastID, or
-// WM_NOTIFY likewise. A row without invoker ends the table. registered, when not null, points to
-// the number of a message that was registered by name at run time.
+// One row of a map. nMessage is a window message, or WM_COMMAND or WM_NOTIFY with nCode and the ids
+// nID to nLastID. A row without invoker ends the table. registered, when not null, points to the
+// number of a message that was registered by name at run time.
 struct AFX_MSGMAP_ENTRY {
   UINT nMessage = 0;
   UINT nCode = 0;
@@ -47,13 +46,12 @@ struct AFX_MSGMAP {
   const AFX_MSGMAP_ENTRY* lpEntries;
 };
 
-// The row of `messages` or of its bases that answers, or null. The nearest class wins, in a class
-// the first row.
+// The first matching row of `messages` or of the maps of its base classes, or null.
 AFX_FRAMEWORK const AFX_MSGMAP_ENTRY* AfxFindMessageEntry(const AFX_MSGMAP* messages, UINT message,
                                                           UINT code, UINT id);
 
-// Unpacker<T> knows one kind of message for handlers of class T: the handler's type Member, and
-// Call, which takes the message apart and calls the handler.
+// Unpacker<T> describes one kind of message for handlers of class T: Member is the type of the
+// handler; Call converts the message to its arguments and calls it.
 template <template <class> class Unpacker, class T>
 LRESULT AfxInvokeHandler(CCmdTarget& target, const AFX_MSGMAP_ENTRY& entry,
                          const AFX_MESSAGE& message) {
@@ -97,7 +95,7 @@ AFX_MSGMAP_ENTRY AfxMessageEntry(UINT message, UINT code, UINT firstId, UINT las
 
 inline constexpr int CN_COMMAND = 0;  // a menu command, an accelerator or a button's click
 
-// Which object and row would handle a command; OnCmdMsg fills it in and calls nothing.
+// The object and row that handle a command. OnCmdMsg fills it in and does not call the handler.
 struct AFX_CMDHANDLERINFO {
   CCmdTarget* pTarget = nullptr;
   const AFX_MSGMAP_ENTRY* pEntry = nullptr;
@@ -108,9 +106,9 @@ class AFX_FRAMEWORK CCmdTarget : public CObject {
   CCmdTarget() = default;
   ~CCmdTarget() override = default;
 
-  // Routes a command with id nID and notification code nCode to the handler in the message map, and
-  // tells whether there was one. For WM_NOTIFY the high word of nCode is WM_NOTIFY and pExtra is an
-  // AFX_NOTIFY. Derived classes pass on to further objects what they do not handle.
+  // Routes a command with id nID and notification code nCode to the handler in the message map.
+  // FALSE when there is none. For WM_NOTIFY the high word of nCode is WM_NOTIFY and pExtra is an
+  // AFX_NOTIFY. Derived classes pass what they do not handle to further objects.
   virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
 
  protected:
@@ -118,7 +116,7 @@ class AFX_FRAMEWORK CCmdTarget : public CObject {
   virtual const AFX_MSGMAP* GetMessageMap() const;
 };
 
-// A notification on its way through OnCmdMsg.
+// A notification that OnCmdMsg routes.
 struct AFX_NOTIFY {
   LRESULT* pResult = nullptr;
   NMHDR* pNMHDR = nullptr;

@@ -3,7 +3,7 @@
 
 #include "framework/platform.h"
 
-// What is known of a class while the program runs.
+// The run-time description of a class.
 struct CRuntimeClass {
   const char* m_lpszClassName;
   int m_nObjectSize;
@@ -17,7 +17,8 @@ struct CRuntimeClass {
   }
 };
 
-// A framework object is made and destroyed by its owner; it is never copied.
+// The root of the framework's classes. Objects are created and destroyed by their owner and never
+// copied.
 class AFX_FRAMEWORK CObject {
  public:
   virtual ~CObject();

@@ -3,13 +3,13 @@
 
 #include "framework/object.h"
 
-// A place in a list; null is none.
+// A position in a list, or null.
 struct AFX_POSITION;
 using POSITION = AFX_POSITION*;
 
-// The list owns its nodes, never the objects. Nodes come in blocks of `blockSize` and stay at their
-// place: a position is valid until its own element is removed. Positions and, for the calls that
-// return an element, a non-empty list are the caller's duty.
+// The list owns its nodes, not the objects. Nodes are allocated in blocks of `blockSize` and do not
+// move: a position is valid until its element is removed. The caller passes valid positions only,
+// and calls that return an element only on a list that is not empty.
 class AFX_FRAMEWORK CObList : public CObject {
   DECLARE_DYNAMIC(CObList)
  public:
@@ -27,7 +27,7 @@ class AFX_FRAMEWORK CObList : public CObject {
 
   POSITION AddHead(CObject* element);
   POSITION AddTail(CObject* element);
-  void AddHead(CObList* elements);  // the other list's elements in their order; it keeps them
+  void AddHead(CObList* elements);  // in the other list's order; the other list is unchanged
   void AddTail(CObList* elements);
   CObject* RemoveHead();
   CObject* RemoveTail();
@@ -35,7 +35,7 @@ class AFX_FRAMEWORK CObList : public CObject {
 
   POSITION GetHeadPosition() const;
   POSITION GetTailPosition() const;
-  // The element at `position`, which moves on; null when there is no further one.
+  // The element at `position`, which moves on; it becomes null after the last element.
   CObject*& GetNext(POSITION& position);
   CObject* GetNext(POSITION& position) const;
   CObject*& GetPrev(POSITION& position);
@@ -48,7 +48,7 @@ class AFX_FRAMEWORK CObList : public CObject {
   POSITION InsertBefore(POSITION position, CObject* element);  // at the head for null
   POSITION InsertAfter(POSITION position, CObject* element);   // at the tail for null
 
-  // The first element equal to `element` behind `after`, from the head for null; null when none.
+  // The first element equal to `element` after the position `after` (null: from the head), or null.
   POSITION Find(CObject* element, POSITION after = nullptr) const;
   POSITION FindIndex(INT_PTR index) const;
 

@@ -1,11 +1,9 @@
-// What every header of the framework begins with: <windows.h>, included here alone, and what
-// framework.dll exports and its users import.
+// The only place that includes <windows.h>, and the export macro of framework.dll.
 //
-// The framework is the wide-character one whatever the host defines: every string parameter is
-// LPCWSTR. <windows.h> renames calls such as DrawText to DrawTextW or DrawTextA, and so would
-// rename members of the same name. Such a member is declared under its W name and again, inline,
-// under its A name with the same wide parameters; `dc.DrawText(...)` then compiles and links in
-// either mode.
+// Every string parameter is LPCWSTR, with and without UNICODE. <windows.h> renames calls such as
+// DrawText to DrawTextW or DrawTextA, and so it renames members of that name. Such a member is
+// declared under its W name and again, inline, under its A name with the same wide parameters;
+// `dc.DrawText(...)` then compiles and links in either mode.
 #pragma once
 
 #if !defined(NOMINMAX)
@@ -19,5 +17,5 @@
 #define AFX_FRAMEWORK __declspec(dllimport)
 #endif
 
-// Marks a handler of the message map; it says nothing to the compiler.
+// Marks a message handler for the reader; expands to nothing.
 #define afx_msg

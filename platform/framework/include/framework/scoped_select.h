@@ -1,4 +1,5 @@
-// CScopedSelect: selects a pen, brush, font or bitmap for as long as it lives.
+// CScopedSelect: selects a pen, brush, font or bitmap, and the old one back at the end of its
+// scope.
 //
 //   CScopedSelect pen(dc, m_gridPen);
 //

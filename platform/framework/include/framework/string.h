@@ -1,11 +1,11 @@
 // CString: a string of UTF-16 characters.
 //
-// One pointer wide. Copies share their characters until one of them changes, and count their users
-// in a way that is safe between threads; the object itself belongs to one thread at a time. The
-// memory is allocated and freed inside framework.dll, so an object may cross DLL borders by value.
+// One pointer wide. Copies share their characters until one of them changes; the count of users is
+// thread-safe, an object is used by one thread at a time. The memory is allocated and freed inside
+// framework.dll, so that an object can be passed between DLLs by value.
 //
-// Differs from the class that hosts know: it is always wide; there is no memory manager to choose;
-// an index out of range is not asserted, Mid, Left and Right clamp as usual.
+// Differs from the usual class: always wide; no choice of a memory manager; an index out of range
+// is not asserted (Mid, Left and Right clamp).
 #pragma once
 
 #include <cstdarg>
@@ -14,7 +14,7 @@
 
 class AFX_FRAMEWORK CString {
  public:
-  // ---- Making and assigning; a null pointer is an empty string
+  // ---- Construction and assignment; a null pointer is an empty string
 
   CString();
   CString(const CString& other);
@@ -49,8 +49,8 @@ class AFX_FRAMEWORK CString {
   CString& operator+=(LPCWSTR text);
   CString& operator+=(WCHAR ch);
 
-  // ---- Comparing: below 0, 0 or above 0; by character value up to the first NUL. Without case the
-  //      lower-case letters of every script are compared.
+  // ---- Comparing: below 0, 0 or above 0; by character value up to the first NUL. NoCase compares
+  //      in lower case, for every script.
 
   int Compare(LPCWSTR other) const;
   int CompareNoCase(LPCWSTR other) const;
@@ -71,13 +71,13 @@ class AFX_FRAMEWORK CString {
   int ReverseFind(WCHAR ch) const;
   int FindOneOf(LPCWSTR set) const;
 
-  // ---- Changing in place; those with an int result count characters: Insert and Delete the new
-  //      length, Replace and Remove how many places changed
+  // ---- Changing in place. Insert and Delete return the new length, Replace and Remove how many
+  //      characters or parts they changed.
 
   CString& MakeUpper();
   CString& MakeLower();
   CString& MakeReverse();
-  // Without an argument: white space, the ideographic space too.
+  // Without an argument: white space, including the ideographic space.
   CString& Trim();
   CString& TrimLeft();
   CString& TrimRight();
@@ -94,19 +94,20 @@ class AFX_FRAMEWORK CString {
   int Insert(int index, LPCWSTR text);
   int Delete(int index, int count = 1);
 
-  // ---- Formatting as the system's wide printf does (%s is a wide string); of any length
+  // ---- Formatting as wprintf (%s is a wide string); results of any length
 
   void Format(LPCWSTR format, ...);
   void AppendFormat(LPCWSTR format, ...);
   void FormatV(LPCWSTR format, va_list arguments);
   void Format(UINT formatId, ...);  // the format is a string resource
 
-  // A string resource, found through the chain of extension modules. FALSE when there is none.
+  // Loads a string resource, also from the chain of extension modules. FALSE and an empty string
+  // when there is no such resource.
   BOOL LoadStringW(UINT id);
   BOOL LoadStringA(UINT id) { return LoadStringW(id); }
 
-  // ---- Direct writing: room for at least `minLength` characters and the closing NUL. Afterwards
-  //      ReleaseBuffer, with the new length or -1 to look for the NUL.
+  // ---- Direct writing to a buffer of at least `minLength` characters and a NUL. Afterwards call
+  //      ReleaseBuffer, with the new length, or with -1 for the length up to the NUL.
 
   LPWSTR GetBuffer(int minLength = 0);
   LPWSTR GetBufferSetLength(int length);

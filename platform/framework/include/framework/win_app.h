@@ -1,5 +1,5 @@
-// CWinThread and CWinApp: the message loop, and the application that starts it. An application is
-// one global object of a class derived from CWinApp; it is optional, see AfxPreTranslateMessage.
+// CWinThread and CWinApp: the message loop, and the application that runs it. An application is one
+// global object of a class derived from CWinApp. It is optional: see AfxPreTranslateMessage.
 #pragma once
 
 #include "framework/message_map.h"
@@ -8,23 +8,23 @@
 
 class AFX_FRAMEWORK CWinThread : public CCmdTarget {
  public:
-  CWnd* m_pMainWnd = nullptr;  // the host's; the loop ends when it is destroyed
+  CWnd* m_pMainWnd = nullptr;  // set by the host; the loop ends when it is destroyed
   CWnd* m_pActiveWnd = nullptr;
   MSG m_msgCur = {};  // the message being pumped
 
   ~CWinThread() override;
 
   virtual BOOL InitInstance() { return FALSE; }  // FALSE: ExitInstance follows, Run does not
-  virtual int Run();           // the message loop until WM_QUIT; ExitInstance's answer
+  virtual int Run();           // the message loop until WM_QUIT; returns ExitInstance()
   virtual int ExitInstance();  // the process's exit code
   virtual CWnd* GetMainWnd();
 
   // Gets one message, offers it to PreTranslateMessage and dispatches it. FALSE for WM_QUIT.
   virtual BOOL PumpMessage();
   virtual BOOL PreTranslateMessage(MSG* message);
-  // Called with 0, 1, 2 ... while no message waits, until it answers FALSE or a message comes.
+  // Called with 0, 1, 2 ... while there is no message, until it returns FALSE or a message arrives.
   virtual BOOL OnIdle(LONG count);
-  // FALSE for messages that change nothing worth an idle call (pointer moves, caret timer).
+  // FALSE for messages after which OnIdle is not called (pointer moves, caret timer).
   virtual BOOL IsIdleMessage(MSG* message);
 };
 
@@ -33,7 +33,7 @@ class AFX_FRAMEWORK CWinApp : public CWinThread {
   HINSTANCE m_hInstance = nullptr;
   LPWSTR m_lpCmdLine = nullptr;  // without the program's name
   int m_nCmdShow = SW_SHOWNORMAL;
-  LPCWSTR m_pszAppName = nullptr;  // as given, else the executable's file name without .exe
+  LPCWSTR m_pszAppName = nullptr;  // as given, or the executable's file name without .exe
   LPCWSTR m_pszExeName = nullptr;
 
   explicit CWinApp(LPCWSTR appName = nullptr);
@@ -47,7 +47,7 @@ class AFX_FRAMEWORK CWinApp : public CWinThread {
   HCURSOR LoadCursorW(UINT id) const { return LoadCursorW(MAKEINTRESOURCEW(id)); }
   HICON LoadIconW(LPCWSTR name) const;
   HICON LoadIconW(UINT id) const { return LoadIconW(MAKEINTRESOURCEW(id)); }
-  // The system's own: IDC_ARROW, IDI_APPLICATION, ...
+  // Those of the system: IDC_ARROW, IDI_APPLICATION, ...
   HCURSOR LoadStandardCursor(LPCWSTR name) const { return ::LoadCursorW(nullptr, name); }
   HICON LoadStandardIcon(LPCWSTR name) const { return ::LoadIconW(nullptr, name); }
   virtual int DoMessageBox(LPCWSTR text, UINT type, UINT helpId);
@@ -74,8 +74,8 @@ AFX_FRAMEWORK CWinThread* AfxGetThread();
 AFX_FRAMEWORK CWnd* AfxGetMainWnd();
 AFX_FRAMEWORK LPCWSTR AfxGetAppName();
 
-// A message box over the main window, with the application's name. Types as MessageBox; without an
-// icon one is chosen for the buttons.
+// A message box over the main window, with the application's name as caption. type is that of
+// MessageBox; an icon is added according to the buttons when it has none.
 AFX_FRAMEWORK int AfxMessageBox(LPCWSTR text, UINT type = MB_OK, UINT helpId = 0);
 AFX_FRAMEWORK int AfxMessageBox(UINT textId, UINT type = MB_OK, UINT helpId = UINT(-1));
 
@@ -84,5 +84,5 @@ AFX_FRAMEWORK void AfxPostQuitMessage(int exitCode);
 
 // Prepares the application object; FALSE when there is none. Only AfxWinMain needs it.
 AFX_FRAMEWORK BOOL AfxWinInit(HINSTANCE instance, HINSTANCE previous, LPWSTR commandLine, int show);
-// The whole run of a framework-style host: AfxWinInit, InitInstance, Run. Returns the exit code.
+// Runs a framework-style host: AfxWinInit, InitInstance, Run. Returns the exit code.
 AFX_FRAMEWORK int AfxWinMain(HINSTANCE instance, HINSTANCE previous, LPWSTR commandLine, int show);

@@ -1,5 +1,5 @@
-// The message-map macros for window messages. Each handler has the usual name and parameters;
-// CWnd holds one of each that passes the message on.
+// The message-map macros for window messages. Each handler has the usual name and parameters; CWnd
+// has a default for each, which calls Default().
 #pragma once
 
 #include "framework/controls.h"
@@ -11,7 +11,7 @@ namespace afx {
 
 inline UINT LowWord(WPARAM value) { return LOWORD(static_cast<DWORD>(value)); }
 inline UINT HighWord(WPARAM value) { return HIWORD(static_cast<DWORD>(value)); }
-// Client coordinates may be negative (a captured pointer), hence the way through short.
+// Client coordinates may be negative (with the pointer captured), hence the conversion to short.
 inline CPoint PointOf(LPARAM value) {
   return CPoint(static_cast<short>(LOWORD(static_cast<DWORD>(value))),
                 static_cast<short>(HIWORD(static_cast<DWORD>(value))));
@@ -134,7 +134,7 @@ struct CtlColorHandler {
   }
 };
 
-// One window: that of wParam (focus) or that of lParam (capture).
+// One window: in wParam (focus) or in lParam (capture).
 template <class T>
 struct FocusHandler {
   using Member = void (T::*)(CWnd*);
@@ -247,7 +247,7 @@ struct MinMaxHandler {
 
 }  // namespace afx
 
-// All seven colour messages have one handler, and one row under the number of their ancestor.
+// All seven colour messages have one handler, in one row under the number of the older WM_CTLCOLOR.
 #ifndef WM_CTLCOLOR
 #define WM_CTLCOLOR 0x0019
 #endif

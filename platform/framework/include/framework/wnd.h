@@ -1,9 +1,9 @@
-// CWnd: a window. The object and the system's window are two things: the object holds the window's
-// handle from creation, Attach or SubclassWindow until the window dies or is detached.
+// CWnd: a window. The object holds the handle of a system window from creation, Attach or
+// SubclassWindow until the window is destroyed or detached.
 //
-// Ownership: a CWnd object belongs to whoever made it. The window may go first, by DestroyWindow on
-// either, or with its parent: the object notices, becomes empty and PostNcDestroy is called. When
-// the object goes first it destroys its window. All use is on the thread that made the window.
+// Ownership: a CWnd belongs to its creator. If the window is destroyed first, by DestroyWindow or
+// with its parent, the object becomes empty and PostNcDestroy is called. If the object is destroyed
+// first, it destroys its window. A window is used only on the thread that created it.
 //
 // Members named after macros of <windows.h> are declared twice, see framework/platform.h.
 #pragma once
@@ -29,24 +29,26 @@ class AFX_FRAMEWORK CWnd : public CCmdTarget {
   // ---- Handles and objects
 
   // The object that holds the handle, or a temporary one; null only for a null handle. A temporary
-  // object does not own the window and lives as long as it.
+  // object does not own the window and exists as long as the window.
   static CWnd* FromHandle(HWND window);
   // The object that holds the handle, or null.
   static CWnd* FromHandlePermanent(HWND window);
   HWND GetSafeHwnd() const { return m_hWnd; }
   operator HWND() const { return m_hWnd; }
 
-  // Takes the handle into an empty object; its messages are not seen. FALSE for a null handle.
+  // Sets the handle of an empty object, which gets no messages of the window. FALSE for a null
+  // handle.
   BOOL Attach(HWND window);
-  // Gives the handle up; the window lives on.
+  // Gives up the handle; the window is not destroyed.
   HWND Detach();
-  // Takes the handle and sees its messages first. Default() passes on to the old procedure.
+  // Sets the handle; the object then gets the window's messages first. Default() calls the old
+  // procedure.
   BOOL SubclassWindow(HWND window);
   BOOL SubclassDlgItem(UINT id, CWnd* parent);
-  // Puts the old procedure back and gives the handle up.
+  // Restores the old procedure and gives up the handle.
   HWND UnsubclassWindow();
 
-  // ---- Making and ending
+  // ---- Creation and destruction
 
   // A child window (WS_CHILD) with control id `id`. FALSE when the system refuses.
   virtual BOOL Create(LPCWSTR className, LPCWSTR windowName, DWORD style, const RECT& rect,
@@ -57,12 +59,13 @@ class AFX_FRAMEWORK CWnd : public CCmdTarget {
                         LPVOID param = nullptr);
   virtual BOOL CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR windowName, DWORD style,
                         const RECT& rect, CWnd* parent, UINT id, LPVOID param = nullptr);
-  // FALSE when there is no window or the system refuses.
+  // FALSE when there is no window or the system refuses to destroy it.
   virtual BOOL DestroyWindow();
 
   // ---- Hooks for derived classes
 
-  // The last word before the window is made; FALSE stops it. Fills in a class when there is none.
+  // Called before the window is created, and may change `create`; FALSE cancels. Sets a window
+  // class when there is none.
   virtual BOOL PreCreateWindow(CREATESTRUCTW& create);
   // The handle is known; no message has been handled yet (before WM_CREATE).
   virtual void PreSubclassWindow() {}
@@ -72,10 +75,10 @@ class AFX_FRAMEWORK CWnd : public CCmdTarget {
 
   // ---- The current message
 
-  // Passes the current message on unchanged; handlers of CWnd do this.
+  // Passes the current message unchanged to DefWindowProc, as the handlers of CWnd do.
   LRESULT Default();
   static const MSG* GetCurrentMessage();
-  // Sends the current message to the child it came from (an owner-drawn button, say), which may
+  // Offers the current message to the child it came from, such as an owner-drawn button, which may
   // handle it in OnChildNotify. FALSE when it does not.
   static BOOL ReflectLastMsg(HWND child, LRESULT* result = nullptr);
   BOOL SendChildNotifyLastMsg(LRESULT* result = nullptr);
@@ -185,12 +188,12 @@ class AFX_FRAMEWORK CWnd : public CCmdTarget {
   int GetWindowTextLengthW() const { return ::GetWindowTextLengthW(m_hWnd); }
   CFont* GetFont() const;
   void SetFont(CFont* font, BOOL redraw = TRUE);
-  // The application's name is the caption when it is null.
+  // A null caption is the application's name.
   int MessageBoxW(LPCWSTR text, LPCWSTR caption = nullptr, UINT type = MB_OK);
 
   // ---- Painting
 
-  CDC* GetDC();  // give it back with ReleaseDC
+  CDC* GetDC();  // release it with ReleaseDC
   CDC* GetWindowDC();
   int ReleaseDC(CDC* dc);
   CDC* BeginPaint(PAINTSTRUCT* paint);
@@ -240,7 +243,7 @@ class AFX_FRAMEWORK CWnd : public CCmdTarget {
     return FromHandle(::GetNextDlgTabItem(m_hWnd, item->m_hWnd, previous));
   }
   // Moves values between the dialog's items and its members by DoDataExchange; FALSE when a value
-  // was refused (the user has been told).
+  // was refused (the user has been informed).
   BOOL UpdateData(BOOL saveAndValidate = TRUE);
 
   // ---- The same for hosts compiled without UNICODE
@@ -283,13 +286,14 @@ class AFX_FRAMEWORK CWnd : public CCmdTarget {
   }
   virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
   virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
-  // In a control: a message its parent got about it. TRUE: handled.
+  // In a control: a message that its parent got about it. TRUE: handled.
   virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
   virtual void DoDataExchange(CDataExchange*) {}
-  // The window is gone and the object empty; an object of `new` may delete itself here.
+  // Called after the window was destroyed, with the object empty; an object created with new may
+  // delete itself here.
   virtual void PostNcDestroy() {}
 
-  // ---- Handlers a derived class may name in its map without writing them
+  // ---- Default handlers, which a derived class may name in its map
 
   afx_msg int OnCreate(CREATESTRUCTW*) { return static_cast<int>(Default()); }
   afx_msg void OnDestroy() { Default(); }
@@ -328,30 +332,32 @@ class AFX_FRAMEWORK CWnd : public CCmdTarget {
   afx_msg void OnHScroll(UINT, UINT, CScrollBar*) { Default(); }
   afx_msg void OnVScroll(UINT, UINT, CScrollBar*) { Default(); }
   afx_msg void OnInitMenuPopup(CMenu*, UINT, BOOL) { Default(); }
-  // These three offer the message to the control first.
+  // These three offer the message to the control first (reflection).
   afx_msg void OnDrawItem(int id, DRAWITEMSTRUCT* item);
   afx_msg void OnMeasureItem(int id, MEASUREITEMSTRUCT* item);
   afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
 
-  // The procedure that answered before the object came; null for the framework's own classes.
+  // The window procedure before subclassing; null for the framework's own classes.
   WNDPROC m_pfnSuper = nullptr;
 
   DECLARE_MESSAGE_MAP()
 
  private:
   friend class CWindowBinding;
-  explicit CWnd(HWND special) : m_hWnd(special) {}  // wndTop and its like
+  explicit CWnd(HWND special) : m_hWnd(special) {}  // for wndTop and similar
 };
 
-// Offers a message that was got but not dispatched to PreTranslateMessage of its window and of the
-// parents that have an object; in a CWinApp the application decides. TRUE: do not dispatch it.
+// Calls PreTranslateMessage of a message's window and of its parents that have an object, or
+// CWinApp's when there is an application. To be called before the message is dispatched. TRUE: do
+// not dispatch it.
 AFX_FRAMEWORK BOOL AfxPreTranslateMessage(MSG* message);
 
-// A window class of the framework's, registered once for each combination. Null cursor, brush or
-// icon means none. The name lives as long as the process. Throws a CResourceException on failure.
+// The name of a window class of the framework, registered once for each combination of arguments.
+// Cursor, brush and icon may be null. The name is valid until the process ends. Throws a
+// CResourceException on failure.
 AFX_FRAMEWORK LPCWSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor = nullptr,
                                           HBRUSH background = nullptr, HICON icon = nullptr);
-// Registers a class; TRUE also when the module registered it before.
+// Registers a class; TRUE also when the module has registered it already.
 AFX_FRAMEWORK BOOL AfxRegisterClass(WNDCLASSW* windowClass);
 // The window procedure of the framework's classes.
 AFX_FRAMEWORK LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

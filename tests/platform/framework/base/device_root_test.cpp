@@ -1,25 +1,23 @@
-// Paths with one leading backslash lie in the folder that stands for the device's root.
+// Paths with one leading backslash are in the folder that replaces the device's root.
 #include <afx.h>
 #include <gtest/gtest.h>
-#include <shlobj.h>
 
 #include <filesystem>
 #include <string>
 
 #include "tests/platform/framework/base/text_printer.h"
 #include "tests/platform/support/environment_variable.h"
+#include "tests/platform/support/local_app_data.h"
 #include "tests/platform/support/scratch_folder.h"
 
 namespace {
 
 constexpr LPCWSTR kVariable = L"CE_DEVICE_ROOT";
 
-// The root that this process has to itself.
+// The root of this process alone.
 CString OwnRoot() {
-  WCHAR folder[MAX_PATH];
-  EXPECT_EQ(S_OK, SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder));
   CString root;
-  root.Format(L"%s\\Tavix\\DeviceRoot\\process-%lu", folder, GetCurrentProcessId());
+  root.Format(L"%s\\Tavix\\DeviceRoot\\process-%lu", LocalAppData().c_str(), GetCurrentProcessId());
   return root;
 }
 
@@ -61,26 +59,26 @@ TEST(DeviceRoot, IsReadAnewAtEachMapping) {
   variable.Set(L"C:\\Second");
   EXPECT_EQ(L"C:\\Second\\a", AfxMapDevicePath(L"\\a"));
   variable.Set(nullptr);
-  EXPECT_EQ(AfxMapDevicePath(L"\\a"), OwnRoot() + L"\\a");
+  EXPECT_EQ(OwnRoot() + L"\\a", AfxMapDevicePath(L"\\a"));
 }
 
 TEST(DeviceRoot, MayHaveALongName) {
   const std::wstring root = L"C:\\" + std::wstring(1000, L'x');
   const EnvironmentVariable variable(kVariable, root.c_str());
-  EXPECT_EQ(AfxMapDevicePath(L"\\a"), CString(root.c_str()) + L"\\a");
+  EXPECT_EQ(CString(root.c_str()) + L"\\a", AfxMapDevicePath(L"\\a"));
 }
 
 TEST(DeviceRoot, ThatBeginsWithOneBackslashIsNoPathOfTheDeviceItself) {
   const EnvironmentVariable variable(kVariable, L"\\Root");
   const CString mapped = AfxMapDevicePath(L"\\a");
   EXPECT_EQ(L":\\Root\\a", mapped.Mid(1)) << "on the present drive";
-  EXPECT_EQ(AfxMapDevicePath(mapped), mapped) << "mapped once and for all";
+  EXPECT_EQ(mapped, AfxMapDevicePath(mapped)) << "mapped once and for all";
 }
 
 TEST(DeviceRoot, IsAFolderOfTheProcessWhenTheVariableNamesNothing) {
   for (LPCWSTR value : {static_cast<LPCWSTR>(nullptr), L"", L"\\"}) {
     const EnvironmentVariable variable(kVariable, value);
-    EXPECT_EQ(AfxMapDevicePath(L"\\a.dat"), OwnRoot() + L"\\a.dat");
+    EXPECT_EQ(OwnRoot() + L"\\a.dat", AfxMapDevicePath(L"\\a.dat"));
     EXPECT_TRUE(std::filesystem::is_directory(OwnRoot().GetString()));
   }
 }
@@ -91,7 +89,7 @@ TEST(DeviceRoot, OfTheProcessCannotBeRemovedWhileItRuns) {
   EXPECT_FALSE(RemoveDirectoryW(root));
   EXPECT_EQ(static_cast<DWORD>(ERROR_SHARING_VIOLATION), GetLastError());
   CFile file(L"\\a.dat", CFile::modeCreate | CFile::modeWrite);
-  EXPECT_EQ(file.GetFilePath(), OwnRoot() + L"\\a.dat") << "what is in it is as in any folder";
+  EXPECT_EQ(OwnRoot() + L"\\a.dat", file.GetFilePath()) << "what is in it is as in any folder";
   file.Close();
   CFile::Remove(L"\\a.dat");
 }
@@ -102,7 +100,7 @@ TEST(DeviceRoot, IsWhereEveryCallOfCFileLooks) {
   {
     CFile file(L"\\points.dat", CFile::modeCreate | CFile::modeWrite);
     file.Write("abc", 3);
-    EXPECT_EQ(file.GetFilePath(), (scratch / L"points.dat").c_str());
+    EXPECT_EQ((scratch / L"points.dat").c_str(), file.GetFilePath());
     EXPECT_EQ(L"points.dat", file.GetFileName());
   }
   EXPECT_EQ(3U, std::filesystem::file_size(scratch / L"points.dat"));

@@ -14,7 +14,7 @@ TEST(ExceptionBorder, TheProgramCatchesWhatTheFrameworkThrows) {
     const CFile file(kMissing, CFile::modeRead);
     FAIL() << "nothing was thrown";
   } catch (CFileException* error) {
-    EXPECT_EQ(error->m_cause, CFileException::badPath);
+    EXPECT_EQ(CFileException::badPath, error->m_cause);
     EXPECT_EQ(ERROR_PATH_NOT_FOUND, error->m_lOsError);
     EXPECT_EQ(kMissing, error->m_strFileName);
     error->Delete();
@@ -26,7 +26,7 @@ TEST(ExceptionBorder, TheProgramCatchesByTheBaseClass) {
     AfxThrowFileException(CFileException::diskFull);
   } catch (CException* error) {
     EXPECT_TRUE(error->IsKindOf(RUNTIME_CLASS(CFileException)));
-    EXPECT_EQ(static_cast<CFileException*>(error)->m_cause, CFileException::diskFull);
+    EXPECT_EQ(CFileException::diskFull, static_cast<CFileException*>(error)->m_cause);
     EXPECT_NE(nullptr, dynamic_cast<CFileException*>(error));
     error->Delete();
   }
@@ -55,7 +55,7 @@ TEST(ExceptionBorder, PassesThroughAnotherDllAndUnwindsIt) {
     RelayOpen(kMissing, &unwound);
   } catch (CFileException* error) {
     caught = true;
-    EXPECT_EQ(error->m_cause, CFileException::badPath);
+    EXPECT_EQ(CFileException::badPath, error->m_cause);
     error->Delete();
   }
   EXPECT_TRUE(caught);

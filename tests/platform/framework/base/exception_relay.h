@@ -9,7 +9,7 @@
 #define EXCEPTION_RELAY __declspec(dllimport)
 #endif
 
-// An exception class of the DLL's own. Tells `destroyed` of its end.
+// An exception class of this DLL. Counts its destructions in `destroyed`.
 class EXCEPTION_RELAY CRelayException : public CException {
   DECLARE_DYNAMIC(CRelayException)
  public:

@@ -1,4 +1,4 @@
-// What the exceptions say: causes, error codes, messages.
+// Exceptions: causes, error codes, messages.
 #include <afx.h>
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ TEST(FileException, CausesHaveTheirUsualNumbers) {
                                      CFileException::lockViolation,
                                      CFileException::diskFull,
                                      CFileException::endOfFile};
-  for (int i = 0; i < static_cast<int>(std::size(kInOrder)); ++i) EXPECT_EQ(kInOrder[i], i);
+  for (int i = 0; i < static_cast<int>(std::size(kInOrder)); ++i) EXPECT_EQ(i, kInOrder[i]);
 }
 
 TEST(FileException, TellsTheCauseOfASystemError) {
@@ -71,7 +71,7 @@ TEST(FileException, TellsTheCauseOfASystemError) {
 
 TEST(FileException, IsWithoutCauseAtFirst) {
   const CFileException error;
-  EXPECT_EQ(error.m_cause, CFileException::none);
+  EXPECT_EQ(CFileException::none, error.m_cause);
   EXPECT_EQ(-1, error.m_lOsError);
   EXPECT_TRUE(error.m_strFileName.IsEmpty());
 }
@@ -80,14 +80,14 @@ TEST(FileException, IsThrownWithAllThatIsKnown) {
   try {
     AfxThrowFileException(CFileException::endOfFile, ERROR_HANDLE_EOF, L"点.dat");
   } catch (CFileException* error) {
-    EXPECT_EQ(error->m_cause, CFileException::endOfFile);
+    EXPECT_EQ(CFileException::endOfFile, error->m_cause);
     EXPECT_EQ(ERROR_HANDLE_EOF, error->m_lOsError);
     EXPECT_EQ(L"点.dat", error->m_strFileName);
     error->Delete();
   }
 }
 
-// The message fits the buffer whatever its size, and does not reach beyond it.
+// The message is truncated to a buffer of any size, and nothing is written beyond it.
 void ExpectMessage(const CException& error) {
   WCHAR whole[256];
   ASSERT_TRUE(error.GetErrorMessage(whole, 256));
@@ -96,7 +96,7 @@ void ExpectMessage(const CException& error) {
     WCHAR part[8];
     std::fill(std::begin(part), std::end(part), L'#');
     EXPECT_TRUE(error.GetErrorMessage(part, room));
-    EXPECT_EQ(part, std::wstring(whole).substr(0, room - 1));
+    EXPECT_EQ(std::wstring(whole).substr(0, room - 1), part);
     EXPECT_EQ(L'#', part[room]);
   }
   WCHAR none = L'#';

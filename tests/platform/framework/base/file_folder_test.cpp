@@ -39,21 +39,21 @@ TEST_F(FileInFolder, IsRenamed) {
 TEST_F(FileInFolder, IsNotRenamedOverAnother) {
   Make(a_);
   Make(b_);
-  EXPECT_EQ(CauseOfRename(a_, b_), CFileException::accessDenied);
+  EXPECT_EQ(CFileException::accessDenied, CauseOfRename(a_, b_));
   EXPECT_EQ(ERROR_ALREADY_EXISTS, error_.m_lOsError);
-  EXPECT_EQ(error_.m_strFileName, a_.c_str());
+  EXPECT_EQ(a_.c_str(), error_.m_strFileName);
   EXPECT_TRUE(std::filesystem::exists(a_));
   EXPECT_TRUE(std::filesystem::exists(b_));
 }
 
 TEST_F(FileInFolder, ThatIsMissingIsNeitherRenamedNorRemoved) {
-  EXPECT_EQ(CauseOfRename(a_, b_), CFileException::fileNotFound);
-  EXPECT_EQ(CauseOfRemove(a_), CFileException::fileNotFound);
+  EXPECT_EQ(CFileException::fileNotFound, CauseOfRename(a_, b_));
+  EXPECT_EQ(CFileException::fileNotFound, CauseOfRemove(a_));
   EXPECT_EQ(ERROR_FILE_NOT_FOUND, error_.m_lOsError);
-  EXPECT_EQ(error_.m_strFileName, a_.c_str());
-  EXPECT_EQ(CauseOfRemove(scratch_ / L"no folder\\a"), CFileException::badPath);
+  EXPECT_EQ(a_.c_str(), error_.m_strFileName);
+  EXPECT_EQ(CFileException::badPath, CauseOfRemove(scratch_ / L"no folder\\a"));
   Make(a_);
-  EXPECT_EQ(CauseOfRename(a_, scratch_ / L"no folder\\a"), CFileException::badPath);
+  EXPECT_EQ(CFileException::badPath, CauseOfRename(a_, scratch_ / L"no folder\\a"));
   EXPECT_TRUE(std::filesystem::exists(a_));
 }
 
@@ -66,16 +66,16 @@ TEST_F(FileInFolder, IsRemoved) {
 TEST_F(FileInFolder, StaysWhenItIsReadOnlyOpenOrAFolder) {
   Make(a_);
   SetFileAttributesW(a_.c_str(), FILE_ATTRIBUTE_READONLY);
-  EXPECT_EQ(CauseOfRemove(a_), CFileException::accessDenied);
+  EXPECT_EQ(CFileException::accessDenied, CauseOfRemove(a_));
   EXPECT_TRUE(std::filesystem::exists(a_));
   {
     const CFile open(b_.c_str(), CFile::modeCreate | CFile::modeWrite);
-    EXPECT_EQ(CauseOfRemove(b_), CFileException::sharingViolation);
-    EXPECT_EQ(CauseOfRename(b_, scratch_ / L"c"), CFileException::sharingViolation);
+    EXPECT_EQ(CFileException::sharingViolation, CauseOfRemove(b_));
+    EXPECT_EQ(CFileException::sharingViolation, CauseOfRename(b_, scratch_ / L"c"));
   }
   EXPECT_TRUE(std::filesystem::exists(b_));
   std::filesystem::create_directory(scratch_ / L"folder");
-  EXPECT_EQ(CauseOfRemove(scratch_ / L"folder"), CFileException::accessDenied);
+  EXPECT_EQ(CFileException::accessDenied, CauseOfRemove(scratch_ / L"folder"));
   EXPECT_TRUE(std::filesystem::exists(scratch_ / L"folder"));
 }
 

@@ -1,4 +1,4 @@
-// CFile: opening, with every flag that matters, and what is in the way.
+// CFile: opening with every flag, and the causes of failures.
 #include <afx.h>
 #include <gtest/gtest.h>
 
@@ -63,21 +63,21 @@ TEST_F(FileOpen, FlagsDecideWhatHappensToTheContentsAndWhichCallsWork) {
     std::filesystem::remove(path_);
     {
       CFile file;
-      EXPECT_EQ(file.Open(path_.c_str(), row.flags), row.makes ? TRUE : FALSE) << row.flags;
+      EXPECT_EQ(row.makes ? TRUE : FALSE, file.Open(path_.c_str(), row.flags)) << row.flags;
     }
     EXPECT_EQ(row.makes, std::filesystem::exists(path_)) << row.flags;
 
     MakeFile(path_, "1\r\n2");
     CFile file;
     ASSERT_TRUE(file.Open(path_.c_str(), row.flags)) << row.flags;
-    EXPECT_EQ(file.GetLength(), row.truncates ? 0U : 4U) << row.flags;
+    EXPECT_EQ(row.truncates ? 0U : 4U, file.GetLength()) << row.flags;
     EXPECT_EQ(0U, file.GetPosition());
     char buffer[8];
-    EXPECT_EQ(CauseOf([&] { file.Read(buffer, 8); }),
-              row.reads ? CFileException::none : CFileException::accessDenied)
+    EXPECT_EQ(row.reads ? CFileException::none : CFileException::accessDenied,
+              CauseOf([&] { file.Read(buffer, 8); }))
         << row.flags;
-    EXPECT_EQ(CauseOf([&] { file.Write("\n", 1); }),
-              row.writes ? CFileException::none : CFileException::accessDenied)
+    EXPECT_EQ(row.writes ? CFileException::none : CFileException::accessDenied,
+              CauseOf([&] { file.Write("\n", 1); }))
         << row.flags;
   }
 }
@@ -125,9 +125,9 @@ TEST_F(FileOpen, NamesTheCauseOfAFailure) {
     EXPECT_EQ(row.cause, error.m_cause);
     EXPECT_EQ(row.os_error, error.m_lOsError);
     EXPECT_EQ(row.path.c_str(), error.m_strFileName);
-    EXPECT_EQ(file.m_hFile, CFile::hFileNull);
+    EXPECT_EQ(CFile::hFileNull, file.m_hFile);
     EXPECT_TRUE(file.GetFilePath().IsEmpty());
-    EXPECT_FALSE(file.Open(row.path.c_str(), row.flags));  // nobody wants to know
+    EXPECT_FALSE(file.Open(row.path.c_str(), row.flags));  // without `error`
 
     CFileException thrown;
     EXPECT_EQ(row.cause,
@@ -151,7 +151,7 @@ TEST_F(FileOpen, ReadOnlyFileIsNotOpenedForWriting) {
        {CFile::modeWrite + 0U, CFile::modeReadWrite + 0U, CFile::modeCreate | CFile::modeWrite}) {
     CFileException error;
     EXPECT_FALSE(CFile().Open(path_.c_str(), flags, &error));
-    EXPECT_EQ(error.m_cause, CFileException::accessDenied);
+    EXPECT_EQ(CFileException::accessDenied, error.m_cause);
     EXPECT_EQ(ERROR_ACCESS_DENIED, error.m_lOsError);
   }
   EXPECT_EQ("x", ContentsOf(path_));
@@ -167,13 +167,13 @@ TEST(ReadOnlyFile, RefusesWriters) {
   file.Close();
   CFileException error;
   EXPECT_FALSE(file.Open(kReadOnly, CFile::modeWrite | CFile::shareDenyNone, &error));
-  EXPECT_EQ(error.m_cause, CFileException::accessDenied);
+  EXPECT_EQ(CFileException::accessDenied, error.m_cause);
 }
 
 TEST_F(FileOpen, RefusesANullPath) {
   CFileException error;
   EXPECT_FALSE(CFile().Open(nullptr, CFile::modeRead, &error));
-  EXPECT_EQ(error.m_cause, CFileException::badPath);
+  EXPECT_EQ(CFileException::badPath, error.m_cause);
 }
 
 TEST_F(FileOpen, SharesAsTheFirstToOpenAllows) {
@@ -198,9 +198,9 @@ TEST_F(FileOpen, SharesAsTheFirstToOpenAllows) {
     CFile first(path_.c_str(), row.first);
     CFile second;
     CFileException error;
-    EXPECT_EQ(second.Open(path_.c_str(), row.second, &error), row.opens ? TRUE : FALSE)
+    EXPECT_EQ(row.opens ? TRUE : FALSE, second.Open(path_.c_str(), row.second, &error))
         << std::hex << row.first << ", " << row.second;
-    EXPECT_EQ(error.m_cause, row.opens ? CFileException::none : CFileException::sharingViolation);
+    EXPECT_EQ(row.opens ? CFileException::none : CFileException::sharingViolation, error.m_cause);
     first.Close();
     EXPECT_TRUE(second.Open(path_.c_str(), row.second));
   }
@@ -211,7 +211,7 @@ TEST_F(FileOpen, InheritsItsHandleUnlessToldOtherwise) {
     const CFile file(path_.c_str(), CFile::modeCreate | CFile::modeWrite | flag);
     DWORD information = 0;
     ASSERT_TRUE(GetHandleInformation(file, &information));
-    EXPECT_EQ((information & HANDLE_FLAG_INHERIT) != 0, flag == 0);
+    EXPECT_EQ(flag == 0, (information & HANDLE_FLAG_INHERIT) != 0);
   }
 }
 
@@ -219,10 +219,10 @@ TEST_F(FileOpen, ClosesWhatWasOpenBefore) {
   const std::wstring other = scratch_ / L"other.dat";
   CFile file(path_.c_str(), CFile::modeCreate | CFile::modeWrite | CFile::shareExclusive);
   ASSERT_TRUE(file.Open(other.c_str(), CFile::modeCreate | CFile::modeWrite));
-  EXPECT_EQ(file.GetFilePath(), other.c_str());
+  EXPECT_EQ(other.c_str(), file.GetFilePath());
   const CFile again(path_.c_str(), CFile::modeRead);  // else a sharing violation
   EXPECT_FALSE(file.Open((scratch_ / L"missing").c_str(), CFile::modeRead));
-  EXPECT_EQ(file.m_hFile, CFile::hFileNull);
+  EXPECT_EQ(CFile::hFileNull, file.m_hFile);
   const CFile released(other.c_str(), CFile::modeRead);
 }
 
@@ -231,7 +231,7 @@ TEST_F(FileOpen, FullPathIsKnownOfARelativeOne) {
   std::filesystem::current_path(scratch_.Path());
   {
     const CFile file(L".\\x\\..\\file.dat", CFile::modeCreate | CFile::modeWrite);
-    EXPECT_EQ(file.GetFilePath(), path_.c_str());
+    EXPECT_EQ(path_.c_str(), file.GetFilePath());
     EXPECT_EQ(L"file.dat", file.GetFileName());
   }
   std::filesystem::current_path(before);

@@ -1,4 +1,4 @@
-// CFile: reading, writing, moving about, and the end of it.
+// CFile: reading, writing, seeking, and closing.
 #include <afx.h>
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ class File : public ::testing::Test {
   std::string ReadAll(CFile& file) {
     std::string bytes(static_cast<std::size_t>(file.GetLength()), '#');
     file.SeekToBegin();
-    EXPECT_EQ(file.Read(bytes.data(), static_cast<UINT>(bytes.size())), bytes.size());
+    EXPECT_EQ(bytes.size(), file.Read(bytes.data(), static_cast<UINT>(bytes.size())));
     return bytes;
   }
 };
@@ -31,9 +31,9 @@ TEST_F(File, ReadsBackWhatWasWritten) {
   std::string all;
   for (int i = 0; i < 100000; ++i) all.push_back(static_cast<char>(i * 7));
   file.Write(all.data(), static_cast<UINT>(all.size()));
-  EXPECT_EQ(file.GetPosition(), all.size());
-  EXPECT_EQ(file.GetLength(), all.size());
-  EXPECT_EQ(ReadAll(file), all);
+  EXPECT_EQ(all.size(), file.GetPosition());
+  EXPECT_EQ(all.size(), file.GetLength());
+  EXPECT_EQ(all, ReadAll(file));
 }
 
 TEST_F(File, ReadsNoFurtherThanTheEnd) {
@@ -55,7 +55,7 @@ TEST_F(File, LocksARangeThatMayLieBehindTheEnd) {
   CFile file(path_.c_str(), kFresh | CFile::shareDenyNone);
   CFile other(path_.c_str(), CFile::modeReadWrite | CFile::shareDenyNone);
   file.LockRange(kFar, 1);
-  EXPECT_EQ(CauseOf([&] { other.LockRange(kFar, 1); }), CFileException::lockViolation);
+  EXPECT_EQ(CFileException::lockViolation, CauseOf([&] { other.LockRange(kFar, 1); }));
   other.LockRange(kFar + 1, 1);
   other.Write("abc", 3);
   EXPECT_EQ("abc", ReadAll(file));
@@ -114,9 +114,9 @@ TEST_F(File, RefusesToSeekBeforeTheBeginning) {
   for (const auto& row : kRows) {
     file.Seek(5, CFile::begin);
     CFileException error;
-    EXPECT_EQ(CauseOf([&] { file.Seek(row.offset, row.from); }, &error), CFileException::badSeek);
+    EXPECT_EQ(CFileException::badSeek, CauseOf([&] { file.Seek(row.offset, row.from); }, &error));
     EXPECT_EQ(ERROR_NEGATIVE_SEEK, error.m_lOsError);
-    EXPECT_EQ(error.m_strFileName, path_.c_str());
+    EXPECT_EQ(path_.c_str(), error.m_strFileName);
     EXPECT_EQ(5U, file.GetPosition());
   }
 }
@@ -138,7 +138,7 @@ TEST_F(File, SetsItsLength) {
   EXPECT_EQ(std::string("0123\0\0", 6), ReadAll(file));
   file.SetLength(0);
   EXPECT_EQ(0U, file.GetLength());
-  EXPECT_EQ(CauseOf([&] { file.SetLength(~0ULL); }), CFileException::badSeek);
+  EXPECT_EQ(CFileException::badSeek, CauseOf([&] { file.SetLength(~0ULL); }));
 }
 
 TEST_F(File, LengthOfAFileOpenForReadingStays) {
@@ -162,13 +162,13 @@ TEST_F(File, ContentsAreThereForOthersAfterFlush) {
 TEST_F(File, ThatIsNotOpenRefusesEveryCall) {
   CFile file;
   char buffer[4];
-  EXPECT_EQ(CauseOf([&] { file.Read(buffer, 4); }), CFileException::invalidFile);
-  EXPECT_EQ(CauseOf([&] { file.Write(buffer, 4); }), CFileException::invalidFile);
-  EXPECT_EQ(CauseOf([&] { file.Seek(0, CFile::begin); }), CFileException::invalidFile);
-  EXPECT_EQ(CauseOf([&] { file.SeekToEnd(); }), CFileException::invalidFile);
-  EXPECT_EQ(CauseOf([&] { file.GetPosition(); }), CFileException::invalidFile);
-  EXPECT_EQ(CauseOf([&] { file.GetLength(); }), CFileException::invalidFile);
-  EXPECT_EQ(CauseOf([&] { file.SetLength(1); }), CFileException::invalidFile);
+  EXPECT_EQ(CFileException::invalidFile, CauseOf([&] { file.Read(buffer, 4); }));
+  EXPECT_EQ(CFileException::invalidFile, CauseOf([&] { file.Write(buffer, 4); }));
+  EXPECT_EQ(CFileException::invalidFile, CauseOf([&] { file.Seek(0, CFile::begin); }));
+  EXPECT_EQ(CFileException::invalidFile, CauseOf([&] { file.SeekToEnd(); }));
+  EXPECT_EQ(CFileException::invalidFile, CauseOf([&] { file.GetPosition(); }));
+  EXPECT_EQ(CFileException::invalidFile, CauseOf([&] { file.GetLength(); }));
+  EXPECT_EQ(CFileException::invalidFile, CauseOf([&] { file.SetLength(1); }));
   file.Flush();
   file.Close();
   file.Abort();
@@ -180,15 +180,15 @@ TEST_F(File, IsClosedOnceAndOpensAgain) {
   CFile file(path_.c_str(), kFresh);
   file.Write("abc", 3);
   file.Close();
-  EXPECT_EQ(file.m_hFile, CFile::hFileNull);
+  EXPECT_EQ(CFile::hFileNull, file.m_hFile);
   EXPECT_TRUE(file.GetFilePath().IsEmpty());
   file.Close();
   file.Abort();
   ASSERT_TRUE(file.Open(path_.c_str(), CFile::modeRead));
   EXPECT_EQ("abc", ReadAll(file));
   file.Abort();
-  EXPECT_EQ(file.m_hFile, CFile::hFileNull);
-  CFile::Remove(path_.c_str());  // nobody holds it
+  EXPECT_EQ(CFile::hFileNull, file.m_hFile);
+  CFile::Remove(path_.c_str());  // no handle is open
 }
 
 TEST_F(File, IsClosedByItsDestructor) {
@@ -214,7 +214,7 @@ TEST_F(File, TakesAndClosesAHandle) {
   const CFile again(path_.c_str(), CFile::modeRead | CFile::shareExclusive);
 }
 
-// Wine shows the Linux tree as drive Z; its device that is always full stands for a full disk.
+// Wine shows the Linux tree as drive Z; the device that is always full replaces a full disk.
 TEST(FullDisk, IsToldByWrite) {
   constexpr LPCWSTR kFull = L"Z:\\dev\\full";
   CFile file;
@@ -223,8 +223,8 @@ TEST(FullDisk, IsToldByWrite) {
   }
   CFileException error;
   const std::string bytes(100000, 'x');
-  EXPECT_EQ(CauseOf([&] { file.Write(bytes.data(), static_cast<UINT>(bytes.size())); }, &error),
-            CFileException::diskFull);
+  EXPECT_EQ(CFileException::diskFull,
+            CauseOf([&] { file.Write(bytes.data(), static_cast<UINT>(bytes.size())); }, &error));
   EXPECT_EQ(ERROR_DISK_FULL, error.m_lOsError);
   EXPECT_EQ(kFull, error.m_strFileName);
   file.Close();

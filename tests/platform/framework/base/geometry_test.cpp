@@ -81,7 +81,7 @@ TEST(Rect, IsMadeFromSidesCornersAndStructures) {
   EXPECT_TRUE(rect.EqualRect(&plain));
   EXPECT_TRUE(rect != CRect(1, 2, 30, 41));
   const RECT* address = rect;
-  EXPECT_EQ(address, &rect);
+  EXPECT_EQ(&rect, address);
 }
 
 TEST(Rect, KnowsItsMeasures) {
@@ -183,12 +183,12 @@ TEST(Rect, IntersectsUnitesAndSubtracts) {
   EXPECT_TRUE(result.UnionRect(a, b));
   EXPECT_EQ(CRect(0, 0, 20, 20), result);
   EXPECT_TRUE(result.UnionRect(a, CRect()));
-  EXPECT_EQ(result, a);
+  EXPECT_EQ(a, result);
   EXPECT_FALSE(result.UnionRect(CRect(), CRect()));
   EXPECT_TRUE(result.SubtractRect(a, CRect(0, 0, 10, 4)));
   EXPECT_EQ(CRect(0, 4, 10, 10), result);
   EXPECT_TRUE(result.SubtractRect(a, b));
-  EXPECT_EQ(result, a);
+  EXPECT_EQ(a, result);
 }
 
 TEST(Rect, HasOperatorsForThese) {

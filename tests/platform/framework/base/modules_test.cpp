@@ -8,7 +8,7 @@
 
 namespace {
 
-// The extension module, loaded for as long as this lives.
+// Loads the extension module for the lifetime of this object.
 class Extension {
  public:
   Extension() : module_(::LoadLibraryW(L"framework_test_extension.dll")) {}
@@ -26,15 +26,15 @@ HINSTANCE Program() { return ::GetModuleHandleW(nullptr); }
 HINSTANCE WhereIsBitmap(UINT id) { return AfxFindResourceHandle(MAKEINTRESOURCEW(id), RT_BITMAP); }
 
 TEST(ResourceChain, ProgramComesFirstThenTheExtension) {
-  EXPECT_EQ(WhereIsBitmap(IDB_ONLY_IN_EXTENSION), Program()) << "found nowhere: the program's";
+  EXPECT_EQ(Program(), WhereIsBitmap(IDB_ONLY_IN_EXTENSION)) << "found nowhere: the program's";
   {
     const Extension extension;
     ASSERT_NE(nullptr, extension.Module());
-    EXPECT_EQ(WhereIsBitmap(IDB_UP), Program());
-    EXPECT_EQ(WhereIsBitmap(IDB_ONLY_IN_EXTENSION), extension.Module());
-    EXPECT_EQ(WhereIsBitmap(9999), Program());
+    EXPECT_EQ(Program(), WhereIsBitmap(IDB_UP));
+    EXPECT_EQ(extension.Module(), WhereIsBitmap(IDB_ONLY_IN_EXTENSION));
+    EXPECT_EQ(Program(), WhereIsBitmap(9999));
   }
-  EXPECT_EQ(WhereIsBitmap(IDB_ONLY_IN_EXTENSION), Program()) << "gone with the module";
+  EXPECT_EQ(Program(), WhereIsBitmap(IDB_ONLY_IN_EXTENSION)) << "removed with the module";
 }
 
 TEST(ResourceChain, BitmapsLoadThroughIt) {
@@ -69,19 +69,19 @@ TEST(ResourceChain, NewestEntryComesFirst) {
   ASSERT_TRUE(AfxInitExtensionModule(record, extension.Module()));
   record.hResource = Program();
   auto* entry = new CDynLinkLibrary(record);
-  EXPECT_EQ(WhereIsBitmap(IDB_ONLY_IN_EXTENSION), extension.Module());
+  EXPECT_EQ(extension.Module(), WhereIsBitmap(IDB_ONLY_IN_EXTENSION));
   delete entry;
-  EXPECT_EQ(WhereIsBitmap(IDB_ONLY_IN_EXTENSION), extension.Module());
+  EXPECT_EQ(extension.Module(), WhereIsBitmap(IDB_ONLY_IN_EXTENSION));
 }
 
 TEST(ResourceChain, ResourcesMayBeAnotherModules) {
   const Extension extension;
   AfxSetResourceHandle(extension.Module());
-  EXPECT_EQ(AfxGetResourceHandle(), extension.Module());
-  EXPECT_EQ(WhereIsBitmap(IDB_UP), extension.Module());
+  EXPECT_EQ(extension.Module(), AfxGetResourceHandle());
+  EXPECT_EQ(extension.Module(), WhereIsBitmap(IDB_UP));
   AfxSetResourceHandle(nullptr);
-  EXPECT_EQ(AfxGetResourceHandle(), Program());
-  EXPECT_EQ(AfxGetInstanceHandle(), Program());
+  EXPECT_EQ(Program(), AfxGetResourceHandle());
+  EXPECT_EQ(Program(), AfxGetInstanceHandle());
 }
 
 TEST(ExtensionRecord, IsFilledOnceAndEmptied) {
@@ -90,7 +90,7 @@ TEST(ExtensionRecord, IsFilledOnceAndEmptied) {
   EXPECT_FALSE(record.bInitialized);
   EXPECT_TRUE(AfxInitExtensionModule(record, Program()));
   EXPECT_TRUE(AfxInitExtensionModule(record, ::GetModuleHandleW(L"user32.dll")));
-  EXPECT_EQ(record.hModule, Program());
+  EXPECT_EQ(Program(), record.hModule);
   AfxTermExtensionModule(record);
   EXPECT_FALSE(record.bInitialized);
 }
@@ -106,10 +106,10 @@ TEST(ExtensionRecord, TermTakesOnlyItsOwnEntriesUnlessAll) {
   constexpr UINT kNone = 9999;
   const Extension extension;
   AfxTermExtensionModule(mine);
-  EXPECT_EQ(WhereIsBitmap(IDB_ONLY_IN_EXTENSION), extension.Module());
+  EXPECT_EQ(extension.Module(), WhereIsBitmap(IDB_ONLY_IN_EXTENSION));
   AfxTermExtensionModule(others, TRUE);
-  EXPECT_EQ(WhereIsBitmap(IDB_ONLY_IN_EXTENSION), Program()) << "all entries are gone";
-  EXPECT_EQ(WhereIsBitmap(kNone), Program());
+  EXPECT_EQ(Program(), WhereIsBitmap(IDB_ONLY_IN_EXTENSION)) << "all entries are gone";
+  EXPECT_EQ(Program(), WhereIsBitmap(kNone));
 }
 
 TEST(Menus, LoadThroughTheChainAndAnswer) {
@@ -119,7 +119,7 @@ TEST(Menus, LoadThroughTheChainAndAnswer) {
   ASSERT_EQ(1u, menu.GetMenuItemCount());
   CMenu* file = menu.GetSubMenu(0);
   ASSERT_NE(nullptr, file);
-  EXPECT_EQ(menu.GetSubMenu(0), file) << "one object for each handle";
+  EXPECT_EQ(file, menu.GetSubMenu(0)) << "one object for each handle";
   EXPECT_EQ(UINT{ID_FILE_OPEN_TEST}, file->GetMenuItemID(0));
   CString text;
   EXPECT_EQ(5, file->GetMenuString(0, text, MF_BYPOSITION));
@@ -139,7 +139,7 @@ TEST(Menus, HandleDiesWithItsOwner) {
     EXPECT_TRUE(menu.AppendMenu(MF_STRING, 5, L"five"));
     EXPECT_EQ(5u, menu.GetMenuItemID(0));
     handle = menu.m_hMenu;
-    EXPECT_EQ(CMenu::FromHandle(handle), &menu);
+    EXPECT_EQ(&menu, CMenu::FromHandle(handle));
   }
   EXPECT_FALSE(::IsMenu(handle));
   EXPECT_EQ(nullptr, CMenu::FromHandle(nullptr));

@@ -1,4 +1,4 @@
-// The framework stays the wide-character one for a host that is compiled without UNICODE.
+// The framework uses wide characters also for a host that is compiled without UNICODE.
 #include <afx.h>
 #include <gtest/gtest.h>
 

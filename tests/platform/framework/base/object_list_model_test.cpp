@@ -29,11 +29,11 @@ class ListAndModel {
         return Keep(list_.AddTail(item), model_.insert(model_.end(), item));
       case 4:
         if (places_.empty()) return;
-        EXPECT_EQ(list_.RemoveHead(), Forget(model_.begin()));
+        EXPECT_EQ(Forget(model_.begin()), list_.RemoveHead());
         return;
       case 5:
         if (places_.empty()) return;
-        EXPECT_EQ(list_.RemoveTail(), Forget(std::prev(model_.end())));
+        EXPECT_EQ(Forget(std::prev(model_.end())), list_.RemoveTail());
         return;
       case 6:
         return RemoveSomewhere();
@@ -56,14 +56,14 @@ class ListAndModel {
 
   // The contents in both directions, and that each position still names its own element.
   void Check() const {
-    ASSERT_EQ(list_.GetCount(), static_cast<INT_PTR>(model_.size()));
+    ASSERT_EQ(static_cast<INT_PTR>(model_.size()), list_.GetCount());
     POSITION at = list_.GetHeadPosition();
-    for (CObject* expected : model_) ASSERT_EQ(list_.GetNext(at), expected);
+    for (CObject* expected : model_) ASSERT_EQ(expected, list_.GetNext(at));
     ASSERT_EQ(nullptr, at);
     at = list_.GetTailPosition();
-    for (auto it = model_.rbegin(); it != model_.rend(); ++it) ASSERT_EQ(list_.GetPrev(at), *it);
+    for (auto it = model_.rbegin(); it != model_.rend(); ++it) ASSERT_EQ(*it, list_.GetPrev(at));
     ASSERT_EQ(nullptr, at);
-    for (const Place& place : places_) ASSERT_EQ(list_.GetAt(place.position), *place.in_model);
+    for (const Place& place : places_) ASSERT_EQ(*place.in_model, list_.GetAt(place.position));
   }
 
   [[nodiscard]] std::size_t Size() const { return places_.size(); }
@@ -117,18 +117,18 @@ class ListAndModel {
     const Place place = AnyPlace();
     const auto expected = std::find(std::next(place.in_model), model_.end(), item);
     const POSITION found = list_.Find(item, place.position);
-    EXPECT_EQ(found == nullptr, expected == model_.end());
+    EXPECT_EQ(expected == model_.end(), found == nullptr);
     if (found) {
-      EXPECT_EQ(found, PositionOf(expected));
+      EXPECT_EQ(PositionOf(expected), found);
     }
   }
 
   void FindIndex() {
     const std::size_t index = Random(model_.size() + 2);
     const POSITION found = list_.FindIndex(static_cast<INT_PTR>(index));
-    EXPECT_EQ(found == nullptr, index >= model_.size());
+    EXPECT_EQ(index >= model_.size(), found == nullptr);
     if (found) {
-      EXPECT_EQ(found, PositionOf(std::next(model_.begin(), static_cast<std::ptrdiff_t>(index))));
+      EXPECT_EQ(PositionOf(std::next(model_.begin(), static_cast<std::ptrdiff_t>(index))), found);
     }
   }
 

@@ -16,10 +16,10 @@ Items Contents(const CObList& list) {
   for (POSITION at = list.GetHeadPosition(); at;) forwards.push_back(list.GetNext(at));
   Items backwards;
   for (POSITION at = list.GetTailPosition(); at;) backwards.push_back(list.GetPrev(at));
-  EXPECT_EQ(Items(backwards.rbegin(), backwards.rend()), forwards);
-  EXPECT_EQ(list.GetCount(), static_cast<INT_PTR>(forwards.size()));
-  EXPECT_EQ(list.GetSize(), list.GetCount());
-  EXPECT_EQ(list.IsEmpty(), forwards.empty() ? TRUE : FALSE);
+  EXPECT_EQ(forwards, Items(backwards.rbegin(), backwards.rend()));
+  EXPECT_EQ(static_cast<INT_PTR>(forwards.size()), list.GetCount());
+  EXPECT_EQ(list.GetCount(), list.GetSize());
+  EXPECT_EQ(forwards.empty() ? TRUE : FALSE, list.IsEmpty());
   return forwards;
 }
 
@@ -34,13 +34,13 @@ class ObjectList : public ::testing::Test {
 };
 
 TEST_F(ObjectList, IsEmptyAtFirst) {
-  EXPECT_EQ(Contents(list_), Items());
+  EXPECT_EQ(Items(), Contents(list_));
   EXPECT_EQ(nullptr, list_.GetHeadPosition());
   EXPECT_EQ(nullptr, list_.GetTailPosition());
   EXPECT_EQ(nullptr, list_.Find(a_));
   EXPECT_EQ(nullptr, list_.FindIndex(0));
   list_.RemoveAll();
-  EXPECT_EQ(Contents(list_), Items());
+  EXPECT_EQ(Items(), Contents(list_));
 }
 
 TEST_F(ObjectList, GrowsAtBothEnds) {
@@ -48,15 +48,15 @@ TEST_F(ObjectList, GrowsAtBothEnds) {
   const POSITION a = list_.AddHead(a_);
   const POSITION c = list_.AddTail(c_);
   EXPECT_EQ((Items{a_, b_, c_}), Contents(list_));
-  EXPECT_EQ(list_.GetHeadPosition(), a);
-  EXPECT_EQ(list_.GetTailPosition(), c);
-  EXPECT_EQ(list_.GetAt(b), b_);
-  EXPECT_EQ(list_.GetHead(), a_);
-  EXPECT_EQ(list_.GetTail(), c_);
+  EXPECT_EQ(a, list_.GetHeadPosition());
+  EXPECT_EQ(c, list_.GetTailPosition());
+  EXPECT_EQ(b_, list_.GetAt(b));
+  EXPECT_EQ(a_, list_.GetHead());
+  EXPECT_EQ(c_, list_.GetTail());
   const CObList& fixed = list_;
-  EXPECT_EQ(fixed.GetHead(), a_);
-  EXPECT_EQ(fixed.GetTail(), c_);
-  EXPECT_EQ(fixed.GetAt(b), b_);
+  EXPECT_EQ(a_, fixed.GetHead());
+  EXPECT_EQ(c_, fixed.GetTail());
+  EXPECT_EQ(b_, fixed.GetAt(b));
 }
 
 TEST_F(ObjectList, TakesAnotherListsElementsInTheirOrder) {
@@ -87,14 +87,14 @@ TEST_F(ObjectList, TakesItsOwnElementsOnce) {
 
 TEST_F(ObjectList, ShrinksAtBothEnds) {
   for (CObject* item : {a_, b_, c_}) list_.AddTail(item);
-  EXPECT_EQ(list_.RemoveHead(), a_);
-  EXPECT_EQ(list_.RemoveTail(), c_);
+  EXPECT_EQ(a_, list_.RemoveHead());
+  EXPECT_EQ(c_, list_.RemoveTail());
   EXPECT_EQ(Items{b_}, Contents(list_));
-  EXPECT_EQ(list_.RemoveTail(), b_);
-  EXPECT_EQ(Contents(list_), Items());
+  EXPECT_EQ(b_, list_.RemoveTail());
+  EXPECT_EQ(Items(), Contents(list_));
   list_.AddHead(d_);
-  EXPECT_EQ(list_.RemoveHead(), d_);
-  EXPECT_EQ(Contents(list_), Items());
+  EXPECT_EQ(d_, list_.RemoveHead());
+  EXPECT_EQ(Items(), Contents(list_));
 }
 
 TEST_F(ObjectList, RemovesAtAPosition) {
@@ -106,7 +106,7 @@ TEST_F(ObjectList, RemovesAtAPosition) {
   list_.RemoveAt(c);
   EXPECT_EQ(Items{a_}, Contents(list_));
   list_.RemoveAt(list_.GetHeadPosition());
-  EXPECT_EQ(Contents(list_), Items());
+  EXPECT_EQ(Items(), Contents(list_));
 }
 
 TEST_F(ObjectList, InsertsAroundAPosition) {
@@ -115,9 +115,9 @@ TEST_F(ObjectList, InsertsAroundAPosition) {
   const POSITION d = list_.InsertAfter(b, d_);
   const POSITION c = list_.InsertBefore(d, c_);
   EXPECT_EQ((Items{a_, b_, c_, d_}), Contents(list_));
-  EXPECT_EQ(list_.GetHeadPosition(), a);
-  EXPECT_EQ(list_.GetTailPosition(), d);
-  EXPECT_EQ(list_.GetAt(c), c_);
+  EXPECT_EQ(a, list_.GetHeadPosition());
+  EXPECT_EQ(d, list_.GetTailPosition());
+  EXPECT_EQ(c_, list_.GetAt(c));
   list_.InsertAfter(a, d_);
   EXPECT_EQ((Items{a_, d_, b_, c_, d_}), Contents(list_));
 }
@@ -151,7 +151,7 @@ TEST_F(ObjectList, HoldsNullLikeAnyOther) {
   CObject* const null = nullptr;
   list_.AddTail(a_);
   const POSITION place = list_.AddTail(null);
-  EXPECT_EQ(list_.Find(null), place);
+  EXPECT_EQ(place, list_.Find(null));
   EXPECT_EQ((Items{a_, null}), Contents(list_));
 }
 
@@ -159,8 +159,8 @@ TEST_F(ObjectList, FindsTheNextEqualElementBehindAPosition) {
   const POSITION first = list_.AddTail(a_);
   list_.AddTail(b_);
   const POSITION second = list_.AddTail(a_);
-  EXPECT_EQ(list_.Find(a_), first);
-  EXPECT_EQ(list_.Find(a_, first), second);
+  EXPECT_EQ(first, list_.Find(a_));
+  EXPECT_EQ(second, list_.Find(a_, first));
   EXPECT_EQ(nullptr, list_.Find(a_, second));
   EXPECT_EQ(nullptr, list_.Find(b_, second));
   EXPECT_EQ(nullptr, list_.Find(c_));
@@ -169,8 +169,8 @@ TEST_F(ObjectList, FindsTheNextEqualElementBehindAPosition) {
 TEST_F(ObjectList, FindsAnIndexInsideOnly) {
   const POSITION a = list_.AddTail(a_);
   const POSITION b = list_.AddTail(b_);
-  EXPECT_EQ(list_.FindIndex(0), a);
-  EXPECT_EQ(list_.FindIndex(1), b);
+  EXPECT_EQ(a, list_.FindIndex(0));
+  EXPECT_EQ(b, list_.FindIndex(1));
   for (INT_PTR outside : {INT_PTR{-1}, INT_PTR{2}, INT_PTR{1000000}}) {
     EXPECT_EQ(nullptr, list_.FindIndex(outside));
   }

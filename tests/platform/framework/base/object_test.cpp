@@ -1,4 +1,4 @@
-// CObject and what is known of a class while the program runs.
+// CObject and the run-time description of a class.
 #include <afx.h>
 #include <gtest/gtest.h>
 
@@ -25,7 +25,7 @@ static_assert(std::has_virtual_destructor_v<CObject>);
 
 TEST(RuntimeClass, KnowsItsNameSizeAndBase) {
   EXPECT_STREQ("RoundMark", RUNTIME_CLASS(RoundMark)->m_lpszClassName);
-  EXPECT_EQ(RUNTIME_CLASS(RoundMark)->m_nObjectSize, static_cast<int>(sizeof(RoundMark)));
+  EXPECT_EQ(static_cast<int>(sizeof(RoundMark)), RUNTIME_CLASS(RoundMark)->m_nObjectSize);
   EXPECT_EQ(RUNTIME_CLASS(Mark), RUNTIME_CLASS(RoundMark)->m_pBaseClass);
   EXPECT_STREQ("CObject", RUNTIME_CLASS(CObject)->m_lpszClassName);
   EXPECT_EQ(nullptr, RUNTIME_CLASS(CObject)->m_pBaseClass);

@@ -49,8 +49,8 @@ TEST(StringChange, TrimsASetAndACharacter) {
   EXPECT_STREQ(L"yabcyxx", CString(text).TrimLeft(L'x'));
   EXPECT_STREQ(L"xxyabcy", CString(text).TrimRight(L'x'));
   EXPECT_STREQ(L"yabcy", CString(text).Trim(L'x'));
-  EXPECT_STREQ(CString(text).Trim(L""), text);
-  EXPECT_STREQ(CString(text).Trim(static_cast<LPCWSTR>(nullptr)), text);
+  EXPECT_STREQ(text, CString(text).Trim(L""));
+  EXPECT_STREQ(text, CString(text).Trim(static_cast<LPCWSTR>(nullptr)));
   EXPECT_STREQ(L"", CString(L"xyx").Trim(L"yx"));
   CString itself(L"xyx");
   EXPECT_STREQ(L"", itself.Trim(itself.GetString()));
@@ -116,7 +116,7 @@ TEST(StringChange, InsertsAtAPlaceInsideTheString) {
   };
   for (const auto& row : kRows) {
     CString text(L"abc");
-    EXPECT_EQ(text.Insert(row.index, row.inserted), static_cast<int>(std::wcslen(row.result)));
+    EXPECT_EQ(static_cast<int>(std::wcslen(row.result)), text.Insert(row.index, row.inserted));
     EXPECT_STREQ(row.result, text) << row.index;
   }
   CString text(L"abc");
@@ -138,7 +138,7 @@ TEST(StringChange, DeletesWhatLiesInsideTheString) {
   };
   for (const auto& row : kRows) {
     CString text(L"01234");
-    EXPECT_EQ(text.Delete(row.index, row.count), static_cast<int>(std::wcslen(row.result)));
+    EXPECT_EQ(static_cast<int>(std::wcslen(row.result)), text.Delete(row.index, row.count));
     EXPECT_STREQ(row.result, text) << row.index << ", " << row.count;
   }
   CString text(L"01234");

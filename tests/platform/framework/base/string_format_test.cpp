@@ -1,4 +1,4 @@
-// CString::Format and its kin.
+// CString::Format and similar members.
 #include <afx.h>
 #include <gtest/gtest.h>
 
@@ -54,7 +54,7 @@ TEST(StringFormat, HasNoLimitOfLength) {
   for (std::size_t length : {255U, 256U, 1023U, 1024U, 65535U, 65536U, 1000000U}) {
     const std::wstring piece(length, L'測');
     const CString text = Formatted(L"<%s>", piece.c_str());
-    ASSERT_EQ(text.GetLength(), static_cast<int>(length) + 2);
+    ASSERT_EQ(static_cast<int>(length) + 2, text.GetLength());
     EXPECT_EQ(L'<', text[0]);
     EXPECT_EQ(L'測', text[static_cast<int>(length)]);
     EXPECT_EQ(L'>', text[static_cast<int>(length) + 1]);

@@ -27,7 +27,7 @@ TEST(StringComparison, OrdersByCharacterValueAndWithoutCase) {
       {L"a", L"ab", -1, -1},
       {L"a", L"A", 1, 0},
       {L"B", L"a", -1, 1},
-      {L"Z", L"_", -1, 1},  // as lower-case letters, which stand behind the underscore
+      {L"Z", L"_", -1, 1},  // as lower-case letters, which come after the underscore
       {L"T10", L"t9", -1, -1},
       {L"境界点", L"境界点", 0, 0},
       {L"境界点", L"境界線", -1, -1},
@@ -39,27 +39,27 @@ TEST(StringComparison, OrdersByCharacterValueAndWithoutCase) {
     const CString a(row.a);
     const CString b(row.b);
     EXPECT_EQ(row.order, Sign(a.Compare(row.b))) << ::testing::PrintToString(a);
-    EXPECT_EQ(Sign(b.Compare(row.a)), -row.order) << ::testing::PrintToString(a);
+    EXPECT_EQ(-row.order, Sign(b.Compare(row.a))) << ::testing::PrintToString(a);
     EXPECT_EQ(row.order_without_case, Sign(a.CompareNoCase(row.b))) << ::testing::PrintToString(a);
-    EXPECT_EQ(Sign(b.CompareNoCase(row.a)), -row.order_without_case) << ::testing::PrintToString(a);
-    EXPECT_EQ(a == b, row.order == 0);
-    EXPECT_EQ(a != b, row.order != 0);
-    EXPECT_EQ(a < b, row.order < 0);
-    EXPECT_EQ(a > b, row.order > 0);
-    EXPECT_EQ(a <= b, row.order <= 0);
-    EXPECT_EQ(a >= b, row.order >= 0);
-    EXPECT_EQ(a == row.b, row.order == 0);
-    EXPECT_EQ(a != row.b, row.order != 0);
-    EXPECT_EQ(a < row.b, row.order < 0);
-    EXPECT_EQ(a > row.b, row.order > 0);
-    EXPECT_EQ(a <= row.b, row.order <= 0);
-    EXPECT_EQ(a >= row.b, row.order >= 0);
-    EXPECT_EQ(row.a == b, row.order == 0);
-    EXPECT_EQ(row.a != b, row.order != 0);
-    EXPECT_EQ(row.a < b, row.order < 0);
-    EXPECT_EQ(row.a > b, row.order > 0);
-    EXPECT_EQ(row.a <= b, row.order <= 0);
-    EXPECT_EQ(row.a >= b, row.order >= 0);
+    EXPECT_EQ(-row.order_without_case, Sign(b.CompareNoCase(row.a))) << ::testing::PrintToString(a);
+    EXPECT_EQ(row.order == 0, a == b);
+    EXPECT_EQ(row.order != 0, a != b);
+    EXPECT_EQ(row.order < 0, a < b);
+    EXPECT_EQ(row.order > 0, a > b);
+    EXPECT_EQ(row.order <= 0, a <= b);
+    EXPECT_EQ(row.order >= 0, a >= b);
+    EXPECT_EQ(row.order == 0, a == row.b);
+    EXPECT_EQ(row.order != 0, a != row.b);
+    EXPECT_EQ(row.order < 0, a < row.b);
+    EXPECT_EQ(row.order > 0, a > row.b);
+    EXPECT_EQ(row.order <= 0, a <= row.b);
+    EXPECT_EQ(row.order >= 0, a >= row.b);
+    EXPECT_EQ(row.order == 0, row.a == b);
+    EXPECT_EQ(row.order != 0, row.a != b);
+    EXPECT_EQ(row.order < 0, row.a < b);
+    EXPECT_EQ(row.order > 0, row.a > b);
+    EXPECT_EQ(row.order <= 0, row.a <= b);
+    EXPECT_EQ(row.order >= 0, row.a >= b);
   }
 }
 

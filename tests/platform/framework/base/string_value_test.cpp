@@ -1,4 +1,4 @@
-// CString as a value: making, copying, moving, sharing, joining, conversions, direct writing.
+// CString as a value: construction, copies, moves, sharing, joining, conversions, direct writing.
 #include <afx.h>
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ void ExpectEmptyAndUsable(CString& text) {
   EXPECT_EQ(0, text.GetLength());
   EXPECT_STREQ(L"", text);
   const CString copy(text);
-  EXPECT_EQ(copy, text);
+  EXPECT_EQ(text, copy);
   text.MakeUpper().MakeReverse().Trim();
   text += L"x";
   EXPECT_EQ(L"x", text);
@@ -61,10 +61,10 @@ TEST(String, BecomesEmptyByAssigningNull) {
 }
 
 TEST(String, IsMadeFromTextCharactersAndLength) {
-  EXPECT_STREQ(CString(kLong), kLong);
-  EXPECT_STREQ(CString(L"abcdef", 3), L"abc");
-  EXPECT_STREQ(CString(L'点'), L"点");
-  EXPECT_STREQ(CString(L'b', 4), L"bbbb");
+  EXPECT_STREQ(kLong, CString(kLong));
+  EXPECT_STREQ(L"abc", CString(L"abcdef", 3));
+  EXPECT_STREQ(L"点", CString(L'点'));
+  EXPECT_STREQ(L"bbbb", CString(L'b', 4));
   CString text;
   text = L'z';
   EXPECT_STREQ(L"z", text);
@@ -80,16 +80,16 @@ TEST(String, KeepsANulInsideItsLength) {
 }
 
 TEST(String, IsConvertedFromTheAnsiCodePage) {
-  // Whatever the code page is here, the system's own conversion says what it must give.
+  // The expected result is the system's own conversion, which depends on the code page.
   static constexpr LPCSTR kRows[] = {"", "a", "Tavix 1.0", "\x93\x5F", "\xE9t\xE9", "\xFF\xFE\x80"};
   for (LPCSTR narrow : kRows) {
     WCHAR expected[32];
     ASSERT_GT(MultiByteToWideChar(CP_ACP, 0, narrow, -1, expected, 32), 0);
-    EXPECT_STREQ(CString(narrow), expected);
+    EXPECT_STREQ(expected, CString(narrow));
     CString assigned(kLong);
     assigned = narrow;
-    EXPECT_STREQ(assigned, expected);
-    EXPECT_EQ(assigned.GetLength(), static_cast<int>(std::wstring(expected).size()));
+    EXPECT_STREQ(expected, assigned);
+    EXPECT_EQ(static_cast<int>(std::wstring(expected).size()), assigned.GetLength());
   }
 }
 
@@ -148,13 +148,13 @@ TEST(String, MovedFromIsEmptyAndUsable) {
   CString from(kLong);
   const LPCWSTR characters = from;
   CString to(std::move(from));
-  EXPECT_EQ(to.GetString(), characters);
+  EXPECT_EQ(characters, to.GetString());
   ExpectEmptyAndUsable(from);
 
   CString target(L"old");
   target = std::move(to);
-  EXPECT_EQ(target.GetString(), characters);
-  to = L"again";  // whatever it held meanwhile
+  EXPECT_EQ(characters, target.GetString());
+  to = L"again";  // a moved-from string can be assigned
   EXPECT_STREQ(L"again", to);
   EXPECT_STREQ(kLong, target);
 }
@@ -203,8 +203,8 @@ TEST(String, GrowsByItselfAgainAndAgain) {
     expected += expected;
     text += text.GetString() + i;
     expected += expected.substr(static_cast<std::size_t>(i));
-    ASSERT_EQ(text.GetLength(), static_cast<int>(expected.size()));
-    ASSERT_STREQ(text, expected.c_str());
+    ASSERT_EQ(static_cast<int>(expected.size()), text.GetLength());
+    ASSERT_STREQ(expected.c_str(), text);
   }
 }
 
@@ -226,7 +226,7 @@ TEST(String, IsJoinedFromEveryKindOfPiece) {
   EXPECT_STREQ(L"ba", L'b' + a);
   EXPECT_STREQ(L"a", a + static_cast<LPCWSTR>(nullptr));
   EXPECT_STREQ(L"a", static_cast<LPCWSTR>(nullptr) + a);
-  EXPECT_STREQ(CString() + CString(), L"");
+  EXPECT_STREQ(L"", CString() + CString());
   EXPECT_STREQ(L"abca", a + L"b" + L'c' + a);
   EXPECT_STREQ(L"a", a);
 }

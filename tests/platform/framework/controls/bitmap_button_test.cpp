@@ -6,6 +6,7 @@
 
 #include "tests/platform/framework/test_resources.h"
 #include "tests/platform/framework/test_windows.h"
+#include "tests/support/message_pump.h"
 
 namespace {
 
@@ -98,8 +99,8 @@ TEST(BitmapButton, ShowsThePictureOfItsState) {
     ASSERT_TRUE(parent.Make());
     CBitmapButton button;
     ASSERT_TRUE(button.Create(L"", WS_CHILD | BS_OWNERDRAW, CRect(0, 0, 30, 30), &parent, 7));
-    EXPECT_EQ(button.LoadBitmaps(row.up, row.selected, row.focused, row.disabled), row.up != 0);
-    EXPECT_EQ(Picture(parent, button, row.state), RawPicture(row.shown))
+    EXPECT_EQ(row.up != 0, button.LoadBitmaps(row.up, row.selected, row.focused, row.disabled));
+    EXPECT_EQ(RawPicture(row.shown), Picture(parent, button, row.state))
         << "state " << row.state << " wants " << row.shown;
   }
   EXPECT_NE(RawPicture(IDB_UP), RawPicture(IDB_SELECTED)) << "the pictures differ";
@@ -112,9 +113,9 @@ TEST(BitmapButton, ReloadingReplacesThePictures) {
   ASSERT_TRUE(button.Create(L"", WS_CHILD | BS_OWNERDRAW, CRect(0, 0, 30, 30), &parent, 7));
   ASSERT_TRUE(button.LoadBitmaps(IDB_UP, IDB_SELECTED));
   ASSERT_TRUE(button.LoadBitmaps(L"OKU"));
-  EXPECT_EQ(Picture(parent, button, ODS_SELECTED), Picture(parent, button, 0));
-  EXPECT_FALSE(button.LoadBitmaps(IDB_UP, 9999)) << "a missing one is told";
-  EXPECT_EQ(Picture(parent, button, ODS_SELECTED), RawPicture(IDB_UP));
+  EXPECT_EQ(Picture(parent, button, 0), Picture(parent, button, ODS_SELECTED));
+  EXPECT_FALSE(button.LoadBitmaps(IDB_UP, 9999)) << "a missing bitmap is reported";
+  EXPECT_EQ(RawPicture(IDB_UP), Picture(parent, button, ODS_SELECTED));
 }
 
 TEST(BitmapButton, TakesTheSizeOfItsPicture) {
@@ -145,11 +146,11 @@ TEST(BitmapButton, DrawsItselfOnTheScreenAndWhenPressed) {
     CClientDC dc(&button);
     return dc.GetPixel(7, 1);
   };
-  EXPECT_TRUE(test::PumpUntil([&] { return pixel() == RGB(255, 0, 0); }));
+  EXPECT_TRUE(tavix::test::PumpUntil([&] { return pixel() == RGB(255, 0, 0); }));
   button.SetState(TRUE);
-  EXPECT_TRUE(test::PumpUntil([&] { return pixel() == RGB(0, 255, 0); }));
+  EXPECT_TRUE(tavix::test::PumpUntil([&] { return pixel() == RGB(0, 255, 0); }));
   button.SetState(FALSE);
-  EXPECT_TRUE(test::PumpUntil([&] { return pixel() == RGB(255, 0, 0); }));
+  EXPECT_TRUE(tavix::test::PumpUntil([&] { return pixel() == RGB(255, 0, 0); }));
 }
 
 TEST(BitmapButton, DrawsItselfInADialogByItsCaption) {
@@ -164,7 +165,7 @@ TEST(BitmapButton, DrawsItselfInADialogByItsCaption) {
   const auto down = Picture(dialog, button, ODS_SELECTED);
   EXPECT_NE(up, RawPicture(0)) << "something is drawn";
   EXPECT_NE(down, up);
-  EXPECT_EQ(Picture(dialog, button, ODS_FOCUS), up);
+  EXPECT_EQ(up, Picture(dialog, button, ODS_FOCUS));
   dialog.DestroyWindow();
 }
 
@@ -187,7 +188,7 @@ TEST(BitmapButton, ParentsOwnHandlerComesFirst) {
   CBitmapButton button;
   ASSERT_TRUE(button.Create(L"", WS_CHILD | BS_OWNERDRAW, CRect(0, 0, 30, 30), &parent, 7));
   ASSERT_TRUE(button.LoadBitmaps(IDB_UP));
-  EXPECT_EQ(Picture(parent, button, 0), RawPicture(IDB_UP));
+  EXPECT_EQ(RawPicture(IDB_UP), Picture(parent, button, 0));
   EXPECT_EQ(1, parent.asked);
 }
 

@@ -1,4 +1,4 @@
-// The system's colour and file dialogs, driven from inside their loops.
+// The colour and file dialogs, driven from inside their loops.
 
 #include <afxdlgs.h>
 #include <gtest/gtest.h>
@@ -25,7 +25,7 @@ TEST(ColorDialog, AnswersWithTheChosenColour) {
   EXPECT_EQ(IDCANCEL, dialog.DoModal());
 }
 
-// A file that exists for as long as this lives, in a folder of its own.
+// A file in a folder of its own, which exists as long as this object.
 class TemporaryFile {
  public:
   explicit TemporaryFile(const std::wstring& name) {
@@ -62,7 +62,7 @@ TEST(FileDialog, OpensWhatIsNamed) {
   EXPECT_EQ(L"sim", dialog.GetFileExt());
   EXPECT_EQ(0, dialog.GetFolderPath().CompareNoCase(file.Folder()));
   POSITION position = dialog.GetStartPosition();
-  EXPECT_EQ(dialog.GetNextPathName(position), dialog.GetPathName());
+  EXPECT_EQ(dialog.GetPathName(), dialog.GetNextPathName(position));
   EXPECT_EQ(nullptr, position);
 }
 
@@ -91,7 +91,7 @@ TEST(FileDialog, TakesSeveralNamesApart) {
       paths.emplace_back(dialog.GetNextPathName(position));
     }
     EXPECT_EQ(row.paths, paths);
-    EXPECT_EQ(dialog.GetPathName(), row.paths.empty() ? L"" : row.paths[0].c_str());
+    EXPECT_EQ(row.paths.empty() ? L"" : row.paths[0].c_str(), dialog.GetPathName());
   }
 }
 

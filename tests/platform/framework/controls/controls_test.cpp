@@ -1,4 +1,4 @@
-// The controls' calls against what the controls then hold.
+// The calls of the controls, checked by what the controls then contain.
 
 #include <afxcmn.h>
 #include <gtest/gtest.h>
@@ -126,7 +126,7 @@ TEST(SpinButton, CountsWithinItsRangeAndTellsABadBuddy) {
   CSpinButtonCtrl spin;
   ASSERT_TRUE(spin.Create(UDS_SETBUDDYINT | UDS_NOTHOUSANDS, kRect, &parent, 4));
   EXPECT_EQ(nullptr, spin.SetBuddy(&buddy));
-  EXPECT_EQ(spin.GetBuddy(), &buddy);
+  EXPECT_EQ(&buddy, spin.GetBuddy());
   spin.SetRange(1, 50);
   int lower = 0, upper = 0;
   spin.GetRange(lower, upper);
@@ -165,7 +165,7 @@ TEST(ScrollBar, KeepsItsPosition) {
   bar.SetScrollRange(0, 200);
   bar.SetScrollPos(55);
   EXPECT_EQ(55, bar.GetScrollPos());
-  EXPECT_EQ(CScrollBar::FromHandle(bar.m_hWnd), &bar);
+  EXPECT_EQ(&bar, CScrollBar::FromHandle(bar.m_hWnd));
   EXPECT_EQ(nullptr, CScrollBar::FromHandle(nullptr));
 }
 

@@ -28,8 +28,8 @@ TEST_F(DatabaseCalls, ACreatedDatabaseTellsWhatItWasMadeOf) {
   EXPECT_EQ(0U, info.dwSize);
   ASSERT_EQ(3, info.wNumSortOrder);
   for (int i = 0; i < 3; ++i) {
-    EXPECT_EQ(info.rgSortSpecs[i].propid, sortings[i].propid);
-    EXPECT_EQ(info.rgSortSpecs[i].dwFlags, sortings[i].dwFlags);
+    EXPECT_EQ(sortings[i].propid, info.rgSortSpecs[i].propid);
+    EXPECT_EQ(sortings[i].dwFlags, info.rgSortSpecs[i].dwFlags);
   }
   FILETIME now;
   GetSystemTimeAsFileTime(&now);
@@ -61,10 +61,10 @@ TEST_F(DatabaseCalls, LongNamesAreCutWhereTheyAreMadeAndWhereTheyAreLookedFor) {
   const std::wstring longest(CEDB_MAXDBASENAMELEN - 1, L'n');
   const std::wstring longer = longest + L"tail";
   const CEOID oid = CeCreateDatabase(Name(longer.c_str()), 0, 0, nullptr);
-  EXPECT_EQ(InfoOf(oid).szDbaseName, longest);
+  EXPECT_EQ(longest, InfoOf(oid).szDbaseName);
   CEOID found = 0;
   EXPECT_TRUE(CeCloseDatabaseHandle(CeOpenDatabase(&found, Name(longer.c_str()), 0, 0, nullptr)));
-  EXPECT_EQ(found, oid);
+  EXPECT_EQ(oid, found);
 }
 
 TEST_F(DatabaseCalls, OpeningIsByNameOrByIdentifier) {
@@ -72,7 +72,7 @@ TEST_F(DatabaseCalls, OpeningIsByNameOrByIdentifier) {
   CEOID by_name = 0;
   const HANDLE first = CeOpenDatabase(&by_name, Name(L"db"), 0, 0, nullptr);
   ASSERT_NE(INVALID_HANDLE_VALUE, first);
-  EXPECT_EQ(by_name, oid);
+  EXPECT_EQ(oid, by_name);
   CEOID by_id = oid;
   const HANDLE second = CeOpenDatabase(&by_id, nullptr, 0, 0, nullptr);
   ASSERT_NE(INVALID_HANDLE_VALUE, second);
@@ -126,7 +126,7 @@ TEST_F(DatabaseCalls, InfoTellsRecordsFromDatabasesAndFailsForTheRest) {
   CEOIDINFO info{};
   ASSERT_TRUE(CeOidGetInfo(record, &info));
   EXPECT_EQ(OBJTYPE_RECORD, info.wObjType);
-  EXPECT_EQ(info.infRecord.oidParent, oid);
+  EXPECT_EQ(oid, info.infRecord.oidParent);
   EXPECT_EQ(1, InfoOf(oid).wNumRecords);
   EXPECT_EQ(2U, InfoOf(oid).dwSize);
   ExpectError(ERROR_INVALID_HANDLE, CeOidGetInfo(0, &info), FALSE);
@@ -177,8 +177,8 @@ TEST_F(DatabaseCalls, AWalkFindsEveryDatabaseOfATypeAndEndsWhenOneIsDeleted) {
   const CEOID c = CeCreateDatabase(Name(L"c"), 7, 0, nullptr);
   const HANDLE walk = CeFindFirstDatabase(7);
   ASSERT_NE(INVALID_HANDLE_VALUE, walk);
-  EXPECT_EQ(CeFindNextDatabase(walk), a);
-  EXPECT_EQ(CeFindNextDatabase(walk), c);
+  EXPECT_EQ(a, CeFindNextDatabase(walk));
+  EXPECT_EQ(c, CeFindNextDatabase(walk));
   ExpectError(ERROR_NO_MORE_ITEMS, CeFindNextDatabase(walk), CEOID{0});
   CeDeleteDatabase(a);
   ExpectError(ERROR_KEY_DELETED, CeFindNextDatabase(walk), CEOID{0});

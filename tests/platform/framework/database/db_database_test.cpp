@@ -88,12 +88,12 @@ TEST_F(DatabaseClass, OpeningMakesTheFirstRecordCurrent) {
   const CEOID two = Add(2, 2);
   const CEOID one = Add(1, 1);
   ASSERT_TRUE(database_.Open(L"lines", &by_line_));
-  EXPECT_EQ(database_.GetCurrRecord(), one);
+  EXPECT_EQ(one, database_.GetCurrRecord());
   EXPECT_FALSE(database_.m_bEOF);
   ASSERT_TRUE(database_.Open(L"lines", &by_point_));
-  EXPECT_EQ(database_.GetCurrRecord(), two);
+  EXPECT_EQ(two, database_.GetCurrRecord());
   ASSERT_TRUE(database_.Open(L"lines"));
-  EXPECT_EQ(database_.GetCurrRecord(), one) << "without a property the first order is taken";
+  EXPECT_EQ(one, database_.GetCurrRecord()) << "without a property the first order is taken";
 }
 
 TEST_F(DatabaseClass, OpeningByIdentifierAndFailures) {
@@ -132,18 +132,18 @@ TEST_F(DatabaseClass, SeeksByPlace) {
   const CEOID a = Add(1, 0);
   const CEOID b = Add(2, 0);
   const CEOID c = Add(3, 0);
-  EXPECT_EQ(database_.SeekFirst(), a);
-  EXPECT_EQ(database_.SeekNext(), b);
+  EXPECT_EQ(a, database_.SeekFirst());
+  EXPECT_EQ(b, database_.SeekNext());
   EXPECT_EQ(1U, database_.GetCurrIndex());
-  EXPECT_EQ(database_.SeekLast(), c);
-  EXPECT_EQ(database_.SeekPrev(), b);
-  EXPECT_EQ(database_.SeekToIndex(2), c);
-  EXPECT_EQ(database_.SeekToRecord(a), a);
+  EXPECT_EQ(c, database_.SeekLast());
+  EXPECT_EQ(b, database_.SeekPrev());
+  EXPECT_EQ(c, database_.SeekToIndex(2));
+  EXPECT_EQ(a, database_.SeekToRecord(a));
   EXPECT_EQ(0U, database_.SeekPrev());
   EXPECT_TRUE(database_.m_bEOF);
   EXPECT_EQ(0U, database_.GetCurrRecord());
   EXPECT_EQ(0xFFFFFFFFU, database_.GetCurrIndex());
-  EXPECT_EQ(database_.SeekLast(), c);
+  EXPECT_EQ(c, database_.SeekLast());
   EXPECT_FALSE(database_.m_bEOF);
   EXPECT_EQ(0U, database_.SeekNext());
   EXPECT_TRUE(database_.m_bEOF);
@@ -154,21 +154,21 @@ TEST_F(DatabaseClass, SeeksByValue) {
   const CEOID a = Add(10, 0);
   const CEOID b = Add(20, 0);
   const CEOID b2 = Add(20, 0);
-  EXPECT_EQ(database_.SeekFirstEqual(CCeDBProp(short{20}, 111)), b);
-  EXPECT_EQ(database_.SeekNextEqual(CCeDBProp(short{20}, 111)), b2);
+  EXPECT_EQ(b, database_.SeekFirstEqual(CCeDBProp(short{20}, 111)));
+  EXPECT_EQ(b2, database_.SeekNextEqual(CCeDBProp(short{20}, 111)));
   EXPECT_EQ(0U, database_.SeekNextEqual(CCeDBProp(short{20}, 111)));
   EXPECT_TRUE(database_.m_bEOF);
-  EXPECT_EQ(database_.SeekValueSmaller(CCeDBProp(short{20}, 111)), a);
+  EXPECT_EQ(a, database_.SeekValueSmaller(CCeDBProp(short{20}, 111)));
   EXPECT_FALSE(database_.m_bEOF);
   EXPECT_EQ(0U, database_.SeekValueSmaller(CCeDBProp(short{10}, 111)));
   EXPECT_FALSE(database_.m_bEOF) << "this seek never sets it";
-  EXPECT_EQ(database_.SeekValueGreater(CCeDBProp(short{11}, 111)), b);
+  EXPECT_EQ(b, database_.SeekValueGreater(CCeDBProp(short{11}, 111)));
   EXPECT_EQ(0U, database_.SeekValueGreater(CCeDBProp(short{21}, 111)));
   EXPECT_TRUE(database_.m_bEOF);
   database_.SeekFirst();
   ExpectError(ERROR_INVALID_PARAMETER, database_.SeekFirstEqual(CCeDBProp(short{1}, 112)),
               CEOID{0});
-  EXPECT_EQ(database_.GetCurrRecord(), a) << "sorted by another property: nothing was tried";
+  EXPECT_EQ(a, database_.GetCurrRecord()) << "sorted by another property: nothing was tried";
 }
 
 TEST_F(DatabaseClass, AReadGoesOnOrStaysAsToldAtAnyTime) {
@@ -265,7 +265,7 @@ TEST_F(DatabaseClass, DeletingGoesOnToTheNextRecordWhenTold) {
   const CEOID b = Add(2, 0);
   database_.SeekToRecord(a);
   EXPECT_TRUE(database_.DeleteCurrRecord());
-  EXPECT_EQ(database_.GetCurrRecord(), b);
+  EXPECT_EQ(b, database_.GetCurrRecord());
   EXPECT_TRUE(database_.DeleteCurrRecord());
   EXPECT_EQ(0U, database_.GetCurrRecord());
   EXPECT_TRUE(database_.m_bEOF);
@@ -277,7 +277,7 @@ TEST_F(DatabaseClass, TwoObjectsShareOneDatabase) {
   Add(2, 4);
   CCeDBDatabase other;
   ASSERT_TRUE(other.Open(L"lines", &by_point_));
-  EXPECT_EQ(other.GetCurrRecord(), a);
+  EXPECT_EQ(a, other.GetCurrRecord());
   EXPECT_TRUE(other.DeleteCurrRecord());
   EXPECT_EQ(0U, database_.SeekFirstEqual(CCeDBProp(short{1}, 111)));
   EXPECT_EQ(1U, database_.GetNumRecords());
@@ -290,13 +290,13 @@ TEST_F(DatabaseClass, NewOrdersCloseTheDatabaseAndSortIt) {
   EXPECT_TRUE(database_.SetSortProps(1, &by_point));
   EXPECT_FALSE(database_.IsOpen());
   ASSERT_TRUE(database_.Open(L"lines", &by_point));
-  EXPECT_EQ(database_.GetCurrRecord(), b);
-  EXPECT_EQ(database_.SeekNext(), a);
+  EXPECT_EQ(b, database_.GetCurrRecord());
+  EXPECT_EQ(a, database_.SeekNext());
 }
 
 TEST_F(DatabaseClass, TheHandleServesTheDevicesCalls) {
   const CEOID record = Add(1, 2);
-  EXPECT_EQ(CeSeekDatabase(database_.m_hDatabase, CEDB_SEEK_BEGINNING, 0, nullptr), record);
+  EXPECT_EQ(record, CeSeekDatabase(database_.m_hDatabase, CEDB_SEEK_BEGINNING, 0, nullptr));
 }
 
 TEST_F(DatabaseClass, NothingWorksWhenNothingIsOpen) {
@@ -314,10 +314,10 @@ TEST_F(DatabaseClass, AnEnumerationFindsDatabasesAndStartsAnew) {
   const CEOID memos = other.Create(L"memos", 43);
   CCeDBEnum all;
   EXPECT_NE(0U, all.Next());
-  EXPECT_EQ(all.Next(), memos);
+  EXPECT_EQ(memos, all.Next());
   ExpectError(ERROR_NO_MORE_ITEMS, all.Next(), CEOID{0});
   EXPECT_TRUE(all.Reset(43));
-  EXPECT_EQ(all.Next(), memos);
+  EXPECT_EQ(memos, all.Next());
   EXPECT_EQ(0U, all.Next());
   EXPECT_TRUE(CCeDBDatabase::Delete(memos));
   ExpectError(ERROR_KEY_DELETED, all.Next(), CEOID{0});

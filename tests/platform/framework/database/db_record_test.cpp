@@ -36,7 +36,7 @@ TEST(Prop, APropertyToSortByHasFlagsAndNoValue) {
   EXPECT_EQ(CCeDBProp::Type_Short, prop.GetType());
   EXPECT_EQ(112, prop.GetIdent());
   EXPECT_EQ(CEDB_SORT_DESCENDING | CEDB_SORT_UNKNOWNFIRST, prop.GetSortFlags());
-  EXPECT_EQ(prop.m_wSortFlags, prop.GetSortFlags());
+  EXPECT_EQ(prop.GetSortFlags(), prop.m_wSortFlags);
 }
 
 TEST(Prop, SettingAValueSetsItsTypeAndKeepsTheIdentifier) {
@@ -74,10 +74,10 @@ TEST(Prop, ACopiedStringIsThePropertysOwnAndAnUncopiedOneIsNot) {
   const CCeDBProp not_copied(text, 1, CCeDBProp::NoCopy);
   text[0] = L'n';
   EXPECT_STREQ(L"text", copied.GetString());
-  EXPECT_EQ(not_copied.GetString(), text);
+  EXPECT_EQ(text, not_copied.GetString());
   BYTE bytes[] = {1};
   const CCeDBProp blob(CEBLOB{1, bytes}, 1, CCeDBProp::NoCopy);
-  EXPECT_EQ(blob.GetBlob().lpb, bytes);
+  EXPECT_EQ(bytes, blob.GetBlob().lpb);
 }
 
 TEST(Prop, CopiesAreIndependent) {
@@ -125,12 +125,12 @@ struct Record : testing::Test {
 TEST_F(Record, AddedPropertiesAreTheCallersOwn) {
   EXPECT_TRUE(record.AddProps(props, 3));
   EXPECT_EQ(3, record.GetNumProps());
-  EXPECT_EQ(record.GetPropFromIdent(112), &props[1]);
-  EXPECT_EQ(record.GetPropFromIndex(2), &props[2]);
-  EXPECT_EQ(record[0], &props[0]);
+  EXPECT_EQ(&props[1], record.GetPropFromIdent(112));
+  EXPECT_EQ(&props[2], record.GetPropFromIndex(2));
+  EXPECT_EQ(&props[0], record[0]);
   CCeDBProp one(short{9}, 5);
   EXPECT_TRUE(record.AddProp(&one));
-  EXPECT_EQ(record.GetPropFromIdent(5), &one);
+  EXPECT_EQ(&one, record.GetPropFromIdent(5));
 }
 
 TEST_F(Record, WhatIsNotThereIsNull) {
@@ -162,7 +162,7 @@ TEST_F(Record, DeletingTakesPropertiesOutAndLeavesThemBe) {
   record.DeleteProp(112);
   record.DeleteProp(999);
   EXPECT_EQ(2, record.GetNumProps());
-  EXPECT_EQ(record.GetPropFromIndex(1), &props[2]);
+  EXPECT_EQ(&props[2], record.GetPropFromIndex(1));
   record.DeleteAllProps();
   EXPECT_EQ(0, record.GetNumProps());
   EXPECT_STREQ(L"text", props[2].GetString());

@@ -1,4 +1,4 @@
-// The store behind the calls: one of the process's own, or one that was installed.
+// The store behind the calls: the process's own, or an installed one.
 #include <wcedb.h>
 
 #include "tests/platform/framework/database/fresh_store.h"
@@ -11,10 +11,10 @@ using tavix::StoreError;
 TEST(DeviceStore, TheProcessHasOneOfItsOwnThatFoldsCaseAsTheSystemDoes) {
   tavix::ObjectStore* own = &DeviceStore();
   tavix::MemoryStore other;
-  EXPECT_EQ(SetDeviceStore(&other), own);
-  EXPECT_EQ(&DeviceStore(), &other);
-  EXPECT_EQ(SetDeviceStore(nullptr), &other);
-  EXPECT_EQ(&DeviceStore(), own);
+  EXPECT_EQ(own, SetDeviceStore(&other));
+  EXPECT_EQ(&other, &DeviceStore());
+  EXPECT_EQ(&other, SetDeviceStore(nullptr));
+  EXPECT_EQ(own, &DeviceStore());
 
   CCeDBDatabase database;
   CCeDBProp by_name(CCeDBProp::Type_String, 1, CCeDBProp::Sort_CaseInsensitive);
@@ -24,7 +24,7 @@ TEST(DeviceStore, TheProcessHasOneOfItsOwnThatFoldsCaseAsTheSystemDoes) {
   CCeDBRecord record;
   record.AddProp(&name);
   const CEOID added = database.AddRecord(&record);
-  EXPECT_EQ(database.SeekFirstEqual(CCeDBProp(L"тＯКИО É", 1)), added);
+  EXPECT_EQ(added, database.SeekFirstEqual(CCeDBProp(L"тＯКИО É", 1)));
   EXPECT_EQ(0U, database.SeekFirstEqual(CCeDBProp(L"тＯКИО E", 1)));
   EXPECT_TRUE(database.Delete());
 }
@@ -72,14 +72,14 @@ TEST_F(FailingCalls, EveryFailureReachesTheCallerWithItsReason) {
 TEST_F(FailingCalls, AWriteThatFailsLeavesTheCurrentRecord) {
   store_.Fail(FailingStore::Operation::kWrite, StoreError::kFull);
   ExpectError(ERROR_DISK_FULL, AddLine(3), CEOID{0});
-  EXPECT_EQ(database_.GetCurrRecord(), second_);
+  EXPECT_EQ(second_, database_.GetCurrRecord());
   EXPECT_EQ(2U, database_.GetNumRecords());
 }
 
 TEST_F(FailingCalls, ASeekThatCannotBeTriedLeavesTheCurrentRecord) {
   store_.Fail(FailingStore::Operation::kSeek, StoreError::kInvalidParameter);
   ExpectError(ERROR_INVALID_PARAMETER, database_.SeekFirst(), CEOID{0});
-  EXPECT_EQ(database_.GetCurrRecord(), second_);
+  EXPECT_EQ(second_, database_.GetCurrRecord());
   EXPECT_FALSE(database_.m_bEOF);
 }
 
@@ -104,7 +104,7 @@ TEST_F(FailingCalls, AReadThatFailsLeavesTheRecordAlone) {
 TEST_F(FailingCalls, ADeletionThatFailsLeavesTheRecord) {
   store_.Fail(FailingStore::Operation::kDeleteRecord, StoreError::kInvalidParameter);
   ExpectError(ERROR_INVALID_PARAMETER, database_.DeleteCurrRecord(), FALSE);
-  EXPECT_EQ(database_.GetCurrRecord(), second_);
+  EXPECT_EQ(second_, database_.GetCurrRecord());
 }
 
 TEST_F(FailingCalls, AnOpeningThatFailsLeavesTheDatabaseClosed) {

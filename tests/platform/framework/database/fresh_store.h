@@ -1,4 +1,4 @@
-// A device store of its own for every test.
+// A new device store for each test.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -8,7 +8,8 @@
 #include "platform/objectstore/failing_store.h"
 #include "platform/objectstore/memory_store.h"
 
-// Calls under test go through a failing store, which passes them on until told otherwise.
+// The calls under test go through a failing store, which forwards them unless a test makes them
+// fail.
 class FreshStore : public testing::Test {
  protected:
   FreshStore() : before_(SetDeviceStore(&store_)) {}
@@ -17,8 +18,8 @@ class FreshStore : public testing::Test {
   // Expects a result that says "failed", and the reason.
   template <class Result>
   static void ExpectError(DWORD reason, Result result, Result failed) {
-    EXPECT_EQ(result, failed);
-    EXPECT_EQ(GetLastError(), reason);
+    EXPECT_EQ(failed, result);
+    EXPECT_EQ(reason, GetLastError());
     SetLastError(ERROR_SUCCESS);
   }
 

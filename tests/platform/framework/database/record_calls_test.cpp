@@ -69,7 +69,7 @@ TEST_F(RecordCalls, EveryTypeGoesInAndComesOut) {
   ASSERT_EQ(9, count);
   const CEPROPVAL* out = Values(buffer);
   for (WORD i = 0; i < 9; ++i) {
-    EXPECT_EQ(out[i].propid, in[i].propid);
+    EXPECT_EQ(in[i].propid, out[i].propid);
     EXPECT_EQ(0, out[i].wFlags);
   }
   EXPECT_EQ(-32768, out[0].val.iVal);
@@ -104,9 +104,9 @@ TEST_F(RecordCalls, StringsAndBlobsOfEveryLengthComeBackFromOneBuffer) {
   const Buffer buffer = ReadAll(handle_, count, size);
   ASSERT_EQ(40, count);
   for (WORD i = 0; i < 20; ++i) {
-    EXPECT_EQ(Values(buffer)[2 * i].val.lpwstr, texts[i]);
+    EXPECT_EQ(texts[i], Values(buffer)[2 * i].val.lpwstr);
     const CEBLOB blob = Values(buffer)[2 * i + 1].val.blob;
-    ASSERT_EQ(blob.dwCount, i);
+    ASSERT_EQ(i, blob.dwCount);
     EXPECT_TRUE(std::equal(blobs[i].begin(), blobs[i].end(), blob.lpb));
   }
 }
@@ -118,12 +118,12 @@ TEST_F(RecordCalls, ChosenPropertiesComeInTheOrderAsked) {
   alignas(CEPROPVAL) BYTE memory[3 * sizeof(CEPROPVAL)];
   LPBYTE buffer = memory;
   DWORD size = sizeof memory;
-  EXPECT_EQ(CeReadRecordProps(handle_, 0, &count, wanted, &buffer, &size), record);
-  EXPECT_EQ(buffer, memory);
-  EXPECT_EQ(size, sizeof memory);
+  EXPECT_EQ(record, CeReadRecordProps(handle_, 0, &count, wanted, &buffer, &size));
+  EXPECT_EQ(memory, buffer);
+  EXPECT_EQ(sizeof memory, size);
   const auto* out = reinterpret_cast<const CEPROPVAL*>(memory);
   EXPECT_EQ(6, out[0].val.iVal);
-  EXPECT_EQ(out[1].propid, wanted[1]);
+  EXPECT_EQ(wanted[1], out[1].propid);
   EXPECT_EQ(CEDB_PROPNOTFOUND, out[1].wFlags);
   EXPECT_EQ(5, out[2].val.iVal);
 }
@@ -137,7 +137,7 @@ TEST_F(RecordCalls, NoneOfTheChosenPropertiesIsNoData) {
   ExpectError(ERROR_NO_DATA,
               CeReadRecordProps(handle_, CEDB_ALLOWREALLOC, &count, wanted, &buffer, &size),
               CEOID{0});
-  ASSERT_EQ(size, sizeof(CEPROPVAL));
+  ASSERT_EQ(sizeof(CEPROPVAL), size);
   EXPECT_EQ(CEDB_PROPNOTFOUND, reinterpret_cast<const CEPROPVAL*>(buffer)->wFlags);
   LocalFree(buffer);
 }
@@ -153,14 +153,14 @@ TEST_F(RecordCalls, ABufferThatIsTooSmallSaysHowMuchAndReadsNothing) {
     WORD count = 99;
     ExpectError(ERROR_INSUFFICIENT_BUFFER,
                 CeReadRecordProps(going, 0, &count, nullptr, &buffer, &size), CEOID{0});
-    EXPECT_EQ(size, sizeof memory);
+    EXPECT_EQ(sizeof memory, size);
     EXPECT_EQ(99, count);
     EXPECT_EQ(0, memory[0]);
   }
   LPBYTE buffer = memory;
   DWORD size = sizeof memory;
   WORD count = 0;
-  EXPECT_EQ(CeReadRecordProps(going, 0, &count, nullptr, &buffer, &size), record)
+  EXPECT_EQ(record, CeReadRecordProps(going, 0, &count, nullptr, &buffer, &size))
       << "the pointer has not moved";
   ExpectError(ERROR_NO_MORE_ITEMS, CeReadRecordProps(going, 0, &count, nullptr, &buffer, &size),
               CEOID{0});
@@ -171,12 +171,12 @@ TEST_F(RecordCalls, ALocalBufferGrowsAndIsUsedAgain) {
   LPBYTE buffer = static_cast<LPBYTE>(LocalAlloc(LMEM_FIXED, 1));
   DWORD size = 1;
   WORD count = 0;
-  EXPECT_EQ(CeReadRecordProps(handle_, CEDB_ALLOWREALLOC, &count, nullptr, &buffer, &size), small);
+  EXPECT_EQ(small, CeReadRecordProps(handle_, CEDB_ALLOWREALLOC, &count, nullptr, &buffer, &size));
   const LPBYTE grown = buffer;
   DWORD large = 4096;
-  EXPECT_EQ(CeReadRecordProps(handle_, CEDB_ALLOWREALLOC, &count, nullptr, &buffer, &large), small);
-  EXPECT_EQ(buffer, grown);
-  EXPECT_EQ(large, 2 * sizeof(CEPROPVAL));
+  EXPECT_EQ(small, CeReadRecordProps(handle_, CEDB_ALLOWREALLOC, &count, nullptr, &buffer, &large));
+  EXPECT_EQ(grown, buffer);
+  EXPECT_EQ(2 * sizeof(CEPROPVAL), large);
   LocalFree(buffer);
 }
 
@@ -216,17 +216,17 @@ TEST_F(RecordCalls, EverySeekTypeFindsItsRecord) {
   const CEOID b2 = Add(2, 1);
   const CEOID c = Add(3, 0);
   DWORD index = 0;
-  EXPECT_EQ(CeSeekDatabase(handle_, CEDB_SEEK_CEOID, c, &index), c);
+  EXPECT_EQ(c, CeSeekDatabase(handle_, CEDB_SEEK_CEOID, c, &index));
   EXPECT_EQ(3U, index);
-  EXPECT_EQ(Seek(CEDB_SEEK_BEGINNING, 1), b);
-  EXPECT_EQ(Seek(CEDB_SEEK_END, 0), c);
-  EXPECT_EQ(Seek(CEDB_SEEK_END, 3), a);
-  EXPECT_EQ(Seek(CEDB_SEEK_CURRENT, 2), b2);
-  EXPECT_EQ(Seek(CEDB_SEEK_CURRENT, static_cast<DWORD>(-1)), b);
-  EXPECT_EQ(SeekLine(CEDB_SEEK_VALUESMALLER, 3), b);
-  EXPECT_EQ(SeekLine(CEDB_SEEK_VALUEGREATER, 2), b);
-  EXPECT_EQ(SeekLine(CEDB_SEEK_VALUEFIRSTEQUAL, 2), b);
-  EXPECT_EQ(SeekLine(CEDB_SEEK_VALUENEXTEQUAL, 2), b2);
+  EXPECT_EQ(b, Seek(CEDB_SEEK_BEGINNING, 1));
+  EXPECT_EQ(c, Seek(CEDB_SEEK_END, 0));
+  EXPECT_EQ(a, Seek(CEDB_SEEK_END, 3));
+  EXPECT_EQ(b2, Seek(CEDB_SEEK_CURRENT, 2));
+  EXPECT_EQ(b, Seek(CEDB_SEEK_CURRENT, static_cast<DWORD>(-1)));
+  EXPECT_EQ(b, SeekLine(CEDB_SEEK_VALUESMALLER, 3));
+  EXPECT_EQ(b, SeekLine(CEDB_SEEK_VALUEGREATER, 2));
+  EXPECT_EQ(b, SeekLine(CEDB_SEEK_VALUEFIRSTEQUAL, 2));
+  EXPECT_EQ(b2, SeekLine(CEDB_SEEK_VALUENEXTEQUAL, 2));
   index = 77;
   const CEPROPVAL two = Short(111, 2);
   ExpectError(
@@ -241,7 +241,7 @@ TEST_F(RecordCalls, AWriteChangesAndDeletesInOneCall) {
   const CEOID record = Add(1, 2);
   CEPROPVAL values[] = {Short(111, 9), Short(112, 0), String(5, L"new")};
   values[1].wFlags = CEDB_PROPDELETE;
-  EXPECT_EQ(CeWriteRecordProps(handle_, record, 3, values), record);
+  EXPECT_EQ(record, CeWriteRecordProps(handle_, record, 3, values));
   WORD count = 0;
   DWORD size = 0;
   const Buffer buffer = ReadAll(handle_, count, size);
@@ -265,7 +265,7 @@ TEST_F(RecordCalls, ADeletedRecordIsGoneForEveryHandle) {
   const Buffer buffer = ReadAll(going, count, size);
   ASSERT_NE(nullptr, buffer);
   EXPECT_EQ(2, Values(buffer)[0].val.iVal);
-  EXPECT_EQ(Seek(CEDB_SEEK_CURRENT, 1), b);
+  EXPECT_EQ(b, Seek(CEDB_SEEK_CURRENT, 1));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Device contexts: getting, giving back, drawing as the raw calls do.
+// Device contexts: getting and releasing them, and drawing as the raw calls do.
 
 #include <gtest/gtest.h>
 
@@ -165,8 +165,8 @@ TEST(DeviceContext, CreatedOneIsDeletedWithItsObject) {
     CDC dc;
     ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
     handle = dc.m_hDC;
-    EXPECT_EQ(dc.m_hAttribDC, handle);
-    EXPECT_EQ(CDC::FromHandle(handle), &dc);
+    EXPECT_EQ(handle, dc.m_hAttribDC);
+    EXPECT_EQ(&dc, CDC::FromHandle(handle));
   }
   EXPECT_EQ(0u, ::GetObjectType(handle));
 }
@@ -180,9 +180,9 @@ TEST(DeviceContext, DetachedOneLivesOn) {
   }
   EXPECT_NE(0u, ::GetObjectType(handle));
   CDC* temporary = CDC::FromHandle(handle);
-  EXPECT_EQ(temporary->m_hDC, handle);
-  EXPECT_EQ(temporary->m_hAttribDC, handle);
-  EXPECT_EQ(CDC::FromHandle(handle), temporary);
+  EXPECT_EQ(handle, temporary->m_hDC);
+  EXPECT_EQ(handle, temporary->m_hAttribDC);
+  EXPECT_EQ(temporary, CDC::FromHandle(handle));
   EXPECT_EQ(nullptr, CDC::FromHandle(nullptr));
   ::DeleteDC(handle);
 }
@@ -196,7 +196,7 @@ TEST(WindowContexts, GoBackToTheSystem) {
     CWindowDC whole(&window);
     ASSERT_NE(nullptr, client.m_hDC);
     ASSERT_NE(nullptr, whole.m_hDC);
-    EXPECT_EQ(CDC::FromHandle(client.m_hDC), &client);
+    EXPECT_EQ(&client, CDC::FromHandle(client.m_hDC));
   }
   EXPECT_LE(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS), before + 10);
   CClientDC screen(nullptr);

@@ -1,4 +1,4 @@
-// Drawing objects: who owns the handle, and which object stands for it.
+// Drawing objects: who owns a handle, and which object FromHandle returns for it.
 
 #include <gtest/gtest.h>
 
@@ -44,7 +44,7 @@ TYPED_TEST(Selectable, HandleDiesWithItsOwner) {
     ASSERT_TRUE(Maker<TypeParam>::Make(object));
     handle = object.m_hObject;
     EXPECT_EQ(Maker<TypeParam>::kType, object.GetObjectType());
-    EXPECT_EQ(CGdiObject::FromHandle(handle), &object);
+    EXPECT_EQ(&object, CGdiObject::FromHandle(handle));
   }
   EXPECT_FALSE(IsAlive(handle));
 }
@@ -74,8 +74,8 @@ TYPED_TEST(Selectable, SelectReturnsTheObjectBefore) {
   ASSERT_TRUE(Maker<TypeParam>::Make(second));
   TypeParam* original = dc.SelectObject(&first);
   ASSERT_NE(nullptr, original);
-  EXPECT_EQ(dc.SelectObject(&second), &first);
-  EXPECT_EQ(dc.SelectObject(original), &second);
+  EXPECT_EQ(&first, dc.SelectObject(&second));
+  EXPECT_EQ(&second, dc.SelectObject(original));
   EXPECT_TRUE(first.DeleteObject());
   EXPECT_TRUE(second.DeleteObject());
 }
@@ -89,7 +89,7 @@ TYPED_TEST(Selectable, TemporaryObjectIsOneForEachHandleAndOwnsNothing) {
   TypeParam* temporary = dc.SelectObject(&object);
   EXPECT_EQ(original, temporary->m_hObject);
   dc.SelectObject(temporary);
-  EXPECT_EQ(dc.SelectObject(&object), temporary) << "the same object for the same handle";
+  EXPECT_EQ(temporary, dc.SelectObject(&object)) << "the same object for the same handle";
   dc.SelectObject(temporary);
 }
 
@@ -119,9 +119,9 @@ TYPED_TEST(Selectable, ScopedSelectPutsTheOldOneBack) {
     const CScopedSelect a(dc, outer);
     {
       const CScopedSelect b(dc, inner);
-      EXPECT_EQ(::GetCurrentObject(dc, Maker<TypeParam>::kType), inner.m_hObject);
+      EXPECT_EQ(inner.m_hObject, ::GetCurrentObject(dc, Maker<TypeParam>::kType));
     }
-    EXPECT_EQ(::GetCurrentObject(dc, Maker<TypeParam>::kType), outer.m_hObject);
+    EXPECT_EQ(outer.m_hObject, ::GetCurrentObject(dc, Maker<TypeParam>::kType));
   }
   EXPECT_EQ(original, ::GetCurrentObject(dc, Maker<TypeParam>::kType));
 }
@@ -163,7 +163,7 @@ TEST(GdiObjects, PointFontFollowsTheDevice) {
   LOGFONTW got;
   font.GetLogFont(&got);
   CWindowDC screen(nullptr);
-  EXPECT_EQ(got.lfHeight, -screen.GetDeviceCaps(LOGPIXELSY));
+  EXPECT_EQ(-screen.GetDeviceCaps(LOGPIXELSY), got.lfHeight);
 }
 
 TEST(GdiObjects, StockObjectsSurviveTheirWrappers) {
@@ -211,7 +211,7 @@ TEST(GdiObjects, NoObjectOwnsTheBitmapOfNoSize) {
   {
     CBitmap none;
     ASSERT_TRUE(none.CreateCompatibleBitmap(&screen, 0, 0));
-    ASSERT_EQ(none.m_hObject, first);
+    ASSERT_EQ(first, none.m_hObject);
     EXPECT_NE(dc.GetCurrentBitmap(), &none);
   }
   EXPECT_TRUE(IsAlive(first));
@@ -220,7 +220,7 @@ TEST(GdiObjects, NoObjectOwnsTheBitmapOfNoSize) {
 TEST(GdiObjects, NoObjectOwnsTheBrushOfASystemColour) {
   CBrush brush;
   ASSERT_TRUE(brush.CreateSysColorBrush(COLOR_BTNFACE));
-  EXPECT_EQ(brush.m_hObject, ::GetSysColorBrush(COLOR_BTNFACE));
+  EXPECT_EQ(::GetSysColorBrush(COLOR_BTNFACE), brush.m_hObject);
   EXPECT_NE(CBrush::FromHandle(::GetSysColorBrush(COLOR_BTNFACE)), &brush);
 }
 

@@ -1,4 +1,4 @@
-// Which object stands for which handle.
+// Which object FromHandle returns for a handle.
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ TEST(WindowFromHandle, NullOnlyForANullHandle) {
   CWnd* temporary = CWnd::FromHandle(plain);
   ASSERT_NE(nullptr, temporary);
   EXPECT_EQ(plain, temporary->m_hWnd);
-  EXPECT_EQ(CWnd::FromHandle(plain), temporary) << "one object for each handle";
+  EXPECT_EQ(temporary, CWnd::FromHandle(plain)) << "one object for each handle";
   EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(plain));
   ::DestroyWindow(plain);
 }
@@ -25,21 +25,21 @@ TEST(WindowFromHandle, PermanentObjectComesBeforeTheTemporaryOne) {
   CWnd* temporary = CWnd::FromHandle(plain);
   CWnd window;
   window.Attach(plain);
-  EXPECT_EQ(CWnd::FromHandle(plain), &window);
+  EXPECT_EQ(&window, CWnd::FromHandle(plain));
   window.Detach();
-  EXPECT_EQ(CWnd::FromHandle(plain), temporary);
+  EXPECT_EQ(temporary, CWnd::FromHandle(plain));
   ::DestroyWindow(plain);
 }
 
-// A window that is made anew may get a handle that another object still holds, because it died
-// while merely attached.
+// A new window may get a handle that another object still holds, because it died while merely
+// attached.
 TEST(WindowFromHandle, StaleObjectGivesWay) {
   const HWND plain = MakePlainWindow();
   CWnd stale;
   stale.Attach(plain);
   CWnd current;
   current.Attach(plain);
-  EXPECT_EQ(CWnd::FromHandle(plain), &current);
+  EXPECT_EQ(&current, CWnd::FromHandle(plain));
   EXPECT_EQ(nullptr, stale.m_hWnd);
   EXPECT_TRUE(current.DestroyWindow());
 }
@@ -58,7 +58,7 @@ TEST(TemporaryObjects, DeadOnesDoNotPileUp) {
   firstLiveHandle = 1;
   afx::TemporaryMap<Thing, int, &Thing::handle, &IsLiveHandle> map;
   for (int handle = 1; handle <= 10000; ++handle) {
-    EXPECT_EQ(map.Get(handle)->handle, handle);
+    EXPECT_EQ(handle, map.Get(handle)->handle);
     firstLiveHandle = handle - 9;  // ten are alive at any time
     ASSERT_LE(map.Size(), 64u);
   }
@@ -70,7 +70,7 @@ TEST(TemporaryObjects, LiveOnesStayWhereTheyAre) {
   afx::TemporaryMap<Thing, int, &Thing::handle, &IsLiveHandle> map;
   Thing* first = map.Get(1);
   for (int handle = 2; handle <= 1000; ++handle) map.Get(handle);
-  EXPECT_EQ(map.Get(1), first);
+  EXPECT_EQ(first, map.Get(1));
   EXPECT_EQ(1000u, map.Size());
 }
 
@@ -78,11 +78,11 @@ TEST(PermanentObjects, OnlyTheHolderLeaves) {
   afx::PermanentMap<Thing, int> map;
   Thing a, b;
   map.Set(5, &a);
-  EXPECT_EQ(map.Find(5), &a);
+  EXPECT_EQ(&a, map.Find(5));
   EXPECT_EQ(nullptr, map.Find(6));
   map.Set(5, &b);
   map.Remove(5, &a);
-  EXPECT_EQ(map.Find(5), &b);
+  EXPECT_EQ(&b, map.Find(5));
   map.Remove(5, &b);
   EXPECT_EQ(nullptr, map.Find(5));
 }

@@ -49,7 +49,7 @@ TEST(HostWithoutUnicode, WindowsTextsAreWide) {
   EXPECT_EQ(2, window.GetWindowText(buffer, 8));
   EXPECT_STREQ(L"境界", buffer);
   EXPECT_TRUE(::IsWindowUnicode(window.m_hWnd));
-  EXPECT_EQ(CWnd::FindWindow(nullptr, L"境界"), &window);
+  EXPECT_EQ(&window, CWnd::FindWindow(nullptr, L"境界"));
 }
 
 TEST(HostWithoutUnicode, MessagesAndItems) {

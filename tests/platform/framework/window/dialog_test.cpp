@@ -5,6 +5,7 @@
 #include "tests/platform/framework/test_resources.h"
 #include "tests/platform/framework/test_windows.h"
 #include "tests/platform/support/modal_driver.h"
+#include "tests/support/message_pump.h"
 
 namespace {
 
@@ -101,7 +102,7 @@ TEST(ModalDialog, OwnerWaits) {
     TestDialog dialog(&child);
     const ModalDriver driver({Command(IDOK)});
     dialog.DoModal();
-    EXPECT_EQ(dialog.owner, owner.m_hWnd) << "the top-level window owns it";
+    EXPECT_EQ(owner.m_hWnd, dialog.owner) << "the top-level window owns it";
     EXPECT_FALSE(dialog.ownerEnabledInside);
     EXPECT_TRUE(owner.IsWindowEnabled());
   }
@@ -124,7 +125,7 @@ TEST(ModalDialog, CanBeUsedAgain) {
   for (int i = 1; i <= 3; ++i) {
     const ModalDriver driver({Command(IDOK)});
     EXPECT_EQ(IDOK, dialog.DoModal());
-    EXPECT_EQ(dialog.inits, i);
+    EXPECT_EQ(i, dialog.inits);
   }
 }
 
@@ -167,9 +168,9 @@ TEST(ModalDialog, HidesAndGivesWayAtOnceWhenItEnds) {
     ASSERT_TRUE(::IsWindowVisible(window));
     dialog.EndDialog(IDOK);
     EXPECT_FALSE(::IsWindowVisible(window));
-    EXPECT_TRUE(::IsWindow(window)) << "it goes when the loop has ended";
+    EXPECT_TRUE(::IsWindow(window)) << "it is destroyed after the loop";
     EXPECT_TRUE(owner.IsWindowEnabled());
-    EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
+    EXPECT_EQ(owner.m_hWnd, ::GetActiveWindow());
   }});
   EXPECT_EQ(IDOK, dialog.DoModal());
 }
@@ -194,7 +195,7 @@ TEST(ModalDialog, TheFirstEndStands) {
   }
 }
 
-// A window that is told that it has to wait may call the dialog off.
+// A window that is being disabled may end the dialog.
 TEST(ModalDialog, EndedBeforeItIsMadeItIsNotMade) {
   class Owner : public FrameWindow {
    public:
@@ -253,7 +254,7 @@ TEST(ModalDialog, RunsUnderAnApplicationToo) {
   TestDialog dialog;
   const ModalDriver driver({Key(VK_RETURN)});
   EXPECT_EQ(IDOK, dialog.DoModal());
-  EXPECT_EQ(dialog.owner, main.m_hWnd) << "the main window owns it";
+  EXPECT_EQ(main.m_hWnd, dialog.owner) << "the main window owns it";
   EXPECT_GT(app.seen, 0);
   app.m_pMainWnd = nullptr;
 }
@@ -295,7 +296,7 @@ TEST(DialogData, CancelKeepsTheMembers) {
   EXPECT_EQ(L"測点", dialog.name);
 }
 
-// A refused value is told in a box, which is a dialog too; the dialog stays open.
+// A refused value is reported in a message box, which is a dialog too; the dialog stays open.
 TEST(DialogData, RefusedValueKeepsTheDialogOpen) {
   for (const wchar_t* refused : {L"", L"abc", L"12x", L"99999999999", L"11", L"-1"}) {
     TestDialog dialog;
@@ -334,10 +335,11 @@ TEST(ModelessDialog, LivesBesideTheLoop) {
   auto* dialog = new Modeless;
   ASSERT_TRUE(dialog->Create(IDD_MODAL, &owner));
   EXPECT_TRUE(owner.IsWindowEnabled());
-  EXPECT_EQ(dialog->GetOwner(), &owner);
+  EXPECT_EQ(&owner, dialog->GetOwner());
   CWnd* edit = dialog->GetDlgItem(IDC_NAME);
   edit->PostMessage(WM_KEYDOWN, VK_ESCAPE, 1);
-  EXPECT_TRUE(test::PumpUntil([] { return Modeless::alive == 0; })) << "Escape by pre-translation";
+  EXPECT_TRUE(tavix::test::PumpUntil([] { return Modeless::alive == 0; }))
+      << "Escape by pre-translation";
 }
 
 TEST(ModelessDialog, ObjectsEndDestroysTheWindow) {

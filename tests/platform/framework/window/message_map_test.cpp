@@ -1,4 +1,4 @@
-// Which handler answers which message, and what it is told.
+// Which handler is called for a message, and with which arguments.
 
 #include <afxcmn.h>
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ using test::FrameWindow;
 
 UINT registeredMessage = 0;
 
-// Writes each call down as text: the handler's name and what it was told.
+// Logs each call as text: the handler's name and its arguments.
 class Recorder : public CWnd {
  public:
   std::vector<std::wstring> log;
@@ -288,7 +288,7 @@ TEST(Commands, AskingForTheHandlerCallsNothing) {
   CommandWindow window;
   AFX_CMDHANDLERINFO info;
   EXPECT_TRUE(window.OnCmdMsg(1, CN_COMMAND, nullptr, &info));
-  EXPECT_EQ(info.pTarget, &window);
+  EXPECT_EQ(&window, info.pTarget);
   EXPECT_TRUE(window.log.empty());
   EXPECT_FALSE(window.OnCmdMsg(99, CN_COMMAND, nullptr, &info));
 }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "tests/platform/framework/test_windows.h"
+#include "tests/support/message_pump.h"
 
 namespace {
 
@@ -87,7 +88,7 @@ TEST(PreTranslation, PlainLoopDoesNotDispatchWhatWasHandled) {
   ASSERT_TRUE(window.CreateEx(0, nullptr, L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
   window.PostMessage(WM_KEYDOWN, 'A', 1);
   window.PostMessage(WM_KEYUP, 'A', 1);
-  ASSERT_TRUE(test::PumpUntil([&] { return window.keys > 0; }));
+  ASSERT_TRUE(tavix::test::PumpUntil([&] { return window.keys > 0; }));
   EXPECT_EQ(1, window.keys) << "only the one that was not handled";
 }
 

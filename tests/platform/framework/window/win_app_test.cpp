@@ -53,8 +53,8 @@ TEST(Application, RegistersItselfAndGoes) {
   EXPECT_STREQ(L"framework_window_tests", AfxGetAppName()) << "the executable's name";
   {
     const App app(L"測量");
-    EXPECT_EQ(AfxGetApp(), &app);
-    EXPECT_EQ(AfxGetThread(), &app);
+    EXPECT_EQ(&app, AfxGetApp());
+    EXPECT_EQ(&app, AfxGetThread());
     EXPECT_STREQ(L"測量", AfxGetAppName());
     EXPECT_STREQ(L"framework_window_tests", app.m_pszExeName);
   }
@@ -68,7 +68,7 @@ TEST(Application, RunsUntilItsMainWindowIsGone) {
                             MAKEINTRESOURCEW(IDM_MAIN)));
   app.m_pMainWnd = frame;
   EXPECT_EQ(1, frame->created);
-  EXPECT_EQ(AfxGetMainWnd(), frame);
+  EXPECT_EQ(frame, AfxGetMainWnd());
   frame->PostMessage(WM_CLOSE);
   EXPECT_EQ(0, app.Run());
   EXPECT_EQ(1, app.exits);
@@ -123,7 +123,7 @@ TEST(Application, CursorsComeFromTheSystemToo) {
   EXPECT_EQ(nullptr, app.LoadCursor(9999u));
 }
 
-// The entry point is tested from outside: a program that ends with a code of its own.
+// The entry point is tested from outside, by the exit code of a program.
 struct Ended {
   bool started = false;
   DWORD code = 0;

@@ -1,4 +1,4 @@
-// A window's life: making, binding, ending from either side.
+// A window's life: creation, binding, and destruction from either side.
 
 #include <gtest/gtest.h>
 
@@ -45,7 +45,7 @@ TEST(WindowCreation, ChildHasItsStylePlaceIdAndText) {
   EXPECT_TRUE(child.GetStyle() & WS_CHILD);
   EXPECT_TRUE(child.GetStyle() & WS_BORDER);
   EXPECT_EQ(17, child.GetDlgCtrlID());
-  EXPECT_EQ(child.GetParent(), &parent);
+  EXPECT_EQ(&parent, child.GetParent());
   CRect rect;
   child.GetWindowRect(rect);
   parent.ScreenToClient(rect);
@@ -60,7 +60,7 @@ TEST(WindowCreation, FirstMessageReachesTheObjectWithItsHandle) {
   ASSERT_TRUE(window.CreateEx(0, nullptr, L"", WS_POPUP, kRect, nullptr, 0));
   ASSERT_FALSE(window.messages.empty());
   EXPECT_EQ(1, window.subclassed);
-  EXPECT_EQ(window.handleWhenSubclassed, window.m_hWnd);
+  EXPECT_EQ(window.m_hWnd, window.handleWhenSubclassed);
   EXPECT_NE(std::find(window.messages.begin(), window.messages.end(), WM_NCCREATE),
             window.messages.end());
 }
@@ -128,8 +128,8 @@ TEST(WindowCreation, ChildMadeWhileItsParentIsMadeGetsItsOwnHandle) {
   WindowThatMakesAChild window;
   ASSERT_TRUE(window.CreateEx(0, nullptr, L"", WS_POPUP, kRect, nullptr, 0));
   EXPECT_NE(window.m_hWnd, window.child.m_hWnd);
-  EXPECT_EQ(::GetParent(window.child.m_hWnd), window.m_hWnd);
-  EXPECT_EQ(CWnd::FromHandlePermanent(window.child.m_hWnd), &window.child);
+  EXPECT_EQ(window.m_hWnd, ::GetParent(window.child.m_hWnd));
+  EXPECT_EQ(&window.child, CWnd::FromHandlePermanent(window.child.m_hWnd));
 }
 
 TEST(WindowEnd, ObjectEmptiesAndIsToldOnce) {
@@ -214,7 +214,7 @@ TEST(WindowEnd, WindowCanBeMadeAgain) {
   LoggingWindow window;
   for (int i = 0; i < 3; ++i) {
     ASSERT_TRUE(window.CreateEx(0, L"BUTTON", L"", WS_POPUP, kRect, nullptr, 0));
-    EXPECT_EQ(CWnd::FromHandle(window.m_hWnd), &window);
+    EXPECT_EQ(&window, CWnd::FromHandle(window.m_hWnd));
     EXPECT_TRUE(window.DestroyWindow());
   }
   EXPECT_EQ(3, window.gone);
@@ -225,7 +225,7 @@ TEST(WindowAttach, AttachedHandleIsGivenBack) {
   CWnd window;
   EXPECT_FALSE(window.Attach(nullptr));
   ASSERT_TRUE(window.Attach(plain));
-  EXPECT_EQ(CWnd::FromHandlePermanent(plain), &window);
+  EXPECT_EQ(&window, CWnd::FromHandlePermanent(plain));
   EXPECT_EQ(plain, window.Detach());
   EXPECT_EQ(nullptr, window.m_hWnd);
   EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(plain));
@@ -250,7 +250,7 @@ TEST(WindowSubclass, OldProcedureComesBack) {
   ::SendMessageW(plain, WM_CHAR, L'a', 1);
   EXPECT_EQ(std::vector<UINT>{WM_CHAR}, window.messages);
   EXPECT_EQ(plain, window.UnsubclassWindow());
-  EXPECT_EQ(::GetWindowLongPtrW(plain, GWLP_WNDPROC), procedure);
+  EXPECT_EQ(procedure, ::GetWindowLongPtrW(plain, GWLP_WNDPROC));
   ::SendMessageW(plain, WM_CHAR, L'b', 1);
   EXPECT_EQ(1u, window.messages.size());
   wchar_t text[16] = {};
@@ -267,8 +267,8 @@ TEST(WindowSubclass, ItemOfADialogById) {
   CWnd window;
   EXPECT_FALSE(window.SubclassDlgItem(43, &parent));
   ASSERT_TRUE(window.SubclassDlgItem(42, &parent));
-  EXPECT_EQ(window.m_hWnd, item);
-  EXPECT_EQ(parent.GetDlgItem(42), &window);
+  EXPECT_EQ(item, window.m_hWnd);
+  EXPECT_EQ(&window, parent.GetDlgItem(42));
 }
 
 class ThrowingWindow : public CWnd {
@@ -311,7 +311,7 @@ TEST(WindowClass, OneForEachCombination) {
   EXPECT_EQ(nullptr, info.hIcon);
   EXPECT_EQ(UINT{CS_DBLCLKS}, info.style);
   ASSERT_TRUE(::GetClassInfoW(AfxGetInstanceHandle(), withCursor, &info));
-  EXPECT_EQ(info.hCursor, arrow);
+  EXPECT_EQ(arrow, info.hCursor);
 }
 
 TEST(WindowClass, RegisteringTwiceIsNoError) {
@@ -349,7 +349,7 @@ TEST(WindowState, VisibleEnabledAndPlaced) {
   EXPECT_EQ(CRect(5, 6, 65, 46), rect);
   EXPECT_TRUE(window.SetWindowPos(&CWnd::wndTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));
   EXPECT_TRUE(window.GetExStyle() & WS_EX_TOPMOST);
-  EXPECT_EQ(CWnd::GetDesktopWindow()->m_hWnd, ::GetDesktopWindow());
+  EXPECT_EQ(::GetDesktopWindow(), CWnd::GetDesktopWindow()->m_hWnd);
 }
 
 TEST(WindowState, FontIsTheOneThatWasSet) {
@@ -360,7 +360,7 @@ TEST(WindowState, FontIsTheOneThatWasSet) {
   CFont font;
   ASSERT_TRUE(font.CreatePointFont(90, L"Tahoma"));
   label.SetFont(&font);
-  EXPECT_EQ(label.GetFont(), &font);
+  EXPECT_EQ(&font, label.GetFont());
   label.DestroyWindow();
 }
 
