@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
-#include "view/side_projection.h"
 #include "tests/support/plot_test.h"
+#include "view/side_projection.h"
 
 namespace fieldhost {
 namespace {
