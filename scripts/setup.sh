@@ -10,8 +10,12 @@ for_run=(
   # Wine loads these where it finds them; its package only recommends them.
   libxcomposite1 libxi6 libxinerama1 libxrandr2 libxrender1 libxxf86vm1
 )
-for_test=(g++ g++-mingw-w64-i686-posix clang-tidy clang-format git googletest libexpat1-dev)
-for_all=(libbenchmark-dev clang libclang-rt-14-dev)
+for_test=(
+  g++ g++-mingw-w64-i686-posix clang-tidy clang-format git googletest libexpat1-dev
+  # The other languages: Visual C++'s rules and import libraries, Go, C#, Pascal.
+  clang llvm golang-go mono-mcs libmono-system-windows-forms4.0-cil fp-compiler
+)
+for_all=(libbenchmark-dev libclang-rt-14-dev)
 case "${1:-}" in
   run) packages=("${for_run[@]}") ;;
   test) packages=("${for_run[@]}" "${for_test[@]}") ;;

@@ -5,7 +5,7 @@
 #include <string>
 #include <thread>
 
-#include "c_call_table.h"
+#include <c_call_table.h>  // made at build time
 #include "tests/support/plot_test.h"
 
 namespace tavix::test {
