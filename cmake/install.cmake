@@ -2,12 +2,14 @@
 #   bin/            the DLLs and the sample host
 #   lib/            their import libraries, the start-up library of framework-style hosts
 #   lib/cmake/Tavix the package: find_package(Tavix CONFIG), target Tavix::tavix
-#   include/        tavix/tavix.h and the headers of the DLLs around it
+#   lib/msvc        import libraries for Visual C++
+#   include/        tavix/tavix.h, tavix/tavix_c.h and the headers of the DLLs around them
 #   share/doc/tavix the documents
+#   share/tavix     the declarations and samples in other languages
 include(CMakePackageConfigHelpers)
 
 set(exported)
-foreach(library IN ITEMS framework framework_winmain rovcond tdialog tavix)
+foreach(library IN ITEMS framework framework_winmain rovcond tdialog tavix tavix_c)
   if(TARGET ${library})
     list(APPEND exported ${library})
   endif()
@@ -37,8 +39,18 @@ foreach(headers IN ITEMS include platform/framework/include platform/rovcond/inc
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/${headers}/ DESTINATION include
     FILES_MATCHING PATTERN "*.h")
 endforeach()
-install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION share/doc/tavix)
+install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/LICENSE
+  DESTINATION share/doc/tavix)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION share/doc/tavix OPTIONAL)
+
+install(DIRECTORY ${PROJECT_BINARY_DIR}/msvc DESTINATION lib OPTIONAL)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/bindings ${PROJECT_SOURCE_DIR}/samples
+  DESTINATION share/tavix
+  FILES_MATCHING PATTERN "*.cs" PATTERN "*.py" PATTERN "*.go" PATTERN "go.mod" PATTERN "*.pas"
+    PATTERN "*.js" PATTERN "*.c" PATTERN "*.cpp" PATTERN "README.md"
+    PATTERN "minimal/CMakeLists.txt"
+    PATTERN "bindings/c" EXCLUDE PATTERN "writers" EXCLUDE PATTERN "make_bindings.py" EXCLUDE
+    PATTERN "description.py" EXCLUDE PATTERN "__pycache__" EXCLUDE)
 
 set(package_folder lib/cmake/Tavix)
 install(EXPORT TavixTargets NAMESPACE Tavix:: DESTINATION ${package_folder})

@@ -63,3 +63,43 @@ function(tavix_windows)
     target_sources(tavix_window_core PRIVATE ${ARGN})
   endif()
 endfunction()
+
+# Gives a DLL or a program the version of the project, as Windows shows it.
+function(tavix_version_resource target description)
+  get_target_property(type ${target} TYPE)
+  if(type STREQUAL "EXECUTABLE")
+    set(file_type VFT_APP)
+    set(file_name ${target}.exe)
+  else()
+    set(file_type VFT_DLL)
+    set(file_name ${target}.dll)
+  endif()
+  set(resource ${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/version.rc.in ${resource} @ONLY)
+  target_sources(${target} PRIVATE ${resource})
+endfunction()
+
+# The import library of a DLL for Visual C++, with the list of calls (.def) that it is made from:
+# ${target}.lib beside the other import libraries. Calls are undecorated and of C's convention.
+find_program(TAVIX_DLLTOOL NAMES llvm-dlltool llvm-dlltool-14)
+function(tavix_msvc_import_library target definition)
+  if(NOT TAVIX_DLLTOOL)
+    message(STATUS "No llvm-dlltool: no ${target}.lib for Visual C++ (scripts/setup.sh test)")
+    return()
+  endif()
+  set(machine i386:x86-64)
+  if(CMAKE_SYSTEM_PROCESSOR STREQUAL "i686")
+    set(machine i386)
+  endif()
+  set(library ${PROJECT_BINARY_DIR}/msvc/${target}.lib)
+  add_custom_command(
+    OUTPUT ${library}
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${PROJECT_BINARY_DIR}/msvc
+    COMMAND ${CMAKE_COMMAND} -E copy_if_different ${definition}
+      ${PROJECT_BINARY_DIR}/msvc/${target}.def
+    COMMAND ${TAVIX_DLLTOOL} -m ${machine} -D ${target}.dll -d ${definition} -l ${library}
+    DEPENDS ${definition}
+    COMMENT "Making ${target}.lib for Visual C++"
+    VERBATIM)
+  add_custom_target(${target}_msvc ALL DEPENDS ${library})
+endfunction()

@@ -27,6 +27,7 @@ LAYERS = {
     "draw": ("draw/*",),
     "window": ("window/*",),
     "frame": ("frame/*",),
+    "bindings": ("bindings/*",),
     "host": ("host/*", "samples/*"),
     "tests": ("tests/*", "bench/*", "fuzz/*"),
 }
@@ -44,6 +45,7 @@ MAY_KNOW = {
     "draw": {"draw", "view"} | _STORES,
     "window": {"window", "draw", "view"} | _STORES,
     "frame": {"frame", "window", "draw", "view", "calls"} | _STORES,
+    "bindings": {"bindings", "calls", "public"},
     "host": {"host", "calls", "public"},
     "tests": set(LAYERS),
 }

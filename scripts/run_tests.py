@@ -51,6 +51,24 @@ def run_programs(preset, watch):
     return count(junit, reports, preset)
 
 
+def other_compilers():
+    """The C header with the rules of Visual C++, the other languages with their own compilers."""
+    out = BUILD / "languages"
+    out.mkdir(parents=True, exist_ok=True)
+    sources = [*(ROOT / "bindings/csharp").glob("*.cs"), ROOT / "samples/csharp/Sample.cs"]
+    yield ["mcs", "-warnaserror", "-r:System.Windows.Forms", "-r:System.Drawing",
+           f"-out:{out}/sample_csharp.exe", *sources]
+    yield ["fpc", "-v0", f"-FE{out}", ROOT / "bindings/pascal/TavixCalls.pas"]
+    for source in ("bindings/python/tavix_calls.py", "bindings/python/tavix.py",
+                   "samples/python/sample.py"):
+        yield ["python3", "-c", "import ast, sys; ast.parse(open(sys.argv[1]).read())",
+               ROOT / source]
+    for machine in ("x86_64", "i686"):
+        for language in ("c", "c++"):
+            yield (["clang", f"--target={machine}-pc-windows-msvc", "-fsyntax-only", "-Werror"]
+                   + ["-Wall", "-Wextra", "-x", language, ROOT / "include/tavix/tavix_c.h"])
+
+
 def plan():
     """The steps with their shares of the whole, see Steps."""
     steps = Steps()
@@ -59,6 +77,8 @@ def plan():
     steps.check(1, "checking who includes whom", [ROOT / "scripts/check_includes.py"])
     title = "checking that a test asks for every exported call"
     steps.check(1, title, [ROOT / "scripts/check_call_tests.py"])
+    title = "checking the declarations of other languages"
+    steps.check(1, title, [ROOT / "bindings/make_bindings.py", "--check"], *other_compilers())
     steps.count(2, "testing the scripts", lambda _: count_script_tests(ROOT / "tests/scripts"))
     steps.build(90, "building native", *configure_and_build("native"))
     steps.count(22, "testing native", lambda watch: run_programs("native", watch))
@@ -69,7 +89,9 @@ def plan():
     for preset, runs in (("win64", True), ("win32", False)):
         library = BUILD / preset / "bin/tavix.dll"
         title = f"checking the exported calls of {preset}"
-        steps.check(1, title, [ROOT / "scripts/check_exports.py", "--dll", library])
+        steps.check(
+            1, title, *([ROOT / "scripts/check_exports.py", "--dll", library.with_name(name)]
+                        for name in ("tavix.dll", "tavix_c.dll")))
         title = f"building hosts against the {preset} package"
         steps.count(10, title, lambda _, preset=preset, runs=runs: check_hosts(ROOT, preset, runs))
     return steps

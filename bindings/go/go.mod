@@ -1,0 +1,3 @@
+module tavix
+
+go 1.19

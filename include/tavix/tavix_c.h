@@ -1,0 +1,489 @@
+// Tavix for every language: the calls of tavix.dll as plain C.
+//
+// Made from tavix.h by bindings/make_bindings.py; changes belong there.
+//
+// C11 or C++, any compiler. On 32-bit Windows every call is __cdecl; a struct is never passed.
+//
+// Conventions of every call in this header:
+//
+//  1. There are five plot instances, 0 to 4. Every call names its instance first, and leaves the
+//     current instance of tavix.dll as it was; both kinds of calls may be mixed.
+//  2. Ground coordinates are doubles in metres: X is north, Y is east, and X always comes first.
+//     Screen coordinates are whole pixels of the plot window's client area, origin top left, y
+//     down. A ground position becomes a pixel by truncation toward zero, not by rounding.
+//  3. Flags are int: zero is off, anything else is on.
+//  4. A key is a number the host chooses to name a point. The point number is a label and need not
+//     be unique.
+//  5. A legend number names the symbol of a point or a line: 1 to 11 are the built-in point marks,
+//     101 to 105 the built-in line styles, from 201 up the entries the host adds.
+//  6. Windows are window handles (HWND) as void*. One that is not a window's is refused (-1).
+//  7. Texts are UTF-16, ended by a zero. A text that goes in may be null, which is the empty text;
+//     the library copies it. A text that comes out takes a buffer, its capacity in characters and a
+//     length: the text is cut at a whole character where it does not fit and always ended by a
+//     zero, and the length of the whole text, without that zero, is always written. A capacity of
+//     0, with a buffer or null, asks for the length alone.
+//  8. Every pointer is the caller's: the library uses it during the call and keeps nothing of it. A
+//     call that is refused leaves its outputs untouched unless the call says otherwise.
+//  9. All calls and all window messages of all instances run on one thread: the one that made the
+//     first instance, until the last one is deleted.
+// 10. Calls return 0 for success. Refusals are negative: -1 to -7 come from the library and are
+//     said with each call; the layer's own are those of the enumeration below. TavixC_LastError
+//     gives the reason in words. No C++ exception leaves a call.
+// 11. Messages: a tap on a point posts WM_COMMAND to the window's parent, see "Picking". A message
+//     loop hands every message to TavixC_PreTranslate first, so that the arrow keys pan.
+//
+#ifndef TAVIX_TAVIX_C_H
+#define TAVIX_TAVIX_C_H
+
+#include <stddef.h>
+
+#define TAVIX_VERSION_MAJOR 1
+#define TAVIX_VERSION_MINOR 0
+#define TAVIX_VERSION_PATCH 0
+
+#if !defined(_WIN32)
+#define TAVIX_C_CDECL
+#define TAVIX_C_CALL
+#elif defined(TAVIX_C_LIBRARY_BUILD)
+#define TAVIX_C_CDECL __cdecl
+#define TAVIX_C_CALL
+#else
+#define TAVIX_C_CDECL __cdecl
+#define TAVIX_C_CALL __declspec(dllimport)
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+enum {
+  TAVIX_C_NO_SUCH_INSTANCE = -101,  // an instance outside 0..4
+  TAVIX_C_WRONG_THREAD = -102,      // called on another thread than that of the instances
+  TAVIX_C_NULL_OUTPUT = -103,       // a null where the call has to write
+  TAVIX_C_FAILED = -104             // no memory
+};
+
+// ---- The layer ---------------------------------------------------------------------------------
+
+// The version of the library that is loaded: 10,000 times major, 100 times minor, plus patch.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Version(void);
+
+// Writes why the last call on this thread was refused, in English; an empty text after a call that
+// succeeded. Text, capacity and length as in 7. Returns 0, or TAVIX_C_NULL_OUTPUT.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_LastError(wchar_t* text, int capacity, int* length);
+
+// Gives a message (MSG*) to the plot windows before it is translated and dispatched. Returns 1 when
+// one of them took it: the message is then not to be dispatched; 0 otherwise and for null.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_PreTranslate(void* message);
+
+// ---- Instances and their windows ----------------------------------------------------------------
+
+// Makes instance `index` current for the calls of tavix.dll itself. No call of this layer needs it
+// or changes it.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SetIdx(int index);
+
+// Writes the instance that is current for the calls of tavix.dll itself, 0 to 4.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetIdx(int* index);
+
+// Creates the instance with empty stores. The legend comes from the file HANREI.DAT in the current
+// data folder, or from built-in defaults; a file that another program holds is left alone. When the
+// figure files cannot be made or belong to another process, the instance has no figures. Returns -1
+// when the instance exists already.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Crt(int instance);
+
+// Destroys the instance, its window included, and saves its legend. A legend whose file could not
+// be read is saved only if it has been changed. Always returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Del(int instance);
+
+// Makes the instance's plot window in the place of the control `controlId` of `parent`, which is
+// hidden and stays hidden. A window linked before is destroyed. The new window is hidden until
+// TavixC_Dsp. `notifyId` is the command id under which the window reports to `parent`. `parent`
+// must outlive the window. Returns -1 when the window could not be made, or would have more than
+// 2^27 pixels (a back buffer of 512 MiB).
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Lnk(int instance, void* parent, unsigned controlId,
+                                          unsigned notifyId);
+
+// The same in a rectangle of `parent`'s client area, in pixels; right and bottom lie outside. One
+// that leaves no client area is allowed: the window exists and shows nothing.
+//
+// TavixC_Del and both link calls may come while the instance's settings dialog is open, from a
+// timer of the host for example: the dialog, and a colour chooser above it, end first as if
+// cancelled.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_LnkRct(int instance, void* parent, int left, int top,
+                                             int right, int bottom, unsigned notifyId);
+
+// The instance's plot window, owned by the library, or null when none is linked.
+TAVIX_C_CALL void* TAVIX_C_CDECL TavixC_Wnd(int instance);
+
+// Shows or hides the plot window. Returns -1 when none is linked.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Dsp(int instance, int show);
+
+// Switches between the plan (0) and the 3-D side view, and turns the view back to 0 degrees. Does
+// not redraw. Needs a linked window. Always returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Dsp3D(int instance, int on);
+
+// Shows or hides the column of buttons at the window's right edge; the drawing area becomes 20
+// pixels narrower or wider and the vertical ratio returns to 1. Without a window the choice is kept
+// for the next one. Always returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SetBtn(int instance, int show);
+
+// Auto-redraw: while on, entering something new draws it at once and a change redraws the window.
+// Off at first. Always returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DrwFlg(int instance, int on);
+
+// Redraws the window; with `keepView` 0 the view is first fitted to the data. With nothing to fit
+// the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
+// outside of a narrow window; its height base is then the lowest height, rounded down to a whole
+// metre. Needs a linked window (-1 without one); returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Drw(int instance, int keepView);
+
+// Empties the instance's data; the legend is kept. Does not redraw. Returns 0, or the code of the
+// first store that could not be emptied; the stores after it are then untouched. -1 also when the
+// figure files cannot be made or belong to another process; once they are free it gives the
+// instance its figures.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DrwClr(int instance);
+
+// ---- View ---------------------------------------------------------------------------------------
+
+// Turns the view: whole degrees 0..359, positive turns the picture clockwise. Does not redraw.
+// Returns -1 for any other angle and changes nothing.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SetAng(int instance, int degrees);
+
+// Writes the view's angle in whole degrees, 0..359. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetAng(int instance, int* degrees);
+
+// Sets the vertical exaggeration to tate / yoko (vertical / horizontal). Neither is checked: a zero
+// yoko makes the view non-finite. Does not redraw or refit. Needs a linked window (-1 without).
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SetTatYok(int instance, int tate, int yoko);
+
+// Writes the ratio's two parts. Returns -1 when none was given since the window was made; the parts
+// (1 and 1 at first) are written all the same. Needs a linked window (-1 without, nothing written).
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetTatYok(int instance, int* tate, int* yoko);
+
+// Shows a ground box in the whole window, without a margin. (X1, Y1) is the south-west corner:
+// sizes are not made positive, and a box that is negative both ways is shown at 1 pixel per metre.
+// The view that the zoom-extents button returns to stays. Redraws; returns 0. Needs a linked window
+// (-1 without).
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Zom(int instance, double X1, double Y1, double X2, double Y2);
+
+// The same for the square around a circle; radius in metres.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Zom1(int instance, double X, double Y, double radius);
+
+// Moves the view's centre to (X, Y) at the present scale and redraws. Returns 0; needs a linked
+// window (-1 without).
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Pan(int instance, double X, double Y);
+
+// Does nothing and returns 0; kept for hosts that call it.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Mov(int instance);
+
+// ---- Picking ------------------------------------------------------------------------------------
+
+// A tap on a point posts WM_COMMAND to the window's parent, with the notify id given at the link in
+// wParam and the point's key in lParam. In coordinate-capture mode every tap posts WM_COMMAND with
+// the mode's own command id and 0, and TavixC_CrdGet gives the coordinate.
+
+// Writes 1 when the pixel of (X, Y) lies in the drawing area, borders included, else 0. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChkCrd(int instance, double X, double Y, int* visible);
+
+// Writes 1 when four points of a circle, one to each side, lie in the drawing area, else 0; a
+// radius below 0.00001 m asks for the centre alone. Compatibility: in a turned view the four are
+// turned twice. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChkCir(int instance, double X, double Y, double radius,
+                                             int* visible);
+
+// Writes the client pixel where the stylus last left the window, and returns its y.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetLstPicCrd(int instance, int* x, int* y);
+
+// Starts coordinate capture under this command id, and forgets a coordinate captured before.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_CrdStt(int instance, int command);
+
+// Writes the coordinate that the latest tap has captured: that of the point it hit, else that of
+// the ground. Returns -1 when there is none.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_CrdGet(int instance, double* X, double* Y);
+
+// Ends coordinate capture and forgets the coordinate. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_CrdEnd(int instance);
+
+// ---- Points -------------------------------------------------------------------------------------
+
+// Enters a point with the selected point legend, or replaces everything but the key of the point
+// that has this key. With auto-redraw on a new point is drawn at once; an old one redraws the
+// window unless nothing changed (coordinates within 1e-5 m).
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_EntPnt(int instance, int key, int number, const wchar_t* name,
+                                             double x, double y);
+
+// Changes a point's legend number. Returns -1 for an unknown key.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChgPntHid(int instance, int key, short legend);
+
+// Changes a point's number and name. Returns -1 for an unknown key.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChgPntNoNam(int instance, int key, int number,
+                                                  const wchar_t* name);
+
+// Changes a point's coordinates. Returns -1 for an unknown key.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChgPntCrd(int instance, int key, double x, double y);
+
+// Writes a point's number and name. Returns -1 for an unknown key.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetPntNoNam(int instance, int key, int* number, wchar_t* name,
+                                                  int capacity, int* length);
+
+// Writes a point's coordinates. Returns -1 for an unknown key.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetPntCrd(int instance, int key, double* x, double* y);
+
+// Removes a point and its memo. Never redraws. Returns -1 for an unknown key; a memo kept under it
+// is removed all the same.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DelEntPnt(int instance, int key);
+
+// ---- Legend -------------------------------------------------------------------------------------
+
+// Point marks: kind 1 dot, 2 circle, 3 diagonal cross, 4 upright cross, 5 triangle, 6 square, 7
+// triangle pointing down, 8 filled circle, 9 filled triangle, 10 filled square, 11 filled triangle
+// pointing down; prm1 mark size in pixels (0 or less: no mark), prm2 label height in pixels (0 or
+// less: no label), prm3 label: non-zero shows the point number, 0 the name. Line styles: kind 101
+// solid, 102 dashed, 103 dotted, 104 dash and short dash, 105 dash and two short dashes; prm1 dash,
+// prm2 gap and prm3 short dash in pixels. Width is the pen's in pixels, colour a COLORREF. The
+// point calls take width and colour before the three parameters, the line calls after them. None of
+// these calls redraws. Pens, marks and labels of more than 100 pixels are drawn with 100; the
+// values stay as given. The legend file keeps a width and parameters of 0..99; for points one of
+// them may have three digits. A value that does not fit cuts its record short: the next load finds
+// a bad file, and the whole legend is the built-in one again. Compatibility: an entity whose legend
+// number has no entry is drawn like the entity before it in the same drawing pass (points, lines or
+// figures). The first of a pass draws nothing, but for a circle, which is then black.
+
+// Adds a point legend and writes its number, from 201 up. Such entries are not saved. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_AddPntHan(int instance, int kind, int width, int color,
+                                                int prm1, int prm2, int prm3, short* number);
+
+// Changes legend entry `number` and makes it a point legend. Returns -1 for an unknown number.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChgPntHan(int instance, short number, int kind, int width,
+                                                int color, int prm1, int prm2, int prm3);
+
+// Reads legend entry `number`. Returns -1 for an unknown number.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetPntHan(int instance, short number, int* kind, int* width,
+                                                int* color, int* prm1, int* prm2, int* prm3);
+
+// Selects the legend that points entered from now on receive; it need not exist. -1 at first.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SelPntHan(int instance, short number);
+
+// Sets the title of built-in point legend 1..11, shown in the settings dialog and never saved.
+// Returns -1 for any other number.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_PntHanTtl(int instance, short number, const wchar_t* title);
+
+// Adds a line legend and writes its number, from 201 up. Such entries are not saved. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_AddLinHan(int instance, int kind, short prm1, short prm2,
+                                                short prm3, int width, int color, short* number);
+
+// Changes legend entry `number` and makes it a line legend. Returns -1 for an unknown number.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChgLinHan(int instance, short number, int kind, short prm1,
+                                                short prm2, short prm3, int width, int color);
+
+// Reads legend entry `number`, its parameters cut to 16 bits. Returns -1 for an unknown number.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetLinHan(int instance, short number, int* kind, short* prm1,
+                                                short* prm2, short* prm3, int* width, int* color);
+
+// Selects the legend that lines entered from now on receive; it need not exist. -1 at first.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SelLinHan(int instance, short number);
+
+// ---- Lines --------------------------------------------------------------------------------------
+
+// A line joins two points, named by their keys; the points need not exist yet, and a line is drawn
+// while both do. A line keeps 16 bits of a key and of its own number: a key outside -32768..32767
+// stands for the key with the same low 16 bits. Codes: -1 there is no such line, -2 the line
+// database cannot be opened, -3 there are no lines, -4 to -7 a record cannot be read, or
+// (TavixC_DelEntLin, -7) deleted.
+
+// Enters a line with the selected line legend. One that is there, in either direction, stays as it
+// is: 0. Returns -1 when it could not be added. With auto-redraw on the line is drawn at once.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_EntLin(int instance, int keyA, int keyB);
+
+// Changes a line's legend number. Returns 0, a code as above (when writing: -1 failed, -3
+// unreadable, -4 no legend), or with auto-redraw on the redraw's result.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChgLinHid(int instance, int keyA, int keyB, short legend);
+
+// Removes a line. Never redraws.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DelEntLin(int instance, int keyA, int keyB);
+
+// Removes all lines. Never redraws. Returns 0 when the database is open afterwards, else -1. One
+// that could not be deleted is opened again with its lines: 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ClrEntLin(int instance);
+
+// ---- Memos --------------------------------------------------------------------------------------
+
+// Keeps a text for a point key (16 bits of it, as lines do); the point need not exist. An empty
+// text removes the memo of a key that has one, and is kept as an empty memo for a key that has
+// none. A memo longer than kTavixLongestMemo may be refused. Returns 0, -1 it could not be added or
+// written, as when the memo database cannot be opened, -3 it could not be read or deleted.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_EntPntMem(int instance, int key, const wchar_t* memo);
+
+// Writes the memo of a key; an empty one when there is none or it cannot be read. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetPntMem(int instance, int key, wchar_t* memo, int capacity,
+                                                int* length);
+
+// ---- 3-D points ---------------------------------------------------------------------------------
+
+// Points with a height for the side view (TavixC_Dsp3D). They are independent of the other points,
+// equal keys included. None of these calls draws.
+
+// Enters a point with the selected point legend, or replaces everything but the key of the one that
+// has it. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_EntPnt3(int instance, int key, int number,
+                                              const wchar_t* name, double x, double y, double z);
+
+// Changes a point's legend number. Returns -1 for an unknown key; so do the calls below.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChgPnt3Hid(int instance, int key, short legend);
+
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChgPnt3NoNam(int instance, int key, int number,
+                                                   const wchar_t* name);
+
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetPnt3NoNam(int instance, int key, int* number,
+                                                   wchar_t* name, int capacity, int* length);
+
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetPnt3Crd(int instance, int key, double* x, double* y,
+                                                 double* z);
+
+// Removes a point; a memo of its key stays.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DelEntPnt3(int instance, int key);
+
+// ---- Figures ------------------------------------------------------------------------------------
+
+// Lines, circles, polylines, arcs and clothoids with a figure number and a line legend. A figure is
+// started, made of one or more pieces, which are there at once, and ended. One number may cover
+// several pieces and several figures. Errors of writing are not reported: a figure for which the
+// disk has no room is not kept, and its call returns 0. All these calls return -1 while another
+// process that uses the same CE_DEVICE_ROOT has the figure files.
+
+// Starts a figure: its number and line legend. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_FigStt(int instance, int figure, int legend);
+
+// A straight line. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_FigMdlLin(int instance, double x1, double y1, double x2,
+                                                double y2);
+
+// A circle; radius in metres. It is drawn as a solid line, whatever the kind of its legend. Returns
+// 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_FigMdlCir(int instance, double x, double y, double radius);
+
+// A polyline of `count` vertices; one without vertices is kept and draws nothing. Returns 0, or -1
+// for a null array when `count` is above 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_FigMdlPly(int instance, int count, const double* x,
+                                                const double* y);
+
+// The shorter arc of a radius in metres. A positive radius turns from x (north) toward y (east),
+// that is clockwise on the map, a negative one the other way. Returns -1 when there is no such arc.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_FigMdlArc(int instance, double startX, double startY,
+                                                double endX, double endY, double radius);
+
+// A clothoid of parameter A between two radii, signed as for arcs, 0 for a straight end. Between
+// two radii the second must be the smaller, otherwise a straight line is drawn. Returns -1 when a
+// number is not finite, or when the curve would have more than ten million points (one for each
+// degree of its tangent).
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_FigMdlClo(int instance, double startX, double startY,
+                                                double endX, double endY, double startRadius,
+                                                double A, double endRadius);
+
+// Ends a figure; with auto-redraw on the window is redrawn. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_FigEnd(int instance);
+
+// Deletes every piece of a figure number, and redraws as TavixC_FigEnd. Returns 0 also for a number
+// without pieces, -1 when there are no figures at all.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DelFig(int instance, int figure);
+
+// ---- Paper frame and scale bar ------------------------------------------------------------------
+
+// The outline of a sheet of paper over the plan. It keeps its place on the screen; the view decides
+// which ground it covers. These calls do not redraw. Those on a frame return -1 while it is off;
+// all need a linked window (-1 without).
+
+// Turns the frame off (0), or on with a sheet of `heightUnits` units of which `heightPerInch` make
+// an inch, and the same for its width. Nothing is checked. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SetWak(int instance, int on, int heightPerInch,
+                                             int heightUnits, int widthPerInch, int widthUnits);
+
+// Shows or hides the outline, from the next paint on. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_WakDsp(int instance, int show);
+
+// Gives the view the scale 1:N on the sheet, keeping the frame's origin. Returns -1 for N below 1.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SetWakScl(int instance, int N);
+
+// Writes N, truncated: after TavixC_SetWakScl(N) it may be N - 1, for the view keeps 1/N. The value
+// stays the same until the view is zoomed. Compatibility: TavixC_Zom and TavixC_Zom1 do not change
+// it.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetWakScl(int instance, int* N);
+
+// Moves the view so that the frame's bottom left corner lies on (X, Y), starting from the corner
+// that the last redraw found. It may miss by up to a pixel, as the middle of a frame of whole
+// pixels is not quite that of the view: after a redraw TavixC_GetWakGen gives the corner as it is,
+// and a second call, corrected by the difference, puts it right.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SetWakGen(int instance, double X, double Y);
+
+// Writes the ground under the frame's bottom left corner; zeros while the frame is off.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetWakGen(int instance, double* X, double* Y);
+
+// Shows or hides the scale bar, from the next paint on. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SclBarDsp(int instance, int show);
+
+// ---- Moving a point -----------------------------------------------------------------------------
+
+// A mark, and a line to it, that follow a position over the plot. All need a linked window (-1).
+
+// Takes the symbol of a point legend; nothing is drawn. Returns -1 for an unknown legend, -2 for
+// one that is not a point legend; the state is then as it was.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_MvPntStt(int instance, int legend);
+
+// From the next move on a line runs from (X, Y) to the mark. To be called before the first move.
+// Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_MvPntRub(int instance, double X, double Y);
+
+// Moves the mark. Without a start it is a circle of 10 pixels, black on white. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_MvPntMov(int instance, double X, double Y);
+
+// Takes the mark and the line off. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_MvPntEnd(int instance);
+
+// ---- Traced polyline ----------------------------------------------------------------------------
+
+// A polyline over the plot that the host traces vertex by vertex. All need a linked window (-1).
+
+// Starts a trace; one that was under way is taken off. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_VoStt(int instance);
+
+// Appends a vertex and draws the segment to it. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_VoAdd(int instance, double X, double Y);
+
+// Takes the last vertex back. Returns -1 when there is none.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_VoDel(int instance);
+
+// Writes the number of vertices. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_VoGet(int instance, int* count);
+
+// Writes every vertex in order into two arrays of at least that many places, which may be null when
+// there are none. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_VoLst(int instance, double* X, double* Y);
+
+// Writes one vertex, counted from 0. Returns -1 for an index outside the polyline.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_VoIdx(int instance, int index, double* X, double* Y);
+
+// Takes the polyline off and forgets it. Returns 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_VoEnd(int instance);
+
+// ---- One-bit picture ----------------------------------------------------------------------------
+
+// Draws the plan into a picture of this size, with a north arrow in a free corner; one held before
+// is freed. The picture shows the window's ground width, or one sheet while the paper frame is on.
+// Needs a linked window. Returns -1 without one, and for a picture of more than 256 MiB (some
+// 46,000 pixels square), with the one held before freed; else 0.
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GrpStt(int instance, int height, int width);
+
+// Writes 1 when the pixel is ink, else 0; rows count from the top. While the paper frame's outline
+// shows, the two outermost rows and columns are ink, and so is any row above the picture and any
+// column left of it. Everything else outside of the picture, and everything without a picture, is
+// no ink; a column at or beyond the width never is. Returns 0; needs a linked window (-1 without).
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GrpGet(int instance, int row, int column, int* ink);
+
+// Frees the picture. Returns 0; needs a linked window (-1 without).
+TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GrpEnd(int instance);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

