@@ -151,7 +151,7 @@ std::size_t ValueBytes(const Property& property);
 // True when both hold the same property with the same value.
 bool SameProperty(const Property& one, const Property& other);
 
-// ---- What a write makes of a record's properties
+// ---- The properties of a record that is written
 
 // False when a property has no known type, a string or blob is missing, or its value is too long.
 bool AreValid(std::span<const Property> properties);

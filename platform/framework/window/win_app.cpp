@@ -71,7 +71,7 @@ void CWinApp::OnAppExit() {
   if (m_pMainWnd) m_pMainWnd->SendMessageW(WM_CLOSE);
 }
 
-// ---- What the process knows of its application
+// ---- The application of the process
 
 CWinApp* AfxGetApp() { return afx::ProcessState().app; }
 
