@@ -4,7 +4,12 @@
 #   scripts/setup.sh test   and what else ./test needs
 #   scripts/setup.sh all    and what the benchmarks and the fuzzers need
 set -euo pipefail
-for_run=(cmake ninja-build python3 g++-mingw-w64-x86-64-posix wine64 xvfb fonts-vlgothic)
+for_run=(
+  cmake ninja-build python3 g++-mingw-w64-x86-64-posix
+  wine64 xvfb fonts-vlgothic
+  # Wine loads these where it finds them; its package only recommends them.
+  libxcomposite1 libxi6 libxinerama1 libxrandr2 libxrender1 libxxf86vm1
+)
 for_test=(g++ g++-mingw-w64-i686-posix clang-tidy clang-format git googletest libexpat1-dev)
 for_all=(libbenchmark-dev clang libclang-rt-14-dev)
 case "${1:-}" in
