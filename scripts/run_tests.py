@@ -70,7 +70,7 @@ def other_compilers():
 
 
 def plan():
-    """The steps with their shares of the whole, see Steps."""
+    """The steps, each with its share of the whole: see Steps."""
     steps = Steps()
     title = "checking the layout of the sources"
     steps.check(4, title, [ROOT / "scripts/format.sh", "--check"])

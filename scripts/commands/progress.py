@@ -8,6 +8,9 @@ _FINISHED = re.compile(r"^ *(?:\[(\d+)/(\d+)\]|(\d+)/(\d+) Test) .*$", re.MULTIL
 # The measured shares count as this many seconds of experience with this machine.
 _TRUST = 60
 
+# A step that took less than this part of its share had next to nothing to do.
+_WORKED = 0.2
+
 
 def finished_of(output):
     """(finished, all) as the output last counted; None when it does not count."""
@@ -22,21 +25,30 @@ def without_counts(output):
     return re.sub(_FINISHED.pattern + r"\n?", "", output, flags=re.MULTILINE)
 
 
-class Shares:
-    """What each step of a plan takes, in seconds on the machine where that was measured."""
+class TimeLeft:
+    """What is left of a plan whose steps have shares: seconds on the machine of the measurement."""
 
     def __init__(self, shares):
-        self._shares = shares
+        self._shares = list(shares)  # of the steps that are not finished
+        self._expected = self._took = _TRUST
 
-    def seconds_left(self, step, part, elapsed):
-        """The seconds left while `part` (0 to 1) of the step with this index is done.
+    def finish(self, seconds):
+        """The step under way ended and took so many seconds."""
+        share = self._shares.pop(0)
+        # One that found nothing to do says nothing about the machine.
+        if seconds > share * _WORKED:
+            self._expected += share
+            self._took += seconds
 
-        `elapsed` seconds have passed since the plan began: where the steps so far were quicker or
-        slower than measured, the rest is expected to be so too, the more the longer they took.
+    def seconds(self, part=0, spent=0):
+        """`part` (0 to 1) of the step under way is done after `spent` seconds.
+
+        Where the steps so far were quicker or slower than measured, the rest is expected to be so
+        too, the more the longer they took.
         """
-        expected = sum(self._shares[:step]) + part * self._shares[step]
-        pace = (elapsed + _TRUST) / (expected + _TRUST)
-        return (sum(self._shares) - expected) * pace
+        done = part * self._shares[0]
+        pace = (self._took + spent) / (self._expected + done)
+        return (sum(self._shares) - done) * pace
 
 
 def in_words(seconds):

@@ -7,7 +7,7 @@ import time
 from dataclasses import dataclass
 from typing import Callable
 
-from commands.progress import Shares, finished_of, in_words, without_counts
+from commands.progress import TimeLeft, finished_of, in_words, without_counts
 from commands.tally import Tally
 
 LOOK = 1  # seconds between two looks at what a command printed
@@ -45,7 +45,7 @@ def call(command, watch=None, **options):
 @dataclass
 class _Step:
     title: str
-    share: float  # seconds, see Shares
+    share: float  # seconds, see TimeLeft
     run: Callable  # with what watches its output; returns a Tally
     needed: bool  # by the later steps
     shows: bool = False  # prints lines of its own
@@ -82,11 +82,10 @@ class Steps:
 
     def run(self):
         """Runs the plan; whether nothing failed."""
-        shares = Shares([step.share for step in self._plan])
-        begin = time.monotonic()
-        for index, step in enumerate(self._plan):
-            line = _Line(shares, index, begin)
-            line.start(f"step {index + 1} of {len(self._plan)}", step.title)
+        left = TimeLeft(step.share for step in self._plan)
+        for number, step in enumerate(self._plan, 1):
+            line = _Line(left)
+            line.start(f"step {number} of {len(self._plan)}", step.title)
             if step.shows:
                 line.end_first()
             tally = step.run(line.watch)
@@ -101,15 +100,14 @@ class Steps:
 class _Line:
     """What one step prints: its beginning, its progress now and then, and its end."""
 
-    def __init__(self, shares, index, begin):
-        self._shares = shares
-        self._index = index
-        self._begin = begin
+    def __init__(self, left):
+        self._left = left
         self._started = self._said = time.monotonic()
         self._open = True  # no line break yet
 
     def start(self, number, title):
-        print(f"{number}, {self._left(0)} left: {title} ... ", end="", flush=True)
+        words = in_words(self._left.seconds())
+        print(f"{number}, {words} left: {title} ... ", end="", flush=True)
 
     def end_first(self):
         if self._open:
@@ -124,19 +122,18 @@ class _Line:
         self._said = now
         self.end_first()
         finished, whole = counted
-        print(f"    {finished} of {whole}, {self._left(finished / whole)} left", flush=True)
+        words = in_words(self._left.seconds(finished / whole, now - self._started))
+        print(f"    {finished} of {whole}, {words} left", flush=True)
 
     def end(self, tally):
+        seconds = time.monotonic() - self._started
+        self._left.finish(seconds)
         passed = f", {tally.passed} passed" if tally.passed > 1 else ""
         failed = f", {len(tally.failures)} FAILED" if tally.failures else ""
         indent = "" if self._open else "    "
-        print(f"{indent}{time.monotonic() - self._started:.0f} s{passed}{failed}", flush=True)
+        print(f"{indent}{seconds:.0f} s{passed}{failed}", flush=True)
         for name, seen in tally.failures:
             print(f"--- {name}\n{seen.rstrip()}\n---", flush=True)
-
-    def _left(self, part):
-        elapsed = time.monotonic() - self._begin
-        return in_words(self._shares.seconds_left(self._index, part, elapsed))
 
 
 def _count_shown(title, command):

@@ -10,7 +10,7 @@ from unittest import mock
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "scripts"))
 
 from commands import steps
-from commands.progress import Shares, finished_of, in_words, without_counts
+from commands.progress import TimeLeft, finished_of, in_words, without_counts
 from commands.tally import Tally
 
 
@@ -34,23 +34,33 @@ class Counts(unittest.TestCase):
         self.assertEqual("FAILED: b.obj\n[12] is no count\nend", without_counts(output))
 
 
-class TimeLeft(unittest.TestCase):
+class Left(unittest.TestCase):
+    def after(self, *seconds):
+        """What is left of a plan after steps that took so long."""
+        left = TimeLeft([100, 300, 200])
+        for taken in seconds:
+            left.finish(taken)
+        return left
+
     def test_the_pace_so_far_scales_what_is_left(self):
-        shares = Shares([100, 300, 200])
         rows = (
-            # step, part, elapsed, seconds left
-            (0, 0, 0, 600),
-            (1, 0, 100, 500),
-            (1, 0.5, 250, 350),
-            (2, 1, 600, 0),
-            # Twice as slow: 400 and 60 seconds were expected as 200 and 60.
-            (1, 1 / 3, 460, 400 * 520 / 260),
-            # Nothing to build.
-            (2, 0, 2, 200 * 62 / 460),
+            ((), 0, 0, 600),
+            ((100,), 0, 0, 500),
+            ((100,), 0.5, 150, 350),
+            ((100, 300), 1, 200, 0),
+            # 200 and 60 seconds were expected where it took 400 and 60.
+            ((200,), 1 / 3, 200, 400 * 460 / 260),
+            # 400 and 60 seconds were expected where it took 200 and 60.
+            ((50, 150), 0, 0, 200 * 260 / 460),
         )
-        for step, part, elapsed, left in rows:
-            with self.subTest(step=step, elapsed=elapsed):
-                self.assertAlmostEqual(left, shares.seconds_left(step, part, elapsed))
+        for finished, part, spent, left in rows:
+            with self.subTest(finished=finished, part=part):
+                self.assertAlmostEqual(left, self.after(*finished).seconds(part, spent))
+
+    def test_a_step_with_nothing_to_do_says_nothing_of_the_pace(self):
+        self.assertAlmostEqual(500, self.after(2).seconds())
+        self.assertAlmostEqual(200, self.after(2, 3).seconds())
+        self.assertAlmostEqual(200 * 660 / 360, self.after(2, 600).seconds())
 
     def test_it_is_said_in_minutes(self):
         rows = (
@@ -80,7 +90,7 @@ class Lines(unittest.TestCase):
         self.assertTrue(well)
         self.assertEqual(
             "step 1 of 2, about 3 min left: asking ... 0 s\n"
-            "step 2 of 2, about 1 min left: counting ... 0 s, 7 passed\n",
+            "step 2 of 2, about 2 min left: counting ... 0 s, 7 passed\n",
             said,
         )
         self.assertEqual("8 passed, 0 failed", plan.tally.line())

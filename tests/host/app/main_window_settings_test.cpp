@@ -1,6 +1,7 @@
 // The plot window's own settings, opened by its button inside the host.
 
 #include "tests/host/support/main_window_fixture.h"
+#include "window/buttons/button_table.h"
 
 namespace fieldhost {
 namespace {
@@ -8,8 +9,7 @@ namespace {
 class MainWindowSettings : public WindowTest {
  protected:
   [[nodiscard]] HWND OpenSettings() {
-    constexpr WPARAM kSettingsButton = 429;
-    ::PostMessageW(Plot(), WM_COMMAND, kSettingsButton, 0);
+    ::PostMessageW(Plot(), WM_COMMAND, tavix::kSettingsButton, 0);
     return host_->WaitForWindow(L"確認図設定");
   }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "tests/host/support/main_window_fixture.h"
+#include "window/buttons/button_table.h"
 
 namespace fieldhost {
 namespace {
@@ -48,15 +49,13 @@ TEST_F(MainWindowViews, PlanIsAsItWasAfterTheSideView) {
     return TextOf(Info());
   };
   // Closer, turned and moved: nothing that a fit would bring back.
-  constexpr WPARAM kZoomIn = 409;
-  constexpr WPARAM kRotate = 433;
-  ::SendMessageW(Plot(), WM_COMMAND, kZoomIn, 0);
-  ::SendMessageW(Plot(), WM_COMMAND, kRotate, 0);
+  ::SendMessageW(Plot(), WM_COMMAND, tavix::kZoomInButton, 0);
+  ::SendMessageW(Plot(), WM_COMMAND, tavix::kRotateButton, 0);
   Command(ID_SURVEY_CAPTURE);
   const std::wstring before = captured();
   Command(ID_VIEW_SIDE);
-  ::SendMessageW(Plot(), WM_COMMAND, kZoomIn, 0);
-  ::SendMessageW(Plot(), WM_COMMAND, kRotate, 0);
+  ::SendMessageW(Plot(), WM_COMMAND, tavix::kZoomInButton, 0);
+  ::SendMessageW(Plot(), WM_COMMAND, tavix::kRotateButton, 0);
   Command(ID_VIEW_PLAN);
   ExpectInfo(before);
   Command(ID_SURVEY_CAPTURE);

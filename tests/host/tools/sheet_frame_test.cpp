@@ -6,6 +6,7 @@
 #include <cwchar>
 
 #include "tests/host/tools/plan_test.h"
+#include "window/buttons/button_table.h"
 
 namespace fieldhost {
 namespace {
@@ -228,11 +229,10 @@ TEST_F(SheetFrame, IsLaidOutAgainBesideTheButtons) {
   Exit();
 }
 
-TEST_F(SheetFrame, ScaleOfAZoomedViewIsTold) {
-  constexpr int kZoomOutButton = 413;
+TEST_F(SheetFrame, ScaleOfAZoomedViewIsShown) {
   ChooseSheet(kA4, false, L"1000");
   ExpectInfoBegins(L"A4 1:1000  X ");
-  ::PostMessageW(Plot(), WM_COMMAND, kZoomOutButton, 0);
+  ::PostMessageW(Plot(), WM_COMMAND, tavix::kZoomOutButton, 0);
   // Half as much again; the library then measures the frame, whose sides are whole pixels.
   EXPECT_TRUE(WaitUntil([&] {
     int scale = 0;
