@@ -5,7 +5,7 @@ import textwrap
 
 MADE_FROM = "Made from tavix.h by bindings/make_bindings.py; changes belong there."
 
-# What the calls on the current instance say where there is none of it.
+# The comments of the calls that are about the current instance itself.
 _OWN_COMMENTS = {
     "SetIdx": ["Makes instance `index` current for the calls of tavix.dll itself. No call of this "
                "layer needs it or changes it."],
