@@ -120,10 +120,14 @@ void HostProcess::Start(const HostStart& start, const std::vector<std::wstring>&
   startup.lpAttributeList = handles.Get();
   PROCESS_INFORMATION information = {};
   std::wstring line = CommandLineOf(start.program, arguments);
-  if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE,
-                        CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT, nullptr, nullptr,
-                        &startup.StartupInfo, &information)) {
-    return;
+  // Wine refuses a start now and then; what is tested begins with the host's first step.
+  constexpr int kStarts = 3;
+  for (int i = 1; !::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE,
+                                    CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT, nullptr,
+                                    nullptr, &startup.StartupInfo, &information);
+       ++i) {
+    std::fprintf(stderr, "Start %d of the host: error %lu\n", i, ::GetLastError());
+    if (i == kStarts) return;
   }
   process_ = information.hProcess;
   id_ = information.dwProcessId;
