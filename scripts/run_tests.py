@@ -88,7 +88,7 @@ def plan():
     steps.count(84, "testing win64", lambda watch: run_programs("win64", watch))
     steps.build(8, "packing the tests",
                 ["cmake", "--build", BUILD / "win64", "--target", "test_zip"])
-    steps.count(30, "testing the packed tests", lambda _: check_test_package(ROOT))
+    steps.count(20, "testing the packed tests", lambda _: check_test_package(ROOT))
     steps.build(100, "building win32", *configure_and_build("win32"))
     for preset, runs in (("win64", True), ("win32", False)):
         library = BUILD / preset / "bin/tavix.dll"

@@ -120,7 +120,7 @@ std::string ReportText(const std::vector<Fact>& facts, const std::vector<Program
   text << "Tavix test report\n\n" << std::left;
   for (const Fact& fact : facts) text << std::setw(kNames) << fact.name << fact.value << "\n";
   text << std::setw(kNames) << "Programs" << runs.size() << " of " << planned << " have run"
-       << (runs.size() < planned ? ": THE RUN WAS BROKEN OFF" : "") << "\n"
+       << (runs.size() < planned ? ": THE REPORT IS NOT COMPLETE" : "") << "\n"
        << std::setw(kNames) << "Tests" << tally.passed << " passed, " << tally.failed << " failed, "
        << tally.skipped << " skipped; " << tally.broken_off << " programs hung or crashed\n";
   AddHeading(text, "Programs");

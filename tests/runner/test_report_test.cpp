@@ -105,8 +105,8 @@ TEST(TestReport, HasWhatFailedAndWhatWasSkippedInFull) {
   EXPECT_TRUE(report.ends_with("---- End of the report ----\r\n"));
 }
 
-TEST(TestReport, SaysThatARunWasBrokenOff) {
-  EXPECT_TRUE(Holds(ReportText({}, {Good()}, 3), "1 of 3 have run: THE RUN WAS BROKEN OFF"));
+TEST(TestReport, SaysThatProgramsAreMissing) {
+  EXPECT_TRUE(Holds(ReportText({}, {Good()}, 3), "1 of 3 have run: THE REPORT IS NOT COMPLETE"));
 }
 
 TEST(TestReport, Base64IsCutIntoLines) {
