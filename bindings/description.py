@@ -1,4 +1,4 @@
-"""The exported calls as data, read from the public header.
+"""The exported calls and the fixed values as data, read from the public header.
 
 `include/tavix/tavix.h` is the one description of the calls: names, types, order, families and
 comments. Everything that other languages need is made from what `read_header` returns.
@@ -10,6 +10,7 @@ from pathlib import Path
 
 HEADER = Path(__file__).resolve().parent.parent / "include/tavix/tavix.h"
 PREFIX = "Tavix_"
+CONSTANT_PREFIX = "kTavix"
 
 # How a parameter travels: by value, as an array the call reads, as a place or an array the call
 # writes. Texts and windows are objects of the class framework in the header.
@@ -62,8 +63,23 @@ class Family:
 
 
 @dataclass
+class Constant:
+    name: str   # in words run together, ButtonColumn: each language spells it in its manner
+    type: str   # int or double
+    value: str  # as it is written
+    note: str = ""  # the comment behind it
+
+
+@dataclass
+class ConstantGroup:
+    comment: list[str]
+    constants: list[Constant] = field(default_factory=list)
+
+
+@dataclass
 class Description:
     version: tuple[int, int, int]
+    constants: list[ConstantGroup]
     families: list[Family]
 
     @property
@@ -90,10 +106,30 @@ def _call(text, comment):
     return Call(match[2].removeprefix(PREFIX), result, parameters, comment)
 
 
+def _constants(text):
+    """The fixed values, those that share a comment together."""
+    groups, comment = [], []
+    for line in text.splitlines():
+        constant = re.fullmatch(rf"inline constexpr (int|double) {CONSTANT_PREFIX}(\w+) = "
+                                r"([-\d.]+);(?:\s*// (.*))?", line)
+        if constant:
+            if comment:
+                groups.append(ConstantGroup(comment))
+            groups[-1].constants.append(
+                Constant(constant[2], constant[1], constant[3], constant[4] or ""))
+            comment = []
+        elif line.startswith("//"):
+            comment.append(line[2:].removeprefix(" "))
+        elif line.strip():
+            raise ValueError(f"no language knows what to make of '{line}'")
+    return groups
+
+
 def parse_header(text):
     """The description in the text of the header; ValueError for what cannot be described."""
     version = tuple(int(re.search(rf"#define TAVIX_VERSION_{part} (\d+)", text)[1])
                     for part in ("MAJOR", "MINOR", "PATCH"))
+    fixed = re.search(r"// ---- Fixed values -*\n(.*?)extern \"C\" {", text, re.DOTALL)
     body = text.partition('extern "C" {')[2].partition('}  // extern "C"')[0]
     families, comment, declaration = [], [], ""
     for line in body.splitlines():
@@ -112,7 +148,7 @@ def parse_header(text):
             # A comment with no call below it is the family's.
             families[-1].comment += [text for text in comment if text or families[-1].comment]
             comment = []
-    return Description(version, families)
+    return Description(version, _constants(fixed[1]) if fixed else [], families)
 
 
 def read_header(path=HEADER):

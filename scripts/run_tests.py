@@ -16,6 +16,7 @@ from commands.reports import count
 from commands.script_tests import count_script_tests
 from commands.steps import Steps, call
 from commands.tally import Tally
+from commands.test_package import check_test_package
 
 ROOT = Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build"
@@ -85,6 +86,9 @@ def plan():
     steps.check(75, "checking with clang-tidy", *configure_and_build("tidy"))
     steps.build(230, "building win64", *configure_and_build("win64"))
     steps.count(84, "testing win64", lambda watch: run_programs("win64", watch))
+    steps.build(8, "packing the tests",
+                ["cmake", "--build", BUILD / "win64", "--target", "test_zip"])
+    steps.count(20, "testing the packed tests", lambda _: check_test_package(ROOT))
     steps.build(100, "building win32", *configure_and_build("win32"))
     for preset, runs in (("win64", True), ("win32", False)):
         library = BUILD / preset / "bin/tavix.dll"

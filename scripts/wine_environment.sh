@@ -4,7 +4,8 @@
 export WINEPREFIX="${TAVIX_WINEPREFIX:-$root/build/wine-prefix}"
 export WINEARCH=win64
 export WINEDEBUG="${WINEDEBUG:--all}"
-export WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree=;mshtml=;winemenubuilder.exe=}"
+# Without the debugger a program that crashes ends; with it a box waits for somebody to close it.
+export WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree=;mshtml=;winemenubuilder.exe=;winedbg.exe=}"
 
 # The loader itself, past the start script that asks for 32-bit Wine at each start.
 TAVIX_WINE=$(command -v /usr/lib/wine/wine64 || command -v wine64 || command -v wine || true)

@@ -4,6 +4,7 @@
 #include <tavix/tavix_c.h>
 
 #include <atomic>
+#include <new>
 
 #include "bindings/c/last_error.h"
 
@@ -37,24 +38,39 @@ bool AnyExists() {
   return false;
 }
 
+// Of the exception that is being handled. The framework's own are thrown by pointer.
+const wchar_t* ReasonOfException() {
+  bool is_memory = false;
+  try {
+    throw;
+  } catch (CException* exception) {
+    is_memory = exception->IsKindOf(RUNTIME_CLASS(CMemoryException));
+    exception->Delete();
+  } catch (const std::bad_alloc&) {
+    is_memory = true;
+  } catch (...) {  // not of this library: the host's own
+  }
+  return is_memory ? L"there was not enough memory" : L"an exception ended the call";
+}
+
 }  // namespace
 
-GuardedCall::GuardedCall(const CallOn& call, bool outputs_given)
-    : call_(call), refusal_(Refuse(outputs_given)) {
+GuardedCall::GuardedCall(const CallOn& call, bool pointers_given)
+    : call_(call), refusal_(Refuse(pointers_given)) {
   if (refusal_) return;
   ++t_depth;
   Tavix_GetIdx(&index_before_);
   if (call.instance) Tavix_SetIdx(*call.instance);
 }
 
-std::optional<int> GuardedCall::Refuse(bool outputs_given) const {
+std::optional<int> GuardedCall::Refuse(bool pointers_given) const {
   ForgetReason();
   if (call_.instance && (*call_.instance < 0 || *call_.instance >= kInstances)) {
     KeepReason(call_.name, L"there is no instance %d, they are 0 to 4", *call_.instance);
     return TAVIX_C_NO_SUCH_INSTANCE;
   }
-  if (!outputs_given) {
-    KeepReason(call_.name, L"a place to write to is null");
+  if (!pointers_given) {
+    KeepReason(call_.name, L"a pointer that the call needs is null");
     return TAVIX_C_NULL_OUTPUT;
   }
   if (!TakeThread()) {
@@ -79,7 +95,7 @@ int GuardedCall::Finish(int code) const {
 }
 
 int GuardedCall::FinishByException() const {
-  KeepReason(call_.name, L"there was not enough memory");
+  KeepReason(call_.name, ReasonOfException());
   return TAVIX_C_FAILED;
 }
 

@@ -14,8 +14,8 @@ struct CallOn {
 // Makes the call's instance current while it lives.
 class GuardedCall {
  public:
-  // `outputs_given` is false when the caller passed a null where the call writes.
-  GuardedCall(const CallOn& call, bool outputs_given);
+  // `pointers_given` is false when the caller passed a null where the call needs a place.
+  GuardedCall(const CallOn& call, bool pointers_given);
   ~GuardedCall();
   GuardedCall(const GuardedCall&) = delete;
   GuardedCall& operator=(const GuardedCall&) = delete;
@@ -30,7 +30,7 @@ class GuardedCall {
   int FinishByException() const;
 
  private:
-  [[nodiscard]] std::optional<int> Refuse(bool outputs_given) const;
+  [[nodiscard]] std::optional<int> Refuse(bool pointers_given) const;
 
   const CallOn& call_;
   std::optional<int> refusal_;
@@ -39,8 +39,8 @@ class GuardedCall {
 
 // What `call` returns in the instance, or the refusal.
 template <class Call>
-int On(const CallOn& on, bool outputs_given, Call call) {
-  const GuardedCall guard(on, outputs_given);
+int On(const CallOn& on, bool pointers_given, Call call) {
+  const GuardedCall guard(on, pointers_given);
   if (const auto refusal = guard.Refusal()) return *refusal;
   try {
     return guard.Finish(call());
@@ -51,9 +51,9 @@ int On(const CallOn& on, bool outputs_given, Call call) {
 
 // The same for a call that returns a window: null when refused.
 template <class Call>
-void* OnWindowOf(const CallOn& on, bool outputs_given, Call call) {
+void* OnWindowOf(const CallOn& on, bool pointers_given, Call call) {
   void* window = nullptr;
-  On(on, outputs_given, [&] {
+  On(on, pointers_given, [&] {
     window = call();
     return 0;
   });

@@ -5,6 +5,38 @@ using System.Runtime.InteropServices;
 
 namespace Tavix
 {
+    public static class Constants
+    {
+        // What the layer itself refuses: the codes of its own.
+        public const int NoSuchInstance = -101;  // an instance outside 0..4
+        public const int WrongThread = -102;     // called on another thread than that of the instances
+        public const int NullOutput = -103;      // a null where the call has to write
+        public const int Failed = -104;          // no memory, or an exception within the call
+
+        // Pixels that the column of buttons takes from the drawing area, at its right.
+        public const int ButtonColumn = 20;
+
+        // Lines and memos name their points by 16 bits of a key: the keys that stand for themselves
+        // reach from -32768 to this one.
+        public const int LargestLineKey = 32767;
+
+        // The longest memo that is sure to be kept, in UTF-16 units: what one record of the
+        // device's store holds.
+        public const int LongestMemo = 32734;
+
+        // The projection of the side view. With the plan `height` pixels high, a plan pixel that
+        // lies `right` of its left edge and `up` from its bottom edge becomes the pixel
+        //
+        //     x = SideAcross * (SideUp * up + SideRight * right)
+        //     y = height / 2 - SideRise * (SideUp * up - SideRight * right)
+        //
+        // A height above the height base adds its metres at the plan's scale, straight up.
+        public const double SideRight = 0.9;
+        public const double SideUp = 0.7;
+        public const double SideAcross = 0.8660254037844387;  // cos 30 degrees
+        public const double SideRise = 0.5;                   // sin 30 degrees
+    }
+
     // The calls of tavix_c.dll, one to one.
     public static class Calls
     {
@@ -421,9 +453,9 @@ namespace Tavix
         /// <summary>
         /// Keeps a text for a point key (16 bits of it, as lines do); the point need not exist. An
         /// empty text removes the memo of a key that has one, and is kept as an empty memo for a
-        /// key that has none. A memo longer than kTavixLongestMemo may be refused. Returns 0, -1 it
-        /// could not be added or written, as when the memo database cannot be opened, -3 it could
-        /// not be read or deleted.
+        /// key that has none. A memo longer than Constants.LongestMemo may be refused. Returns 0,
+        /// -1 it could not be added or written, as when the memo database cannot be opened, -3 it
+        /// could not be read or deleted.
         /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]

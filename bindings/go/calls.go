@@ -9,6 +9,37 @@ import (
 	"unsafe"
 )
 
+const (
+	// What the layer itself refuses: the codes of its own.
+	NoSuchInstance = -101 // an instance outside 0..4
+	WrongThread    = -102 // called on another thread than that of the instances
+	NullOutput     = -103 // a null where the call has to write
+	Failed         = -104 // no memory, or an exception within the call
+
+	// Pixels that the column of buttons takes from the drawing area, at its right.
+	ButtonColumn = 20
+
+	// Lines and memos name their points by 16 bits of a key: the keys that stand for themselves reach
+	// from -32768 to this one.
+	LargestLineKey = 32767
+
+	// The longest memo that is sure to be kept, in UTF-16 units: what one record of the device's store
+	// holds.
+	LongestMemo = 32734
+
+	// The projection of the side view. With the plan `height` pixels high, a plan pixel that lies
+	// `right` of its left edge and `up` from its bottom edge becomes the pixel
+	//
+	//     x = SideAcross * (SideUp * up + SideRight * right)
+	//     y = height / 2 - SideRise * (SideUp * up - SideRight * right)
+	//
+	// A height above the height base adds its metres at the plan's scale, straight up.
+	SideRight  = 0.9
+	SideUp     = 0.7
+	SideAcross = 0.8660254037844387 // cos 30 degrees
+	SideRise   = 0.5                // sin 30 degrees
+)
+
 var library = syscall.NewLazyDLL("tavix_c.dll")
 
 var (
@@ -441,7 +472,7 @@ func cClrEntLin(instance int32) int32 {
 
 // Keeps a text for a point key (16 bits of it, as lines do); the point need not exist. An empty
 // text removes the memo of a key that has one, and is kept as an empty memo for a key that has
-// none. A memo longer than kTavixLongestMemo may be refused. Returns 0, -1 it could not be added or
+// none. A memo longer than LongestMemo may be refused. Returns 0, -1 it could not be added or
 // written, as when the memo database cannot be opened, -3 it could not be read or deleted.
 func cEntPntMem(instance int32, key int32, memo *uint16) int32 {
 	r, _, _ := procEntPntMem.Call(uintptr(instance), uintptr(key), uintptr(unsafe.Pointer(memo)))

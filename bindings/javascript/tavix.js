@@ -4,7 +4,7 @@
 // what each call does, with units and ranges, stands with the call of the same name in tavix_c.h.
 'use strict';
 
-const { load } = require('./tavix_calls.js');
+const { constants, load } = require('./tavix_calls.js');
 
 class TavixError extends Error {
   constructor(code, reason) {
@@ -74,6 +74,7 @@ function open(koffi, file) {
 
   return {
     calls,
+    constants,
     Plot,
     TavixError,
     version: () => calls.Version(),

@@ -9,6 +9,35 @@ interface
 const
   TavixLibrary = 'tavix_c.dll';
 
+  // What the layer itself refuses: the codes of its own.
+  TavixNoSuchInstance = -101;  // an instance outside 0..4
+  TavixWrongThread = -102;     // called on another thread than that of the instances
+  TavixNullOutput = -103;      // a null where the call has to write
+  TavixFailed = -104;          // no memory, or an exception within the call
+
+  // Pixels that the column of buttons takes from the drawing area, at its right.
+  TavixButtonColumn = 20;
+
+  // Lines and memos name their points by 16 bits of a key: the keys that stand for themselves reach
+  // from -32768 to this one.
+  TavixLargestLineKey = 32767;
+
+  // The longest memo that is sure to be kept, in UTF-16 units: what one record of the device's
+  // store holds.
+  TavixLongestMemo = 32734;
+
+  // The projection of the side view. With the plan `height` pixels high, a plan pixel that lies
+  // `right` of its left edge and `up` from its bottom edge becomes the pixel
+  //
+  //     x = TavixSideAcross * (TavixSideUp * up + TavixSideRight * right)
+  //     y = height / 2 - TavixSideRise * (TavixSideUp * up - TavixSideRight * right)
+  //
+  // A height above the height base adds its metres at the plan's scale, straight up.
+  TavixSideRight = 0.9;
+  TavixSideUp = 0.7;
+  TavixSideAcross = 0.8660254037844387;  // cos 30 degrees
+  TavixSideRise = 0.5;                   // sin 30 degrees
+
 // ---- The layer
 
 function TavixC_Version: Integer;

@@ -6,6 +6,35 @@ Units, ranges and codes: tavix_c.h.
 
 from ctypes import POINTER, c_double, c_int, c_short, c_uint, c_void_p, c_wchar_p
 
+# What the layer itself refuses: the codes of its own.
+NO_SUCH_INSTANCE = -101  # an instance outside 0..4
+WRONG_THREAD = -102      # called on another thread than that of the instances
+NULL_OUTPUT = -103       # a null where the call has to write
+FAILED = -104            # no memory, or an exception within the call
+
+# Pixels that the column of buttons takes from the drawing area, at its right.
+BUTTON_COLUMN = 20
+
+# Lines and memos name their points by 16 bits of a key: the keys that stand for themselves reach
+# from -32768 to this one.
+LARGEST_LINE_KEY = 32767
+
+# The longest memo that is sure to be kept, in UTF-16 units: what one record of the device's store
+# holds.
+LONGEST_MEMO = 32734
+
+# The projection of the side view. With the plan `height` pixels high, a plan pixel that lies
+# `right` of its left edge and `up` from its bottom edge becomes the pixel
+#
+#     x = SIDE_ACROSS * (SIDE_UP * up + SIDE_RIGHT * right)
+#     y = height / 2 - SIDE_RISE * (SIDE_UP * up - SIDE_RIGHT * right)
+#
+# A height above the height base adds its metres at the plan's scale, straight up.
+SIDE_RIGHT = 0.9
+SIDE_UP = 0.7
+SIDE_ACROSS = 0.8660254037844387  # cos 30 degrees
+SIDE_RISE = 0.5                   # sin 30 degrees
+
 # Name, result, arguments.
 CALLS = [
     # The layer

@@ -2,7 +2,11 @@
 
 from description import ARRAY_OUTPUTS, TEXT, TEXT_OUTPUT, WINDOW
 from writers.flat import HANDLE, INT, PREFIX, all_calls, flat_parameters
-from writers.wording import as_comment, comment_of, reworded
+from writers.wording import as_comment, comment_of, constant_lines, reworded, upper_case
+
+
+def _spelled(constant):
+    return f"TAVIX_C_{upper_case(constant)}"
 
 
 def _c_parameters(call):
@@ -32,21 +36,27 @@ def _declaration(call):
 
 
 def header(description, template):
-    """The text of tavix_c.h: the template with the version and the calls filled in."""
+    """The text of tavix_c.h: the template with version, constants and calls filled in."""
     lines = []
     for family in description.families:
         lines += [f"// ---- {family.title} ".ljust(100, "-"), ""]
         if family.comment:
-            lines += as_comment(reworded(family.comment, PREFIX), "//")
+            lines += as_comment(reworded(family.comment, PREFIX, _spelled), "//")
             lines.append("")
         for call in family.calls:
-            lines += as_comment(comment_of(call, PREFIX), "//")
+            lines += as_comment(comment_of(call, PREFIX, _spelled), "//")
             lines += _declaration(call)
             lines.append("")
     calls = "\n".join(lines).strip("\n")
     for part, number in zip(("MAJOR", "MINOR", "PATCH"), description.version):
         template = template.replace(f"@{part}@", str(number))
-    return template.replace("@CALLS@", calls)
+    # In brackets where an operator could take the sign for its own.
+    constants = constant_lines(
+        description, "//", _spelled,
+        lambda c, _: f"#define {_spelled(c.name)} "
+                  + (f"({c.value})" if c.value.startswith("-") else c.value))
+    return (template.replace("@CONSTANTS@", "\n".join(constants).strip("\n"))
+            .replace("@CALLS@", calls))
 
 
 def _argument(p):

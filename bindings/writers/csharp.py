@@ -5,7 +5,7 @@ from xml.sax.saxutils import escape
 from description import ARRAY_OUTPUTS
 from writers.flat import (BUFFER, DOUBLE, DOUBLE_OUT, DOUBLES, HANDLE, INT, INT_OUT, SHORT,
                           SHORT_OUT, TEXT_IN, UNSIGNED, all_calls)
-from writers.wording import MADE_FROM, words_of
+from writers.wording import MADE_FROM, constant_lines, words_of
 
 _TYPES = {INT: "int", SHORT: "short", DOUBLE: "double", UNSIGNED: "uint", HANDLE: "IntPtr",
           TEXT_IN: "string", BUFFER: "char[]", INT_OUT: "out int", SHORT_OUT: "out short",
@@ -13,8 +13,12 @@ _TYPES = {INT: "int", SHORT: "short", DOUBLE: "double", UNSIGNED: "uint", HANDLE
 _RESERVED = {"on"}
 
 
+def _spelled(constant):
+    return f"Constants.{constant}"
+
+
 def _summary(call):
-    lines = [escape(line) for line in words_of(call, "        ///")]
+    lines = [escape(line) for line in words_of(call, "        ///", _spelled)]
     if not lines:
         return []
     return ["        /// <summary>"] + lines + ["        /// </summary>"]
@@ -32,7 +36,11 @@ def _parameter(call, p):
 def declarations(description):
     lines = [f"// {MADE_FROM}", "// Units, ranges and codes: tavix_c.h.", "using System;",
              "using System.Runtime.InteropServices;", "", "namespace Tavix", "{",
-             "    // The calls of tavix_c.dll, one to one.", "    public static class Calls", "    {"]
+             "    public static class Constants", "    {"]
+    lines += constant_lines(description, "//", str,
+                            lambda c, _: f"public const {c.type} {c.name} = {c.value};",
+                            indent="        ")[1:]
+    lines += ["    }", "", "    // The calls of tavix_c.dll, one to one.", "    public static class Calls", "    {"]
     for title, calls in all_calls(description):
         lines += [f"        // ---- {title}", ""]
         for call in calls:

@@ -2,7 +2,7 @@
 
 from writers.flat import (BUFFER, DOUBLE, DOUBLE_OUT, DOUBLES, HANDLE, INT, INT_OUT, SHORT,
                           SHORT_OUT, TEXT_IN, UNSIGNED, all_calls)
-from writers.wording import MADE_FROM, words_of
+from writers.wording import MADE_FROM, constant_lines, words_of
 
 _TYPES = {INT: "int32", SHORT: "int16", DOUBLE: "float64", UNSIGNED: "uint32", HANDLE: "uintptr",
           TEXT_IN: "*uint16", BUFFER: "*uint16", INT_OUT: "*int32", SHORT_OUT: "*int16",
@@ -22,7 +22,11 @@ def _word(p):
 def declarations(description):
     lines = [f"// {MADE_FROM}", "// Units, ranges and codes: tavix_c.h.", "", "package tavix", "",
              "import (", '\t"math"', '\t"syscall"', '\t"unsafe"', ")", "",
-             'var library = syscall.NewLazyDLL("tavix_c.dll")', "", "var ("]
+             "const ("]
+    lines += constant_lines(description, "//", str,
+                            lambda c, longest: f"{c.name.ljust(longest)} = {c.value}",
+                            indent="\t", gap=" ")[1:]
+    lines += [")", "", 'var library = syscall.NewLazyDLL("tavix_c.dll")', "", "var ("]
     calls = [call for _, family in all_calls(description) for call in family]
     width = max(len(call.name) for call in calls)
     lines += [f'\tproc{call.name.removeprefix("TavixC_").ljust(width - 7)} = '
@@ -34,7 +38,7 @@ def declarations(description):
         parameters = ", ".join(f"{p.name} {_TYPES[p.type]}" for p in call.parameters)
         words = ", ".join(_word(p) for p in call.parameters)
         lines.append("")
-        lines += words_of(call, "//") or []
+        lines += words_of(call, "//", str) or []
         lines += [f"func c{name}({parameters}) {result} {{",
                   f"\tr, _, _ := proc{name}.Call({words})",
                   f"\treturn {result}(r)", "}"]

@@ -2,7 +2,7 @@
 
 from writers.flat import (BUFFER, DOUBLE, DOUBLE_OUT, DOUBLES, HANDLE, INT, INT_OUT, SHORT,
                           SHORT_OUT, TEXT_IN, UNSIGNED, all_calls)
-from writers.wording import MADE_FROM
+from writers.wording import MADE_FROM, constant_lines, upper_case
 
 # An output is an array of one number that the call fills.
 _TYPES = {INT: "int", SHORT: "short", DOUBLE: "double", UNSIGNED: "uint", HANDLE: "void*",
@@ -12,7 +12,10 @@ _TYPES = {INT: "int", SHORT: "short", DOUBLE: "double", UNSIGNED: "uint", HANDLE
 
 def declarations(description):
     lines = [f"// {MADE_FROM}", "// Units, ranges and codes: tavix_c.h.", "'use strict';", "",
-             "// Each call of tavix_c.dll, one to one, by its name without TavixC_.",
+             "const constants = {"]
+    lines += constant_lines(description, "//", upper_case,
+                            lambda c, _: f"{upper_case(c.name)}: {c.value},", indent="  ")[1:]
+    lines += ["};", "", "// Each call of tavix_c.dll, one to one, by its name without TavixC_.",
              "const prototypes = ["]
     for title, calls in all_calls(description):
         lines.append(f"  // {title}")
@@ -24,5 +27,5 @@ def declarations(description):
               "  const calls = {};", "  for (const prototype of prototypes) {",
               "    const name = /TavixC_(\\w+)/.exec(prototype)[1];",
               "    calls[name] = library.func(prototype);", "  }", "  return calls;", "}", "",
-              "module.exports = { load };"]
+              "module.exports = { constants, load };"]
     return "\n".join(lines) + "\n"

@@ -2,7 +2,7 @@
 
 from writers.flat import (BUFFER, DOUBLE, DOUBLE_OUT, DOUBLES, HANDLE, INT, INT_OUT, SHORT,
                           SHORT_OUT, TEXT_IN, UNSIGNED, all_calls)
-from writers.wording import MADE_FROM
+from writers.wording import MADE_FROM, constant_lines, upper_case
 
 _TYPES = {INT: "c_int", SHORT: "c_short", DOUBLE: "c_double", UNSIGNED: "c_uint",
           HANDLE: "c_void_p", TEXT_IN: "c_wchar_p", BUFFER: "c_wchar_p",
@@ -14,7 +14,10 @@ def declarations(description):
     lines = [f'"""The calls of tavix_c.dll for ctypes, one to one.', "", MADE_FROM,
              'Units, ranges and codes: tavix_c.h.', '"""', "",
              "from ctypes import POINTER, c_double, c_int, c_short, c_uint, c_void_p, c_wchar_p",
-             "", "# Name, result, arguments.", "CALLS = ["]
+]
+    lines += constant_lines(description, "#", upper_case,
+                            lambda c, _: f"{upper_case(c.name)} = {c.value}")
+    lines += ["", "# Name, result, arguments.", "CALLS = ["]
     for title, calls in all_calls(description):
         lines.append(f"    # {title}")
         for call in calls:

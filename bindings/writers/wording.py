@@ -3,7 +3,17 @@
 import re
 import textwrap
 
+from description import CONSTANT_PREFIX, Constant, ConstantGroup
+
 MADE_FROM = "Made from tavix.h by bindings/make_bindings.py; changes belong there."
+
+# The refusals of the layer itself.
+LAYER_CODES = ConstantGroup(
+    ["What the layer itself refuses: the codes of its own."],
+    [Constant("NoSuchInstance", "int", "-101", "an instance outside 0..4"),
+     Constant("WrongThread", "int", "-102", "called on another thread than that of the instances"),
+     Constant("NullOutput", "int", "-103", "a null where the call has to write"),
+     Constant("Failed", "int", "-104", "no memory, or an exception within the call")])
 
 # The comments of the calls that are about the current instance itself.
 _OWN_COMMENTS = {
@@ -36,16 +46,24 @@ def _paragraphs(lines):
         yield " ".join(run)
 
 
-def comment_of(call, prefix):
-    """The comment of a call as filled paragraphs, its calls named with `prefix`."""
-    return reworded(_OWN_COMMENTS.get(call.name, call.comment), prefix)
+def upper_case(name):
+    """ButtonColumn as BUTTON_COLUMN."""
+    return re.sub(r"(?<=[a-z])(?=[A-Z])", "_", name).upper()
 
 
-def reworded(lines, prefix):
+def comment_of(call, prefix, spelled):
+    """The comment of a call as filled paragraphs: see `reworded`."""
+    return reworded(_OWN_COMMENTS.get(call.name, call.comment), prefix, spelled)
+
+
+def reworded(lines, prefix, spelled):
+    """The lines as filled paragraphs, in which calls are named with `prefix` and constants as
+    `spelled` gives them."""
     paragraphs = []
     for text in _paragraphs(lines):
         for pattern, replacement in _REWORDED:
             text = re.sub(pattern, replacement.format(prefix=prefix), text)
+        text = re.sub(rf"\b{CONSTANT_PREFIX}(\w+)", lambda name: spelled(name[1]), text)
         paragraphs.append(text)
     return paragraphs
 
@@ -60,8 +78,26 @@ def as_comment(paragraphs, mark, width=100, indent=""):
     return lines
 
 
-def words_of(flat_call, mark):
+def words_of(flat_call, mark, spelled):
     """The comment of a call of the C layer as lines that begin with `mark`."""
     if not flat_call.call:
         return []
-    return as_comment(comment_of(flat_call.call, "TavixC_"), mark)
+    return as_comment(comment_of(flat_call.call, "TavixC_", spelled), mark)
+
+
+def constant_lines(description, mark, spelled, written, indent="", gap="  "):
+    """The layer's codes and the fixed values with their comments, a blank line before each group.
+
+    `written` makes the line of a constant from it and the longest name of its group, without its
+    note, which `gap` divides from the longest line.
+    """
+    lines = []
+    for group in [LAYER_CODES, *description.constants]:
+        lines += [""] + as_comment(reworded(group.comment, "TavixC_", spelled), mark,
+                                   indent=indent)
+        longest = max(len(constant.name) for constant in group.constants)
+        texts = [indent + written(constant, longest) for constant in group.constants]
+        width = max(len(text) for text in texts)
+        for text, constant in zip(texts, group.constants):
+            lines.append(f"{text.ljust(width)}{gap}{mark} {constant.note}" if constant.note else text)
+    return lines

@@ -99,8 +99,8 @@ inline constexpr int kTavixLongestMemo = 32734;
 // The projection of the side view. With the plan `height` pixels high, a plan pixel that lies
 // `right` of its left edge and `up` from its bottom edge becomes the pixel
 //
-//     kTavixSideAcross * (kTavixSideUp * up + kTavixSideRight * right)   from the left edge,
-//     kTavixSideRise * (kTavixSideUp * up - kTavixSideRight * right)     above the middle.
+//     x = kTavixSideAcross * (kTavixSideUp * up + kTavixSideRight * right)
+//     y = height / 2 - kTavixSideRise * (kTavixSideUp * up - kTavixSideRight * right)
 //
 // A height above the height base adds its metres at the plan's scale, straight up.
 inline constexpr double kTavixSideRight = 0.9;

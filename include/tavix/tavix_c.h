@@ -27,7 +27,7 @@
 //  9. All calls and all window messages of all instances run on one thread: the one that made the
 //     first instance, until the last one is deleted.
 // 10. Calls return 0 for success. Refusals are negative: -1 to -7 come from the library and are
-//     said with each call; the layer's own are those of the enumeration below. TavixC_LastError
+//     said with each call; the layer's own stand below, TAVIX_C_FAILED and others. TavixC_LastError
 //     gives the reason in words. No C++ exception leaves a call.
 // 11. Messages: a tap on a point posts WM_COMMAND to the window's parent, see "Picking". A message
 //     loop hands every message to TavixC_PreTranslate first, so that the arrow keys pan.
@@ -52,16 +52,40 @@
 #define TAVIX_C_CALL __declspec(dllimport)
 #endif
 
+// ---- Fixed values ------------------------------------------------------------------------------
+
+// What the layer itself refuses: the codes of its own.
+#define TAVIX_C_NO_SUCH_INSTANCE (-101)  // an instance outside 0..4
+#define TAVIX_C_WRONG_THREAD (-102)      // called on another thread than that of the instances
+#define TAVIX_C_NULL_OUTPUT (-103)       // a null where the call has to write
+#define TAVIX_C_FAILED (-104)            // no memory, or an exception within the call
+
+// Pixels that the column of buttons takes from the drawing area, at its right.
+#define TAVIX_C_BUTTON_COLUMN 20
+
+// Lines and memos name their points by 16 bits of a key: the keys that stand for themselves reach
+// from -32768 to this one.
+#define TAVIX_C_LARGEST_LINE_KEY 32767
+
+// The longest memo that is sure to be kept, in UTF-16 units: what one record of the device's store
+// holds.
+#define TAVIX_C_LONGEST_MEMO 32734
+
+// The projection of the side view. With the plan `height` pixels high, a plan pixel that lies
+// `right` of its left edge and `up` from its bottom edge becomes the pixel
+//
+//     x = TAVIX_C_SIDE_ACROSS * (TAVIX_C_SIDE_UP * up + TAVIX_C_SIDE_RIGHT * right)
+//     y = height / 2 - TAVIX_C_SIDE_RISE * (TAVIX_C_SIDE_UP * up - TAVIX_C_SIDE_RIGHT * right)
+//
+// A height above the height base adds its metres at the plan's scale, straight up.
+#define TAVIX_C_SIDE_RIGHT 0.9
+#define TAVIX_C_SIDE_UP 0.7
+#define TAVIX_C_SIDE_ACROSS 0.8660254037844387  // cos 30 degrees
+#define TAVIX_C_SIDE_RISE 0.5                   // sin 30 degrees
+
 #ifdef __cplusplus
 extern "C" {
 #endif
-
-enum {
-  TAVIX_C_NO_SUCH_INSTANCE = -101,  // an instance outside 0..4
-  TAVIX_C_WRONG_THREAD = -102,      // called on another thread than that of the instances
-  TAVIX_C_NULL_OUTPUT = -103,       // a null where the call has to write
-  TAVIX_C_FAILED = -104             // no memory
-};
 
 // ---- The layer ---------------------------------------------------------------------------------
 
@@ -73,7 +97,9 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Version(void);
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_LastError(wchar_t* text, int capacity, int* length);
 
 // Gives a message (MSG*) to the plot windows before it is translated and dispatched. Returns 1 when
-// one of them took it: the message is then not to be dispatched; 0 otherwise and for null.
+// one of them took it: the message is then not to be dispatched. Returns 0 otherwise, and where
+// TavixC_LastError gives a reason: for a null, for a window of another thread, on another thread
+// than the instances', and when an exception ended the call, as with no memory for a redraw.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_PreTranslate(void* message);
 
 // ---- Instances and their windows ----------------------------------------------------------------
@@ -310,8 +336,8 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ClrEntLin(int instance);
 
 // Keeps a text for a point key (16 bits of it, as lines do); the point need not exist. An empty
 // text removes the memo of a key that has one, and is kept as an empty memo for a key that has
-// none. A memo longer than kTavixLongestMemo may be refused. Returns 0, -1 it could not be added or
-// written, as when the memo database cannot be opened, -3 it could not be read or deleted.
+// none. A memo longer than TAVIX_C_LONGEST_MEMO may be refused. Returns 0, -1 it could not be added
+// or written, as when the memo database cannot be opened, -3 it could not be read or deleted.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_EntPntMem(int instance, int key, const wchar_t* memo);
 
 // Writes the memo of a key; an empty one when there is none or it cannot be read. Returns 0.

@@ -2,6 +2,7 @@
 // as the call behind it.
 #include <gtest/gtest.h>
 
+#include <new>
 #include <string>
 #include <thread>
 
@@ -22,6 +23,29 @@ std::wstring LastError() {
 bool BeginsWith(const std::wstring& text, const std::string& begin) {
   return text.compare(0, begin.size(), std::wstring(begin.begin(), begin.end())) == 0;
 }
+
+// A window that takes every message it is asked about, after doing what the test gives it to do.
+class HearingWindow : public CWnd {
+ public:
+  explicit HearingWindow(void (*act)()) : act_(act) {
+    EXPECT_TRUE(CreateEx(0, nullptr, L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
+  }
+
+  BOOL PreTranslateMessage(MSG*) override {
+    ++heard_;
+    act_();
+    return TRUE;
+  }
+
+  // A message of a pressed key to this window.
+  [[nodiscard]] MSG Key() const { return {m_hWnd, WM_KEYDOWN, 'A', 1, 0, {}}; }
+
+  [[nodiscard]] int Heard() const { return heard_; }
+
+ private:
+  void (*act_)();
+  int heard_ = 0;
+};
 
 class CLayer : public PlotTest {
  protected:
@@ -192,7 +216,57 @@ TEST_F(CLayer, HandsTheArrowKeysToThePlot) {
   EXPECT_EQ(1, visible) << "half a drawing area further west";
   key.message = WM_KEYUP;
   EXPECT_EQ(0, TavixC_PreTranslate(&key));
+  EXPECT_EQ(L"", LastError());
+}
+
+TEST_F(CLayer, TranslatesNothingOfANullMessage) {
   EXPECT_EQ(0, TavixC_PreTranslate(nullptr));
+  EXPECT_TRUE(BeginsWith(LastError(), "TavixC_PreTranslate"));
+}
+
+TEST_F(CLayer, TranslatesMessagesOfItsOwnThreadOnly) {
+  ASSERT_EQ(0, TavixC_Crt(3));
+  HearingWindow window([] {});
+  MSG key = window.Key();
+  std::thread([&] {
+    EXPECT_EQ(0, TavixC_PreTranslate(&key)) << "a window of another thread";
+    EXPECT_TRUE(BeginsWith(LastError(), "TavixC_PreTranslate"));
+    HearingWindow beside([] {});
+    MSG here = beside.Key();
+    EXPECT_EQ(0, TavixC_PreTranslate(&here)) << "the instances live on another thread";
+    EXPECT_TRUE(BeginsWith(LastError(), "TavixC_PreTranslate"));
+    EXPECT_EQ(0, beside.Heard());
+  }).join();
+  EXPECT_EQ(0, window.Heard());
+  EXPECT_EQ(1, TavixC_PreTranslate(&key));
+  EXPECT_EQ(1, window.Heard());
+}
+
+TEST_F(CLayer, LetsNoExceptionOutOfATranslation) {
+  ASSERT_EQ(0, TavixC_Crt(3));
+  Tavix_SetIdx(1);
+  const struct {
+    void (*raise)();
+    const wchar_t* reason;
+  } rows[] = {
+      {[] { throw std::bad_alloc(); }, L"TavixC_PreTranslate: there was not enough memory"},
+      {[] { AfxThrowMemoryException(); }, L"TavixC_PreTranslate: there was not enough memory"},
+      {[] { AfxThrowUserException(); }, L"TavixC_PreTranslate: an exception ended the call"},
+      {[] { throw 7; }, L"TavixC_PreTranslate: an exception ended the call"},
+  };
+  for (const auto& row : rows) {
+    HearingWindow window(row.raise);
+    MSG key = window.Key();
+    EXPECT_EQ(0, TavixC_PreTranslate(&key));
+    EXPECT_EQ(1, window.Heard());
+    EXPECT_EQ(row.reason, LastError());
+    EXPECT_EQ(1, CurrentIndex());
+  }
+  ASSERT_EQ(0, TavixC_Del(3));
+  std::thread([] {
+    EXPECT_EQ(0, TavixC_Crt(0));
+    EXPECT_EQ(0, TavixC_Del(0));
+  }).join();
 }
 
 }  // namespace

@@ -4,16 +4,12 @@
 
 #include <utility>
 
+#include "tests/support/program_folder.h"
+
 namespace tavix::test {
 namespace {
 
 constexpr DWORD kPatience = 60000;  // milliseconds; only a program that hangs takes so long
-
-std::filesystem::path ProgramFile() {
-  wchar_t path[MAX_PATH] = {};
-  ::GetModuleFileNameW(nullptr, path, MAX_PATH);
-  return std::filesystem::path(path).parent_path() / L"second_program.exe";
-}
 
 struct Pipe {
   HANDLE reading = nullptr;
@@ -47,13 +43,13 @@ SecondProgram::SecondProgram() {
   startup.hStdInput = input.reading;
   startup.hStdOutput = output.writing;
   PROCESS_INFORMATION information = {};
-  const std::wstring program = ProgramFile().wstring();
+  const std::wstring program = BesideProgram(L"second_program.exe").wstring();
   if (::CreateProcessW(program.c_str(), nullptr, nullptr, nullptr, TRUE, 0, nullptr, nullptr,
                        &startup, &information)) {
     process_ = information.hProcess;
     ::CloseHandle(information.hThread);
   }
-  EXPECT_NE(nullptr, process_) << ProgramFile();
+  EXPECT_NE(nullptr, process_) << BesideProgram(L"second_program.exe");
   Close(input.reading);
   Close(output.writing);
   commands_ = input.writing;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "tests/support/private_folder.h"
+#include "tests/support/program_folder.h"
 
 namespace tavix::test {
 namespace {
@@ -15,7 +16,7 @@ class LoadedCopy : public testing::Test {
  protected:
   LoadedCopy() {
     const std::filesystem::path file = folder_.Path() / L"tavix_copy.dll";
-    std::filesystem::copy_file(TAVIX_LIBRARY_FILE, file);
+    std::filesystem::copy_file(BesideProgram(L"tavix.dll"), file);
     library_ = ::LoadLibraryW(file.c_str());
   }
   ~LoadedCopy() override { Unload(); }

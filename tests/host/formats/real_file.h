@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "host/survey/survey_loader.h"
+#include "tests/support/project_folder.h"
 
 namespace fieldhost {
 
@@ -17,8 +18,7 @@ class RealFile : public testing::Test {
  protected:
   // The file's survey, read without a complaint; skips the test when there is no such file.
   void Load(const char* name) {
-    const std::vector<std::filesystem::path> files = {std::filesystem::path(TAVIX_SHARED_DATA) /
-                                                      name};
+    const std::vector<std::filesystem::path> files = {tavix::test::SharedData(name)};
     if (!std::filesystem::exists(files[0])) {
       GTEST_SKIP() << "The real survey file " << name << " is not at hand.";
     }

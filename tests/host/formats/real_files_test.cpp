@@ -85,8 +85,8 @@ TEST_F(RealFile, ListOfManyStations) {
 }
 
 TEST_F(RealFile, TableThatIsNoListOfPointsIsRefused) {
-  const std::vector<std::filesystem::path> files = {std::filesystem::path(TAVIX_SHARED_DATA) /
-                                                    "clothoid-reference.csv"};
+  const std::vector<std::filesystem::path> files = {
+      tavix::test::SharedData("clothoid-reference.csv")};
   if (!std::filesystem::exists(files[0])) GTEST_SKIP() << "The real table is not at hand.";
   const LoadedSurvey loaded = LoadSurveyFiles(files);
   EXPECT_FALSE(loaded.survey.HasAnythingToDraw());

@@ -7,6 +7,8 @@
 #include <iterator>
 #include <string>
 
+#include "tests/support/project_folder.h"
+
 namespace fieldhost {
 namespace {
 
@@ -54,7 +56,7 @@ TEST(SurveyFormats, TheLastTakesAnything) {
 }
 
 TEST(SurveyFormats, AreAllInTheReadme) {
-  std::ifstream file(FIELDHOST_README);
+  std::ifstream file(tavix::test::ProjectFolder() / "host/README.md");
   const std::string readme{std::istreambuf_iterator<char>(file), {}};
   ASSERT_FALSE(readme.empty());
   for (const SurveyFormat& format : SurveyFormats()) {

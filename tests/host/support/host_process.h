@@ -4,10 +4,12 @@
 #include <windows.h>
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <thread>
 #include <vector>
 
+#include "tests/host/support/child_process.h"
 #include "tests/host/support/owned_handle.h"
 
 namespace fieldhost {
@@ -43,14 +45,11 @@ class HostProcess {
   [[nodiscard]] HWND WaitForWindow(const wchar_t* title);
 
  private:
-  void Start(const HostStart& start, const std::vector<std::wstring>& arguments);
   void WatchOver(DWORD longest_life) const;
 
   std::filesystem::path folder_;
-  OwnedHandle job_;
   OwnedHandle gone_;  // set when this object goes
-  HANDLE process_ = nullptr;
-  DWORD id_ = 0;
+  std::optional<ChildProcess> host_;
   std::thread watch_;
 };
 

@@ -10,13 +10,15 @@
 #include <string_view>
 #include <system_error>
 
+#include "tests/support/project_folder.h"
+
 namespace fieldhost {
 
 class HostTest : public testing::Test {
  protected:
   void SetUp() override {
     const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-    folder_ = std::filesystem::path(testing::TempDir()) / L"fieldhost 現場" /
+    folder_ = std::filesystem::temp_directory_path() / L"fieldhost 現場" /
               (test->name() + std::to_string(::GetCurrentProcessId()));
     std::filesystem::remove_all(folder_);
     std::filesystem::create_directories(folder_);
@@ -40,7 +42,7 @@ class HostTest : public testing::Test {
   }
 
   static std::wstring Sample(const wchar_t* name) {
-    return (std::filesystem::path(TAVIX_HOST_SAMPLE) / name).wstring();
+    return (tavix::test::ProjectFolder() / L"host\\resources\\sample" / name).wstring();
   }
 
   std::filesystem::path folder_;

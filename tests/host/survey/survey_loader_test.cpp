@@ -20,7 +20,7 @@ class SurveyLoader : public testing::Test {
  protected:
   void SetUp() override {
     const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-    folder_ = std::filesystem::path(testing::TempDir()) / PathOf("fieldhost 測量") / test->name();
+    folder_ = std::filesystem::temp_directory_path() / PathOf("fieldhost 測量") / test->name();
     std::filesystem::remove_all(folder_);
     std::filesystem::create_directories(folder_);
   }

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -12,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/project_folder.h"
 #include "window/buttons/button_table.h"
 
 namespace {
@@ -23,13 +25,16 @@ struct Picture {
   std::string pixels;  // as stored: padded rows, bottom up
 };
 
-std::string PictureFolder() { return std::string(TAVIX_BUTTON_PICTURES) + "/"; }
+// Where the build makes them.
+std::filesystem::path PictureFolder() {
+  return tavix::test::ProjectFolder() / TAVIX_BUTTON_PICTURES;
+}
 
 // The ids and files that the resource script lists; an id listed twice keeps the first file and
 // fails the calling test.
 std::map<int, std::string> ListedFiles() {
   std::map<int, std::string> files;
-  std::ifstream script(PictureFolder() + "buttons.rc");
+  std::ifstream script(PictureFolder() / "buttons.rc");
   for (std::string line; std::getline(script, line);) {
     std::istringstream words(line);
     int id = 0;
@@ -52,7 +57,7 @@ std::uint32_t Number(const std::string& bytes, std::size_t at, std::size_t count
 }
 
 Picture Read(const std::string& name) {
-  std::ifstream file(PictureFolder() + name, std::ios::binary);
+  std::ifstream file(PictureFolder() / name, std::ios::binary);
   const std::string bytes{std::istreambuf_iterator<char>(file), {}};
   if (bytes.size() < 54 || bytes[0] != 'B' || bytes[1] != 'M') {
     ADD_FAILURE() << name << " is no bitmap file";

@@ -10,6 +10,7 @@
 #include "host/survey/load_report.h"
 #include "tests/figure/curves/table_file.h"
 #include "tests/host/formats/real_file.h"
+#include "tests/support/project_folder.h"
 
 namespace fieldhost {
 namespace {
@@ -122,8 +123,7 @@ void ExpectPiece(const PlanPiece& piece, const TableRow& row) {
 
 std::vector<TableRow> RowsOf(const std::string& source) {
   std::vector<TableRow> rows;
-  for (TableRow& row :
-       tavix::test::ReadTable(std::filesystem::path(TAVIX_SHARED_DATA) / "curves.csv")) {
+  for (TableRow& row : tavix::test::ReadTable(tavix::test::SharedData("curves.csv"))) {
     if (row.Text("source") == source) rows.push_back(std::move(row));
   }
   return rows;
