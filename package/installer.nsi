@@ -1,6 +1,6 @@
-; The installer. package/installer.cmake runs makensis on it and gives:
+; The installer. package/make_packages.cmake runs makensis on it and gives:
 ;   VERSION  ARCHITECTURE  STAGE (the laid-out package)  OUTPUT
-;   FILES.nsh: the macros InstallFiles and RemoveFiles, one line for each file and folder
+;   files.nsh: the macros InstallFiles and RemoveFiles, one line for each file and folder
 ; Silent:  setup.exe /S [/D=FOLDER]     and     FOLDER\uninstall.exe /S
 !if ${ARCHITECTURE} == x86_64
   Target amd64-unicode
@@ -9,7 +9,7 @@
   Target x86-unicode
   !define PROGRAMS $PROGRAMFILES32
 !endif
-!include FILES.nsh
+!include files.nsh
 
 !define APPS Software\Microsoft\Windows\CurrentVersion\Uninstall\Tavix
 !define PUBLISHER "The Tavix authors"

@@ -71,7 +71,7 @@ class Package:
         return self._compile_cpp("by_hand.exe", "tests/package/package_host.cpp", [])
 
     def build_with_framework(self):
-        """The same for a framework-style host, which names the folder of the framework's headers."""
+        """A framework-style host, which names the folder of the framework's headers."""
         return self._compile_cpp(
             "framework.exe",
             "samples/minimal/minimal.cpp",
