@@ -63,7 +63,7 @@ install(DIRECTORY bindings/csharp bindings/go bindings/javascript bindings/pasca
 install(FILES bindings/README.md DESTINATION share/tavix/bindings)
 install(DIRECTORY samples host DESTINATION share/tavix
   PATTERN "*_iconv.cpp" EXCLUDE PATTERN "*_expat.cpp" EXCLUDE PATTERN host/CMakeLists.txt EXCLUDE
-  PATTERN __pycache__ EXCLUDE)
+  PATTERN __pycache__ EXCLUDE PATTERN .gitattributes EXCLUDE)
 install(FILES package/host.cmake DESTINATION share/tavix/host RENAME CMakeLists.txt)
 
 install(DIRECTORY ${PROJECT_BINARY_DIR}/msvc DESTINATION lib OPTIONAL)

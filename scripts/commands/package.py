@@ -61,6 +61,8 @@ class Package:
         """The package's DLLs that a program in `work` needs and does not have beside it."""
         dlls = {path.name for path in (self._prefix / "bin").glob("*.dll")}
         for path in [*work.rglob("*.exe"), *work.rglob("*.dll")]:
+            if "CMakeFiles" in path.parts:
+                continue  # what CMake compiled to know the compiler
             _, listing = call(["x86_64-w64-mingw32-objdump", "-p", path])
             for name in re.findall(r"DLL Name: (\S+)", listing):
                 if name in dlls and not path.with_name(name).exists():
