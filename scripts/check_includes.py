@@ -6,8 +6,8 @@
 
 Reports an include that the table does not allow, an include in quotes that does not start from
 the project's root (in a public header: from its own folder, since hosts give no other), a portable
-source that sees the platform's headers, circles of includes, and
-patterns of the table that match no file. Exits with 1 when it found any.
+source that sees the platform's headers, circles of includes, and patterns of the table that match
+no file. Exits with 1 when it found any.
 """
 
 import posixpath
