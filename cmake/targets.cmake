@@ -13,6 +13,8 @@ endif()
 if(WIN32)
   target_compile_definitions(tavix_warnings INTERFACE
     UNICODE _UNICODE WINVER=0x0A00 _WIN32_WINNT=0x0A00 NOMINMAX)
+  # The same sources give the same bytes, whenever they are linked.
+  add_link_options(-Wl,--no-insert-timestamp)
 endif()
 
 # Headers take longer to read than most sources that include them. `tavix_precompile(NAME HEADERS ...

@@ -11,6 +11,7 @@ import shutil
 import sys
 from pathlib import Path
 
+from commands.installer import check_packages
 from commands.package import check_hosts
 from commands.reports import count
 from commands.script_tests import count_script_tests
@@ -97,7 +98,10 @@ def plan():
             1, title, *([ROOT / "scripts/check_exports.py", "--dll", library.with_name(name)]
                         for name in ("tavix.dll", "tavix_c.dll")))
         title = f"building hosts against the {preset} package"
-        steps.count(10, title, lambda _, preset=preset, runs=runs: check_hosts(ROOT, preset, runs))
+        steps.count(15, title, lambda _, preset=preset, runs=runs: check_hosts(ROOT, preset, runs))
+        title = f"making the {preset} packages" + (", installing and removing one" if runs else "")
+        steps.count(
+            15, title, lambda _, preset=preset, runs=runs: check_packages(ROOT, preset, runs))
     return steps
 
 

@@ -14,6 +14,8 @@ for_test=(
   g++ g++-mingw-w64-i686-posix clang-tidy clang-format git googletest libexpat1-dev
   # The other languages: Visual C++'s rules and import libraries, Go, C#, Pascal.
   clang llvm golang-go mono-mcs libmono-system-windows-forms4.0-cil fp-compiler
+  # The package: hosts that are built by pkg-config, the installer.
+  pkgconf nsis
 )
 for_all=(libbenchmark-dev libclang-rt-14-dev)
 case "${1:-}" in

@@ -71,7 +71,12 @@
 //
 #pragma once
 
+// The installed package has the framework in a folder of its own, beside this one.
+#if __has_include("../tavix-framework/afxwin.h")
+#include "../tavix-framework/afxwin.h"
+#else
 #include <afxwin.h>
+#endif
 
 #define TAVIX_VERSION_MAJOR 1
 #define TAVIX_VERSION_MINOR 0
