@@ -1,5 +1,7 @@
 #include "window/plot_display.h"
 
+#include <utility>
+
 #include "draw/dib/dib_canvas.h"
 #include "draw/gdi_canvas.h"
 
@@ -12,6 +14,7 @@ PlotDisplay::PlotDisplay(CWnd& window, const PlotLinks& links, const RatioSettin
       side_(links, buffer_, band_) {}
 
 void PlotDisplay::ShowSideView(bool on) {
+  FinishRedraw();
   if (on) {
     plan_.Moved().Hide();
     shown_ = &side_;
@@ -23,6 +26,14 @@ void PlotDisplay::ShowSideView(bool on) {
 
 int PlotDisplay::Redraw() {
   if (!surfaces_.window.m_hWnd) return 0;
+  redraw_pending_ = true;
+  plan_.ShowAllFigures();
+  surfaces_.window.InvalidateRect(&buffer_.Rect(), TRUE);
+  return 0;
+}
+
+void PlotDisplay::FinishRedraw() {
+  if (!std::exchange(redraw_pending_, false)) return;
   buffer_.Fill();
   plan_.Trace().ForgetSegments();
   if (buffer_.Pixels().pixels) {
@@ -33,8 +44,10 @@ int PlotDisplay::Redraw() {
     shown_->Draw(canvas);
   }
   for (Overlay* overlay : shown_->Overlays()) overlay->DrawInto(buffer_.Dc());
-  surfaces_.window.InvalidateRect(&buffer_.Rect(), TRUE);
-  return 0;
+}
+
+void PlotDisplay::LeaveOutNewFigures() {
+  if (redraw_pending_) plan_.LeaveOutNewFigures();
 }
 
 int PlotDisplay::ViewChanged() {

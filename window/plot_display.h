@@ -1,4 +1,7 @@
 // What a plot window shows: one of two scenes, drawn into the back buffer and copied to the screen.
+//
+// A redraw invalidates the window at once and is drawn when its picture is needed: by the paint, or
+// before something changes that it shows. However many are asked for until then, one is drawn.
 #pragma once
 
 #include <afxwin.h>
@@ -27,8 +30,17 @@ class PlotDisplay {
   [[nodiscard]] PlanScene& Plan() { return plan_; }
   [[nodiscard]] RubberBand& Band() { return band_; }
 
-  // Draws everything into the back buffer and has the window repainted. Always 0.
+  // Has everything drawn, and invalidates the window. Always 0.
   int Redraw();
+
+  // Draws the redraw that is pending, if one is. To be called before anything but Redraw reaches
+  // for the back buffer, and before a change of what is drawn (data, legend, view, scene) that no
+  // redraw follows.
+  void FinishRedraw();
+
+  // The same before a figure is added: as it comes after all others, a pending redraw can stay
+  // pending and leave it out.
+  void LeaveOutNewFigures();
 
   // The same after every change of the view, and for every redraw that a host asks for.
   int ViewChanged();
@@ -44,6 +56,7 @@ class PlotDisplay {
   PlanScene plan_;
   SideScene side_;
   Scene* shown_ = &plan_;
+  bool redraw_pending_ = false;
 };
 
 }  // namespace tavix

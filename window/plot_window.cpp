@@ -104,6 +104,7 @@ void CPlotWnd::ApplyButtonFlag(bool show_buttons) {
   if (m_hWnd) GetClientRect(&client);
   const int column = show_buttons ? ButtonColumnLayout::kWidth : 0;
   CViewState& view = parts_->links.view;
+  parts_->display.FinishRedraw();
   view.SetScreenSize(client.right - column, client.bottom);
   view.SetRatio(1.0);
   parts_->buttons.Show(show_buttons);
@@ -177,6 +178,8 @@ BOOL CPlotWnd::OnEraseBkgnd(CDC* dc) {
 }
 
 void CPlotWnd::OnPaint() {
+  // Before the background is erased: what is on the screen stays there until the picture is ready.
+  parts_->display.FinishRedraw();
   CPaintDC dc(this);
   CRect clip;
   const int region = dc.GetClipBox(&clip);

@@ -45,7 +45,15 @@ PlotData PlanScene::Data() const {
   return {view_, legend_, links_.points, links_.lines, links_.figures, draws_lines_};
 }
 
-void PlanScene::Draw(PlanCanvas& canvas) const { DrawPlanView(canvas, Data()); }
+void PlanScene::LeaveOutNewFigures() {
+  if (!figures_shown_) figures_shown_ = links_.figures.Count();
+}
+
+void PlanScene::Draw(PlanCanvas& canvas) const {
+  PlotData data = Data();
+  if (figures_shown_) data.figure_count = *figures_shown_;
+  DrawPlanView(canvas, data);
+}
 
 template <class DrawOn>
 void PlanScene::DrawAtOnce(DrawOn draw) {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
+#include <optional>
 
 #include "draw/plan_view.h"
 #include "window/overlays/map_surround.h"
@@ -33,6 +35,10 @@ class PlanScene : public Scene {
   // Pans by half the drawing area.
   void PressArrow(WPARAM key) override;
 
+  // From now on draws the figures there are at this moment only, or all of them.
+  void LeaveOutNewFigures();
+  void ShowAllFigures() { figures_shown_.reset(); }
+
   // What a drawing pass of the plan reads.
   [[nodiscard]] PlotData Data() const;
 
@@ -51,6 +57,7 @@ class PlanScene : public Scene {
   const PlotLinks& links_;
   const OverlaySurfaces& surfaces_;
   bool draws_lines_ = true;
+  std::optional<std::int32_t> figures_shown_;  // the first so many; nothing: all
   PaperFrameOverlay frame_;
   NorthArrowOverlay north_arrow_;
   ScaleBarOverlay scale_bar_;
