@@ -4,11 +4,14 @@
 
 #include "draw/dib/dib_canvas.h"
 #include "draw/gdi_canvas.h"
+#include "window/buttons/button_column.h"
 
 namespace tavix {
 
-PlotDisplay::PlotDisplay(CWnd& window, const PlotLinks& links, const RatioSetting& ratio)
-    : surfaces_{window, buffer_.Dc(), links.view},
+PlotDisplay::PlotDisplay(CWnd& window, const ButtonColumn& buttons, const PlotLinks& links,
+                         const RatioSetting& ratio)
+    : buttons_(buttons),
+      surfaces_{window, buffer_.Dc(), links.view},
       band_(window),
       plan_(links, surfaces_, ratio, band_),
       side_(links, buffer_, band_) {}
@@ -28,7 +31,7 @@ int PlotDisplay::Redraw() {
   if (!surfaces_.window.m_hWnd) return 0;
   redraw_pending_ = true;
   plan_.ShowAllFigures();
-  surfaces_.window.InvalidateRect(&buffer_.Rect(), TRUE);
+  buttons_.InvalidateAround(surfaces_.window, buffer_.Rect());
   return 0;
 }
 

@@ -14,10 +14,13 @@
 
 namespace tavix {
 
+class ButtonColumn;
+
 class PlotDisplay {
  public:
   // Shows the plan. `ratio` decides which axis the scale bar measures.
-  PlotDisplay(CWnd& window, const PlotLinks& links, const RatioSetting& ratio);
+  PlotDisplay(CWnd& window, const ButtonColumn& buttons, const PlotLinks& links,
+              const RatioSetting& ratio);
 
   // Makes the back buffer, once the window has been made.
   void CreateBuffer() { buffer_.Create(surfaces_.window); }
@@ -49,6 +52,7 @@ class PlotDisplay {
   void Paint(CDC& paint, const CRect& clip);
 
  private:
+  const ButtonColumn& buttons_;
   BackBuffer buffer_;
   RasterCache raster_cache_;
   OverlaySurfaces surfaces_;

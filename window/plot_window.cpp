@@ -33,7 +33,7 @@ ScreenPoint ToScreen(CPoint point) {
 struct CPlotWnd::Parts {
   Parts(CPlotWnd& window, UINT notify_id, const PlotLinks& plot_links)
       : links(plot_links),
-        display(window, links, ratio),
+        display(window, buttons, links, ratio),
         navigation(links.view, display, ratio),
         modes({window, display, links.view, links.points}, notify_id, navigation, buttons),
         settings(window, display, navigation, links.legend),
@@ -49,6 +49,7 @@ struct CPlotWnd::Parts {
   SettingsCommand settings;
   ButtonCommands commands;
   OneBitPlot one_bit;
+  bool painting = false;  // BeginPaint is erasing the background
 };
 
 BEGIN_MESSAGE_MAP(CPlotWnd, CWnd)
@@ -173,17 +174,23 @@ void CPlotWnd::OnCaptureChanged(CWnd* taker) {
 BOOL CPlotWnd::OnEraseBkgnd(CDC* dc) {
   CRect client;
   GetClientRect(&client);
+  if (parts_->painting) parts_->buttons.ExcludeFrom(*dc);
   ::FillRect(dc->m_hDC, &client, ::GetSysColorBrush(COLOR_WINDOW));
+  // The system can have the background erased before the paint; that covers the buttons, too.
+  if (!parts_->painting && ::WindowFromDC(dc->m_hDC) == m_hWnd) parts_->buttons.Invalidate();
   return TRUE;
 }
 
 void CPlotWnd::OnPaint() {
   // Before the background is erased: what is on the screen stays there until the picture is ready.
   parts_->display.FinishRedraw();
+  parts_->painting = true;
   CPaintDC dc(this);
+  parts_->painting = false;
   CRect clip;
   const int region = dc.GetClipBox(&clip);
   if (region == NULLREGION || region == ERROR) return;
+  parts_->buttons.ExcludeFrom(dc);
   parts_->display.Paint(dc, clip);
 }
 
