@@ -12,8 +12,9 @@ PlotDisplay::PlotDisplay(CWnd& window, const ButtonColumn& buttons, const PlotLi
                          const RatioSetting& ratio)
     : buttons_(buttons),
       surfaces_{window, buffer_.Dc(), links.view},
+      immediate_(window, buffer_, raster_cache_),
       band_(window),
-      plan_(links, surfaces_, ratio, band_),
+      plan_(links, surfaces_, immediate_, ratio, band_),
       side_(links, buffer_, band_) {}
 
 void PlotDisplay::ShowSideView(bool on) {
@@ -37,6 +38,7 @@ int PlotDisplay::Redraw() {
 
 void PlotDisplay::FinishRedraw() {
   if (!std::exchange(redraw_pending_, false)) return;
+  immediate_.Release();
   buffer_.Fill();
   plan_.Trace().ForgetSegments();
   if (buffer_.Pixels().pixels) {
@@ -59,6 +61,7 @@ int PlotDisplay::ViewChanged() {
 }
 
 void PlotDisplay::Paint(CDC& paint, const CRect& clip) {
+  immediate_.Release();
   paint.BitBlt(clip.left, clip.top, clip.Width(), clip.Height(), &buffer_.Dc(), clip.left, clip.top,
                SRCCOPY);
   for (Overlay* overlay : shown_->Overlays()) overlay->PutBack(paint);

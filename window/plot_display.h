@@ -7,6 +7,7 @@
 #include <afxwin.h>
 
 #include "draw/dib/raster_cache.h"
+#include "window/immediate_surfaces.h"
 #include "window/output.h"
 #include "window/overlays/rubber_band.h"
 #include "window/scenes/plan_scene.h"
@@ -48,6 +49,9 @@ class PlotDisplay {
   // The same after every change of the view, and for every redraw that a host asks for.
   int ViewChanged();
 
+  // To be called before the window goes: gives back what is kept of its screen.
+  void ReleaseScreen() { immediate_.Release(); }
+
   // Copies the buffer, and puts the overlays back over it.
   void Paint(CDC& paint, const CRect& clip);
 
@@ -56,6 +60,7 @@ class PlotDisplay {
   BackBuffer buffer_;
   RasterCache raster_cache_;
   OverlaySurfaces surfaces_;
+  ImmediateSurfaces immediate_;
   RubberBand band_;
   PlanScene plan_;
   SideScene side_;

@@ -59,6 +59,7 @@ ON_WM_PAINT()
 ON_WM_LBUTTONDOWN()
 ON_WM_MOUSEMOVE()
 ON_WM_CAPTURECHANGED()
+ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 CPlotWnd::CPlotWnd(UINT notify_id, const PlotLinks& links)
@@ -169,6 +170,11 @@ void CPlotWnd::OnLButtonUp(UINT flags, CPoint point) {
 void CPlotWnd::OnCaptureChanged(CWnd* taker) {
   if (taker != this) parts_->modes.CancelGesture();
   CWnd::OnCaptureChanged(taker);
+}
+
+void CPlotWnd::OnDestroy() {
+  parts_->display.ReleaseScreen();
+  CWnd::OnDestroy();
 }
 
 BOOL CPlotWnd::OnEraseBkgnd(CDC* dc) {

@@ -2,6 +2,9 @@
 // buffer, and what a full redraw makes of it are one picture.
 #include <tavix/tavix.h>
 
+#include <cstdint>
+#include <functional>
+#include <iterator>
 #include <random>
 #include <string>
 
@@ -11,6 +14,18 @@
 
 namespace tavix::test {
 namespace {
+
+// The GDI objects of this process. Wine does not count them, but takes the index of one for it.
+int GdiObjects() {
+  if (const DWORD known = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS)) {
+    return static_cast<int>(known);
+  }
+  int count = 0;
+  for (std::uintptr_t index = 1; index < 0x10000; ++index) {
+    if (::GetObjectType(reinterpret_cast<HGDIOBJ>(index)) != 0) ++count;
+  }
+  return count;
+}
 
 class ImmediateDrawing : public PlotTest {
  protected:
@@ -105,6 +120,105 @@ TEST_F(ImmediateDrawing, SparesTheButtons) {
   for (int y = 0; y < 180; ++y) {
     for (int x = 180; x < 200; ++x) ASSERT_EQ(before.At(x, y), after.At(x, y)) << x << ", " << y;
   }
+}
+
+// What is kept from one point to the next goes along with the window.
+TEST_F(ImmediateDrawing, KeepsUpWithItsWindow) {
+  MakePlot(200, 160);
+  Tavix_DrwFlg(1);
+  const PointLegend looks[] = {{10, 15, 12, 0, 1, RGB(255, 0, 0)},
+                               {2, 12, 0, 0, 3, RGB(0, 0, 255)},
+                               {9, 12, 10, 0, 1, RGB(0, 0, 255)}};
+  const short legends[] = {AddLegend(looks[0]), AddLegend(looks[1]), AddLegend(looks[2])};
+  const struct {
+    const char* what;
+    std::function<void()> happens;
+  } rows[] = {
+      {"nothing", [] {}},
+      {"moved", [] { ::SetWindowPos(Window(), nullptr, 300, 50, 0, 0, SWP_NOSIZE); }},
+      {"hidden and shown", [] { Tavix_Dsp(0), Tavix_Dsp(1), Shown(); }},
+      {"redrawn", [] { Redrawn(); }},
+      {"redrawn without a paint", [] { Tavix_Drw(1), Tavix_DelEntPnt(999), Shown(); }},
+      {"painted", [] { ::InvalidateRect(Window(), nullptr, TRUE), Shown(); }},
+      {"traced over", [] { Tavix_VoAdd(-50, -50), Tavix_VoAdd(50, 50), Tavix_VoEnd(); }},
+      {"another point moved", [] { Tavix_MvPntMov(0, 0), Tavix_MvPntEnd(); }},
+      {"the legend changed and back",
+       [&] {
+         Tavix_ChgPntHan(legends[0], 3, 1, 0, 20, 0, 0);
+         Tavix_ChgPntHan(legends[0], 10, 1, RGB(255, 0, 0), 15, 12, 0);
+       }},
+  };
+  RawCanvas canvas(Window());
+  int key = 0;
+  for (const auto& [what, happens] : rows) {
+    happens();
+    for (std::size_t i = 0; i < std::size(looks); ++i) {
+      const POINT at{15 + key % 6 * 30, 20 + key / 6 * 25};
+      const std::wstring name = L"N" + std::to_wstring(key);
+      EXPECT_EQ(0, Enter(key++, GroundAt(at), legends[i], name));
+      DrawRawPoint(canvas.Dc(), looks[i], at, name);
+    }
+    EXPECT_TRUE(SamePicture(canvas.Take(), TakeClientPicture(Window()))) << what;
+  }
+  ExpectOnePicture();
+}
+
+TEST_F(ImmediateDrawing, SparesAWindowThatHasComeMeanwhile) {
+  MakePlot(100, 100);
+  Tavix_DrwFlg(1);
+  const short legend = AddLegend({10, 300, 0, 0, 1, RGB(255, 0, 0)});
+  const short small = AddLegend({10, 8, 0, 0, 1, RGB(255, 0, 0)});
+  EXPECT_EQ(0, Enter(1, {0.0, 0.0}, small));
+  const HWND cover = ::CreateWindowExW(0, L"STATIC", L"note", WS_CHILD | WS_VISIBLE, 20, 20, 50, 40,
+                                       Window(), nullptr, ::GetModuleHandleW(nullptr), nullptr);
+  ::UpdateWindow(cover);
+  const Picture covered = TakeClientPicture(cover);
+  EXPECT_EQ(0, Enter(2, {0.0, 0.0}, legend));
+  EXPECT_TRUE(SamePicture(covered, TakeClientPicture(cover)));
+  ::DestroyWindow(cover);
+  EXPECT_EQ(100 * 100, CountPixels(Shown(), 0xFF0000));
+}
+
+TEST_F(ImmediateDrawing, LeavesOthersAloneWhenItsWindowIsGone) {
+  MakePlot(100, 100);
+  Tavix_DrwFlg(1);
+  const PointLegend look{10, 20, 12, 0, 1, RGB(255, 0, 0)};
+  const short legend = AddLegend(look);
+  EXPECT_EQ(0, Enter(1, {0.0, 0.0}, legend));
+  ::DestroyWindow(Window());
+  EXPECT_EQ(0, Enter(2, {9.0, 9.0}, legend));
+
+  Tavix_SetIdx(1);
+  ASSERT_NO_FATAL_FAILURE(MakePlot(120, 90));
+  Tavix_DrwFlg(1);
+  const short other = AddLegend(look);
+  RawCanvas canvas(Window());
+  EXPECT_EQ(0, Enter(1, GroundAt({30, 30}), other, L"A"));
+  DrawRawPoint(canvas.Dc(), look, {30, 30}, L"A");
+  Tavix_SetIdx(0);
+  EXPECT_EQ(0, Tavix_Del());
+  EXPECT_EQ(0, Enter(2, GroundAt({70, 40}), other, L"B"));
+  DrawRawPoint(canvas.Dc(), look, {70, 40}, L"B");
+  EXPECT_TRUE(SamePicture(canvas.Take(), TakeClientPicture(Window())));
+  ExpectOnePicture();
+}
+
+TEST_F(ImmediateDrawing, KeepsNoObjectsOfWindowsThatAreGone) {
+  const auto life = [this] {
+    MakePlot(100, 100);
+    Tavix_DrwFlg(1);
+    for (int i = 0; i < 20; ++i) {
+      const PointLegend look{i % 13, 10, 8 + i, 0, i % 3, RGB(10 * i, 0, 0)};
+      EXPECT_EQ(0, Enter(i, {1.0 * i, 2.0}, AddLegend(look), L"A"));
+      EXPECT_EQ(0, Tavix_EntLin(i / 2, i));
+    }
+    EXPECT_EQ(0, Tavix_Del());
+  };
+  life();
+  const int before = GdiObjects();
+  ASSERT_NE(0, before);
+  for (int i = 0; i < 20; ++i) life();
+  EXPECT_EQ(before, GdiObjects());
 }
 
 TEST_F(ImmediateDrawing, StaysInItsOwnWindow) {

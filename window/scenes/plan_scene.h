@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 #include "draw/plan_view.h"
@@ -14,11 +15,13 @@
 
 namespace tavix {
 
+class ImmediateSurfaces;
+
 class PlanScene : public Scene {
  public:
-  // `band` is the topmost overlay; it belongs to the window.
-  PlanScene(const PlotLinks& links, const OverlaySurfaces& surfaces, const RatioSetting& ratio,
-            RubberBand& band);
+  // New entities are drawn on `immediate`. `band` is the topmost overlay; it belongs to the window.
+  PlanScene(const PlotLinks& links, const OverlaySurfaces& surfaces, ImmediateSurfaces& immediate,
+            const RatioSetting& ratio, RubberBand& band);
 
   int Fit() override;
   void Draw(PlanCanvas& canvas) const override;
@@ -51,11 +54,11 @@ class PlanScene : public Scene {
   [[nodiscard]] TracedLine& Trace() { return traced_line_; }
 
  private:
-  template <class DrawOn>
-  void DrawAtOnce(DrawOn draw);
+  void DrawAtOnce(const std::function<void(PlanCanvas&)>& draw);
 
   const PlotLinks& links_;
   const OverlaySurfaces& surfaces_;
+  ImmediateSurfaces& immediate_;
   bool draws_lines_ = true;
   std::optional<std::int32_t> figures_shown_;  // the first so many; nothing: all
   PaperFrameOverlay frame_;
