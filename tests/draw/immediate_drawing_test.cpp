@@ -163,6 +163,65 @@ TEST_F(ImmediateDrawing, KeepsUpWithItsWindow) {
   ExpectOnePicture();
 }
 
+// Two instances get the same; the second also paints a pixel each time, which gives back all that
+// is kept.
+TEST_F(ImmediateDrawing, IsTheSameWithNothingKept) {
+  constexpr int kInstancesHere = 2;
+  for (int index = 0; index < kInstancesHere; ++index) {
+    Tavix_SetIdx(index);
+    ASSERT_EQ(0, Tavix_Crt());
+    ASSERT_EQ(0, LinkPlot(200, 160, {10 + 250 * index, 10}));
+    Tavix_SetBtn(0);
+    Tavix_Dsp(1);
+    Tavix_DrwFlg(1);
+    Redrawn();
+  }
+  std::mt19937 random(4711);
+  const auto below = [&random](unsigned limit) { return static_cast<int>(random() % limit); };
+  const wchar_t* const names[] = {L"P12", L"測点", L"a&b", L"ｱｲ", L""};
+  for (int step = 0; step < 400; ++step) {
+    const PointLegend look = RandomSymbol(random);
+    const int what = below(12);
+    const auto number = static_cast<short>(1 + below(11));
+    const auto line = static_cast<short>(101 + below(5));
+    const wchar_t* const name = names[below(5)];
+    const Ground at{below(1600) / 10.0 - 80.0, below(2000) / 10.0 - 100.0};
+    const int other = below(static_cast<unsigned>(step + 1));
+    Picture pictures[kInstancesHere];
+    for (int index = 0; index < kInstancesHere; ++index) {
+      Tavix_SetIdx(index);
+      if (what < 6) {
+        Enter(step, at, number, name, step % 7);
+      } else if (what < 8) {
+        Tavix_SelLinHan(line);
+        Tavix_EntLin(other, step / 2);
+      } else if (what == 8) {
+        Tavix_ChgPntHan(number, look.kind, look.width, static_cast<int>(look.color), look.size,
+                        look.text_height, look.label_number);
+      } else if (what == 9) {
+        Tavix_ChgLinHan(line, line, 5, 3, 2, 1 + step % 3, static_cast<int>(look.color));
+      } else if (what == 10) {
+        Tavix_VoAdd(at.x, at.y);
+      } else {
+        Tavix_VoDel();
+      }
+      if (index == 1) {
+        const RECT pixel{0, 0, 1, 1};
+        ::InvalidateRect(Window(), &pixel, TRUE);
+        ::UpdateWindow(Window());
+      }
+      pictures[index] = TakeClientPicture(Window());
+    }
+    ASSERT_TRUE(SamePicture(pictures[1], pictures[0])) << step;
+  }
+  for (int index = 0; index < kInstancesHere; ++index) {
+    Tavix_SetIdx(index);
+    const Picture on_screen = TakeClientPicture(Window());
+    ::InvalidateRect(Window(), nullptr, TRUE);
+    EXPECT_TRUE(SamePicture(on_screen, Shown())) << "the buffer has something else";
+  }
+}
+
 TEST_F(ImmediateDrawing, SparesAWindowThatHasComeMeanwhile) {
   MakePlot(100, 100);
   Tavix_DrwFlg(1);
