@@ -126,10 +126,10 @@ TEST_F(ImmediateDrawing, SparesTheButtons) {
 TEST_F(ImmediateDrawing, KeepsUpWithItsWindow) {
   MakePlot(200, 160);
   Tavix_DrwFlg(1);
-  const PointLegend looks[] = {{10, 15, 12, 0, 1, RGB(255, 0, 0)},
-                               {2, 12, 0, 0, 3, RGB(0, 0, 255)},
-                               {9, 12, 10, 0, 1, RGB(0, 0, 255)}};
-  const short legends[] = {AddLegend(looks[0]), AddLegend(looks[1]), AddLegend(looks[2])};
+  const PointLegend symbols[] = {{10, 15, 12, 0, 1, RGB(255, 0, 0)},
+                                 {2, 12, 0, 0, 3, RGB(0, 0, 255)},
+                                 {9, 12, 10, 0, 1, RGB(0, 0, 255)}};
+  const short legends[] = {AddLegend(symbols[0]), AddLegend(symbols[1]), AddLegend(symbols[2])};
   const struct {
     const char* what;
     std::function<void()> happens;
@@ -152,11 +152,11 @@ TEST_F(ImmediateDrawing, KeepsUpWithItsWindow) {
   int key = 0;
   for (const auto& [what, happens] : rows) {
     happens();
-    for (std::size_t i = 0; i < std::size(looks); ++i) {
+    for (std::size_t i = 0; i < std::size(symbols); ++i) {
       const POINT at{15 + key % 6 * 30, 20 + key / 6 * 25};
       const std::wstring name = L"N" + std::to_wstring(key);
       EXPECT_EQ(0, Enter(key++, GroundAt(at), legends[i], name));
-      DrawRawPoint(canvas.Dc(), looks[i], at, name);
+      DrawRawPoint(canvas.Dc(), symbols[i], at, name);
     }
     EXPECT_TRUE(SamePicture(canvas.Take(), TakeClientPicture(Window()))) << what;
   }
