@@ -9,7 +9,7 @@
 //   floor     the same picture by the plainest sequence of drawing calls from flat arrays
 //   plain     the plan view's passes by GDI
 //   fast      the same passes into the bits
-//   redraw    the exported call
+//   redraw    the exported call, up to the finished picture
 //
 // with their ratios to the floor, and how many pixels of `fast` differ from `plain` and, where no
 // line is cut, from the floor.
@@ -184,6 +184,7 @@ void Measure(SIZE size, Plot& plot, const RedrawScene& scene, bool whole) {
   });
   const double redraw_ms = MedianMilliseconds([] {
     Tavix_Drw(1);
+    Tavix_SetAng(kSceneAngle);  // a change of the view: the redraw is drawn before it
     ::GdiFlush();
   });
   const int different = fast.Differences(plain) + (whole ? fast.Differences(floor) : 0);

@@ -21,7 +21,8 @@ void DrawFigure(LinePainter& painter, const Figure& figure) {
 
 void DrawFigures(PlanCanvas& canvas, const PlotData& data) {
   LinePainter painter(canvas, data.view, data.legend);
-  data.figures.ForEach([&](const Figure& figure) { DrawFigure(painter, figure); });
+  data.figures.ForEach([&](const Figure& figure) { DrawFigure(painter, figure); },
+                       data.figure_count);
 }
 
 // A line whose end point is missing is passed over.

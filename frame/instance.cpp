@@ -29,8 +29,12 @@ Instance::~Instance() {
 }
 
 CViewState& Instance::View() { return parts_->view; }
-CFigList& Instance::Figures() { return parts_->figures; }
 LegendTable& Instance::Legend() { return parts_->legend.Table(); }
+
+CFigList& Instance::Figures() {
+  if (window_) window_->Display().LeaveOutNewFigures();
+  return parts_->figures;
+}
 
 int Instance::Clear() {
   if (const int code = parts_->points.Clear(); code != 0) return code;
@@ -75,6 +79,14 @@ int Instance::Redraw(bool keep_view) {
   PlotDisplay& display = window_->Display();
   if (!keep_view) display.Shown().Fit();  // with nothing to fit the view stays
   return display.ViewChanged();
+}
+
+void Instance::FinishRedraw() {
+  if (window_) window_->Display().FinishRedraw();
+}
+
+void Instance::FinishRedrawUnlessAnotherFollows() {
+  if (!auto_redraw_) FinishRedraw();
 }
 
 int Instance::RedrawAfterChange(int code) {

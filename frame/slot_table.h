@@ -49,7 +49,8 @@ class SlotTable {
 
 constexpr int kRefused = -1;
 
-// Has `call` answer for the current instance, and refuses where there is none.
+// Has `call` answer for the current instance, and refuses where there is none. A redraw that is
+// pending stays pending: the call changes nothing of what is drawn, or knows itself what to do.
 template <class Call>
 int OnInstance(Call call) {
   Instance* instance = Slots().Current();
@@ -60,6 +61,21 @@ int OnInstance(Call call) {
 template <class Call>
 int OnWindow(Call call) {
   return OnInstance(
+      [&](Instance& instance) { return instance.Window() ? call(*instance.Window()) : kRefused; });
+}
+
+// The same for calls that change what is drawn and do not redraw: a redraw that is pending is
+// drawn first, so that it shows what there was when it was asked for.
+template <class Call>
+int ChangeInstance(Call call) {
+  return OnInstance([&](Instance& instance) {
+    instance.FinishRedraw();
+    return call(instance);
+  });
+}
+template <class Call>
+int ChangeWindow(Call call) {
+  return ChangeInstance(
       [&](Instance& instance) { return instance.Window() ? call(*instance.Window()) : kRefused; });
 }
 

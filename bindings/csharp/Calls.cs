@@ -152,10 +152,12 @@ namespace Tavix
         public static extern int TavixC_DrwFlg(int instance, int @on);
 
         /// <summary>
-        /// Redraws the window; with `keepView` 0 the view is first fitted to the data. With nothing
-        /// to fit the view stays. The side view is fitted as seen from above: laid flat, its far
-        /// right may lie outside of a narrow window; its height base is then the lowest height,
-        /// rounded down to a whole metre. Needs a linked window (-1 without one); returns 0.
+        /// Redraws the window; with `keepView` 0 the view is first fitted to the data. As with
+        /// every redraw the window is invalidated, and its next paint shows the picture of this
+        /// moment. With nothing to fit the view stays. The side view is fitted as seen from above:
+        /// laid flat, its far right may lie outside of a narrow window; its height base is then the
+        /// lowest height, rounded down to a whole metre. Needs a linked window (-1 without one);
+        /// returns 0.
         /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]

@@ -231,8 +231,9 @@ func cDrwFlg(instance int32, on int32) int32 {
 	return int32(r)
 }
 
-// Redraws the window; with `keepView` 0 the view is first fitted to the data. With nothing to fit
-// the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
+// Redraws the window; with `keepView` 0 the view is first fitted to the data. As with every redraw
+// the window is invalidated, and its next paint shows the picture of this moment. With nothing to
+// fit the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
 // outside of a narrow window; its height base is then the lowest height, rounded down to a whole
 // metre. Needs a linked window (-1 without one); returns 0.
 func cDrw(instance int32, keepView int32) int32 {

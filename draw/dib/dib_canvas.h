@@ -20,6 +20,9 @@ class DibCanvas : public PlanCanvas {
   // the canvas.
   DibCanvas(CDC& dc, const PixelBlock& block, RasterCache& cache);
 
+  // To be called before more is drawn where GDI may have drawn into the block meanwhile.
+  void Resume() { gdi_.Resume(); }
+
   [[nodiscard]] ScreenBox Visible() const override { return gdi_.Visible(); }
   void UsePen(const Pen& pen) override;
   void Line(const ScreenSegment& segment) override;

@@ -157,8 +157,9 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SetBtn(int instance, int show);
 // Off at first. Always returns 0.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DrwFlg(int instance, int on);
 
-// Redraws the window; with `keepView` 0 the view is first fitted to the data. With nothing to fit
-// the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
+// Redraws the window; with `keepView` 0 the view is first fitted to the data. As with every redraw
+// the window is invalidated, and its next paint shows the picture of this moment. With nothing to
+// fit the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
 // outside of a narrow window; its height base is then the lowest height, rounded down to a whole
 // metre. Needs a linked window (-1 without one); returns 0.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Drw(int instance, int keepView);

@@ -4,6 +4,7 @@
 #include <afxdlgs.h>
 
 #include <string>
+#include <utility>
 
 #include "draw/marks.h"
 #include "platform/wide_text.h"
@@ -42,8 +43,13 @@ ON_BN_CLICKED(IDC_COLOR, &SettingsDialog::OnColor)
 ON_WM_DRAWITEM()
 END_MESSAGE_MAP()
 
-SettingsDialog::SettingsDialog(CWnd* owner, LegendTable& legend, PlotSettings& settings)
-    : TDialog(IDD_SETTINGS, owner), legend_(&legend), settings_(settings), editor_(legend) {}
+SettingsDialog::SettingsDialog(CWnd* owner, LegendTable& legend, PlotSettings& settings,
+                               std::function<void()> before_writing)
+    : TDialog(IDD_SETTINGS, owner),
+      legend_(&legend),
+      settings_(settings),
+      before_writing_(std::move(before_writing)),
+      editor_(legend) {}
 
 BOOL SettingsDialog::OnInitDialog() {
   TDialog::OnInitDialog();
@@ -156,6 +162,7 @@ void SettingsDialog::OnColor() {
 void SettingsDialog::OnOK() {
   if (IsAbandoned()) return;
   TakeEntry();
+  before_writing_();
   editor_.Save(*legend_);
   settings_.draws_lines = IsDlgButtonChecked(IDC_DRAW_LINES) == BST_CHECKED;
   // With a text that is no number in range the position has a high word, and is out of range too.

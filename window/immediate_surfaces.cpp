@@ -1,0 +1,32 @@
+#include "window/immediate_surfaces.h"
+
+namespace tavix {
+
+void ImmediateSurfaces::Draw(const std::function<void(PlanCanvas&)>& draw) {
+  if (window_.IsWindowVisible()) {
+    if (!screen_) screen_.emplace(window_);
+    draw(screen_->canvas);
+  }
+  draw(BufferCanvas());
+}
+
+void ImmediateSurfaces::Release() {
+  screen_.reset();
+  pixels_.reset();
+  buffer_canvas_.reset();
+}
+
+PlanCanvas& ImmediateSurfaces::BufferCanvas() {
+  if (!buffer_.Pixels().pixels) {
+    if (!buffer_canvas_) buffer_canvas_.emplace(buffer_.Dc());
+    return *buffer_canvas_;
+  }
+  if (pixels_) {
+    pixels_->Resume();
+  } else {
+    pixels_.emplace(buffer_.Dc(), buffer_.Pixels(), cache_);
+  }
+  return *pixels_;
+}
+
+}  // namespace tavix
