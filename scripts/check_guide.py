@@ -5,8 +5,8 @@
     scripts/check_guide.py FOLDER    another guide
 
 A page and its program have the same name: 04_taps.md, 04_taps.c. Every piece of C in a page stands in
-its program, line by line; every line by which the program differs from the one before stands in the
-page; and the page shows a picture that exists. Exits with 1 when anything else was found.
+its program, line by line; every line by which the program differs from the one before, but its title in
+the first, stands in the page; and the page shows a picture that exists. Exits with 1 when anything else was found.
 """
 
 import difflib
@@ -44,7 +44,7 @@ def page_problems(page, program, before):
         if not stands_in(piece, program):
             yield f"{page}: not in the program: {piece[0].strip()} ..."
     shown = {line for piece in pieces for line in piece}
-    for line in new_lines(before, program):
+    for line in new_lines(before[1:], program[1:]):
         if line not in shown:
             yield f"{page}: does not show the new line: {line.strip()}"
     pictures = PICTURE.findall(text)
