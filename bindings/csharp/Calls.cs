@@ -454,14 +454,23 @@ namespace Tavix
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
         public static extern int TavixC_ChgPnt3Hid(int instance, int key, short legend);
 
+        /// <summary>
+        /// Changes a point's number and name.
+        /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
         public static extern int TavixC_ChgPnt3NoNam(int instance, int key, int number, string name);
 
+        /// <summary>
+        /// Writes a point's number and name.
+        /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
         public static extern int TavixC_GetPnt3NoNam(int instance, int key, out int number, [Out] char[] name, int capacity, out int length);
 
+        /// <summary>
+        /// Writes a point's coordinates and height.
+        /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
         public static extern int TavixC_GetPnt3Crd(int instance, int key, out double x, out double y, out double z);

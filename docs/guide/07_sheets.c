@@ -37,7 +37,7 @@ enum Kind { kStation, kBoundary, kDetail, kKindCount };
 /* How each kind is drawn. */
 static const struct {
   int mark;       /* 9 filled triangle, 2 circle, 10 filled square */
-  COLORREF color; /* of the mark and the label */
+  COLORREF color; /* of the mark; labels are black */
   int size;       /* of the mark in pixels */
 } kSymbols[kKindCount] = {
     {9, RGB(192, 0, 0), 13},

@@ -37,12 +37,17 @@
 
 #include <stddef.h>
 
+// The first number of the library's version.
 #define TAVIX_VERSION_MAJOR 1
+// The second.
 #define TAVIX_VERSION_MINOR 0
+// The third.
 #define TAVIX_VERSION_PATCH 0
 
 #if !defined(_WIN32)
+// The convention of the calls: that of C.
 #define TAVIX_C_CDECL
+// Imports a call from tavix_c.dll into a host; nothing in the library itself.
 #define TAVIX_C_CALL
 #elif defined(TAVIX_C_LIBRARY_BUILD)
 #define TAVIX_C_CDECL __cdecl
@@ -56,6 +61,7 @@
 extern "C" {
 #endif
 
+// The layer's own refusals.
 enum {
   TAVIX_C_NO_SUCH_INSTANCE = -101,  // an instance outside 0..4
   TAVIX_C_WRONG_THREAD = -102,      // called on another thread than that of the instances
@@ -331,12 +337,15 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_EntPnt3(int instance, int key, int number,
 // Changes a point's legend number. Returns -1 for an unknown key; so do the calls below.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChgPnt3Hid(int instance, int key, short legend);
 
+// Changes a point's number and name.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChgPnt3NoNam(int instance, int key, int number,
                                                    const wchar_t* name);
 
+// Writes a point's number and name.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetPnt3NoNam(int instance, int key, int* number,
                                                    wchar_t* name, int capacity, int* length);
 
+// Writes a point's coordinates and height.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetPnt3Crd(int instance, int key, double* x, double* y,
                                                  double* z);
 
