@@ -6,7 +6,8 @@
 
 A page and its program have the same name: 04_taps.md, 04_taps.c. Every piece of C in a page stands in
 its program, line by line; every line by which the program differs from the one before, but its title in
-the first, stands in the page; and the page shows a picture that exists. Exits with 1 when anything else was found.
+the first, stands in the page; and the page shows a picture that exists. The program in the README is samples/c/shortest.c.
+Exits with 1 when anything else was found.
 """
 
 import difflib
@@ -14,6 +15,7 @@ import re
 import sys
 from pathlib import Path
 
+ROOT = Path(__file__).resolve().parent.parent
 FENCE = re.compile(r"^```(\w*)\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 PICTURE = re.compile(r"!\[[^\]]*\]\(([^)]+)\)")
 
@@ -74,10 +76,24 @@ def problems(folder):
             yield f"{page}: there is no program of this name"
 
 
+def readme_problems(readme, program):
+    """One line for each piece of C in the README that is not in its program."""
+    lines = program.read_text(encoding="utf-8").splitlines()
+    pieces = code_blocks(readme.read_text(encoding="utf-8"))
+    if not pieces:
+        yield f"{readme}: shows no program"
+    for piece in pieces:
+        if not stands_in(piece, lines):
+            yield f"{readme}: not in {program}: {piece[0].strip()} ..."
+
+
 def main():
-    root = Path(__file__).resolve().parent.parent
-    folder = Path(sys.argv[1]) if len(sys.argv) > 1 else root / "docs/guide"
-    found = list(problems(folder))
+    if len(sys.argv) > 1:
+        folder = Path(sys.argv[1])
+        found = list(problems(folder))
+    else:
+        folder = ROOT / "docs/guide"
+        found = [*problems(folder), *readme_problems(ROOT / "README.md", ROOT / "samples/c/shortest.c")]
     for line in found:
         print(line)
     if not found:

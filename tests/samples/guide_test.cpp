@@ -1,5 +1,6 @@
-// The programs of docs/guide, as a user runs them: what their windows show and where, and what they
-// answer. With TAVIX_GUIDE_PICTURES set, each leaves a picture of its window in that folder.
+// The programs of docs/guide and the shortest one, as a user runs them: what their windows show and
+// where, and what they answer. With TAVIX_GUIDE_PICTURES set, each leaves a picture of its window
+// in that folder.
 #include <gtest/gtest.h>
 #include <tavix/tavix.h>
 
@@ -153,6 +154,7 @@ class Guide : public testing::Test {
   // The window as it is once it is painted, for the page.
   void TearDown() override {
     wchar_t folder[MAX_PATH] = L"";
+    if (!program_) return;
     if (!::GetEnvironmentVariableW(L"TAVIX_GUIDE_PICTURES", folder, MAX_PATH)) return;
     if (!::IsWindow(program_->Window())) return;
     RECT place{};
@@ -174,6 +176,15 @@ class Guide : public testing::Test {
   std::wstring page_;
   std::optional<RunningProgram> program_;
 };
+
+TEST_F(Guide, TheShortestHostAnswersATapOnItsPoint) {
+  const RunningProgram program(DataFolder(), {InBuild(L"shortest.exe"), {}, L"Tap the point"});
+  RECT client;
+  ::GetClientRect(program.Plot(), &client);
+  // A single point lies in the middle of what the buttons leave.
+  RunningProgram::Tap(program.Plot(), {(client.right - kTavixButtonColumn) / 2, client.bottom / 2});
+  EXPECT_TRUE(program.Says(L"T-1 was tapped"));
+}
 
 TEST_F(Guide, AWindowHasAnEmptyPlot) {
   RunningProgram& program = Start(L"01_window");

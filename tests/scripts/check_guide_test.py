@@ -7,7 +7,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "scripts"))
 
-from check_guide import problems
+from check_guide import problems, readme_problems
 
 FIRST = "/* 1 */\nint main(void) {\n  return 0;\n}\n"
 SECOND = "/* 2 */\nint main(void) {\n  Draw();\n  return 0;\n}\n"
@@ -54,6 +54,12 @@ class CheckGuideTest(unittest.TestCase):
         (self.path / "01_a.md").unlink()
         self.write("03_c.md", PAGE.format("  Draw();\n"))
         self.assertEqual(["there is no such page", "there is no program of this name"], self.found())
+
+    def test_a_readme_with_code_that_is_not_in_its_program(self):
+        for text, count in (("```c\n  return 0;\n```\n", 0), ("```c\n  return 1;\n```\n", 1), ("", 1)):
+            self.write("README.md", text)
+            found = list(readme_problems(self.path / "README.md", self.path / "01_a.c"))
+            self.assertEqual(count, len(found), found)
 
     def test_a_folder_without_programs(self):
         self.assertEqual(["no program found"], [line.split(": ")[1] for line in problems(self.path / "x")])
