@@ -13,7 +13,7 @@ import sys
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-MAIN_PAGE = ROOT / "docs/guide/README.md"
+MAIN_PAGES = (ROOT / "docs/guide/README.md", ROOT / "README.md")
 SECTION = re.compile(r"^// ---- (.+?) -+$")
 BEHIND = re.compile(r"^(\s*[^\s/].*?)\s+// (.*)$")
 
@@ -75,7 +75,7 @@ def absolute_links(text, folder):
 
     def link(match):
         target = (folder / match[1]).resolve()
-        return "](@ref index)" if target == MAIN_PAGE else f"]({target})"
+        return "](@ref index)" if target in MAIN_PAGES else f"]({target})"
 
     return re.sub(r"\]\(([^():]+\.md)\)", link, text)
 

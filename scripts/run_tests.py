@@ -77,7 +77,8 @@ def plan():
     steps.check(1, "checking who includes whom", [ROOT / "scripts/check_includes.py"])
     title = "checking that a test asks for every exported call"
     steps.check(1, title, [ROOT / "scripts/check_call_tests.py"])
-    steps.check(1, "checking the pages of the guide", [ROOT / "scripts/check_guide.py"])
+    steps.check(1, "checking the pages of the guide", [ROOT / "scripts/check_guide.py"],
+                [ROOT / "scripts/check_translations.py"])
     title = "checking the declarations of other languages"
     steps.check(1, title, [ROOT / "bindings/make_bindings.py", "--check"], *other_compilers())
     steps.count(2, "testing the scripts", lambda _: count_script_tests(ROOT / "tests/scripts"))
