@@ -70,21 +70,26 @@ def doxygen_lines(lines, header):
     return out + ["/// @}"] * in_group
 
 
-def absolute_links(text, folder):
-    """A page's text with absolute paths in place of relative ones to other pages."""
+def links_in_one_folder(text, folder):
+    """A page's text with links that hold in any folder: to pages by their path, to others by name.
+
+    All HTML lies in one folder, with the pictures and the programs of the guide.
+    """
 
     def link(match):
         target = (folder / match[1]).resolve()
+        if target.suffix != ".md":
+            return f"]({target.name})"
         return "](@ref index)" if target in MAIN_PAGES else f"]({target})"
 
-    return re.sub(r"\]\(([^():]+\.md)\)", link, text)
+    return re.sub(r"\]\(([^():]+\.(?:md|c|png|svg))\)", link, text)
 
 
 def main():
     path = Path(sys.argv[1]).resolve()
     text = path.read_text(encoding="utf-8")
     if path.suffix == ".md":
-        print(absolute_links(text, path.parent), end="")
+        print(links_in_one_folder(text, path.parent), end="")
     else:
         print("\n".join(doxygen_lines(text.splitlines(), path.name)))
     return 0

@@ -6,7 +6,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "scripts"))
 
-from doxygen_input import ROOT, absolute_links, doxygen_lines
+from doxygen_input import ROOT, links_in_one_folder, doxygen_lines
 
 HEADER = r"""// A header, C:\Data.
 //
@@ -58,10 +58,10 @@ class DoxygenInputTest(unittest.TestCase):
     def test_a_header_gets_doxygens_marks(self):
         self.assertEqual(MARKED.splitlines(), doxygen_lines(HEADER.splitlines(), "a.h"))
 
-    def test_links_to_pages_become_absolute_and_others_stay(self):
+    def test_links_of_pages_hold_in_one_folder(self):
         self.assertEqual(
-            f"[a]({ROOT}/docs/a.md) [b](b.c) [c](http://x/y.md) [d](@ref index)",
-            absolute_links("[a](../a.md) [b](b.c) [c](http://x/y.md) [d](README.md)",
+            f"[a]({ROOT}/docs/a.md) [b](b.c) ![c](c.png) [d](http://x/y.md) [e](@ref index)",
+            links_in_one_folder("[a](../a.md) [b](../x/b.c) ![c](../x/c.png) [d](http://x/y.md) [e](README.md)",
                            ROOT / "docs/guide"),
         )
 
