@@ -4,7 +4,7 @@
     scripts/make_guide_pictures.py
 
 Needs the preset win64 built. The tests of the guide drive the programs and leave bitmaps; what is
-stored is PNG.
+stored is PNG, with which the same tests compare the windows afterwards.
 """
 
 import os

@@ -39,6 +39,13 @@ bool WaitUntil(const std::function<bool()>& condition) {
   return false;
 }
 
+RECT ClientOnScreen(HWND window) {
+  RECT client;
+  ::GetClientRect(window, &client);
+  ::MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&client), 2);
+  return client;
+}
+
 tavix::test::Picture OnScreen(const RECT& area) {
   const int width = area.right - area.left;
   const int height = area.bottom - area.top;
@@ -100,9 +107,7 @@ int RunningProgram::Close() {
 }
 
 tavix::test::Picture RunningProgram::Shown(HWND plot) {
-  RECT client;
-  ::GetClientRect(plot, &client);
-  ::MapWindowPoints(plot, nullptr, reinterpret_cast<POINT*>(&client), 2);
+  RECT client = ClientOnScreen(plot);
   client.right -= kTavixButtonColumn;
   return OnScreen(client);
 }

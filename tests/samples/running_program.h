@@ -20,6 +20,9 @@ namespace fieldhost {
 // Waits until `condition` holds of another process, which sends no message here when it does.
 [[nodiscard]] bool WaitUntil(const std::function<bool()>& condition);
 
+// Where a window's client area lies on the screen.
+[[nodiscard]] RECT ClientOnScreen(HWND window);
+
 // What the screen shows of `area`, in pixels of the screen; another process's window has no pixels
 // here. Parts of a window paint themselves in their own time.
 [[nodiscard]] tavix::test::Picture OnScreen(const RECT& area);
