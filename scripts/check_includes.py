@@ -30,7 +30,7 @@ LAYERS = {
     "window": ("window/*",),
     "frame": ("frame/*",),
     "bindings": ("bindings/*",),
-    "host": ("host/*", "samples/*"),
+    "host": ("host/*", "samples/*", "docs/guide/*"),
     "tests": ("tests/*", "bench/*", "fuzz/*"),
 }
 

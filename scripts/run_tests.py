@@ -79,9 +79,13 @@ def plan():
     steps.check(1, "checking who includes whom", [ROOT / "scripts/check_includes.py"])
     title = "checking that a test asks for every exported call"
     steps.check(1, title, [ROOT / "scripts/check_call_tests.py"])
+    steps.check(1, "checking the pages of the guide", [ROOT / "scripts/check_guide.py"],
+                [ROOT / "scripts/check_translations.py"])
     title = "checking the declarations of other languages"
     steps.check(1, title, [ROOT / "bindings/make_bindings.py", "--check"], *other_compilers())
     steps.count(2, "testing the scripts", lambda _: count_script_tests(ROOT / "tests/scripts"))
+    title = "making the documents as HTML"
+    steps.check(8, title, *configure_and_build("docs"))
     steps.build(90, "building native", *configure_and_build("native"))
     steps.count(22, "testing native", lambda watch: run_programs("native", watch))
     steps.check(75, "checking with clang-tidy", *configure_and_build("tidy"))

@@ -11,7 +11,7 @@ for_run=(
   libxcomposite1 libxi6 libxinerama1 libxrandr2 libxrender1 libxxf86vm1
 )
 for_test=(
-  g++ g++-mingw-w64-i686-posix clang-tidy clang-format git googletest libexpat1-dev
+  g++ g++-mingw-w64-i686-posix clang-tidy clang-format git googletest libexpat1-dev doxygen
   # The other languages: Visual C++'s rules and import libraries, Go, C#, Pascal.
   clang llvm golang-go mono-mcs libmono-system-windows-forms4.0-cil fp-compiler
   # The package: hosts that are built by pkg-config, the installer.

@@ -31,8 +31,8 @@ namespace Tavix
         //     y = height / 2 - SideRise * (SideUp * up - SideRight * right)
         //
         // A height above the height base adds its metres at the plan's scale, straight up.
-        public const double SideRight = 0.9;
-        public const double SideUp = 0.7;
+        public const double SideRight = 0.9;                  // of a length to the right
+        public const double SideUp = 0.7;                     // of a length upward
         public const double SideAcross = 0.8660254037844387;  // cos 30 degrees
         public const double SideRise = 0.5;                   // sin 30 degrees
     }
@@ -488,14 +488,23 @@ namespace Tavix
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
         public static extern int TavixC_ChgPnt3Hid(int instance, int key, short legend);
 
+        /// <summary>
+        /// Changes a point's number and name.
+        /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
         public static extern int TavixC_ChgPnt3NoNam(int instance, int key, int number, string name);
 
+        /// <summary>
+        /// Writes a point's number and name.
+        /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
         public static extern int TavixC_GetPnt3NoNam(int instance, int key, out int number, [Out] char[] name, int capacity, out int length);
 
+        /// <summary>
+        /// Writes a point's coordinates and height.
+        /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
         public static extern int TavixC_GetPnt3Crd(int instance, int key, out double x, out double y, out double z);

@@ -34,8 +34,8 @@ const (
 	//     y = height / 2 - SideRise * (SideUp * up - SideRight * right)
 	//
 	// A height above the height base adds its metres at the plan's scale, straight up.
-	SideRight  = 0.9
-	SideUp     = 0.7
+	SideRight  = 0.9                // of a length to the right
+	SideUp     = 0.7                // of a length upward
 	SideAcross = 0.8660254037844387 // cos 30 degrees
 	SideRise   = 0.5                // sin 30 degrees
 )
@@ -499,16 +499,19 @@ func cChgPnt3Hid(instance int32, key int32, legend int16) int32 {
 	return int32(r)
 }
 
+// Changes a point's number and name.
 func cChgPnt3NoNam(instance int32, key int32, number int32, name *uint16) int32 {
 	r, _, _ := procChgPnt3NoNam.Call(uintptr(instance), uintptr(key), uintptr(number), uintptr(unsafe.Pointer(name)))
 	return int32(r)
 }
 
+// Writes a point's number and name.
 func cGetPnt3NoNam(instance int32, key int32, number *int32, name *uint16, capacity int32, length *int32) int32 {
 	r, _, _ := procGetPnt3NoNam.Call(uintptr(instance), uintptr(key), uintptr(unsafe.Pointer(number)), uintptr(unsafe.Pointer(name)), uintptr(capacity), uintptr(unsafe.Pointer(length)))
 	return int32(r)
 }
 
+// Writes a point's coordinates and height.
 func cGetPnt3Crd(instance int32, key int32, x *float64, y *float64, z *float64) int32 {
 	r, _, _ := procGetPnt3Crd.Call(uintptr(instance), uintptr(key), uintptr(unsafe.Pointer(x)), uintptr(unsafe.Pointer(y)), uintptr(unsafe.Pointer(z)))
 	return int32(r)

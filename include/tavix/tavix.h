@@ -78,11 +78,15 @@
 #include <afxwin.h>
 #endif
 
+// The first number of the library's version.
 #define TAVIX_VERSION_MAJOR 1
+// The second.
 #define TAVIX_VERSION_MINOR 0
+// The third.
 #define TAVIX_VERSION_PATCH 0
 
 #if defined(TAVIX_LIBRARY_BUILD)
+// Imports a call from tavix.dll into a host; nothing in the library itself.
 #define TAVIX_CALL
 #else
 #define TAVIX_CALL __declspec(dllimport)
@@ -108,8 +112,8 @@ inline constexpr int kTavixLongestMemo = 32734;
 //     y = height / 2 - kTavixSideRise * (kTavixSideUp * up - kTavixSideRight * right)
 //
 // A height above the height base adds its metres at the plan's scale, straight up.
-inline constexpr double kTavixSideRight = 0.9;
-inline constexpr double kTavixSideUp = 0.7;
+inline constexpr double kTavixSideRight = 0.9;                  // of a length to the right
+inline constexpr double kTavixSideUp = 0.7;                     // of a length upward
 inline constexpr double kTavixSideAcross = 0.8660254037844387;  // cos 30 degrees
 inline constexpr double kTavixSideRise = 0.5;                   // sin 30 degrees
 
@@ -364,8 +368,14 @@ TAVIX_CALL int Tavix_EntPnt3(int key, int number, CString name, double x, double
 
 // Changes a point's legend number. Returns -1 for an unknown key; so do the calls below.
 TAVIX_CALL int Tavix_ChgPnt3Hid(int key, short legend);
+
+// Changes a point's number and name.
 TAVIX_CALL int Tavix_ChgPnt3NoNam(int key, int number, CString name);
+
+// Writes a point's number and name.
 TAVIX_CALL int Tavix_GetPnt3NoNam(int key, int* number, CString* name);
+
+// Writes a point's coordinates and height.
 TAVIX_CALL int Tavix_GetPnt3Crd(int key, double* x, double* y, double* z);
 
 // Removes a point; a memo of its key stays.
