@@ -70,8 +70,8 @@ FontIdentity FontIdentity::OfLabels(int height) {
 
 RasterCache::CachedMark::CachedMark(const PointSymbol& symbol) : mask(ProbeMark(symbol)) {}
 
-RasterCache::CachedLabels::CachedLabels(const SmoothFont& labels_font)
-    : labels(labels_font), font(FontIdentity::OfLabels(labels_font.Height())) {}
+RasterCache::CachedLabels::CachedLabels(const SmoothFont& labels_font, MemoryBudget& glyph_memory)
+    : labels(labels_font, glyph_memory), font(FontIdentity::OfLabels(labels_font.Height())) {}
 
 void RasterCache::FollowSettings(const ScreenSettings& settings) {
   labels_.ForEach([](CachedLabels& cached) { cached.checked = false; });
@@ -100,12 +100,12 @@ const MarkMask* RasterCache::Mark(const PointSymbol& symbol) {
 SmoothLabels* RasterCache::Labels(int height, std::uint32_t color) {
   const LabelKey key{height, color};
   const SmoothFont font(height, color, blends_[color]);
-  CachedLabels* cached = labels_.Get(key, font);
+  CachedLabels* cached = labels_.Get(key, font, glyph_memory_);
   if (cached && !cached->checked) {
     cached->checked = true;
     if (cached->font != FontIdentity::OfLabels(height)) {
       labels_.Remove(key);
-      cached = labels_.Get(key, font);
+      cached = labels_.Get(key, font, glyph_memory_);
     }
   }
   return cached ? &cached->labels : nullptr;

@@ -79,17 +79,21 @@ class RasterCache {
   using LabelKey = std::pair<int, std::uint32_t>;
 
   struct CachedLabels {
-    explicit CachedLabels(const SmoothFont& labels_font);
+    CachedLabels(const SmoothFont& labels_font, MemoryBudget& glyph_memory);
 
     SmoothLabels labels;
     FontIdentity font;
     bool checked = true;  // the font is the same as before, since FollowSettings
   };
 
+  // Some ten thousand kanji of a usual height.
+  static constexpr std::size_t kMostGlyphBytes = std::size_t{16} << 20;
+
   bool lines_probed_ = false;
   std::optional<TieRule> lines_;
   BoundedCache<PointSymbol, CachedMark, kMostMarks> marks_;
   std::map<std::uint32_t, BlendTable> blends_;  // by the text's colour
+  MemoryBudget glyph_memory_{kMostGlyphBytes};
   BoundedCache<LabelKey, CachedLabels, kMostFonts> labels_;
   ScreenSettings settings_;
 };

@@ -6,7 +6,9 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <string>
 
+#include "draw/dib/label_letters.h"
 #include "draw/gdi_canvas.h"
 #include "platform/wide_text.h"
 #include "store/name_pool.h"
@@ -59,10 +61,11 @@ template <class Reference, class Trial>
 class LabelReference {
  public:
   LabelReference(int height, int length, std::uint32_t color)
-      : widest_(height * 2),
-        inside_{height, height},
-        right_(height * 2 + widest_ * length),
-        reference_(right_, height * 3),
+      : room_(std::max(height, kLeastRoom)),
+        widest_(room_ * 2),
+        inside_{room_, room_},
+        right_(room_ * 2 + widest_ * length),
+        reference_(right_, room_ * 3),
         gdi_(reference_.Dc()) {
     PointSymbol symbol;
     symbol.label_height = height;
@@ -90,23 +93,31 @@ class LabelReference {
 
  protected:
   // The pixels from a character to the next one; -1 where they are too many for the room.
-  [[nodiscard]] int AdvanceOf(char16_t character) {
-    const int advance = reference_.Dc().GetTextExtent(AsWide(&character), 1).cx;
+  [[nodiscard]] int AdvanceOf(const Letter& letter) {
+    const std::u16string text = letter.Plain();
+    const int advance =
+        reference_.Dc().GetTextExtent(AsWide(text.data()), static_cast<int>(text.size())).cx;
     return advance > widest_ ? -1 : advance;
   }
+
+  void UseTextColor(std::uint32_t color) { gdi_.UseTextColor(color); }
 
   // Far enough from the edges for one character.
   [[nodiscard]] ScreenPoint Inside() const { return inside_; }
 
   // Draws a character there and returns the picture.
-  [[nodiscard]] const auto& Drawn(char16_t character) {
-    gdi_.Label(inside_, {&character, 1});
+  [[nodiscard]] const auto& Drawn(const Letter& letter) {
+    gdi_.Label(inside_, letter.Spelled());
     return reference_.Pixels();
   }
 
   [[nodiscard]] Reference& Paper() { return reference_; }
 
  private:
+  // The lowest fonts leave as much room above an underline as others.
+  static constexpr int kLeastRoom = 16;
+
+  int room_;    // above, below and beside a label, in pixels
   int widest_;  // what a character may take of the row, in pixels
   ScreenPoint inside_;
   int right_;

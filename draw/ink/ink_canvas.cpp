@@ -14,7 +14,7 @@ void InkCanvas::UsePointSymbol(const PointSymbol& symbol) {
   const CachedMark* cached = symbol.size > 0 ? marks_.Get(mark, mark) : nullptr;
   mark_ = cached && cached->mark ? &*cached->mark : nullptr;
   const int height = symbol.label_height;
-  labels_ = height > 0 ? fonts_.Get(height, InkFont(height)) : nullptr;
+  labels_ = height > 0 ? fonts_.Get(height, InkFont(height), glyph_memory_) : nullptr;
 }
 
 void InkCanvas::UseTextColor(std::uint32_t color) {

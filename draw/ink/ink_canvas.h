@@ -37,6 +37,7 @@ class InkCanvas : public PlanCanvas {
 
   LazyGdi<InkBlock> gdi_;
   BoundedCache<PointSymbol, CachedMark, kMostMarks> marks_;
+  MemoryBudget glyph_memory_{std::size_t{16} << 20};
   BoundedCache<int, InkLabels, kMostFonts> fonts_;  // by height
   bool text_is_black_ = true;
 

@@ -75,6 +75,9 @@ class InkMask {
   // so near to the block that no sum of pixels leaves the 32-bit range.
   void Draw(const InkBlock& block, ScreenPoint at, bool ink) const;
 
+  // Bytes of memory beside the object itself.
+  [[nodiscard]] std::size_t Bytes() const { return runs_.capacity() * sizeof(Run); }
+
  private:
   // Pixels side by side in a row.
   struct Run {
