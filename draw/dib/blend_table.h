@@ -39,6 +39,7 @@ inline CoverageLevels LevelsOf(std::uint32_t over_white) {
 class BlendTable {
  public:
   void Set(std::uint8_t level, const BlendRow& row);
+  void Forget(std::uint8_t level) { levels_[level] = {}; }
 
   [[nodiscard]] bool Knows(std::uint8_t level) const { return levels_[level].known; }
 

@@ -45,9 +45,10 @@ std::optional<Glyph> SmoothReference::ReadGlyph(const Letter& letter) {
 }
 
 // The character is drawn once over each grey: what becomes of it is the row's value there.
-void SmoothReference::ReadLevels(const Letter& letter, const Glyph& glyph, BlendTable& blend) {
+std::vector<std::uint8_t> SmoothReference::ReadLevels(const Letter& letter, const Glyph& glyph,
+                                                      BlendTable& blend) {
   const std::vector<Sample> samples = UnknownLevels(glyph, blend);
-  if (samples.empty()) return;
+  if (samples.empty()) return {};
   std::vector<BlendRow> rows(samples.size());
   for (std::uint32_t grey = 0; grey < 256; ++grey) {
     Paper().Fill(grey << 16 | grey << 8 | grey);
@@ -58,14 +59,28 @@ void SmoothReference::ReadLevels(const Letter& letter, const Glyph& glyph, Blend
           static_cast<std::uint8_t>(*shown.At(Inside().x + at.x, Inside().y + at.y) >> shift);
     }
   }
-  for (std::size_t i = 0; i < samples.size(); ++i) blend.Set(samples[i].level, rows[i]);
+  std::vector<std::uint8_t> levels;
+  for (std::size_t i = 0; i < samples.size(); ++i) {
+    blend.Set(samples[i].level, rows[i]);
+    levels.push_back(samples[i].level);
+  }
+  return levels;
 }
 
 std::optional<SmoothFont::Glyph> SmoothFont::Read(Reference& reference,
                                                   const Letter& letter) const {
   std::optional<tavix::Glyph> glyph = reference.ReadGlyph(letter);
   if (!glyph) return std::nullopt;
-  reference.ReadLevels(letter, *glyph, *blend_);
+  const std::vector<std::uint8_t> added = reference.ReadLevels(letter, *glyph, *blend_);
+  const auto draw = [&](const PixelBlock& block, ScreenPoint at) {
+    glyph->Draw(block, *blend_, at);
+  };
+  // Other letters will use the levels too. Where GDI makes one picture of two that lie over each
+  // other, as of a surrogate pair without a glyph, they are not levels of one blend.
+  if (!added.empty() && !reference.IsGdiLabel(letter.Spelled(), draw)) {
+    for (const std::uint8_t level : added) blend_->Forget(level);
+    return std::nullopt;
+  }
   std::optional<GlyphBlocks> blocks = GlyphBlocks::From(*glyph, *blend_);
   return Glyph{std::move(*glyph), std::move(blocks)};
 }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "draw/dib/blend_table.h"
 #include "draw/dib/glyph.h"
@@ -21,8 +22,9 @@ class SmoothReference : public LabelReference<ReferenceBitmap, TrialBitmap> {
   // A character as GDI draws it in black; none where it cannot be a glyph, see Glyph.
   [[nodiscard]] std::optional<Glyph> ReadGlyph(const Letter& letter);
 
-  // Sets the rows of `blend` for those levels of the character's glyph that it does not know.
-  void ReadLevels(const Letter& letter, const Glyph& glyph, BlendTable& blend);
+  // Sets the rows of `blend` for those levels of the character's glyph that it does not know, and
+  // returns the levels.
+  std::vector<std::uint8_t> ReadLevels(const Letter& letter, const Glyph& glyph, BlendTable& blend);
 
  private:
   std::uint32_t color_;

@@ -23,6 +23,8 @@ TEST(BlendTableLevels, AreKnownOnceSet) {
   blend.Set(0x80, RowOf([](int value) { return value / 2; }));
   EXPECT_TRUE(blend.Knows(0x80));
   EXPECT_FALSE(blend.Knows(0x81));
+  blend.Forget(0x80);
+  EXPECT_FALSE(blend.Knows(0x80));
 }
 
 TEST(BlendTableLevels, BlendEachChannelByItself) {

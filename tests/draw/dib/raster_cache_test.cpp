@@ -67,7 +67,7 @@ TEST_F(RasterCacheTest, LabelsOfHeightsWithoutEndAreLeftToGdi) {
 TEST_F(RasterCacheTest, LabelsOfLettersSideBySideAreDrawnHere) {
   for (const int height : {8, 10, 12, 16}) {
     for (const char16_t* text : {u"P1", u"0123456789", u"P 7", u" ", u"基準点", u"ｱｲｳﾞ", u"é",
-                                 u"\U00020000", u"a&b", u"&", u"&&", u"点&", u"&点"}) {
+                                 u"a&b", u"&", u"&&", u"点&", u"&点"}) {
       EXPECT_TRUE(DrawsLabel(height, text)) << height;
     }
   }
