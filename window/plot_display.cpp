@@ -25,8 +25,8 @@ int PlotDisplay::Redraw() {
   if (!surfaces_.window.m_hWnd) return 0;
   buffer_.Fill();
   plan_.Trace().ForgetSegments();
-  if (buffer_.Pixels().pixels) {
-    DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), raster_cache_);
+  if (buffer_.Pixels().pixels && way_ == DrawingWay::kFast) {
+    DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), RasterCache::OfProcess());
     shown_->Draw(canvas);
   } else {
     GdiCanvas canvas(buffer_.Dc());

@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 
-#include "draw/dib/raster_cache.h"
+#include "draw/drawing_way.h"
 #include "window/output.h"
 #include "window/overlays/rubber_band.h"
 #include "window/scenes/plan_scene.h"
@@ -38,7 +38,7 @@ class PlotDisplay {
 
  private:
   BackBuffer buffer_;
-  RasterCache raster_cache_;
+  DrawingWay way_ = DrawingWayOfEnvironment();
   OverlaySurfaces surfaces_;
   RubberBand band_;
   PlanScene plan_;

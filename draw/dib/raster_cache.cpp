@@ -1,11 +1,9 @@
 #include "draw/dib/raster_cache.h"
 
 #include <afxwin.h>
-#include <framework/scoped_select.h>
 
 #include "draw/dib/gdi_probe.h"
 #include "draw/dib/verification.h"
-#include "draw/gdi_scopes.h"
 
 namespace tavix {
 namespace {
@@ -34,47 +32,20 @@ int ScreenDepth() {
   return depth;
 }
 
-// The sum that a font file carries over all of it; the same value for all fonts without such a
-// file.
-DWORD CheckSum(CDC& dc) {
-  constexpr DWORD kHead = 'h' | 'e' << 8 | 'a' << 16 | 'd' << 24;
-  constexpr DWORD kCheckSumAt = 8;
-  DWORD sum = 0;
-  ::GetFontData(dc.m_hDC, kHead, kCheckSumAt, &sum, sizeof sum);
-  return sum;
-}
-
 }  // namespace
 
 ScreenSettings ScreenSettings::Now() { return {TextSmoothing(), ScreenDepth()}; }
 
-FontIdentity FontIdentity::OfLabels(int height) {
-  CDC dc;
-  dc.CreateCompatibleDC(nullptr);
-  const LOGFONTW wanted = LabelFont(height);
-  CFont font;
-  font.CreateFontIndirect(&wanted);
-  const CScopedSelect selected(dc, font);
-  wchar_t face[LF_FULLFACESIZE] = {};
-  ::GetTextFaceW(dc.m_hDC, LF_FULLFACESIZE, face);
-  TEXTMETRICW metrics = {};
-  dc.GetTextMetrics(&metrics);
-  return {face,
-          CheckSum(dc),
-          metrics.tmHeight,
-          metrics.tmAscent,
-          metrics.tmAveCharWidth,
-          metrics.tmMaxCharWidth,
-          metrics.tmWeight};
-}
-
 RasterCache::CachedMark::CachedMark(const PointSymbol& symbol) : mask(ProbeMark(symbol)) {}
 
-RasterCache::CachedLabels::CachedLabels(const SmoothFont& labels_font, MemoryBudget& glyph_memory)
-    : labels(labels_font, glyph_memory), font(FontIdentity::OfLabels(labels_font.Height())) {}
+RasterCache& RasterCache::OfProcess() {
+  static RasterCache cache;
+  return cache;
+}
 
 void RasterCache::FollowSettings(const ScreenSettings& settings) {
-  labels_.ForEach([](CachedLabels& cached) { cached.checked = false; });
+  marks_.BeginRedraw();
+  labels_.BeginRedraw();
   if (settings == settings_) return;
   if (settings.depth != settings_.depth) {
     lines_probed_ = false;
@@ -98,17 +69,7 @@ const MarkMask* RasterCache::Mark(const PointSymbol& symbol) {
 }
 
 SmoothLabels* RasterCache::Labels(int height, std::uint32_t color) {
-  const LabelKey key{height, color};
-  const SmoothFont font(height, color, blends_[color]);
-  CachedLabels* cached = labels_.Get(key, font, glyph_memory_);
-  if (cached && !cached->checked) {
-    cached->checked = true;
-    if (cached->font != FontIdentity::OfLabels(height)) {
-      labels_.Remove(key);
-      cached = labels_.Get(key, font, glyph_memory_);
-    }
-  }
-  return cached ? &cached->labels : nullptr;
+  return labels_.Get({height, color}, SmoothFont(height, color, blends_[color]));
 }
 
 }  // namespace tavix

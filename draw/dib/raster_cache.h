@@ -6,12 +6,12 @@
 #include <cstdint>
 #include <map>
 #include <optional>
-#include <string>
 #include <utility>
 
 #include "draw/dib/blend_table.h"
 #include "draw/dib/bounded_cache.h"
 #include "draw/dib/bresenham.h"
+#include "draw/dib/label_cache.h"
 #include "draw/dib/mark_mask.h"
 #include "draw/dib/smooth_labels.h"
 #include "store/symbols.h"
@@ -29,22 +29,6 @@ struct ScreenSettings {
   friend bool operator==(const ScreenSettings&, const ScreenSettings&) = default;
 };
 
-// Which font GDI takes for labels of a height: another one when fonts are installed or removed, or
-// when another one replaces the default face.
-struct FontIdentity {
-  std::wstring face;
-  DWORD check_sum = 0;  // of the font's file
-  LONG height = 0;      // pixels, like the others
-  LONG ascent = 0;
-  LONG average_width = 0;
-  LONG largest_width = 0;
-  LONG weight = 0;
-
-  [[nodiscard]] static FontIdentity OfLabels(int height);
-
-  friend bool operator==(const FontIdentity&, const FontIdentity&) = default;
-};
-
 // Probes how GDI draws as that is needed, each thing once, and keeps it for the redraws to come.
 // Whatever it hands out has been verified against GDI's drawing; null stands for what is left to
 // GDI: what is not the same everywhere, and what comes after very many others. A pointer is valid
@@ -54,6 +38,10 @@ class RasterCache {
   RasterCache() = default;
   RasterCache(const RasterCache&) = delete;
   RasterCache& operator=(const RasterCache&) = delete;
+
+  // The one that all windows of the process share, whichever instance they are of. It stays until
+  // the library is unloaded. Only the thread that draws may use it.
+  [[nodiscard]] static RasterCache& OfProcess();
 
   // To be called before a redraw: drops what has changed since the last one. That is text when its
   // smoothing has changed, a label's height when GDI takes another font for it, and everything when
@@ -75,26 +63,11 @@ class RasterCache {
     std::optional<MarkMask> mask;
   };
 
-  // A height and a colour.
-  using LabelKey = std::pair<int, std::uint32_t>;
-
-  struct CachedLabels {
-    CachedLabels(const SmoothFont& labels_font, MemoryBudget& glyph_memory);
-
-    SmoothLabels labels;
-    FontIdentity font;
-    bool checked = true;  // the font is the same as before, since FollowSettings
-  };
-
-  // Some ten thousand kanji of a usual height.
-  static constexpr std::size_t kMostGlyphBytes = std::size_t{16} << 20;
-
   bool lines_probed_ = false;
   std::optional<TieRule> lines_;
   BoundedCache<PointSymbol, CachedMark, kMostMarks> marks_;
-  std::map<std::uint32_t, BlendTable> blends_;  // by the text's colour
-  MemoryBudget glyph_memory_{kMostGlyphBytes};
-  BoundedCache<LabelKey, CachedLabels, kMostFonts> labels_;
+  std::map<std::uint32_t, BlendTable> blends_;                    // by the text's colour
+  LabelCache<std::pair<int, std::uint32_t>, SmoothFont> labels_;  // by height and colour
   ScreenSettings settings_;
 };
 

@@ -2,12 +2,10 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 
-#include "draw/dib/bounded_cache.h"
 #include "draw/dib/lazy_gdi.h"
+#include "draw/ink/ink_cache.h"
 #include "draw/ink/ink_mask.h"
-#include "draw/ink/ink_probe.h"
 #include "draw/ink/one_bit_bitmap.h"
 #include "draw/plan_canvas.h"
 
@@ -17,8 +15,8 @@ namespace tavix {
 // GDI are drawn here. All else goes through GDI, in the order it comes.
 class InkCanvas : public PlanCanvas {
  public:
-  // `picture` has been made, is `width` by `height` pixels and outlives the canvas.
-  InkCanvas(OneBitBitmap& picture, int width, int height);
+  // `picture` has been made and is `width` by `height` pixels. Both outlive the canvas.
+  InkCanvas(OneBitBitmap& picture, int width, int height, InkCache& cache);
 
   [[nodiscard]] ScreenBox Visible() const override { return gdi_.Visible(); }
   void UsePen(const Pen& pen) override { gdi_.UsePen(pen); }
@@ -30,15 +28,8 @@ class InkCanvas : public PlanCanvas {
   void Label(ScreenPoint at, NameView text) override;
 
  private:
-  struct CachedMark {
-    explicit CachedMark(const PointSymbol& symbol) : mark(InkMark::Probe(symbol)) {}
-    std::optional<InkMark> mark;
-  };
-
   LazyGdi<InkBlock> gdi_;
-  BoundedCache<PointSymbol, CachedMark, kMostMarks> marks_;
-  MemoryBudget glyph_memory_{std::size_t{16} << 20};
-  BoundedCache<int, InkLabels, kMostFonts> fonts_;  // by height
+  InkCache& cache_;
   bool text_is_black_ = true;
 
   // Null: GDI draws it.

@@ -130,6 +130,28 @@ TEST_F(FullRasterCache, IsDroppedWithAnotherDepthOfTheScreen) {
   EXPECT_TRUE(HasRoomForLabels());
 }
 
+// Not at once: windows that draw in turn share the cache.
+TEST_F(FullRasterCache, MakesRoomForNewSymbolsWhenNoneOfTheOldIsDrawn) {
+  for (int redraw = 0; redraw < 16; ++redraw) {
+    cache_.FollowSettings(kSettings);
+    EXPECT_FALSE(HasRoomForMarks());
+    EXPECT_FALSE(HasRoomForLabels());
+  }
+  cache_.FollowSettings(kSettings);
+  EXPECT_TRUE(HasRoomForMarks());
+  EXPECT_TRUE(HasRoomForLabels());
+}
+
+TEST_F(FullRasterCache, KeepsWhatIsDrawn) {
+  const MarkMask* mark = cache_.Mark(Symbol(2, 4, 7));
+  SmoothLabels* labels = cache_.Labels(1007);
+  for (int redraw = 0; redraw < 40; ++redraw) {
+    cache_.FollowSettings(kSettings);
+    ASSERT_EQ(mark, cache_.Mark(Symbol(2, 4, 7)));
+    ASSERT_EQ(labels, cache_.Labels(1007));
+  }
+}
+
 TEST_F(FullRasterCache, DropsOnlyTextWithOtherSmoothing) {
   cache_.FollowSettings({0, kSettings.depth});
   EXPECT_FALSE(HasRoomForMarks());
