@@ -8,8 +8,9 @@
 
 namespace tavix {
 
-// The most marks and fonts that are probed and kept.
+// The most marks, pens and fonts whose shapes are probed and kept.
 constexpr std::size_t kMostMarks = 256;
+constexpr std::size_t kMostPens = 64;
 constexpr std::size_t kMostFonts = 64;
 
 // Values by key, made when they are first asked for. Once there are `kMost` of them no more are

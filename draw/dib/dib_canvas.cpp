@@ -24,13 +24,31 @@ void DibCanvas::UsePen(const Pen& pen) {
   const std::optional<std::uint32_t> value = PixelBlock::ValueOf(pen.color);
   lines_ = IsOnePixelWide(pen) && value ? cache_.Lines() : nullptr;
   line_color_ = value.value_or(0);
+  strokes_ = cache_.StrokesOf(pen);
 }
 
 void DibCanvas::Line(const ScreenSegment& segment) {
   if (lines_ && IsNear(segment.start) && IsNear(segment.end)) {
     StepLine(gdi_.Bits(), *lines_, segment, line_color_);
+    return;
+  }
+  const auto [start, end] = segment;
+  const MarkMask* stroke = strokes_ && IsNear(start) && IsNear(end)
+                               ? strokes_->Line(end.x - start.x, end.y - start.y)
+                               : nullptr;
+  if (stroke) {
+    stroke->Draw(gdi_.Bits(), start);
   } else {
     gdi_.Line(segment);
+  }
+}
+
+void DibCanvas::Circle(ScreenPoint centre, int radius) {
+  const MarkMask* stroke = strokes_ && IsNear(centre) ? strokes_->Circle(radius) : nullptr;
+  if (stroke) {
+    stroke->Draw(gdi_.Bits(), centre);
+  } else {
+    gdi_.Circle(centre, radius);
   }
 }
 

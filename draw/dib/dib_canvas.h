@@ -23,7 +23,7 @@ class DibCanvas : public PlanCanvas {
   [[nodiscard]] ScreenBox Visible() const override { return gdi_.Visible(); }
   void UsePen(const Pen& pen) override;
   void Line(const ScreenSegment& segment) override;
-  void Circle(ScreenPoint centre, int radius) override { gdi_.Circle(centre, radius); }
+  void Circle(ScreenPoint centre, int radius) override;
   void UsePointSymbol(const PointSymbol& symbol) override;
   void Mark(ScreenPoint at) override;
   void UseTextColor(std::uint32_t color) override;
@@ -37,6 +37,7 @@ class DibCanvas : public PlanCanvas {
 
   // Null: GDI draws it.
   const TieRule* lines_ = nullptr;
+  Strokes* strokes_ = nullptr;
   const MarkMask* mark_ = nullptr;
   SmoothLabels* labels_ = nullptr;
   std::uint32_t line_color_ = 0;

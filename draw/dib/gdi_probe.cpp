@@ -1,5 +1,7 @@
 #include "draw/dib/gdi_probe.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <random>
 
 #include "draw/dib/reference_bitmap.h"
@@ -93,6 +95,29 @@ bool StepsAtOnce(ReferenceBitmap& reference, int dx, int dy) {
   return *reference.Pixels().At(kStart.x + sign(dx), kStart.y + sign(dy)) != 0;
 }
 
+bool IsGdiShape(const MarkMask& mask, const GdiShape& shape) {
+  return DrawsGdiShape<ReferenceBitmap, TrialBitmap>(
+      shape, [&](const PixelBlock& block, ScreenPoint at) { mask.Draw(block, at); });
+}
+
+// None where the shape is not the same everywhere.
+std::optional<MarkMask> ProbeShape(const GdiShape& shape) {
+  const ScreenPoint middle{shape.reach, shape.reach};
+  ReferenceBitmap reference(2 * shape.reach + 1, 2 * shape.reach + 1);
+  if (!reference.IsMade()) return std::nullopt;
+  GdiCanvas gdi(reference.Dc());
+  shape.use(gdi);
+  reference.Fill(MarkMask::kWhitePaper);
+  shape.draw(gdi, middle);
+  const TrialBitmap over_white(reference);
+  reference.Fill(MarkMask::kBlackPaper);
+  shape.draw(gdi, middle);
+  std::optional<MarkMask> mask =
+      MarkMask::FromPictures(over_white.Pixels(), reference.Pixels(), middle);
+  if (mask && !IsGdiShape(*mask, shape)) mask.reset();
+  return mask;
+}
+
 }  // namespace
 
 std::optional<TieRule> ProbeTieRule() {
@@ -115,26 +140,24 @@ bool IsGdiTieRule(const TieRule& rule) { return ShortLinesAreSame(rule) && LongL
 
 std::optional<MarkMask> ProbeMark(const PointSymbol& symbol) {
   if (!IsSmallMark(symbol)) return std::nullopt;
-  const int reach = ReachOf(symbol);
-  const ScreenPoint middle{reach, reach};
-  ReferenceBitmap reference(2 * reach + 1, 2 * reach + 1);
-  if (!reference.IsMade()) return std::nullopt;
-  GdiCanvas gdi(reference.Dc());
-  gdi.UsePointSymbol(symbol);
-  reference.Fill(MarkMask::kWhitePaper);
-  gdi.Mark(middle);
-  const TrialBitmap over_white(reference);
-  reference.Fill(MarkMask::kBlackPaper);
-  gdi.Mark(middle);
-  std::optional<MarkMask> mask =
-      MarkMask::FromPictures(over_white.Pixels(), reference.Pixels(), middle);
-  if (mask && !IsGdiMark(*mask, symbol)) mask.reset();
-  return mask;
+  return ProbeShape(MarkOf(symbol));
+}
+
+std::optional<MarkMask> ProbeLine(const Pen& pen, int dx, int dy) {
+  const int reach = std::max(std::abs(dx), std::abs(dy)) + std::abs(pen.width) + 2;
+  return ProbeShape({reach, [=](GdiCanvas& gdi) { gdi.UsePen(pen); },
+                     [=](GdiCanvas& gdi, ScreenPoint at) {
+                       gdi.Line({at, {at.x + dx, at.y + dy}});
+                     }});
+}
+
+std::optional<MarkMask> ProbeCircle(const Pen& pen, int radius) {
+  return ProbeShape({radius + std::abs(pen.width) + 2, [=](GdiCanvas& gdi) { gdi.UsePen(pen); },
+                     [=](GdiCanvas& gdi, ScreenPoint at) { gdi.Circle(at, radius); }});
 }
 
 bool IsGdiMark(const MarkMask& mask, const PointSymbol& symbol) {
-  return DrawsGdiMark<ReferenceBitmap, TrialBitmap>(
-      symbol, [&](const PixelBlock& block, ScreenPoint at) { mask.Draw(block, at); });
+  return IsGdiShape(mask, MarkOf(symbol));
 }
 
 }  // namespace tavix

@@ -45,11 +45,13 @@ RasterCache& RasterCache::OfProcess() {
 
 void RasterCache::FollowSettings(const ScreenSettings& settings) {
   marks_.BeginRedraw();
+  strokes_.BeginRedraw(stroke_memory_.IsSpent());
   labels_.BeginRedraw();
   if (settings == settings_) return;
   if (settings.depth != settings_.depth) {
     lines_probed_ = false;
     marks_.Clear();
+    strokes_.Clear();
   }
   settings_ = settings;
   labels_.Clear();
@@ -66,6 +68,10 @@ const MarkMask* RasterCache::Mark(const PointSymbol& symbol) {
   const PointSymbol mark = MarkOnly(symbol);
   const CachedMark* cached = marks_.Get(mark, mark);
   return cached && cached->mask ? &*cached->mask : nullptr;
+}
+
+Strokes* RasterCache::StrokesOf(const Pen& pen) {
+  return PixelBlock::ValueOf(pen.color) ? strokes_.Get(pen, pen, stroke_memory_) : nullptr;
 }
 
 SmoothLabels* RasterCache::Labels(int height, std::uint32_t color) {

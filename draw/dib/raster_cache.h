@@ -14,6 +14,7 @@
 #include "draw/dib/label_cache.h"
 #include "draw/dib/mark_mask.h"
 #include "draw/dib/smooth_labels.h"
+#include "draw/dib/strokes.h"
 #include "store/symbols.h"
 
 namespace tavix {
@@ -54,6 +55,9 @@ class RasterCache {
   // The mark of a symbol.
   [[nodiscard]] const MarkMask* Mark(const PointSymbol& symbol);
 
+  // Short wide lines and small circles of a pen; null for a pen whose colour has a high byte.
+  [[nodiscard]] Strokes* StrokesOf(const Pen& pen);
+
   // Labels of this height in pixels and this colour.
   [[nodiscard]] SmoothLabels* Labels(int height, std::uint32_t color = 0);
 
@@ -66,6 +70,8 @@ class RasterCache {
   bool lines_probed_ = false;
   std::optional<TieRule> lines_;
   BoundedCache<PointSymbol, CachedMark, kMostMarks> marks_;
+  MemoryBudget stroke_memory_{std::size_t{8} << 20};
+  BoundedCache<Pen, Strokes, kMostPens> strokes_;
   std::map<std::uint32_t, BlendTable> blends_;                    // by the text's colour
   LabelCache<std::pair<int, std::uint32_t>, SmoothFont> labels_;  // by height and colour
   ScreenSettings settings_;

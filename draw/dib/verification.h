@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "draw/dib/label_letters.h"
@@ -33,24 +34,36 @@ inline PointSymbol MarkOnly(PointSymbol symbol) {
   return symbol;
 }
 
-// Whether `draw(pixels, at)` draws what GDI draws as the symbol's mark: over any picture, and cut
-// by its edges.
+// A shape that GDI draws the same way at every place.
+struct GdiShape {
+  int reach;                                // from its place to any side, in pixels
+  std::function<void(GdiCanvas& gdi)> use;  // takes pen and brush into use
+  std::function<void(GdiCanvas& gdi, ScreenPoint at)> draw;
+};
+
+inline GdiShape MarkOf(const PointSymbol& symbol) {
+  return {ReachOf(symbol), [=](GdiCanvas& gdi) { gdi.UsePointSymbol(symbol); },
+          [](GdiCanvas& gdi, ScreenPoint at) { gdi.Mark(at); }};
+}
+
+// Whether `draw(pixels, at)` draws what GDI draws as the shape: over any picture, and cut by its
+// edges.
 template <class Reference, class Trial, class Draw>
-[[nodiscard]] bool DrawsGdiMark(const PointSymbol& symbol, Draw draw) {
-  const int reach = ReachOf(symbol);
+[[nodiscard]] bool DrawsGdiShape(const GdiShape& shape, Draw draw) {
+  const int reach = shape.reach;
   const int width = 2 * reach + 4;
   const int height = 2 * reach + 3;
   Reference reference(width, height);
   if (!reference.IsMade()) return false;
   GdiCanvas gdi(reference.Dc());
-  gdi.UsePointSymbol(symbol);
+  shape.use(gdi);
   const ScreenPoint places[] = {
       {reach + 2, reach + 1}, {0, 0}, {width, height}, {0, reach}, {reach, height - 2}};
   return std::all_of(std::begin(places), std::end(places), [&](ScreenPoint at) {
     reference.FillUnevenly();
     const Trial trial(reference);
     draw(trial.Pixels(), at);
-    gdi.Mark(at);
+    shape.draw(gdi, at);
     return trial.Equals(reference);
   });
 }

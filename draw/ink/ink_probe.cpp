@@ -15,8 +15,8 @@ std::optional<InkMark> InkMark::Probe(const PointSymbol& symbol) {
   gdi.UsePointSymbol(in_ink);
   gdi.Mark(middle);
   const InkMark mark{InkMask::FromPicture(reference.Pixels(), middle), symbol.pen.color == kBlack};
-  const bool is_gdi_mark = DrawsGdiMark<OneBitReference, OneBitTrial>(
-      symbol, [&](const InkBlock& block, ScreenPoint at) { mark.Draw(block, at); });
+  const bool is_gdi_mark = DrawsGdiShape<OneBitReference, OneBitTrial>(
+      MarkOf(symbol), [&](const InkBlock& block, ScreenPoint at) { mark.Draw(block, at); });
   if (!is_gdi_mark) return std::nullopt;
   return mark;
 }
