@@ -9,6 +9,12 @@ InkCache& InkCache::OfProcess() {
   return cache;
 }
 
+const TieRule* InkCache::Lines() {
+  if (!lines_probed_) lines_ = ProbeInkTieRule();
+  lines_probed_ = true;
+  return lines_ ? &*lines_ : nullptr;
+}
+
 const InkMark* InkCache::Mark(const PointSymbol& symbol) {
   const PointSymbol mark = MarkOnly(symbol);
   const CachedMark* cached = marks_.Get(mark, mark);

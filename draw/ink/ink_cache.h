@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "draw/dib/bresenham.h"
 #include "draw/dib/label_cache.h"
 #include "draw/ink/ink_probe.h"
 #include "store/symbols.h"
@@ -28,6 +29,9 @@ class InkCache {
     labels_.BeginRedraw();
   }
 
+  // Solid lines of one pixel.
+  [[nodiscard]] const TieRule* Lines();
+
   [[nodiscard]] const InkMark* Mark(const PointSymbol& symbol);
 
   // Labels of this height in pixels.
@@ -39,6 +43,8 @@ class InkCache {
     std::optional<InkMark> mark;
   };
 
+  bool lines_probed_ = false;
+  std::optional<TieRule> lines_;
   BoundedCache<PointSymbol, CachedMark, kMostMarks> marks_;
   LabelCache<int, InkFont> labels_;
 };

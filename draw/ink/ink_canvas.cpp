@@ -9,6 +9,21 @@ InkCanvas::InkCanvas(OneBitBitmap& picture, int width, int height, InkCache& cac
   cache_.BeginPicture();
 }
 
+void InkCanvas::UsePen(const Pen& pen) {
+  gdi_.UsePen(pen);
+  const std::optional<std::uint32_t> value = InkBlock::ValueOf(pen.color);
+  lines_ = IsOnePixelWide(pen) && value ? cache_.Lines() : nullptr;
+  line_value_ = value.value_or(0);
+}
+
+void InkCanvas::Line(const ScreenSegment& segment) {
+  if (lines_ && IsNear(segment)) {
+    StepLine(gdi_.Bits(), *lines_, segment, line_value_);
+  } else {
+    gdi_.Line(segment);
+  }
+}
+
 void InkCanvas::UsePointSymbol(const PointSymbol& symbol) {
   gdi_.UsePointSymbol(symbol);
   mark_ = symbol.size > 0 ? cache_.Mark(symbol) : nullptr;

@@ -1,6 +1,18 @@
 #include "draw/ink/ink_probe.h"
 
+#include "draw/dib/gdi_probe.h"
+#include "draw/dib/line_verification.h"
+
 namespace tavix {
+
+std::optional<TieRule> ProbeInkTieRule() {
+  const auto color_of = [](int number) { return number % 3 == 0 ? 0x00FFFFFF : 0; };
+  std::optional<TieRule> rule = ProbeTieRule();
+  const bool holds = rule && ShortLinesAreSame<OneBitReference, OneBitTrial>(*rule, color_of) &&
+                     LongLinesAreSame<OneBitReference, OneBitTrial>(*rule, color_of);
+  if (!holds) rule.reset();
+  return rule;
+}
 
 std::optional<InkMark> InkMark::Probe(const PointSymbol& symbol) {
   constexpr std::int32_t kBlack = 0;

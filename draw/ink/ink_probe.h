@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "draw/dib/bresenham.h"
 #include "draw/dib/glyph_cache.h"
 #include "draw/dib/verification.h"
 #include "draw/ink/ink_mask.h"
@@ -11,6 +12,10 @@
 #include "store/symbols.h"
 
 namespace tavix {
+
+// How GDI breaks the ties of lines on one-bit pictures; none where it does not step solid lines of
+// one pixel by the rule of the others.
+[[nodiscard]] std::optional<TieRule> ProbeInkTieRule();
 
 // A mark as GDI draws it on a one-bit picture.
 struct InkMark {

@@ -36,6 +36,8 @@ TEST(InkMarks, AreLeftToGdiWhenLargeOrOfAnotherColour) {
   }
 }
 
+TEST(InkLines, AreDrawnHere) { EXPECT_TRUE(ProbeInkTieRule()); }
+
 TEST(InkLabels, OfLettersSideBySideAreDrawnHere) {
   for (const int height : {8, 10, 12, 16}) {
     MemoryBudget memory(1 << 20);
