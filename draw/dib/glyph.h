@@ -31,8 +31,10 @@ class Glyph {
   [[nodiscard]] int Advance() const { return advance_; }
   [[nodiscard]] const std::vector<Pixel>& Pixels() const { return pixels_; }
 
-  // Whether a pixel of `next`, the character after this one, falls on one of this: characters may
-  // leave the columns of their cells, and with smoothing in colours most of them do.
+  // Whether a pixel lies outside of the cell's columns, as with smoothing in colours most do.
+  [[nodiscard]] bool LeavesCell() const { return box_.left < 0 || box_.right > advance_; }
+
+  // Whether a pixel of `next`, the character after this one, falls on one of this.
   [[nodiscard]] bool LiesUnder(const Glyph& next) const;
 
   // Bytes of memory beside the object itself.

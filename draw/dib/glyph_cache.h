@@ -34,6 +34,7 @@ namespace tavix {
 //     Draw(block, at, glyph)                   with its cell's top left corner at `at`
 //     Glyph                                    the picture of a letter, with
 //       Advance()                                pixels to the next letter
+//       LeavesCell()                             whether it may lie over or under another
 //       LiesUnder(next)                          whether the next one is drawn over a part of it
 //       Bytes()                                  of memory, beside the object itself
 template <class Font>
@@ -50,14 +51,10 @@ class GlyphCache {
   // left to GDI.
   [[nodiscard]] bool Draw(const Block& block, ScreenPoint at, NameView text) {
     if (is_refused_) return false;
-    const std::optional<LabelLetters> label = LabelLetters::Of(text);
-    if (!label) return false;
     Row row;
-    if (!FindAll(label->All(), row)) {
-      Learn(label->All());
-      if (is_refused_ || !FindAll(label->All(), row)) return false;
-    }
-    if (proofs_of_overlap_ < kProofs && HasOverlap(row) && !ProveOverlap(text, row)) return false;
+    if (!FindPlain(text, row) && !FindLetters(text, row)) return false;
+    const bool may_overlap = leaves_cell_ && proofs_of_overlap_ < kProofs;
+    if (may_overlap && HasOverlap(row) && !ProveOverlap(text, row)) return false;
     DrawRow(block, at, row);
     return true;
   }
@@ -72,6 +69,7 @@ class GlyphCache {
   // The glyphs of a label, from left to right.
   class Row {
    public:
+    void Clear() { count_ = 0; }
     void Add(const Glyph& glyph) { glyphs_[count_++] = &glyph; }
     [[nodiscard]] std::span<const Glyph* const> All() const { return {glyphs_.data(), count_}; }
 
@@ -80,9 +78,30 @@ class GlyphCache {
     std::size_t count_ = 0;
   };
 
+  // The short way for most labels, those without an '&' whose letters are all known. Otherwise
+  // false.
+  [[nodiscard]] bool FindPlain(NameView text, Row& row) const {
+    if (text.size() > LabelLetters::kLongest) return false;
+    for (const char16_t unit : text) {
+      const Entry* entry = unit == u'&' ? nullptr : glyphs_.Find({unit});
+      if (!entry || !*entry) return false;
+      row.Add(**entry);
+    }
+    return true;
+  }
+
+  // False for a label that is left to GDI.
+  [[nodiscard]] bool FindLetters(NameView text, Row& row) {
+    const std::optional<LabelLetters> label = LabelLetters::Of(text);
+    if (!label) return false;
+    if (FindAll(label->All(), row)) return true;
+    Learn(label->All());
+    return !is_refused_ && FindAll(label->All(), row);
+  }
+
   // False where a letter is not known or left to GDI.
   [[nodiscard]] bool FindAll(Letters letters, Row& row) const {
-    row = Row();
+    row.Clear();
     for (const Letter& letter : letters) {
       const Entry* entry = glyphs_.Find(letter);
       if (!entry || !*entry) return false;
@@ -102,6 +121,7 @@ class GlyphCache {
       if (glyphs_.Find(letter)) continue;
       Entry glyph = font_.Read(single, letter);
       const std::size_t bytes = glyph ? glyph->Bytes() : 0;
+      leaves_cell_ = leaves_cell_ || (glyph && glyph->LeavesCell());
       glyphs_.Set(letter, std::move(glyph), bytes);
       added.push_back(letter);
     }
@@ -180,6 +200,7 @@ class GlyphCache {
 
   Font font_;
   bool is_refused_ = false;
+  bool leaves_cell_ = false;  // a glyph does, and may lie over another
   int proofs_of_overlap_ = 0;
   GlyphTable<Glyph> glyphs_;
 };

@@ -44,6 +44,7 @@ class SmoothFont {
     std::optional<GlyphBlocks> blocks;
 
     [[nodiscard]] int Advance() const { return glyph.Advance(); }
+    [[nodiscard]] bool LeavesCell() const { return glyph.LeavesCell(); }
     [[nodiscard]] bool LiesUnder(const Glyph& next) const { return glyph.LiesUnder(next.glyph); }
     [[nodiscard]] std::size_t Bytes() const {
       return glyph.Bytes() + (blocks ? blocks->Bytes() : 0);

@@ -40,6 +40,7 @@ class InkLabelReference : public LabelReference<OneBitReference, OneBitTrial> {
     int advance;  // pixels to the next character
 
     [[nodiscard]] int Advance() const { return advance; }
+    [[nodiscard]] static bool LeavesCell() { return false; }
     [[nodiscard]] static bool LiesUnder(const Glyph&) { return false; }
     [[nodiscard]] std::size_t Bytes() const { return mask.Bytes(); }
   };

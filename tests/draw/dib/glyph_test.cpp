@@ -111,6 +111,9 @@ TEST(Glyphs, LieUnderTheNextOneWhereTheirPixelsMeet) {
     return Glyph::FromPicture(picture.Block(), {2, 2}, 2).value();
   };
   const Glyph plain = made(CharacterPicture());
+  EXPECT_FALSE(plain.LeavesCell());
+  EXPECT_TRUE(made(wide).LeavesCell());
+  EXPECT_FALSE(made(early).LeavesCell());
   EXPECT_FALSE(plain.LiesUnder(plain));
   EXPECT_FALSE(made(wide).LiesUnder(plain)) << "beside each other";
   EXPECT_FALSE(plain.LiesUnder(made(early))) << "beside each other";
