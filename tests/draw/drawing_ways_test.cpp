@@ -34,15 +34,14 @@ class DrawingWays : public PlotTest, public testing::WithParamInterface<WaysScen
       EXPECT_EQ(0, Tavix_SetAng(degrees));
       Tavix_Drw(0);
       pictures.push_back(Redrawn());
-      Tavix_Zom1(dice_.Between(-80, 80), dice_.Between(-80, 80), dice_.Between(5, 60));
+      Tavix_Zom1(dice_.Between(-70, 70), dice_.Between(-70, 70), dice_.Between(15, 60));
       pictures.push_back(Redrawn());
       pictures.push_back(OneBit());
       Tavix_SetTatYok(dice_.Between(1, 4), dice_.Between(1, 4));
     }
     Tavix_SetAng(0);
     Tavix_SetWak(1, 100, 200, 100, 150);
-    Tavix_SetWakScl(50);
-    Tavix_Drw(1);
+    Tavix_Drw(0);
     pictures.push_back(Redrawn());
     pictures.push_back(OneBit());
     Tavix_SetWak(0, 0, 0, 0, 0);
