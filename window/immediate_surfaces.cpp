@@ -17,14 +17,15 @@ void ImmediateSurfaces::Release() {
 }
 
 PlanCanvas& ImmediateSurfaces::BufferCanvas() {
-  if (!buffer_.Pixels().pixels) {
+  if (!buffer_.Pixels().pixels || way_ == DrawingWay::kGdi) {
     if (!buffer_canvas_) buffer_canvas_.emplace(buffer_.Dc());
     return *buffer_canvas_;
   }
-  if (pixels_) {
+  // All windows share the cache: a redraw of another one may have dropped what this canvas uses.
+  if (pixels_ && pixels_->IsCurrent()) {
     pixels_->Resume();
   } else {
-    pixels_.emplace(buffer_.Dc(), buffer_.Pixels(), cache_);
+    pixels_.emplace(buffer_.Dc(), buffer_.Pixels(), RasterCache::OfProcess());
   }
   return *pixels_;
 }

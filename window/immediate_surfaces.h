@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "draw/dib/dib_canvas.h"
+#include "draw/drawing_way.h"
 #include "draw/gdi_canvas.h"
 #include "window/output.h"
 
@@ -16,17 +17,16 @@ namespace tavix {
 // pen, brush and font that were used last: making them takes longer than drawing a point.
 class ImmediateSurfaces {
  public:
-  // `cache` is that of the buffer's redraws. All outlive this object.
-  ImmediateSurfaces(CWnd& window, BackBuffer& buffer, RasterCache& cache)
-      : window_(window), buffer_(buffer), cache_(cache) {}
+  // `way` is that of the buffer's redraws. Window and buffer outlive this object.
+  ImmediateSurfaces(CWnd& window, BackBuffer& buffer, DrawingWay way)
+      : window_(window), buffer_(buffer), way_(way) {}
   ImmediateSurfaces(const ImmediateSurfaces&) = delete;
   ImmediateSurfaces& operator=(const ImmediateSurfaces&) = delete;
 
   // Has `draw` draw on the screen, where the window is visible, and into the back buffer.
   void Draw(const std::function<void(PlanCanvas&)>& draw);
 
-  // Gives everything back. To be called before the cache follows the settings of the screen, as a
-  // redraw has it do.
+  // Gives everything back.
   void Release();
 
  private:
@@ -41,10 +41,10 @@ class ImmediateSurfaces {
 
   CWnd& window_;
   BackBuffer& buffer_;
-  RasterCache& cache_;
+  DrawingWay way_;
   std::optional<Screen> screen_;
   std::optional<DibCanvas> pixels_;
-  std::optional<GdiCanvas> buffer_canvas_;  // where the buffer's pixels cannot be reached
+  std::optional<GdiCanvas> buffer_canvas_;  // where the buffer's pixels are not reached for
 };
 
 }  // namespace tavix

@@ -12,7 +12,7 @@ PlotDisplay::PlotDisplay(CWnd& window, const ButtonColumn& buttons, const PlotLi
                          const RatioSetting& ratio)
     : buttons_(buttons),
       surfaces_{window, buffer_.Dc(), links.view},
-      immediate_(window, buffer_, raster_cache_),
+      immediate_(window, buffer_, way_),
       band_(window),
       plan_(links, surfaces_, immediate_, ratio, band_),
       side_(links, buffer_, band_) {}
@@ -41,8 +41,8 @@ void PlotDisplay::FinishRedraw() {
   immediate_.Release();
   buffer_.Fill();
   plan_.Trace().ForgetSegments();
-  if (buffer_.Pixels().pixels) {
-    DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), raster_cache_);
+  if (buffer_.Pixels().pixels && way_ == DrawingWay::kFast) {
+    DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), RasterCache::OfProcess());
     shown_->Draw(canvas);
   } else {
     GdiCanvas canvas(buffer_.Dc());

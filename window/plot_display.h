@@ -6,7 +6,7 @@
 
 #include <afxwin.h>
 
-#include "draw/dib/raster_cache.h"
+#include "draw/drawing_way.h"
 #include "window/immediate_surfaces.h"
 #include "window/output.h"
 #include "window/overlays/rubber_band.h"
@@ -58,7 +58,7 @@ class PlotDisplay {
  private:
   const ButtonColumn& buttons_;
   BackBuffer buffer_;
-  RasterCache raster_cache_;
+  DrawingWay way_ = DrawingWayOfEnvironment();
   OverlaySurfaces surfaces_;
   ImmediateSurfaces immediate_;
   RubberBand band_;
