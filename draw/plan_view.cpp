@@ -42,11 +42,6 @@ void DrawLines(PlanCanvas& canvas, const PlotData& data) {
   }
 }
 
-void DrawPoints(PlanCanvas& canvas, const PlotData& data) {
-  PointPainter painter(canvas, data.view, data.legend);
-  data.points.ForEach([&](const Point& point) { painter.Draw(point); });
-}
-
 }  // namespace
 
 void DrawPlanView(PlanCanvas& canvas, const PlotData& data) {
@@ -54,7 +49,7 @@ void DrawPlanView(PlanCanvas& canvas, const PlotData& data) {
     DrawFigures(canvas, data);
     DrawLines(canvas, data);
   }
-  DrawPoints(canvas, data);
+  DrawPoints(canvas, data.view, data.legend, data.points);
 }
 
 void DrawSinglePoint(PlanCanvas& canvas, const PlotData& data, const Point& point) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace tavix {
 namespace {
@@ -188,6 +189,19 @@ bool CViewState::CircleOnScreen(GroundPoint centre, double radius, ScreenPoint& 
   }
   screen = at;
   return true;
+}
+
+// The upright box around the turned client area, grown by `pixels` and by two more for truncation
+// and rounding.
+GroundArea CViewState::GroundAround(int pixels) const {
+  constexpr double kAnywhere = std::numeric_limits<double>::infinity();
+  if (!std::isfinite(PixelsToLength(pixels))) return {centre_, kAnywhere, kAnywhere};
+  const int margin = pixels + 2;
+  const double half_x = std::max<double>(half_width_, width_ - half_width_) + margin;
+  const double half_y = std::max<double>(half_height_, height_ - half_height_) + margin;
+  const double across = std::fabs(cos_a_) * half_x + std::fabs(sin_a_) * half_y;
+  const double down = std::fabs(sin_a_) * half_x + std::fabs(cos_a_) * half_y;
+  return {centre_, down / std::fabs(v_scale_), across / std::fabs(scale_)};
 }
 
 bool CViewState::ClipGroundSegment(GroundPoint start, GroundPoint end,

@@ -4,6 +4,7 @@
 
 #include "view/clip.h"
 #include "view/coordinates.h"
+#include "view/ground_area.h"
 
 namespace tavix {
 
@@ -93,6 +94,9 @@ class CViewState {
 
   // True when a circle of `radius` metres can touch the client area; then `screen` is its centre.
   [[nodiscard]] bool CircleOnScreen(GroundPoint centre, double radius, ScreenPoint& screen) const;
+
+  // The ground outside of which CircleOnScreen is false for every circle of up to `pixels` pixels.
+  [[nodiscard]] GroundArea GroundAround(int pixels) const;
 
   // Clips a ground segment to the client area. False when it lies outside; `clipped` then stays as
   // it was.
