@@ -36,10 +36,10 @@ void DrawLine(LinePainter& painter, const PlotData& data, const Line& line) {
 // In the order of entry, so that later lines cover earlier ones as later points do.
 void DrawLines(PlanCanvas& canvas, const PlotData& data) {
   LinePainter painter(canvas, data.view, data.legend);
-  for (int code = data.lines.First(CLinDb::Order::kById); code == 0; code = data.lines.Next()) {
-    Line line;
-    if (data.lines.ReadCur(&line) == 0) DrawLine(painter, data, line);
-  }
+  data.lines.ForEachIn(data.points, data.view.OutOfView(),
+                       [&](std::int16_t legend, GroundPoint start, GroundPoint end) {
+                         painter.DrawSegment(legend, start, end);
+                       });
 }
 
 }  // namespace

@@ -25,6 +25,7 @@ int CPntList::SetCurCrd(GroundPoint at) {
   PntRec* current = Records().Current();
   if (!current) return -2;
   current->at = at;
+  ++moves_;
   index_.Moved(Records().CurrentPosition());
   SetChanged(true);
   return 0;

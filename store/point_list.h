@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 
 #include "store/keyed_points.h"
@@ -66,11 +67,30 @@ class CPntList : public KeyedPoints<CPntList, PntRec, Point> {
   // none.
   bool Locate(std::int32_t key, GroundPoint* at) const;
 
+  // ---- Points by their positions in the list, for what is derived from it
+
+  using Position = RecordList<PntRec>::Position;
+
+  // Of the point with this key, or nothing. It stays the same until Removals changes.
+  [[nodiscard]] std::optional<Position> PositionOf(std::int32_t key) const {
+    return Records().PositionOf(key);
+  }
+  [[nodiscard]] GroundPoint At(Position position) const {
+    return Records().ByPosition()[position].at;
+  }
+  // All positions are below it; every point that is entered raises it.
+  [[nodiscard]] std::size_t PositionEnd() const { return Records().ByPosition().size(); }
+  // Changes whenever points are removed.
+  [[nodiscard]] std::uint64_t Removals() const { return Records().Removals(); }
+  // Changes whenever a point moves on the ground.
+  [[nodiscard]] std::uint64_t Moves() const { return moves_; }
+
  private:
   friend class KeyedPoints<CPntList, PntRec, Point>;
 
   [[nodiscard]] Point View(const PntRec& record) const;
 
+  std::uint64_t moves_ = 0;
   mutable PointIndex<PntRec> index_;  // a cache: it only shortens searches
 };
 

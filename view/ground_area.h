@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 
 #include "view/coordinates.h"
 #include "view/extent.h"
@@ -24,11 +25,34 @@ struct GroundArea {
   [[nodiscard]] bool Touches(GroundPoint point) const {
     return Touches(GroundExtent{point, point});
   }
+  // Whether a point lies within it, short of its borders. One that is not finite never does.
+  [[nodiscard]] bool Holds(GroundPoint point) const {
+    return std::fabs(point.north - centre.north) < north &&
+           std::fabs(point.east - centre.east) < east;
+  }
 
  private:
   // One branch, mostly predicted.
   [[nodiscard]] static bool IsBeyond(double middle, double low, double high, double reach) {
     return std::max(low - middle, middle - high) > reach;
+  }
+};
+
+// Holds back what is out of a view for certain: of the segments whose pixels are as far apart as
+// their ends on the ground, those outside of the view. Pixels far away are not: they are cut to the
+// range of their numbers.
+struct SegmentSieve {
+  GroundArea view;   // outside of it, on one side, nothing shows
+  GroundArea exact;  // within it pixels are true
+
+  // All segments between points in the box.
+  [[nodiscard]] bool HoldsBack(const GroundExtent& box) const {
+    return !view.Touches(box) && exact.Holds(box.min) && exact.Holds(box.max);
+  }
+  [[nodiscard]] bool HoldsBack(GroundPoint start, GroundPoint end) const {
+    return exact.Holds(start) && exact.Holds(end) &&
+           !view.Touches({{std::max(start.north, end.north), std::max(start.east, end.east)},
+                          {std::min(start.north, end.north), std::min(start.east, end.east)}});
   }
 };
 

@@ -204,6 +204,12 @@ GroundArea CViewState::GroundAround(int pixels) const {
   return {centre_, down / std::fabs(v_scale_), across / std::fabs(scale_)};
 }
 
+SegmentSieve CViewState::OutOfView() const {
+  constexpr double kTruePixels = 1 << 29;  // a quarter of their range: no turn leaves it
+  return {GroundAround(0),
+          {centre_, kTruePixels / std::fabs(v_scale_), kTruePixels / std::fabs(scale_)}};
+}
+
 bool CViewState::ClipGroundSegment(GroundPoint start, GroundPoint end,
                                    ScreenSegment& clipped) const {
   ScreenSegment segment{GroundToScreen(start), GroundToScreen(end)};

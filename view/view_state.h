@@ -98,6 +98,9 @@ class CViewState {
   // The ground outside of which CircleOnScreen is false for every circle of up to `pixels` pixels.
   [[nodiscard]] GroundArea GroundAround(int pixels) const;
 
+  // The segments for which ClipGroundSegment is false for certain.
+  [[nodiscard]] SegmentSieve OutOfView() const;
+
   // Clips a ground segment to the client area. False when it lies outside; `clipped` then stays as
   // it was.
   [[nodiscard]] bool ClipGroundSegment(GroundPoint start, GroundPoint end,
