@@ -17,9 +17,10 @@ namespace tavix {
 // Stands beside a list of records that have a position `at`. It visits what a scan of the list
 // would visit, in the same order.
 //
-// The list is divided into stretches of 65,536 records. A stretch is scanned until scans in vain
-// have cost as much as an R-tree of it; then its tree is built, two of them in one call at most, so
-// that no call has to wait. Of a stretch with a tree
+// The list is divided into stretches of 65,536 records. A stretch is scanned until scans have
+// passed over twice as many records in vain; then an R-tree of it is built, of one stretch in a
+// call for a few records, of two in a call for all, so that no call takes long. Of a stretch with a
+// tree
 //   - records that moved since it was built, and those with a coordinate that is not finite, lie
 //     outside the tree and are tested one by one;
 //   - records entered since then come last and are scanned.
@@ -39,7 +40,7 @@ class PointIndex {
       visit(static_cast<Position>(at));
       return true;
     };
-    Follow(records);
+    Follow(records, 2);
     for (std::size_t i = 0; i < stretches_.size(); ++i) {
       std::size_t from = i * kStretch;
       const Stretch* stretch = Indexed(all, i);
@@ -66,7 +67,7 @@ class PointIndex {
       to = std::min(to + kStepsPerHit, all.size());
     }
     if (at == all.size()) return;
-    Follow(records);
+    Follow(records, 1);
     for (std::size_t i = at / kStretch; i < stretches_.size(); ++i) {
       at = std::max(at, i * kStretch);
       if (Stretch* stretch = Indexed(all, i)) {
@@ -96,8 +97,7 @@ class PointIndex {
   static constexpr std::size_t kAlwaysScanned = 256;
   static constexpr std::size_t kStepsPerHit = 512;  // what the tree needs to find one more point
   static constexpr std::size_t kManyShare = 4;      // a scan is faster for one in so many
-  static constexpr std::size_t kBuildingCost = 8;   // in steps of a scan, for each record
-  static constexpr int kMostBuilt = 2;              // trees in one call
+  static constexpr std::size_t kBuildingCost = 2;   // steps of a scan in vain, for each record
 
   struct Stretch {
     std::size_t begin = 0;
@@ -112,11 +112,12 @@ class PointIndex {
   }
   [[nodiscard]] static GroundExtent BoxOf(const Record& record) { return {record.at, record.at}; }
 
-  // Begins a call: all positions may have changed, and the list may have grown.
-  void Follow(const Records& records) {
+  // Begins a call that may build so many trees: all positions may have changed, and the list may
+  // have grown.
+  void Follow(const Records& records, int most_built) {
     if (numbering_ != records.Numbering()) stretches_.clear();
     numbering_ = records.Numbering();
-    built_ = 0;
+    buildable_ = most_built;
     const std::size_t count = (records.ByPosition().size() + kStretch - 1) / kStretch;
     while (stretches_.size() < count) stretches_.push_back(Empty(stretches_.size()));
   }
@@ -125,9 +126,9 @@ class PointIndex {
   [[nodiscard]] Stretch* Indexed(std::span<const Record> all, std::size_t i) {
     Stretch& stretch = stretches_[i];
     const std::size_t size = EndOf(all, i) - stretch.begin;
-    if (stretch.end < EndOf(all, i) && in_vain_ >= kBuildingCost * size && built_ < kMostBuilt) {
+    if (stretch.end < EndOf(all, i) && in_vain_ >= kBuildingCost * size && buildable_ > 0) {
       in_vain_ -= kBuildingCost * size;
-      ++built_;
+      --buildable_;
       Build(all.first(EndOf(all, i)), stretch);
     }
     return stretch.end > stretch.begin ? &stretch : nullptr;
@@ -221,7 +222,7 @@ class PointIndex {
   std::vector<Stretch> stretches_;
   std::uint64_t numbering_ = 0;      // of the list, for which the positions here are valid
   std::size_t in_vain_ = 0;          // records scanned without a hit, less those paid for by trees
-  int built_ = 0;                    // trees in this call
+  int buildable_ = 0;                // how many trees this call may still build
   std::vector<std::uint64_t> hits_;  // of one stretch; all zero between searches
 };
 
