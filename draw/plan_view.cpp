@@ -8,14 +8,11 @@ namespace tavix {
 namespace {
 
 void DrawFigure(LinePainter& painter, const Figure& figure) {
-  if (figure.points.size() < 2) return;
   const auto legend = static_cast<std::int16_t>(figure.legend);
-  if (figure.is_circle) {
+  if (!figure.is_circle) {
+    painter.DrawPolyline(legend, figure.points);
+  } else if (figure.points.size() >= 2) {
     painter.DrawCircle(legend, figure.points[0], figure.points[1].north);
-    return;
-  }
-  for (std::size_t i = 1; i < figure.points.size(); ++i) {
-    painter.DrawSegment(legend, figure.points[i - 1], figure.points[i]);
   }
 }
 

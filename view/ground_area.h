@@ -2,7 +2,9 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <span>
 
 #include "view/coordinates.h"
 #include "view/extent.h"
@@ -49,10 +51,19 @@ struct SegmentSieve {
   [[nodiscard]] bool HoldsBack(const GroundExtent& box) const {
     return !view.Touches(box) && exact.Holds(box.min) && exact.Holds(box.max);
   }
+  // All segments between these points, of which there is at least one.
+  [[nodiscard]] bool HoldsBack(std::span<const GroundPoint> points) const {
+    if (view.Touches(points.front())) return false;
+    GroundExtent box{points.front(), points.front()};
+    for (const GroundPoint point : points) {
+      if (!exact.Holds(point)) return false;
+      box = {{std::max(box.max.north, point.north), std::max(box.max.east, point.east)},
+             {std::min(box.min.north, point.north), std::min(box.min.east, point.east)}};
+    }
+    return !view.Touches(box);
+  }
   [[nodiscard]] bool HoldsBack(GroundPoint start, GroundPoint end) const {
-    return exact.Holds(start) && exact.Holds(end) &&
-           !view.Touches({{std::max(start.north, end.north), std::max(start.east, end.east)},
-                          {std::min(start.north, end.north), std::min(start.east, end.east)}});
+    return HoldsBack(std::array{start, end});
   }
 };
 

@@ -213,15 +213,19 @@ SegmentSieve CViewState::OutOfView() const {
 bool CViewState::ClipGroundSegment(GroundPoint start, GroundPoint end,
                                    ScreenSegment& clipped) const {
   ScreenSegment segment{GroundToScreen(start), GroundToScreen(end)};
+  if (!ClipScreenSegment(segment)) return false;
+  clipped = segment;
+  return true;
+}
+
+bool CViewState::ClipScreenSegment(ScreenSegment& segment) const {
   const int width = TruncateToInt(width_);
   const int height = TruncateToInt(height_);
   if (segment.start.y < 0 && segment.end.y < 0) return false;
   if (segment.start.y > height && segment.end.y > height) return false;
   if (segment.start.x < 0 && segment.end.x < 0) return false;
   if (segment.start.x > width && segment.end.x > width) return false;
-  if (!ClipToQuad(screen_quad_, segment)) return false;
-  clipped = segment;
-  return true;
+  return ClipToQuad(screen_quad_, segment);
 }
 
 bool CViewState::ClipGroundSegmentInPlace(GroundPoint& start, GroundPoint& end,

@@ -106,7 +106,10 @@ class CViewState {
   [[nodiscard]] bool ClipGroundSegment(GroundPoint start, GroundPoint end,
                                        ScreenSegment& clipped) const;
 
-  // The same, and the ground ends become the ground positions of the clipped pixels.
+  // The same of a segment of pixels, in place. False when it lies outside; it is then undefined.
+  [[nodiscard]] bool ClipScreenSegment(ScreenSegment& segment) const;
+
+  // As ClipGroundSegment, and the ground ends become the ground positions of the clipped pixels.
   [[nodiscard]] bool ClipGroundSegmentInPlace(GroundPoint& start, GroundPoint& end,
                                               ScreenSegment& clipped) const;
 
