@@ -66,9 +66,8 @@ class RecordList {
 
   Record& Append(const Record& record) {
     const auto position = static_cast<Position>(records_.size());
-    if (FirstWithKey(record.key)) ++repeated_keys_;
     records_.push_back(record);
-    index_.Insert(record.key, position);
+    if (index_.Insert(record.key, position)) ++repeated_keys_;
     ++live_;
     return records_.back();
   }
