@@ -32,7 +32,8 @@ class PointIndex {
 
   // `touches(GroundExtent)`, of both calls, must be true for a box when it is for a point in it.
 
-  // Calls `visit(Position)` in list order for every record for whose position `touches` is true.
+  // Calls `visit(Position)` in list order for every record for whose position `touches` is true,
+  // and maybe for some that have moved from such a position.
   template <class Touches, class Visit>
   void ForEach(const Records& records, Touches touches, Visit visit) {
     const std::span<const Record> all = records.ByPosition();
@@ -195,20 +196,19 @@ class PointIndex {
     return going_on;
   }
 
-  // All hits of the tree are marked first, in a bit each, and then visited in their order.
+  // All hits of the tree and those outside it are marked first, in a bit each, and then visited in
+  // their order.
   template <class Touches, class Visit>
   void VisitIndexed(std::span<const Record> all, const Stretch& stretch, Touches& touches,
                     const Visit& visit) {
     constexpr std::size_t kBits = 64;
     hits_.resize(kStretch / kBits);
-    const auto word = [&](std::size_t offset) -> std::uint64_t& { return hits_[offset / kBits]; };
-    const auto bit = [](std::size_t offset) { return std::uint64_t{1} << offset % kBits; };
-    stretch.tree.ForEach(touches,
-                         [&](PackedRTree::Position offset) { word(offset) |= bit(offset); });
+    const auto mark = [&](std::size_t offset) {
+      hits_[offset / kBits] |= std::uint64_t{1} << offset % kBits;
+    };
+    stretch.tree.ForEach(touches, mark);
     for (const Position at : stretch.outside) {
-      const std::size_t offset = at - stretch.begin;
-      word(offset) &= ~bit(offset);
-      if (touches(BoxOf(all[at]))) word(offset) |= bit(offset);
+      if (touches(BoxOf(all[at]))) mark(at - stretch.begin);
     }
     for (std::size_t i = 0; i < hits_.size(); ++i) {
       for (; hits_[i] != 0; hits_[i] &= hits_[i] - 1) {

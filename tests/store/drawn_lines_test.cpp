@@ -40,15 +40,18 @@ class LinesTwice {
   }
 
   void EnterPoint() {
-    points_.Add({SomeKey(), 0, u"", SomePosition(), 1});  // a key may be there already
+    const int key = SomeKey();
+    points_.Add({key, 0, u"", PositionOf(key), 1});  // a key may be there already
   }
   void MovePoint() {
-    if (points_.Find(SomeKey()) == 0) points_.SetCurCrd(SomePosition());
+    if (points_.Find(SomeKey()) == 0) points_.SetCurCrd(SomePosition());  // anywhere
   }
   void RemovePoint() { points_.Remove(SomeKey()); }
   void ClearPoints() { points_.Clear(); }
   void EnterLine() {
-    const PlainLine line{LineKeys::Of(SomeKey(), SomeKey()), static_cast<std::int16_t>(Below(5))};
+    const int key = last_key_++ % kKeys;
+    const int other = Below(100) == 0 ? SomeKey() : key + 1 + static_cast<int>(Below(3));
+    const PlainLine line{LineKeys::Of(key, other), static_cast<std::int16_t>(Below(5))};
     lines_.Append(line.keys, line.legend);
     plain_.push_back(line);
   }
@@ -96,6 +99,10 @@ class LinesTwice {
                           1e300,     -1e12,      4e6};
     return Below(400) == 0 ? odd[Below(6)] : Between(-1000, 1000);
   }
+  // Points with neighbouring keys are neighbours, so that lines in a row are, too.
+  GroundPoint PositionOf(int key) {
+    return {2000.0 * key / kKeys - 1000 + Between(-20, 20), Between(-20, 20)};
+  }
   GroundPoint SomePosition() {
     const double north = SomeCoordinate();
     return {north, SomeCoordinate()};
@@ -105,6 +112,7 @@ class LinesTwice {
   CPntList points_;
   DrawnLines lines_;
   std::vector<PlainLine> plain_;
+  int last_key_ = 0;
 };
 
 TEST(DrawnLines, AreThoseWhoseEndsAreFoundOneByOne) {
