@@ -103,7 +103,7 @@ int Instance::ReadMemo(std::int32_t key, CString* memo) { return parts_->memos.R
 int Instance::EnterLine(LineKeys keys) {
   FinishRedraw();
   CLinDb& lines = parts_->lines;
-  if (lines.Find(keys) == 0) return 0;
+  if (lines.Contains(keys)) return 0;
   Line line{0, keys, line_legend_};
   const int code = lines.Add(keys, line.legend, &line.id);
   if (code == 0 && auto_redraw_ && window_) window_->Display().Shown().DrawNew(line);

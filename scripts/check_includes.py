@@ -19,7 +19,7 @@ from pathlib import Path
 # Layers from the bottom up; a file belongs to the first whose pattern it matches.
 LAYERS = {
     # The leaf: positions, sizes and boxes on the ground and the screen.
-    "coordinates": ("view/coordinates.*", "view/extent.*"),
+    "coordinates": ("view/coordinates.*", "view/extent.*", "view/ground_area.*"),
     "view": ("view/*",),
     "calls": ("include/*",),
     "public": ("platform/*/include/*",),

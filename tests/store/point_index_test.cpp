@@ -1,9 +1,10 @@
-// The search for the nearest point, compared with a plain scan of the list.
+// The nearest point and the points of an area, compared with a plain scan of the list.
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 #include <random>
+#include <span>
 #include <vector>
 
 #include "store/point_list.h"
@@ -60,10 +61,42 @@ class PointsTwice {
     std::int32_t key = 99;
     const int code = points_.FindNearest(tolerance, at, &key);
     ASSERT_EQ(plain_.empty() ? -3 : (expected == 0 ? -1 : 0), code);
-    ASSERT_EQ(key, expected) << tolerance << " round " << at.north << ", " << at.east;
+    ASSERT_EQ(expected, key) << tolerance << " round " << at.north << ", " << at.east;
+  }
+
+  // The points within an area come in list order, none is left out, and what lies between two of
+  // them is handed over as passed over.
+  void ExpectSameInArea(const GroundArea& area) const {
+    std::vector<std::int32_t> keys;      // as they come, those passed over included
+    std::vector<std::int32_t> expected;  // up to the last one that came
+    bool within = true;                  // those within the area are not among those passed over
+    std::int32_t last = 0;
+    points_.ForEachIn(area, [&](const Point& point, std::span<const PntRec> passed_over) {
+      for (const PntRec& record : passed_over) {
+        if (record.removed) continue;
+        within = within && !IsWithin(area, record.at);
+        keys.push_back(record.key);
+      }
+      keys.push_back(last = point.key);
+    });
+    for (const Point& point : plain_) {
+      if (last == 0) break;
+      expected.push_back(point.key);
+      if (point.key == last) last = 0;
+    }
+    ASSERT_EQ(expected, keys);
+    for (std::size_t i = expected.size(); i < plain_.size(); ++i) {
+      within = within && !IsWithin(area, plain_[i].at);
+    }
+    ASSERT_TRUE(within);
   }
 
  private:
+  static bool IsWithin(const GroundArea& area, GroundPoint at) {
+    return std::fabs(at.north - area.centre.north) <= area.north &&
+           std::fabs(at.east - area.centre.east) <= area.east;
+  }
+
   CPntList points_;
   std::vector<Point> plain_;
 };
@@ -111,6 +144,9 @@ void CompareInRandomUse(unsigned seed, int points, int side, bool whole, unsigne
     if (whole) tolerance = static_cast<double>(random() % 12);
     if (strange && random() % 30 == 0) tolerance = random() % 2 == 0 ? kInfinity : kNoNumber;
     ASSERT_NO_FATAL_FAILURE(lists.ExpectSameNearest(tolerance, at)) << "step " << step;
+    if (step % 8 != 0) continue;
+    ASSERT_NO_FATAL_FAILURE(lists.ExpectSameInArea({at, tolerance, tolerance * 0.5}))
+        << "step " << step;
   }
 }
 
@@ -122,6 +158,35 @@ TEST(NearestPoint, IsTheOneAScanFinds) {
       CompareInRandomUse(++seed, points, side, true, 10, false);
       CompareInRandomUse(++seed, points, side, false, 200, false);
       CompareInRandomUse(++seed, points, side, side == 60, 50, true);
+    }
+  }
+}
+
+// More than one stretch of the index, points that move and go, and points entered late.
+TEST(PointsOfAnArea, AreThoseAScanFindsAmongVeryMany) {
+  constexpr int kPoints = 150000;
+  constexpr double kSide = 1e4;
+  std::mt19937 random(77);
+  const auto some_position = [&] {
+    std::uniform_real_distribution<double> coordinate(0.0, kSide);
+    return GroundPoint{coordinate(random), coordinate(random)};
+  };
+  PointsTwice lists;
+  std::int32_t key = 0;
+  // In rows across the ground, as surveys are entered, and then anywhere.
+  for (; key < kPoints / 2; ++key) {
+    lists.Add(key + 1, {kSide * 2 * key / kPoints, kSide * (key % 300) / 300});
+  }
+  for (; key < kPoints; ++key) lists.Add(key + 1, some_position());
+  for (int step = 0; step < 30; ++step) {
+    const double reach = std::ldexp(1.0, static_cast<int>(random() % 14));
+    const GroundPoint at = some_position();
+    ASSERT_NO_FATAL_FAILURE(lists.ExpectSameInArea({at, reach, reach * 2})) << "step " << step;
+    ASSERT_NO_FATAL_FAILURE(lists.ExpectSameNearest(reach * 0.1, at)) << "step " << step;
+    for (int i = 0; i < 20; ++i) {
+      lists.Move(random() % lists.Count(), some_position());
+      lists.Remove(random() % lists.Count());
+      lists.Add(++key, some_position());
     }
   }
 }
