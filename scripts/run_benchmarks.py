@@ -62,7 +62,7 @@ def measure_host():
               if line.startswith("list\t")]  # fmt: skip
     floor = statistics.median(floors) / 1000
     details = f"reading and base {floor:.3g} s, host {host:.3g} s without Wine's own start"
-    what = "a coordinate list of 30,000 points in the sample host, start to picture file"
+    what = "a list of 21,479 points in the sample host, start to picture file"
     return [Figure("15", what, host / floor, "", 0.8, details, -1)]
 
 
