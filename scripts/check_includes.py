@@ -31,7 +31,7 @@ LAYERS = {
     "frame": ("frame/*",),
     "bindings": ("bindings/*",),
     "host": ("host/*", "samples/*", "docs/guide/*"),
-    "tests": ("tests/*", "bench/*", "fuzz/*"),
+    "tests": ("tests/*", "benchmarks/*", "fuzz/*"),
 }
 
 _PLATFORM = {"platform", "public"}

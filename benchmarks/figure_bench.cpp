@@ -19,7 +19,7 @@
 #include <string>
 #include <vector>
 
-#include "bench/median_time.h"
+#include "benchmarks/timing.h"
 #include "figure/figure_codec.h"
 #include "figure/figure_list.h"
 

@@ -16,7 +16,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "bench/median_time.h"
+#include "benchmarks/timing.h"
 #include "store/lin_db.h"
 #include "store/point_list.h"
 
