@@ -21,8 +21,8 @@ std::filesystem::path FolderOfFailures() {
 std::filesystem::path NextPath() {
   static int count = 0;
   const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-  std::string name =
-      std::string(test->test_suite_name()) + "." + test->name() + "." + std::to_string(++count);
+  std::string name = test ? std::string(test->test_suite_name()) + "." + test->name() : "program";
+  name += "." + std::to_string(++count);
   for (char& letter : name) {
     if (letter == '/') letter = '_';
   }

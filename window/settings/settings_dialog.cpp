@@ -144,7 +144,9 @@ CComboBox& SettingsDialog::List(int id) { return *static_cast<CComboBox*>(GetDlg
 void SettingsDialog::OnEntryChange() {
   TakeEntry();
   CComboBox& list = List(IDC_ENTRY);
-  ShowEntry(static_cast<int>(list.GetItemData(list.GetCurSel())));
+  const int line = list.GetCurSel();
+  // A program may report a change that leaves nothing selected: the entry shown stays.
+  if (line != CB_ERR) ShowEntry(static_cast<int>(list.GetItemData(line)));
 }
 
 void SettingsDialog::OnCopyToAll() {
