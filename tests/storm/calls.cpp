@@ -633,6 +633,7 @@ void AddPiece(Storm& storm, ModelPiece::Kind kind, std::vector<double> numbers, 
     storm.ExpectCode(kRefused, code);
   } else if (code == 0) {
     model.pieces.push_back({kind, model.figure, model.figure_legend, std::move(numbers)});
+    ++model.pieces_made;
   }
 }
 
@@ -709,7 +710,7 @@ void DelFig(Storm& storm) {
   const int figure = storm.Any().OneIn(10) ? storm.Any().Number() : storm.Any().Between(1, 12);
   Model& model = storm.Now();
   Note(storm, "DelFig", figure);
-  const bool some = model.exists && !model.pieces.empty();
+  const bool some = model.exists && model.pieces_made > 0;
   const int code = Tavix_DelFig(figure);
   if (model.figures_known || !model.exists) ExpectChanged(storm, some, code);
   std::erase_if(model.pieces, [=](const ModelPiece& piece) { return piece.figure == figure; });

@@ -55,6 +55,7 @@ void Model::ClearData() {
   lines.Clear();
   memos.clear();
   pieces.clear();
+  pieces_made = 0;
   figure = 0;
   figure_legend = -1;
   figures_known = true;
