@@ -29,7 +29,7 @@ LAYERS = {
     "frame": ("frame/*",),
     "bindings": ("bindings/*",),
     "host": ("host/*", "samples/*"),
-    "tests": ("tests/*", "bench/*", "fuzz/*"),
+    "tests": ("tests/*", "bench/*", "fuzzers/*"),
 }
 
 _PLATFORM = {"platform", "public"}
