@@ -7,37 +7,10 @@
 #include <random>
 #include <vector>
 
+#include "tests/store/tree_search.h"
+
 namespace tavix {
 namespace {
-
-using Positions = std::vector<std::uint32_t>;
-
-bool Overlap(const GroundExtent& a, const GroundExtent& b) {
-  return a.min.north <= b.max.north && b.min.north <= a.max.north && a.min.east <= b.max.east &&
-         b.min.east <= a.max.east;
-}
-
-Positions InTree(PackedRTree& tree, const GroundExtent& box, std::size_t most) {
-  Positions found;
-  tree.ForEachInOrder([&](const GroundExtent& part) { return Overlap(part, box); },
-                      [&](std::uint32_t position) {
-                        found.push_back(position);
-                        return found.size() < most;
-                      });
-  return found;
-}
-
-// A scan of all entries, which are in the order of their positions.
-Positions InScan(const std::vector<PackedRTree::Entry>& entries, const GroundExtent& box,
-                 std::size_t most) {
-  Positions found;
-  for (const PackedRTree::Entry& entry : entries) {
-    if (!Overlap({entry.at, entry.at}, box)) continue;
-    found.push_back(entry.position);
-    if (found.size() == most) break;
-  }
-  return found;
-}
 
 struct Spread {
   const char* name;
