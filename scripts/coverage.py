@@ -18,6 +18,8 @@ import sys
 from collections import defaultdict
 from pathlib import Path
 
+from check_includes import portable_sources
+
 ROOT = Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build/coverage"
 PROFILES = BUILD / "profiles"
@@ -56,15 +58,24 @@ def programs():
 
 
 def exported():
-    """What llvm-cov knows: files with their summaries and segments, and functions."""
+    """What llvm-cov knows: our files with their summaries and segments, and all functions."""
     first, *others = programs()
     objects = [word for program in others for word in ("-object", program)]
-    sources = [str(ROOT / folder) for folder in FOLDERS]
     report = subprocess.run(
-        ["llvm-cov", "export", f"-instr-profile={MERGED}", first, *objects, *sources],
+        ["llvm-cov", "export", f"-instr-profile={MERGED}", first, *objects],
         capture_output=True, text=True, check=True,
     )
-    return json.loads(report.stdout)["data"][0]
+    data = json.loads(report.stdout)["data"][0]
+    # A compiler cache may have made the names relative to where the compiler ran.
+    absolute = lambda name: os.path.normpath(BUILD / name)
+    files = [{**file, "filename": absolute(file["filename"])} for file in data["files"]]
+    functions = [{**each, "file": absolute(each["filenames"][0])} for each in data["functions"]]
+    return [file for file in files if is_ours(file["filename"])], functions
+
+
+def is_ours(path):
+    """Whether the file is in one of the folders that are asked about."""
+    return Path(path).is_relative_to(ROOT) and Path(path).relative_to(ROOT).parts[0] in FOLDERS
 
 
 def folder_of(path):
@@ -90,6 +101,14 @@ def print_table(files):
         print(f"{name:24}" + "".join(f"{cell:>22}" for cell in cells))
 
 
+def print_absent(files):
+    """The portable sources that no native program has: not one line of them was counted."""
+    counted = {str(Path(file["filename"]).relative_to(ROOT)) for file in files}
+    for source in portable_sources(ROOT):
+        if source not in counted:
+            print(f"in no native test program: {source}")
+
+
 def missed_lines(file):
     """The numbers of the lines on which a region that is never reached begins."""
     missed = set()
@@ -99,13 +118,12 @@ def missed_lines(file):
     return sorted(missed)
 
 
-def print_missed(data):
+def print_missed(files, functions):
     """Functions that are never entered in any instance, then the lines of each file."""
     entered = defaultdict(int)
-    for function in data["functions"]:
-        path = function["filenames"][0]
-        entered[(path, function["regions"][0][0])] += function["count"]
-    for file in sorted(data["files"], key=lambda each: each["filename"]):
+    for function in functions:
+        entered[(function["file"], function["regions"][0][0])] += function["count"]
+    for file in sorted(files, key=lambda each: each["filename"]):
         path = file["filename"]
         lines = missed_lines(file)
         if not lines:
@@ -123,10 +141,11 @@ def main():
     parser.add_argument("--no-run", action="store_true", help="from the last run")
     options = parser.parse_args()
     well = options.no_run or run_tests()
-    data = exported()
-    print_table(data["files"])
+    files, functions = exported()
+    print_table(files)
+    print_absent(files)
     if options.missed:
-        print_missed(data)
+        print_missed(files, functions)
     return 0 if well else 1
 
 
