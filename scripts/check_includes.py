@@ -31,7 +31,7 @@ LAYERS = {
     "frame": ("frame/*",),
     "bindings": ("bindings/*",),
     "host": ("host/*", "samples/*", "docs/guide/*"),
-    "tests": ("tests/*", "benchmarks/*", "fuzz/*"),
+    "tests": ("tests/*", "benchmarks/*", "fuzzers/*"),
 }
 
 _PLATFORM = {"platform", "public"}

@@ -8,59 +8,10 @@
 #include <random>
 #include <vector>
 
+#include "tests/store/tree_search.h"
+
 namespace tavix {
 namespace {
-
-using Positions = std::vector<PackedRTree::Position>;
-
-struct Entry {
-  GroundPoint at;
-  PackedRTree::Position position;
-};
-
-void Build(PackedRTree& tree, const std::vector<Entry>& entries) {
-  Positions positions;
-  for (const Entry& entry : entries) positions.push_back(entry.position);
-  tree.Build(positions, [&](PackedRTree::Position position) {
-    return std::ranges::lower_bound(entries, position, {}, &Entry::position)->at;
-  });
-}
-
-bool Overlap(const GroundExtent& a, const GroundExtent& b) {
-  return a.min.north <= b.max.north && b.min.north <= a.max.north && a.min.east <= b.max.east &&
-         b.min.east <= a.max.east;
-}
-
-Positions InTree(PackedRTree& tree, const GroundExtent& box, std::size_t most) {
-  Positions found;
-  tree.ForEachInOrder([&](const GroundExtent& part) { return Overlap(part, box); },
-                      [&](PackedRTree::Position position) {
-                        found.push_back(position);
-                        return found.size() < most;
-                      });
-  return found;
-}
-
-// The other search, which has no order, and the estimate, which is not below the truth.
-Positions InTree(const PackedRTree& tree, const GroundExtent& box) {
-  const auto touches = [&](const GroundExtent& part) { return Overlap(part, box); };
-  Positions found;
-  tree.ForEach(touches, [&](PackedRTree::Position position) { found.push_back(position); });
-  EXPECT_LE(found.size(), tree.MostTouching(touches));
-  std::ranges::sort(found);
-  return found;
-}
-
-// A scan of all entries, which are in the order of their positions.
-Positions InScan(const std::vector<Entry>& entries, const GroundExtent& box, std::size_t most) {
-  Positions found;
-  for (const Entry& entry : entries) {
-    if (!Overlap({entry.at, entry.at}, box)) continue;
-    found.push_back(entry.position);
-    if (found.size() == most) break;
-  }
-  return found;
-}
 
 struct Spread {
   const char* name;
@@ -113,7 +64,7 @@ TEST(PackedRTree, GivesWhatAScanGives) {
     for (const std::size_t count : {1U, 16U, 17U, 129U, 2500U}) {
       SCOPED_TRACE(testing::Message() << spread.name << ", " << count);
       std::mt19937 random(61);
-      std::vector<Entry> entries;
+      std::vector<TreeEntry> entries;
       unsigned position = 0;
       for (std::size_t i = 0; i < count; ++i) {
         position += 1 + static_cast<unsigned>(random() % 3);
@@ -132,7 +83,9 @@ TEST(PackedRTree, GivesWhatAScanGives) {
         if (i % 50 == 0) box.Include(entries[random() % count].at);
         const std::size_t most = i % 3 == 0 ? count : 1 + random() % 12;
         ASSERT_EQ(InScan(entries, box.Extent(), most), InTree(tree, box.Extent(), most)) << i;
-        ASSERT_EQ(InScan(entries, box.Extent(), count), InTree(tree, box.Extent())) << i;
+        const Positions all = InScan(entries, box.Extent(), count);
+        ASSERT_EQ(all, InTree(tree, box.Extent())) << i;
+        ASSERT_LE(all.size(), MostInTree(tree, box.Extent())) << i;
       }
     }
   }
@@ -153,7 +106,7 @@ TEST(PackedRTree, WithoutPointsVisitsNothing) {
 TEST(PackedRTree, TestsFewOfManyPoints) {
   std::mt19937 random(62);
   for (const Spread& spread : {kSpreads[0], kSpreads[5], kSpreads[6]}) {
-    std::vector<Entry> entries;
+    std::vector<TreeEntry> entries;
     for (std::size_t i = 0; i < PackedRTree::kMostPoints; ++i) {
       entries.push_back({spread.point(random), static_cast<PackedRTree::Position>(i)});
     }

@@ -38,9 +38,7 @@ bool IsSame(double a, double b) { return std::memcmp(&a, &b, sizeof(a)) == 0; }
 int OnInstance(const Model& model, int otherwise = 0) {
   return model.exists ? otherwise : kRefused;
 }
-int OnWindow(const Model& model, int otherwise = 0) {
-  return model.linked ? otherwise : kRefused;
-}
+int OnWindow(const Model& model, int otherwise = 0) { return model.linked ? otherwise : kRefused; }
 
 // A change that redraws with auto-redraw on: without a window the redraw refuses. A change to what
 // is there already does not redraw.
@@ -299,7 +297,8 @@ void EntPnt(Storm& storm) {
   point.legend = model.point_legend;
   Note(storm, "EntPnt", point.key, point.number, point.name.size(), point.at[0], point.at[1]);
   ModelPoint* old = model.points.Find(point.key);
-  const int code = Tavix_EntPnt(point.key, point.number, Text(point.name), point.at[0], point.at[1]);
+  const int code =
+      Tavix_EntPnt(point.key, point.number, Text(point.name), point.at[0], point.at[1]);
   if (!model.exists) {
     storm.ExpectCode(kRefused, code);
     return;
@@ -310,7 +309,8 @@ void EntPnt(Storm& storm) {
   double x = 0;
   double y = 0;
   storm.ExpectCode(0, Tavix_GetPntCrd(point.key, &x, &y));
-  if (old && model.auto_redraw && IsSame(x, old->at[0]) && IsSame(y, old->at[1])) point.at = old->at;
+  if (old && model.auto_redraw && IsSame(x, old->at[0]) && IsSame(y, old->at[1]))
+    point.at = old->at;
   storm.Expect(IsSame(x, point.at[0]) && IsSame(y, point.at[1]), "the point is elsewhere");
   model.points.Enter(point);
 }
@@ -386,9 +386,15 @@ void DelEntPnt(Storm& storm) {
 // ---- Legend
 
 std::array<int, 6> AnyLook(Chance& any, bool is_point) {
-  const int kind = any.OneIn(8) ? any.Number() : is_point ? any.Between(1, 11) : any.Between(101, 105);
+  const int kind = any.OneIn(8) ? any.Number()
+                   : is_point   ? any.Between(1, 11)
+                                : any.Between(101, 105);
   const auto size = [&] { return any.OneIn(12) ? any.Number() : any.Between(0, 16); };
-  return {kind, size(), size(), size(), any.OneIn(12) ? any.Number() : any.Between(0, 4),
+  return {kind,
+          size(),
+          size(),
+          size(),
+          any.OneIn(12) ? any.Number() : any.Between(0, 4),
           any.Between(0, 0xFFFFFF)};
 }
 
@@ -567,8 +573,11 @@ void GetPntMem(Storm& storm) {
 void EntPnt3(Storm& storm) {
   Chance& any = storm.Any();
   Model& model = storm.Now();
-  const ModelPoint point{any.Key(), any.Number(), any.Name(),
-                         {any.Coordinate(), any.Coordinate(), any.Coordinate()}, model.point_legend};
+  const ModelPoint point{any.Key(),
+                         any.Number(),
+                         any.Name(),
+                         {any.Coordinate(), any.Coordinate(), any.Coordinate()},
+                         model.point_legend};
   Note(storm, "EntPnt3", point.key, point.number, point.at[0], point.at[1], point.at[2]);
   storm.ExpectCode(OnInstance(model), Tavix_EntPnt3(point.key, point.number, Text(point.name),
                                                     point.at[0], point.at[1], point.at[2]));
@@ -649,7 +658,8 @@ void FigStt(Storm& storm) {
 
 void FigMdlLin(Storm& storm) {
   Chance& any = storm.Any();
-  const std::vector<double> n{any.Coordinate(), any.Coordinate(), any.Coordinate(), any.Coordinate()};
+  const std::vector<double> n{any.Coordinate(), any.Coordinate(), any.Coordinate(),
+                              any.Coordinate()};
   Note(storm, "FigMdlLin", n[0], n[1], n[2], n[3]);
   const int code = Tavix_FigMdlLin(n[0], n[1], n[2], n[3]);
   storm.ExpectCode(OnInstance(storm.Now()), code);
@@ -693,8 +703,13 @@ void FigMdlArc(Storm& storm) {
 
 void FigMdlClo(Storm& storm) {
   Chance& any = storm.Any();
-  const std::vector<double> n{any.Coordinate(), any.Coordinate(), any.Coordinate(), any.Coordinate(),
-                              any.OneIn(2) ? 0 : any.Length(), any.Length(), any.Length()};
+  const std::vector<double> n{any.Coordinate(),
+                              any.Coordinate(),
+                              any.Coordinate(),
+                              any.Coordinate(),
+                              any.OneIn(2) ? 0 : any.Length(),
+                              any.Length(),
+                              any.Length()};
   Note(storm, "FigMdlClo", n[0], n[1], n[2], n[3], n[4], n[5], n[6]);
   const int code = Tavix_FigMdlClo(n[0], n[1], n[2], n[3], n[4], n[5], n[6]);
   storm.Expect(code == 0 || code == kRefused, "FigMdlClo returns " + std::to_string(code));
@@ -861,27 +876,27 @@ struct Call {
 
 // All 84.
 constexpr std::array kCalls{
-    Call{12, SetIdx},     Call{1, GetIdx},      Call{14, Crt},        Call{3, Del},
-    Call{2, Lnk},         Call{4, LnkRct},      Call{1, Wnd},         Call{4, Dsp},
-    Call{3, Dsp3D},       Call{2, SetBtn},      Call{3, DrwFlg},      Call{8, Drw},
-    Call{1, DrwClr},      Call{4, SetAng},      Call{1, GetAng},      Call{2, SetTatYok},
-    Call{1, GetTatYok},   Call{4, Zom},         Call{4, Zom1},        Call{4, Pan},
-    Call{1, Mov},         Call{2, ChkCrd},      Call{2, ChkCir},      Call{1, GetLstPicCrd},
-    Call{2, CrdStt},      Call{2, CrdGet},      Call{2, CrdEnd},      Call{30, EntPnt},
-    Call{5, ChgPntHid},   Call{5, ChgPntNoNam}, Call{6, ChgPntCrd},   Call{5, GetPntNoNam},
-    Call{5, GetPntCrd},   Call{5, DelEntPnt},   Call{3, AddPntHan},   Call{3, ChgPntHan},
-    Call{3, GetPntHan},   Call{5, SelPntHan},   Call{1, PntHanTtl},   Call{3, AddLinHan},
-    Call{3, ChgLinHan},   Call{3, GetLinHan},   Call{5, SelLinHan},   Call{20, EntLin},
-    Call{5, ChgLinHid},   Call{5, DelEntLin},   Call{1, ClrEntLin},   Call{6, EntPntMem},
-    Call{6, GetPntMem},   Call{10, EntPnt3},    Call{3, ChgPnt3Hid},  Call{3, ChgPnt3NoNam},
-    Call{3, GetPnt3NoNam}, Call{3, GetPnt3Crd}, Call{3, DelEntPnt3},  Call{6, FigStt},
-    Call{4, FigMdlLin},   Call{4, FigMdlCir},   Call{4, FigMdlPly},   Call{4, FigMdlArc},
-    Call{4, FigMdlClo},   Call{4, FigEnd},      Call{3, DelFig},      Call{3, SetWak},
-    Call{2, WakDsp},      Call{2, SetWakScl},   Call{1, GetWakScl},   Call{2, SetWakGen},
-    Call{1, GetWakGen},   Call{2, SclBarDsp},   Call{2, MvPntStt},    Call{2, MvPntRub},
-    Call{5, MvPntMov},    Call{2, MvPntEnd},    Call{2, VoStt},       Call{6, VoAdd},
-    Call{3, VoDel},       Call{1, VoGet},       Call{3, VoLst},       Call{1, VoIdx},
-    Call{2, VoEnd},       Call{2, GrpStt},      Call{2, GrpGet},      Call{1, GrpEnd},
+    Call{12, SetIdx},      Call{1, GetIdx},      Call{14, Crt},       Call{3, Del},
+    Call{2, Lnk},          Call{4, LnkRct},      Call{1, Wnd},        Call{4, Dsp},
+    Call{3, Dsp3D},        Call{2, SetBtn},      Call{3, DrwFlg},     Call{8, Drw},
+    Call{1, DrwClr},       Call{4, SetAng},      Call{1, GetAng},     Call{2, SetTatYok},
+    Call{1, GetTatYok},    Call{4, Zom},         Call{4, Zom1},       Call{4, Pan},
+    Call{1, Mov},          Call{2, ChkCrd},      Call{2, ChkCir},     Call{1, GetLstPicCrd},
+    Call{2, CrdStt},       Call{2, CrdGet},      Call{2, CrdEnd},     Call{30, EntPnt},
+    Call{5, ChgPntHid},    Call{5, ChgPntNoNam}, Call{6, ChgPntCrd},  Call{5, GetPntNoNam},
+    Call{5, GetPntCrd},    Call{5, DelEntPnt},   Call{3, AddPntHan},  Call{3, ChgPntHan},
+    Call{3, GetPntHan},    Call{5, SelPntHan},   Call{1, PntHanTtl},  Call{3, AddLinHan},
+    Call{3, ChgLinHan},    Call{3, GetLinHan},   Call{5, SelLinHan},  Call{20, EntLin},
+    Call{5, ChgLinHid},    Call{5, DelEntLin},   Call{1, ClrEntLin},  Call{6, EntPntMem},
+    Call{6, GetPntMem},    Call{10, EntPnt3},    Call{3, ChgPnt3Hid}, Call{3, ChgPnt3NoNam},
+    Call{3, GetPnt3NoNam}, Call{3, GetPnt3Crd},  Call{3, DelEntPnt3}, Call{6, FigStt},
+    Call{4, FigMdlLin},    Call{4, FigMdlCir},   Call{4, FigMdlPly},  Call{4, FigMdlArc},
+    Call{4, FigMdlClo},    Call{4, FigEnd},      Call{3, DelFig},     Call{3, SetWak},
+    Call{2, WakDsp},       Call{2, SetWakScl},   Call{1, GetWakScl},  Call{2, SetWakGen},
+    Call{1, GetWakGen},    Call{2, SclBarDsp},   Call{2, MvPntStt},   Call{2, MvPntRub},
+    Call{5, MvPntMov},     Call{2, MvPntEnd},    Call{2, VoStt},      Call{6, VoAdd},
+    Call{3, VoDel},        Call{1, VoGet},       Call{3, VoLst},      Call{1, VoIdx},
+    Call{2, VoEnd},        Call{2, GrpStt},      Call{2, GrpGet},     Call{1, GrpEnd},
 };
 static_assert(kCalls.size() == 84);
 

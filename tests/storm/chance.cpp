@@ -54,7 +54,8 @@ std::int16_t Chance::Legend() {
 std::wstring Chance::Name() {
   if (OneIn(40)) return std::wstring(static_cast<std::size_t>(Between(200, 3000)), L'長');
   return AnyOf<std::wstring>({L"", L"P1", L"T-12", L"基準点", L"境界&杭", L"&&", L"ｶﾅ12", L"a\tb",
-                              L"two\nlines", L"\xD83D", L"\xD842\xDFB7野屋", L"\x200F\x0301", L"KB-7&"});
+                              L"two\nlines", L"\xD83D", L"\xD842\xDFB7野屋", L"\x200F\x0301",
+                              L"KB-7&"});
 }
 
 }  // namespace tavix::storm

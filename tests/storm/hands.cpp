@@ -179,8 +179,9 @@ void Drain(Storm& storm) {
 }
 
 using Hand = void (*)(Storm&);
-constexpr std::array<Hand, 14> kHands{Stylus, Stylus, Stylus,   Button, Button,      Button,        Key,
-                                      Paint,  Paint,  Settings, Resize, DestroyPlot, DestroyParent, Drain};
+constexpr std::array<Hand, 14> kHands{Stylus, Stylus,      Stylus,        Button, Button,
+                                      Button, Key,         Paint,         Paint,  Settings,
+                                      Resize, DestroyPlot, DestroyParent, Drain};
 
 }  // namespace
 

@@ -82,7 +82,7 @@ struct Model {
   std::map<std::int16_t, std::wstring> memos;
   std::map<std::int16_t, ModelLegend> legend;
   std::vector<ModelPiece> pieces;
-  int pieces_made = 0;  // deleted ones keep their record
+  int pieces_made = 0;        // deleted ones keep their record
   bool figures_known = true;  // false after a call of which only the library knows the outcome
 
   void ClearData();

@@ -46,7 +46,8 @@ int main(int argc, char** argv) {
   const tavix::test::PrivateFolder data(L"ROVCOND_DATA_FOLDER");
   const tavix::test::PrivateFolder root(L"CE_DEVICE_ROOT");
   for (long done = 0; done < calls; done += kCallsOfASeed, ++seed) {
-    std::printf("seed %llu, %ld of %ld calls\n", static_cast<unsigned long long>(seed), done, calls);
+    std::printf("seed %llu, %ld of %ld calls\n", static_cast<unsigned long long>(seed), done,
+                calls);
     std::fflush(stdout);
     try {
       tavix::storm::Storm storm(seed);
