@@ -7,6 +7,7 @@
 #include <limits>
 #include <numeric>
 #include <random>
+#include <stdexcept>
 #include <vector>
 
 #include "tests/draw/full_walk.h"
@@ -330,6 +331,29 @@ TEST(WalkPattern, APatternTooFineForItsCoordinatesEnds) {
     for (const ScreenBox& visible : {kClient, kEverything}) {
       EXPECT_LE(Walk(view, Pattern(105, 1, 1, 1), start, end, visible).size(), 3U);
     }
+  }
+}
+
+// At 1e17 m neighbouring coordinates are 16 m apart: each step of 4 m to the north is lost, the
+// tiny one to the east is not. There are 1e11 pieces in one pixel.
+TEST(WalkPattern, IsPassedOverWhereItStaysInAPixel) {
+  CViewState view;
+  view.SetScreenSize(200, 200);
+  view.SetCentre({1e17, 0.0});
+  LinePattern pattern;
+  pattern.count = 2;
+  pattern.lengths = {4, 2};
+  constexpr std::size_t kMany = 10000;
+  Pieces pieces;
+  WalkPattern(view, pattern, {1e17, 0.0}, {1e17 + 1e12, 0.5}, {0, 0, 200, 200},
+              [&](const LinePiece& piece) {
+                pieces.push_back(piece);
+                if (pieces.size() > kMany) throw std::length_error("a walk without end");
+              });
+  EXPECT_FALSE(pieces.empty());
+  for (const LinePiece& piece : pieces) {
+    EXPECT_EQ((ScreenPoint{100, 100}), view.GroundToScreen(piece.start));
+    EXPECT_EQ((ScreenPoint{100, 100}), view.GroundToScreen(piece.end));
   }
 }
 
