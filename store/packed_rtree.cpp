@@ -52,7 +52,9 @@ void SortByCode(std::vector<Value>& values) {
   constexpr std::size_t kDigits = std::size_t{1} << kBits;
   std::vector<Value> sorted(values.size());
   for (int shift = 0; shift < 64; shift += kBits) {
-    const auto digit = [=](const Value& value) { return value.code >> shift & (kDigits - 1); };
+    const auto digit = [=](const Value& value) {
+      return static_cast<std::size_t>(value.code >> shift) & (kDigits - 1);
+    };
     std::array<std::uint32_t, kDigits> places{};
     for (const Value& value : values) ++places[digit(value)];
     if (places[digit(values.front())] == values.size()) continue;
