@@ -60,7 +60,8 @@ class FlatPoints {
 
   // Where the key is, or where it would be put.
   [[nodiscard]] std::size_t Home(int key) const {
-    std::size_t at = (static_cast<std::uint32_t>(key) * 0x9E3779B97F4A7C15U) >> shift_;
+    auto at =
+        static_cast<std::size_t>((static_cast<std::uint32_t>(key) * 0x9E3779B97F4A7C15U) >> shift_);
     while (slots_[at].place != kNone && slots_[at].key != key) at = (at + 1) & (slots_.size() - 1);
     return at;
   }
