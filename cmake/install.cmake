@@ -44,7 +44,7 @@ install(FILES package/README.md DESTINATION .)
 install(FILES LICENSE CHANGELOG.md package/THIRD-PARTY.md DESTINATION ${documents})
 install(DIRECTORY docs DESTINATION ${documents}
   PATTERN architecture.md EXCLUDE PATTERN how-to-add.md EXCLUDE PATTERN exported-calls.md EXCLUDE
-  PATTERN fast-drawing.md EXCLUDE)
+  PATTERN fast-drawing.md EXCLUDE PATTERN reliability.md EXCLUDE PATTERN ja/README.md EXCLUDE)
 install(FILES platform/framework/README.md DESTINATION ${documents} RENAME framework.md)
 # The notices of what is linked in, as Debian's packages state them.
 set(architecture ${CMAKE_SYSTEM_PROCESSOR})
