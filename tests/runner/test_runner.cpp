@@ -16,9 +16,9 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "tests/runner/console.h"
 #include "tests/runner/run_program.h"
 #include "tests/runner/system_facts.h"
 #include "tests/runner/utf8.h"
@@ -26,6 +26,20 @@
 
 namespace tavix::runner {
 namespace {
+
+// Prints a text in any script: on a console whatever its code page is, into a file or a pipe as
+// UTF-8.
+void Print(std::wstring_view text) {
+  const HANDLE output = ::GetStdHandle(STD_OUTPUT_HANDLE);
+  DWORD mode = 0;
+  DWORD written = 0;
+  if (::GetConsoleMode(output, &mode)) {
+    ::WriteConsoleW(output, text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
+    return;
+  }
+  const std::string bytes = Utf8(text);
+  ::WriteFile(output, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+}
 
 struct Order {
   unsigned limit = 900;  // seconds a program may take
