@@ -17,8 +17,13 @@ class KeyIndex {
  public:
   static constexpr std::uint32_t kNone = 0xFFFFFFFF;  // no position
 
-  void Insert(std::int32_t key, std::uint32_t position) {
+  // Makes room for one entry more, so that the next Insert needs no memory.
+  void MakeRoom() {
     if ((count_ + 1) * 2 > slots_.size()) Grow();
+  }
+
+  void Insert(std::int32_t key, std::uint32_t position) {
+    MakeRoom();
     Place({key, position});
     ++count_;
   }
@@ -79,8 +84,8 @@ class KeyIndex {
 
   void Grow() {
     constexpr std::size_t kFirst = 64;
-    const std::vector<Slot> old = std::move(slots_);
-    slots_.assign(old.empty() ? kFirst : old.size() * 2, Slot());
+    std::vector<Slot> old(slots_.empty() ? kFirst : slots_.size() * 2);
+    slots_.swap(old);
     shift_ = 64;
     for (std::size_t size = slots_.size(); size > 1; size /= 2) --shift_;
     for (const Slot slot : old) {

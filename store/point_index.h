@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <span>
 #include <vector>
 
@@ -56,7 +57,11 @@ class PointIndex {
   void Moved(Position position) {
     if (position < kAlwaysScanned || position >= end_) return;
     const auto place = std::lower_bound(outside_.begin(), outside_.end(), position);
-    if (place == outside_.end() || *place != position) outside_.insert(place, position);
+    try {
+      if (place == outside_.end() || *place != position) outside_.insert(place, position);
+    } catch (const std::bad_alloc&) {
+      Discard();
+    }
     if (outside_.size() > kAlwaysScanned + end_ / 64) Discard();
   }
 
@@ -109,13 +114,21 @@ class PointIndex {
     return going_on;
   }
 
+  // Without memory for a tree there is none: all is scanned.
   void Build(std::span<const Record> all) {
     scanned_ = 0;
-    end_ = all.size();
-    outside_.clear();
+    Discard();
+    try {
+      BuildTree(all);
+    } catch (const std::bad_alloc&) {
+      Discard();
+    }
+  }
+
+  void BuildTree(std::span<const Record> all) {
     std::vector<PackedRTree::Entry> entries;
     entries.reserve(all.size());
-    for (std::size_t i = kAlwaysScanned; i < end_; ++i) {
+    for (std::size_t i = kAlwaysScanned; i < all.size(); ++i) {
       const Record& record = all[i];
       const auto position = static_cast<Position>(i);
       if (record.removed) continue;
@@ -126,6 +139,7 @@ class PointIndex {
       }
     }
     tree_.Build(std::move(entries));
+    end_ = all.size();
   }
 
   PackedRTree tree_;
