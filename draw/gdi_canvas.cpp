@@ -10,7 +10,7 @@ void GdiSymbol::Use(const Pen& pen) {
   DropPenAndBrush();
   LOGPEN logical{PS_SOLID, {pen.width, pen.width}, static_cast<COLORREF>(pen.color)};
   pen_.CreatePenIndirect(&logical);
-  old_pen_ = dc_.SelectObject(&pen_);
+  old_pen_ = dc_.SelectObject(pen_.m_hObject);
 }
 
 void GdiSymbol::Use(const PointSymbol& symbol) {
@@ -18,7 +18,7 @@ void GdiSymbol::Use(const PointSymbol& symbol) {
   const MarkShape* mark = FindMark(symbol.mark);
   if (mark && mark->is_filled) {
     brush_.CreateSolidBrush(static_cast<COLORREF>(symbol.pen.color));
-    old_brush_ = dc_.SelectObject(&brush_);
+    old_brush_ = dc_.SelectObject(brush_.m_hObject);
   }
   if (symbol.label_height > 0 && symbol.label_height != font_height_) {
     SelectFont(symbol.label_height);
@@ -29,7 +29,7 @@ void GdiSymbol::SelectFont(int height) {
   DropFont();
   const LOGFONTW font = LabelFont(height);
   font_.CreateFontIndirect(&font);
-  old_font_ = dc_.SelectObject(&font_);
+  old_font_ = dc_.SelectObject(font_.m_hObject);
   font_height_ = height;
 }
 

@@ -1,5 +1,7 @@
 #include "frame/instance.h"
 
+#include <new>
+
 #include "frame/instance_parts.h"
 #include "window/overlays/moved_point.h"
 #include "window/plot_display.h"
@@ -20,12 +22,22 @@ Instance::Instance(int index)
 }
 
 Instance::~Instance() {
-  if (window_) window_->DestroyWindow();
+  // Each step is taken, whether or not there was memory for the one before.
+  const auto take = [](auto step) {
+    try {
+      step();
+    } catch (const std::bad_alloc&) {
+      // The step is left half done: an instance ends all the same.
+    }
+  };
+  take([&] {
+    if (window_) window_->DestroyWindow();
+  });
   window_.reset();
-  parts_->memos.Discard();
-  parts_->lines.Discard();
-  parts_->figures.Close();
-  parts_->legend.Save();
+  take([&] { parts_->memos.Discard(); });
+  take([&] { parts_->lines.Discard(); });
+  take([&] { parts_->figures.Close(); });
+  take([&] { parts_->legend.Save(); });
 }
 
 CViewState& Instance::View() { return parts_->view; }

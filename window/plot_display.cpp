@@ -25,14 +25,18 @@ int PlotDisplay::Redraw() {
   if (!surfaces_.window.m_hWnd) return 0;
   buffer_.Fill();
   plan_.Trace().ForgetSegments();
-  if (buffer_.Pixels().pixels) {
-    DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), raster_cache_);
-    shown_->Draw(canvas);
-  } else {
-    GdiCanvas canvas(buffer_.Dc());
-    shown_->Draw(canvas);
+  DrawWhatCanBe([&] {
+    if (buffer_.Pixels().pixels) {
+      DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), raster_cache_);
+      shown_->Draw(canvas);
+    } else {
+      GdiCanvas canvas(buffer_.Dc());
+      shown_->Draw(canvas);
+    }
+  });
+  for (Overlay* overlay : shown_->Overlays()) {
+    DrawWhatCanBe([&] { overlay->DrawInto(buffer_.Dc()); });
   }
-  for (Overlay* overlay : shown_->Overlays()) overlay->DrawInto(buffer_.Dc());
   surfaces_.window.InvalidateRect(&buffer_.Rect(), TRUE);
   return 0;
 }
@@ -45,7 +49,9 @@ int PlotDisplay::ViewChanged() {
 void PlotDisplay::Paint(CDC& paint, const CRect& clip) {
   paint.BitBlt(clip.left, clip.top, clip.Width(), clip.Height(), &buffer_.Dc(), clip.left, clip.top,
                SRCCOPY);
-  for (Overlay* overlay : shown_->Overlays()) overlay->PutBack(paint);
+  for (Overlay* overlay : shown_->Overlays()) {
+    DrawWhatCanBe([&] { overlay->PutBack(paint); });
+  }
 }
 
 }  // namespace tavix

@@ -53,14 +53,16 @@ void PlanScene::DrawAtOnce(DrawOn draw) {
   if (!window.m_hWnd) return;
   for (Overlay* overlay : overlays_) overlay->TakeOff();
   if (window.IsWindowVisible()) {
-    ClientSurface screen(window);
-    GdiCanvas canvas(screen.Dc());
-    draw(canvas);
+    DrawWhatCanBe([&] {
+      ClientSurface screen(window);
+      GdiCanvas canvas(screen.Dc());
+      draw(canvas);
+    });
   }
-  {
+  DrawWhatCanBe([&] {
     GdiCanvas canvas(surfaces_.buffer);
     draw(canvas);
-  }
+  });
   for (Overlay* overlay : overlays_) overlay->DrawOver();
 }
 
