@@ -7,6 +7,7 @@
 #include "window/modes/plot_modes.h"
 #include "window/navigation.h"
 #include "window/one_bit_plot.h"
+#include "window/output.h"
 #include "window/plot_display.h"
 #include "window/settings/settings_command.h"
 
@@ -177,11 +178,17 @@ BOOL CPlotWnd::OnEraseBkgnd(CDC* dc) {
 }
 
 void CPlotWnd::OnPaint() {
-  CPaintDC dc(this);
-  CRect clip;
-  const int region = dc.GetClipBox(&clip);
-  if (region == NULLREGION || region == ERROR) return;
-  parts_->display.Paint(dc, clip);
+  bool begun = false;
+  DrawWhatCanBe([&] {
+    CPaintDC dc(this);
+    begun = true;
+    CRect clip;
+    const int region = dc.GetClipBox(&clip);
+    if (region == NULLREGION || region == ERROR) return;
+    parts_->display.Paint(dc, clip);
+  });
+  // Otherwise the system would ask for the paint again and again.
+  if (!begun) ValidateRect(nullptr);
 }
 
 }  // namespace tavix
