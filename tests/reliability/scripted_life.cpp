@@ -155,6 +155,13 @@ std::string AddLegends() {
                         << Tavix_ChgPntHan(2, 2, 1, RGB(255, 0, 0), 8, 14, 1);
 }
 
+// Entries get their numbers in the order in which they are added.
+std::string StartOverWithLegends() {
+  Tavix_Del();
+  Tavix_Crt();
+  return AddLegends();
+}
+
 std::string AddFigures() {
   const double north[] = {0.0, 20.0, 35.0, 10.0};
   const double east[] = {-20.0, -5.0, 15.0, 30.0};
@@ -270,7 +277,7 @@ std::vector<LifeStep> WholeLife(HWND parent) {
   const Texts& texts = TheTexts();
   return {
       Create(),
-      {"legend", &AddLegends, {"-1"}, {}},
+      {"legend", &AddLegends, {"-1"}, &StartOverWithLegends},
       {"title", [&] { return Answer{Tavix_PntHanTtl(9, texts.title)}; }, {"-1"}, {}},
       Link(parent),
       {"points", &EnterPoints, {"-1"}, {}},
