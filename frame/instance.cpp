@@ -3,6 +3,7 @@
 #include <new>
 
 #include "frame/instance_parts.h"
+#include "window/output.h"
 #include "window/overlays/moved_point.h"
 #include "window/plot_display.h"
 #include "window/plot_window.h"
@@ -85,7 +86,8 @@ int Instance::StartMovePoint(int legend) {
 int Instance::Redraw(bool keep_view) {
   if (!window_) return -1;
   PlotDisplay& display = window_->Display();
-  if (!keep_view) display.Shown().Fit();  // with nothing to fit the view stays
+  // With nothing to fit the view stays, and without memory to find out.
+  if (!keep_view) DrawWhatCanBe([&] { display.Shown().Fit(); });
   return display.ViewChanged();
 }
 

@@ -285,7 +285,7 @@ std::vector<LifeStep> WholeLife(HWND parent) {
        [&] { return Answer{Tavix_ChgPntNoNam(7, 70, texts.long_name)}; },
        {"-1"},
        {}},
-      {"read a point", &ReadPoint, {}, {}},
+      {"read a point", &ReadPoint, {"-1 0  0 30 -30"}, {}},
       {"enter a memo",
        [&] { return Answer{Tavix_EntPntMem(1, texts.memo)}; },
        {"-1", "-2", "-3"},
