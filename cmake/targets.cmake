@@ -10,9 +10,18 @@ if(TAVIX_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(tavix_warnings INTERFACE -fsanitize=address,undefined)
 endif()
+if(TAVIX_FUZZ)
+  target_compile_options(tavix_warnings INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+if(TAVIX_COVERAGE)
+  target_compile_options(tavix_warnings INTERFACE -fprofile-instr-generate -fcoverage-mapping)
+  target_link_options(tavix_warnings INTERFACE -fprofile-instr-generate)
+endif()
 if(WIN32)
   target_compile_definitions(tavix_warnings INTERFACE
     UNICODE _UNICODE WINVER=0x0A00 _WIN32_WINNT=0x0A00 NOMINMAX)
+  # The same sources give the same bytes, whenever they are linked.
+  add_link_options(-Wl,--no-insert-timestamp)
 endif()
 
 # Headers take longer to read than most sources that include them. `tavix_precompile(NAME HEADERS ...

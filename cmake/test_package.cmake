@@ -6,7 +6,8 @@ if(NOT TAVIX_WINDOW_TESTS OR NOT CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")
 endif()
 
 get_property(programs GLOBAL PROPERTY TAVIX_TEST_PROGRAMS)
-list(APPEND programs
+get_property(guide_programs GLOBAL PROPERTY TAVIX_GUIDE_PROGRAMS)
+list(APPEND programs ${guide_programs}
   test_runner second_program framework_test_host framework_test_host_unicode fieldhost
   sample_framework sample_c
   exception_relay framework framework_test_extension rovcond tavix tavix_c tdialog)
@@ -25,6 +26,7 @@ list(APPEND lines "run_tests.cmd\t${PROJECT_SOURCE_DIR}/tests/runner/run_tests.c
 # Folders are listed when the ZIP is made.
 get_target_property(pictures tavix_button_pictures FOLDER_OF_PICTURES)
 foreach(place IN ITEMS ${PROJECT_SOURCE_DIR}/tests/cases/*.txt ${PROJECT_SOURCE_DIR}/host/README.md
+                       ${PROJECT_SOURCE_DIR}/docs/guide/pictures/*.png
                        ${PROJECT_SOURCE_DIR}/host/resources/sample/site.* ${pictures}/*.rc
                        ${pictures}/*.bmp)
   list(APPEND lines "*\t${place}")

@@ -6,20 +6,25 @@
 
 namespace tavix {
 
-void GdiSymbol::Use(const Pen& pen) {
+void GdiSymbol::Use(const Pen& pen, bool is_filled) {
+  if (pen_in_use_ == pen && is_filled_ == is_filled) return;
   DropPenAndBrush();
+  pen_in_use_ = pen;
+  is_filled_ = is_filled;
   LOGPEN logical{PS_SOLID, {pen.width, pen.width}, static_cast<COLORREF>(pen.color)};
   pen_.CreatePenIndirect(&logical);
   old_pen_ = dc_.SelectObject(pen_.m_hObject);
+  if (is_filled) {
+    brush_.CreateSolidBrush(static_cast<COLORREF>(pen.color));
+    old_brush_ = dc_.SelectObject(brush_.m_hObject);
+  }
+  // What could not be made is asked for again.
+  if (!pen_.m_hObject || (is_filled && !brush_.m_hObject)) pen_in_use_.reset();
 }
 
 void GdiSymbol::Use(const PointSymbol& symbol) {
-  Use(symbol.pen);
   const MarkShape* mark = FindMark(symbol.mark);
-  if (mark && mark->is_filled) {
-    brush_.CreateSolidBrush(static_cast<COLORREF>(symbol.pen.color));
-    old_brush_ = dc_.SelectObject(brush_.m_hObject);
-  }
+  Use(symbol.pen, mark && mark->is_filled);
   if (symbol.label_height > 0 && symbol.label_height != font_height_) {
     SelectFont(symbol.label_height);
   }

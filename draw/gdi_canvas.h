@@ -4,6 +4,8 @@
 #include <afxwin.h>
 #include <framework/scoped_select.h>
 
+#include <optional>
+
 #include "draw/gdi_scopes.h"
 #include "draw/plan_canvas.h"
 
@@ -11,8 +13,8 @@ namespace tavix {
 
 // Makes the pen, brush and font of one symbol at a time and selects them into the device context.
 // Until the first one its own pen draws, and shapes are hollow. The destructor puts back what was
-// selected before. Entities of one legend in a row, as they mostly come, share the objects; a font,
-// which takes the longest to make, stays until another label height is in use.
+// selected before. Entities of one legend in a row, as they mostly come, share the objects: a pen
+// and a brush stay until others are in use, and so does a font, which takes the longest to make.
 class GdiSymbol {
  public:
   explicit GdiSymbol(CDC& dc) : dc_(dc), hollow_(dc, NULL_BRUSH) {}
@@ -24,18 +26,21 @@ class GdiSymbol {
   GdiSymbol& operator=(const GdiSymbol&) = delete;
 
   // A pen and no brush.
-  void Use(const Pen& pen);
+  void Use(const Pen& pen) { Use(pen, false); }
 
   // A pen, a brush for the filled marks, and a font where there is a label height.
   void Use(const PointSymbol& symbol);
 
  private:
+  void Use(const Pen& pen, bool is_filled);
   void SelectFont(int height);
   void DropPenAndBrush();
   void DropFont();
 
   CDC& dc_;
   CScopedSelect hollow_;
+  std::optional<Pen> pen_in_use_;
+  bool is_filled_ = false;
   CPen pen_;
   CBrush brush_;
   CFont font_;

@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "draw/gdi_canvas.h"
 #include "draw/ink/ink_canvas.h"
 #include "view/coordinates.h"
 
@@ -29,15 +30,16 @@ CViewState PictureView(const CViewState& window_view, const PaperFrame& frame, i
 
 // Turns every colour but white to black: a one-bit bitmap would map light colours to white, and
 // what is drawn in them would be lost.
-class BlackInkCanvas : public InkCanvas {
+template <class Canvas>
+class BlackInk : public Canvas {
  public:
-  using InkCanvas::InkCanvas;
+  using Canvas::Canvas;
 
-  void UsePen(const Pen& pen) override { InkCanvas::UsePen(InBlack(pen)); }
+  void UsePen(const Pen& pen) override { Canvas::UsePen(InBlack(pen)); }
   void UsePointSymbol(const PointSymbol& symbol) override {
     PointSymbol ink = symbol;
     ink.pen = InBlack(symbol.pen);
-    InkCanvas::UsePointSymbol(ink);
+    Canvas::UsePointSymbol(ink);
   }
 
  private:
@@ -75,9 +77,13 @@ bool GroupPicture::Build(const PlotData& data, const PaperFrame& frame, int heig
   const CViewState view = PictureView(data.view, frame, height, width, cut);
   auto bitmap = std::make_unique<OneBitBitmap>(width, height);
   if (!bitmap->IsMade()) return cut;
-  {
-    BlackInkCanvas ink(*bitmap, width, height);
-    DrawPlanView(ink, {view, data.legend, data.points, data.lines, data.figures, data.draws_lines});
+  const PlotData seen{view, data.legend, data.points, data.lines, data.figures, data.draws_lines};
+  if (way_ == DrawingWay::kFast) {
+    BlackInk<InkCanvas> ink(*bitmap, width, height, InkCache::OfProcess());
+    DrawPlanView(ink, seen);
+  } else {
+    BlackInk<GdiCanvas> ink(bitmap->Dc());
+    DrawPlanView(ink, seen);
   }
 
   height_ = height;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "draw/drawing_way.h"
 #include "draw/ink/one_bit_bitmap.h"
 #include "draw/plan_view.h"
 #include "view/paper_frame.h"
@@ -17,6 +18,8 @@ namespace tavix {
 // the paper frame is on.
 class GroupPicture {
  public:
+  explicit GroupPicture(DrawingWay way = DrawingWayOfEnvironment()) : way_(way) {}
+
   // Whether a picture of this size takes more than 256 MiB, a square of about 46,000 pixels. Build
   // must not be called for one.
   [[nodiscard]] static bool IsTooLarge(int height, int width);
@@ -51,6 +54,7 @@ class GroupPicture {
   [[nodiscard]] bool HasInk(const PaperFrame& frame, int first_row, int first_column) const;
   [[nodiscard]] ScreenPoint FindFreeCorner(const PaperFrame& frame) const;
 
+  DrawingWay way_;
   int height_ = 0;
   int width_ = 0;
   std::size_t stride_ = 0;  // bytes a row

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <cstdlib>
 #include <optional>
 
@@ -16,7 +17,11 @@ constexpr int kLargestRadius = 1 << 14;
 }  // namespace
 
 LinePainter::LinePainter(PlanCanvas& canvas, const CViewState& view, const LegendTable& legend)
-    : canvas_(canvas), view_(view), symbol_(legend), visible_(canvas.Visible()) {}
+    : canvas_(canvas),
+      view_(view),
+      symbol_(legend),
+      visible_(canvas.Visible()),
+      out_of_view_(view.OutOfView()) {}
 
 void LinePainter::Use(std::int16_t legend) {
   if (symbol_.Use(legend)) canvas_.UsePen(symbol_.Get().pen);
@@ -31,7 +36,22 @@ ScreenBox LinePainter::Reached() const {
 
 void LinePainter::DrawSegment(std::int16_t legend, GroundPoint start, GroundPoint end) {
   ScreenSegment clipped;
-  if (!view_.ClipGroundSegment(start, end, clipped)) return;
+  if (view_.ClipGroundSegment(start, end, clipped)) DrawClipped(legend, clipped, start, end);
+}
+
+void LinePainter::DrawPolyline(std::int16_t legend, std::span<const GroundPoint> points) {
+  if (points.empty() || out_of_view_.HoldsBack(points)) return;
+  ScreenPoint from = view_.GroundToScreen(points.front());
+  for (std::size_t i = 1; i < points.size(); ++i) {
+    const ScreenPoint to = view_.GroundToScreen(points[i]);
+    ScreenSegment segment{from, to};
+    if (view_.ClipScreenSegment(segment)) DrawClipped(legend, segment, points[i - 1], points[i]);
+    from = to;
+  }
+}
+
+void LinePainter::DrawClipped(std::int16_t legend, const ScreenSegment& clipped, GroundPoint start,
+                              GroundPoint end) {
   Use(legend);
   if (symbol_.Get().style == kSolidLine) {
     canvas_.Line(WithDot(clipped));

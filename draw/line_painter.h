@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 #include "draw/line_styles.h"
 #include "draw/plan_canvas.h"
@@ -19,11 +20,17 @@ class LinePainter {
 
   void DrawSegment(std::int16_t legend, GroundPoint start, GroundPoint end);
 
+  // Segments from each point to the next. Each point is transformed once.
+  void DrawPolyline(std::int16_t legend, std::span<const GroundPoint> points);
+
   // `radius` in metres.
   void DrawCircle(std::int16_t legend, GroundPoint centre, double radius);
 
  private:
   void Use(std::int16_t legend);
+  // The part that shows of a segment between two points on the ground.
+  void DrawClipped(std::int16_t legend, const ScreenSegment& clipped, GroundPoint start,
+                   GroundPoint end);
   void DrawPattern(const LinePattern& pattern, GroundPoint start, GroundPoint end);
   void DrawHugeCircle(RealScreenPoint centre, double radius);
   [[nodiscard]] ScreenBox Reached() const;
@@ -32,6 +39,7 @@ class LinePainter {
   const CViewState& view_;
   SymbolInUse<LineSymbol> symbol_;
   ScreenBox visible_;
+  SegmentSieve out_of_view_;
 };
 
 }  // namespace tavix

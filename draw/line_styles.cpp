@@ -110,8 +110,11 @@ class PatternWalk {
     std::int64_t rounds = kFewRounds;
     while (!CannotShow(at_, end_)) {
       const GroundPoint next = StepExactly(at_, steps_, rounds);
-      if (box_.Holds(next) && CannotShow(at_, next)) {
+      const bool holds = box_.Holds(next);
+      const bool hidden = holds && CannotShow(at_, next);
+      if (hidden || (holds && !IsHere(next) && IsInOnePixel(at_, next))) {
         if (IsHere(next)) return;
+        if (!hidden) draw_({at_, at_});  // as all dashes of these rounds
         at_ = next;
         rounds = std::min(2 * rounds, kManyRounds);
       } else if (rounds > kFewRounds) {
@@ -146,11 +149,28 @@ class PatternWalk {
     return true;
   }
 
-  // Whether nothing between two corners of a ground box comes into view.
+  // The corners of a ground box, from two of them that are opposite.
+  [[nodiscard]] static std::array<GroundPoint, 4> CornersOf(GroundPoint a, GroundPoint b) {
+    return {a, {a.north, b.east}, b, {b.north, a.east}};
+  }
+
+  // Whether all of a ground box lies in one pixel, as whole rounds do where coordinates are so
+  // large that rounding loses the steps along the line: those across it would be taken one by one,
+  // by the billion.
+  [[nodiscard]] bool IsInOnePixel(GroundPoint a, GroundPoint b) const {
+    const auto corners = CornersOf(a, b);
+    const ScreenPoint first = view_.GroundToScreen(a);
+    return std::all_of(corners.begin(), corners.end(), [&](const GroundPoint& corner) {
+      return view_.GroundToScreen(corner) == first;
+    });
+  }
+
+  // Whether nothing between two opposite corners of a ground box comes into view.
   [[nodiscard]] bool CannotShow(GroundPoint a, GroundPoint b) const {
-    const std::array<RealScreenPoint, 4> corners{
-        view_.GroundToRealScreen(a), view_.GroundToRealScreen({a.north, b.east}),
-        view_.GroundToRealScreen(b), view_.GroundToRealScreen({b.north, a.east})};
+    std::array<RealScreenPoint, 4> corners;
+    std::ranges::transform(CornersOf(a, b), corners.begin(), [&](const GroundPoint& corner) {
+      return view_.GroundToRealScreen(corner);
+    });
     const auto all = [&](auto outside) {
       return std::all_of(corners.begin(), corners.end(), outside);
     };

@@ -8,20 +8,18 @@ namespace tavix {
 namespace {
 
 void DrawFigure(LinePainter& painter, const Figure& figure) {
-  if (figure.points.size() < 2) return;
   const auto legend = static_cast<std::int16_t>(figure.legend);
-  if (figure.is_circle) {
+  if (!figure.is_circle) {
+    painter.DrawPolyline(legend, figure.points);
+  } else if (figure.points.size() >= 2) {
     painter.DrawCircle(legend, figure.points[0], figure.points[1].north);
-    return;
-  }
-  for (std::size_t i = 1; i < figure.points.size(); ++i) {
-    painter.DrawSegment(legend, figure.points[i - 1], figure.points[i]);
   }
 }
 
 void DrawFigures(PlanCanvas& canvas, const PlotData& data) {
   LinePainter painter(canvas, data.view, data.legend);
-  data.figures.ForEach([&](const Figure& figure) { DrawFigure(painter, figure); });
+  data.figures.ForEach([&](const Figure& figure) { DrawFigure(painter, figure); },
+                       data.figure_count);
 }
 
 // A line whose end point is missing is passed over.
@@ -36,15 +34,10 @@ void DrawLine(LinePainter& painter, const PlotData& data, const Line& line) {
 // In the order of entry, so that later lines cover earlier ones as later points do.
 void DrawLines(PlanCanvas& canvas, const PlotData& data) {
   LinePainter painter(canvas, data.view, data.legend);
-  for (int code = data.lines.First(CLinDb::Order::kById); code == 0; code = data.lines.Next()) {
-    Line line;
-    if (data.lines.ReadCur(&line) == 0) DrawLine(painter, data, line);
-  }
-}
-
-void DrawPoints(PlanCanvas& canvas, const PlotData& data) {
-  PointPainter painter(canvas, data.view, data.legend);
-  data.points.ForEach([&](const Point& point) { painter.Draw(point); });
+  data.lines.ForEachIn(data.points, data.view.OutOfView(),
+                       [&](std::int16_t legend, GroundPoint start, GroundPoint end) {
+                         painter.DrawSegment(legend, start, end);
+                       });
 }
 
 }  // namespace
@@ -54,7 +47,7 @@ void DrawPlanView(PlanCanvas& canvas, const PlotData& data) {
     DrawFigures(canvas, data);
     DrawLines(canvas, data);
   }
-  DrawPoints(canvas, data);
+  DrawPoints(canvas, data.view, data.legend, data.points);
 }
 
 void DrawSinglePoint(PlanCanvas& canvas, const PlotData& data, const Point& point) {

@@ -1,6 +1,9 @@
 // The plan view: everything of an instance, drawn as a map.
 #pragma once
 
+#include <cstdint>
+#include <limits>
+
 #include "figure/figure_list.h"
 #include "store/legend_table.h"
 #include "store/lin_db.h"
@@ -20,6 +23,8 @@ struct PlotData {
   CLinDb& lines;
   const CFigList& figures;
   bool draws_lines;  // lines and figures are drawn only while this is set
+  // Of the figures, the first so many records.
+  std::int32_t figure_count = std::numeric_limits<std::int32_t>::max();
 };
 
 // Draws the plan view's layers on `canvas`, bottom to top: figures, lines, points with their marks

@@ -4,11 +4,25 @@
 
 namespace tavix {
 
-bool PointPainter::Find(std::int16_t legend, GroundPoint ground, ScreenPoint& at) {
-  if (symbol_.Use(legend)) {
-    margin_ = view_.PixelsToLength(symbol_.Get().size);
-    on_canvas_ = false;
+void PointPainter::Use(std::int16_t legend) {
+  if (!symbol_.Use(legend)) return;
+  margin_ = view_.PixelsToLength(symbol_.Get().size);
+  on_canvas_ = false;
+}
+
+void PointPainter::UseLast(std::span<const PntRec> points) {
+  auto from = points.end();
+  while (from != points.begin()) {
+    --from;
+    if (!from->removed && symbol_.Decides(from->legend)) break;
   }
+  for (; from != points.end(); ++from) {
+    if (!from->removed) Use(from->legend);
+  }
+}
+
+bool PointPainter::Find(std::int16_t legend, GroundPoint ground, ScreenPoint& at) {
+  Use(legend);
   return view_.CircleOnScreen(ground, margin_, at);
 }
 
@@ -33,6 +47,15 @@ void PointPainter::UsePen(std::optional<Pen> pen) {
   if (pen == pen_) return;
   pen_ = pen;
   on_canvas_ = false;
+}
+
+void DrawPoints(PlanCanvas& canvas, const CViewState& view, const LegendTable& legend,
+                const CPntList& points) {
+  PointPainter painter(canvas, view, legend);
+  points.ForEachIn(view.GroundAround(kLargestDrawn),
+                   [&](const Point& point, std::span<const PntRec> passed_over) {
+                     painter.Draw(point, passed_over);
+                   });
 }
 
 }  // namespace tavix

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 
 #include "draw/plan_canvas.h"
 #include "draw/symbol_in_use.h"
@@ -24,6 +25,12 @@ class PointPainter {
     if (Find(point.legend, point.at, at)) DrawAt(at, point.number, point.name);
   }
 
+  // The same after points that cannot show and were left out.
+  void Draw(const Point& point, std::span<const PntRec> passed_over) {
+    if (!symbol_.Decides(point.legend)) UseLast(passed_over);
+    Draw(point);
+  }
+
   // Takes the symbol of a legend number into use and gives the pixel of the plan of a point at
   // `ground`. False where its mark is out of view.
   [[nodiscard]] bool Find(std::int16_t legend, GroundPoint ground, ScreenPoint& at);
@@ -38,6 +45,10 @@ class PointPainter {
   void UsePen(std::optional<Pen> pen);
 
  private:
+  void Use(std::int16_t legend);
+  // Leaves the symbol in use that is in use after all of these points.
+  void UseLast(std::span<const PntRec> points);
+
   PlanCanvas& canvas_;
   const CViewState& view_;
   SymbolInUse<PointSymbol> symbol_;
@@ -45,5 +56,9 @@ class PointPainter {
   std::optional<Pen> pen_;
   bool on_canvas_ = false;  // the canvas has the symbol in use
 };
+
+// Draws all points of a list that show.
+void DrawPoints(PlanCanvas& canvas, const CViewState& view, const LegendTable& legend,
+                const CPntList& points);
 
 }  // namespace tavix

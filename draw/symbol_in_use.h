@@ -22,15 +22,26 @@ class SymbolInUse {
     if (number == number_) return false;
     number_ = number;
     const HanRec* entry = legend_.Find(number);
+    has_entry_ = entry != nullptr;
     if (entry) symbol_ = Decode<Symbol>(entry->values);
-    return entry != nullptr;
+    return has_entry_;
+  }
+
+  // Whether Use(number) brings the number's symbol into use whatever was used before.
+  [[nodiscard]] bool Decides(std::int16_t number) const {
+    if (number == number_) return has_entry_;
+    return number != kNoNumber && legend_.Find(number) != nullptr;
   }
 
   [[nodiscard]] const Symbol& Get() const { return symbol_; }
 
  private:
+  // Compatibility: of this number there is nothing to find as long as no other has been used.
+  static constexpr std::int16_t kNoNumber = -1;
+
   const LegendTable& legend_;
-  std::int16_t number_ = -1;  // the last one used, with an entry or without
+  std::int16_t number_ = kNoNumber;  // the last one used, with an entry or without
+  bool has_entry_ = false;
   Symbol symbol_;
 };
 

@@ -1,5 +1,6 @@
 #include "figure/figure_list.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <utility>
@@ -212,11 +213,11 @@ int CFigList::Get(std::int32_t index, Figure* figure) const {
   return ReadFigure(index_file, coordinate_file, index, figure);
 }
 
-void CFigList::ForEach(const std::function<void(const Figure&)>& visit) const {
+void CFigList::ForEach(const std::function<void(const Figure&)>& visit, std::int32_t most) const {
   FileWindow index_file(*index_);
   FileWindow coordinate_file(*coordinates_);
   Figure figure;
-  const std::int32_t count = Count();
+  const std::int32_t count = std::min(Count(), most);
   for (std::int32_t i = 0; i < count; ++i) {
     if (ReadFigure(index_file, coordinate_file, i, &figure) == 0) visit(figure);
   }

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <span>
 #include <vector>
@@ -64,8 +65,10 @@ class CFigList {
   // Reads record `index`. -1 it is deleted, -2 it cannot be read, -3 a point cannot be read whole.
   int Get(std::int32_t index, Figure* figure) const;
 
-  // Calls `visit` for every live figure that can be read whole, in the order of the records.
-  void ForEach(const std::function<void(const Figure&)>& visit) const;
+  // Calls `visit` for every live figure that can be read whole, in the order of the records, of
+  // which only the first `most` count.
+  void ForEach(const std::function<void(const Figure&)>& visit,
+               std::int32_t most = std::numeric_limits<std::int32_t>::max()) const;
 
   // The extents of all stored points; a circle counts with its centre plus and minus its radius. 0,
   // or -3 and zeros without a point.

@@ -6,6 +6,7 @@
 #include "window/overlays/map_surround.h"
 #include "window/plot_window.h"
 
+using tavix::ChangeWindow;
 using tavix::CPlotWnd;
 using tavix::kRefused;
 using tavix::OnWindow;
@@ -29,7 +30,7 @@ int Tavix_WakDsp(BYTE show) {
 }
 
 int Tavix_SetWakScl(int N) {
-  return OnWindow([=](CPlotWnd& window) { return window.Frame().SetScale(N) ? 0 : kRefused; });
+  return ChangeWindow([=](CPlotWnd& window) { return window.Frame().SetScale(N) ? 0 : kRefused; });
 }
 
 int Tavix_GetWakScl(int* N) {
@@ -42,7 +43,7 @@ int Tavix_GetWakScl(int* N) {
 }
 
 int Tavix_SetWakGen(double X, double Y) {
-  return OnWindow([=](CPlotWnd& window) {
+  return ChangeWindow([=](CPlotWnd& window) {
     return window.Frame().SetOrigin({X, Y}) ? 0 : kRefused;
   });
 }

@@ -6,6 +6,7 @@
 #include "frame/slot_table.h"
 #include "window/plot_window.h"
 
+using tavix::ChangeInstance;
 using tavix::CPlotWnd;
 using tavix::Instance;
 using tavix::OnInstance;
@@ -78,5 +79,5 @@ int Tavix_Drw(BYTE keepView) {
 }
 
 int Tavix_DrwClr() {
-  return OnInstance([](Instance& instance) { return instance.Clear(); });
+  return ChangeInstance([](Instance& instance) { return instance.Clear(); });
 }

@@ -5,6 +5,7 @@
 #include "frame/slot_table.h"
 #include "store/legend_table.h"
 
+using tavix::ChangeInstance;
 using tavix::Instance;
 using tavix::LegendValues;
 using tavix::OnInstance;
@@ -13,14 +14,14 @@ using tavix::Slots;
 namespace {
 
 int Add(bool is_point, const LegendValues& values, short* number) {
-  return OnInstance([&](Instance& instance) {
+  return ChangeInstance([&](Instance& instance) {
     return tavix::CanWrite(number) ? instance.Legend().Add(is_point, values, number)
                                    : tavix::kRefused;
   });
 }
 
 int Change(short number, bool is_point, const LegendValues& values) {
-  return OnInstance(
+  return ChangeInstance(
       [&](Instance& instance) { return instance.Legend().Change(number, is_point, values); });
 }
 

@@ -4,6 +4,7 @@
 #include "frame/slot_table.h"
 #include "store/line_index.h"
 
+using tavix::ChangeInstance;
 using tavix::Instance;
 using tavix::LineKeys;
 using tavix::OnInstance;
@@ -20,10 +21,10 @@ int Tavix_ChgLinHid(int keyA, int keyB, short legend) {
 }
 
 int Tavix_DelEntLin(int keyA, int keyB) {
-  return OnInstance(
+  return ChangeInstance(
       [=](Instance& instance) { return instance.RemoveLine(LineKeys::Of(keyA, keyB)); });
 }
 
 int Tavix_ClrEntLin() {
-  return OnInstance([](Instance& instance) { return instance.ClearLines(); });
+  return ChangeInstance([](Instance& instance) { return instance.ClearLines(); });
 }

@@ -7,6 +7,7 @@
 #include "window/overlays/traced_line.h"
 #include "window/plot_window.h"
 
+using tavix::ChangeWindow;
 using tavix::CPlotWnd;
 using tavix::Instance;
 using tavix::kRefused;
@@ -43,14 +44,14 @@ int Tavix_MvPntEnd() {
 int Tavix_VoStt() { return Tavix_VoEnd(); }
 
 int Tavix_VoAdd(double X, double Y) {
-  return OnWindow([=](CPlotWnd& window) {
+  return ChangeWindow([=](CPlotWnd& window) {
     window.Trace().Add({X, Y});
     return 0;
   });
 }
 
 int Tavix_VoDel() {
-  return OnWindow([](CPlotWnd& window) { return window.Trace().RemoveLast() ? 0 : kRefused; });
+  return ChangeWindow([](CPlotWnd& window) { return window.Trace().RemoveLast() ? 0 : kRefused; });
 }
 
 int Tavix_VoGet(int* count) {
@@ -85,7 +86,7 @@ int Tavix_VoIdx(int index, double* X, double* Y) {
 }
 
 int Tavix_VoEnd() {
-  return OnWindow([](CPlotWnd& window) {
+  return ChangeWindow([](CPlotWnd& window) {
     window.Trace().End();
     return 0;
   });

@@ -6,6 +6,7 @@
 #include "store/point3_list.h"
 #include "store/point_list.h"
 
+using tavix::ChangeInstance;
 using tavix::Instance;
 using tavix::kRefused;
 using tavix::OnInstance;
@@ -57,7 +58,7 @@ int Tavix_GetPntCrd(int key, double* x, double* y) {
 }
 
 int Tavix_DelEntPnt(int key) {
-  return OnInstance([=](Instance& instance) { return instance.RemovePoint(key); });
+  return ChangeInstance([=](Instance& instance) { return instance.RemovePoint(key); });
 }
 
 // ---- Memos
@@ -77,17 +78,18 @@ int Tavix_GetPntMem(int key, CString* memo) {
 // ---- 3-D points
 
 int Tavix_EntPnt3(int key, int number, CString name, double x, double y, double z) {
-  return OnInstance([&](Instance& instance) {
+  return ChangeInstance([&](Instance& instance) {
     return instance.EnterPoint3({key, number, ToNameView(name), {x, y}, z, 0});
   });
 }
 
 int Tavix_ChgPnt3Hid(int key, short legend) {
-  return OnInstance([=](Instance& instance) { return instance.ChangePoint3Legend(key, legend); });
+  return ChangeInstance(
+      [=](Instance& instance) { return instance.ChangePoint3Legend(key, legend); });
 }
 
 int Tavix_ChgPnt3NoNam(int key, int number, CString name) {
-  return OnInstance([&](Instance& instance) {
+  return ChangeInstance([&](Instance& instance) {
     return instance.ChangePoint3NumberAndName({key, number, ToNameView(name), {}, 0.0, 0});
   });
 }
@@ -116,5 +118,5 @@ int Tavix_GetPnt3Crd(int key, double* x, double* y, double* z) {
 }
 
 int Tavix_DelEntPnt3(int key) {
-  return OnInstance([=](Instance& instance) { return instance.RemovePoint3(key); });
+  return ChangeInstance([=](Instance& instance) { return instance.RemovePoint3(key); });
 }

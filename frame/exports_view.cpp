@@ -7,13 +7,15 @@
 #include "window/navigation.h"
 #include "window/plot_window.h"
 
+using tavix::ChangeInstance;
+using tavix::ChangeWindow;
 using tavix::CPlotWnd;
 using tavix::Instance;
 using tavix::OnInstance;
 using tavix::OnWindow;
 
 int Tavix_SetAng(int degrees) {
-  return OnInstance([=](Instance& instance) { return instance.View().SetAngle(degrees); });
+  return ChangeInstance([=](Instance& instance) { return instance.View().SetAngle(degrees); });
 }
 
 int Tavix_GetAng(int* degrees) {
@@ -25,7 +27,7 @@ int Tavix_GetAng(int* degrees) {
 }
 
 int Tavix_SetTatYok(int tate, int yoko) {
-  return OnWindow([=](CPlotWnd& window) {
+  return ChangeWindow([=](CPlotWnd& window) {
     window.Navigate().SetRatio(tate, yoko);
     return 0;
   });

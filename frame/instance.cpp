@@ -42,8 +42,12 @@ Instance::~Instance() {
 }
 
 CViewState& Instance::View() { return parts_->view; }
-CFigList& Instance::Figures() { return parts_->figures; }
 LegendTable& Instance::Legend() { return parts_->legend.Table(); }
+
+CFigList& Instance::Figures() {
+  if (window_) window_->Display().LeaveOutNewFigures();
+  return parts_->figures;
+}
 
 int Instance::Clear() {
   if (const int code = parts_->points.Clear(); code != 0) return code;
@@ -89,6 +93,14 @@ int Instance::Redraw(bool keep_view) {
   // With nothing to fit the view stays, and without memory to find out.
   if (!keep_view) DrawWhatCanBe([&] { display.Shown().Fit(); });
   return display.ViewChanged();
+}
+
+void Instance::FinishRedraw() {
+  if (window_) window_->Display().FinishRedraw();
+}
+
+void Instance::FinishRedrawUnlessAnotherFollows() {
+  if (!auto_redraw_) FinishRedraw();
 }
 
 int Instance::RedrawAfterChange(int code) {

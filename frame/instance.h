@@ -20,6 +20,10 @@ struct Point3;
 
 // Owns its parts, and holds the rules of the exported calls on them. What concerns the view, the
 // figures, the legend or the window alone, callers ask of that part.
+//
+// A redraw is drawn later than it is asked for (PlotDisplay), so what it shows must not change
+// before. Entering, changing and ending entities finishes it where that is needed; before any other
+// change of what is drawn callers call FinishRedraw.
 class Instance {
  public:
   // Makes instance `index`, 0 to 4, with empty stores and the legend of the legend file, in the
@@ -33,8 +37,10 @@ class Instance {
   Instance& operator=(const Instance&) = delete;
 
   [[nodiscard]] CViewState& View();
-  [[nodiscard]] CFigList& Figures();
   [[nodiscard]] LegendTable& Legend();
+
+  // To read, or to add to; a redraw that is pending leaves new figures out.
+  [[nodiscard]] CFigList& Figures();
 
   // Null while none is linked.
   [[nodiscard]] CPlotWnd* Window() { return window_.get(); }
@@ -62,6 +68,9 @@ class Instance {
   // Redraws everything, with `keep_view` unset after a fit to the data. -1 without a window, else
   // the redraw's result.
   int Redraw(bool keep_view);
+
+  // Draws the redraw that is pending, if one is.
+  void FinishRedraw();
 
   // While set, entering something new draws it at once and a change redraws the window.
   void SetAutoRedraw(bool on) { auto_redraw_ = on; }
@@ -125,6 +134,10 @@ class Instance {
 
  private:
   struct Parts;
+
+  // Before a change after which RedrawAfterChange is called: the redraw of that one takes the place
+  // of a pending one, where there is one.
+  void FinishRedrawUnlessAnotherFollows();
 
   template <class IsSame, class Change>
   int ChangePoint(std::int32_t key, IsSame is_same, Change change);

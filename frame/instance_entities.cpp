@@ -10,6 +10,7 @@ namespace tavix {
 // Changes the point with this key unless, with auto-redraw on, `is_same` finds nothing to change.
 template <class IsSame, class Change>
 int Instance::ChangePoint(std::int32_t key, IsSame is_same, Change change) {
+  FinishRedrawUnlessAnotherFollows();
   CPntList& points = parts_->points;
   if (points.Find(key) != 0) return -1;
   Point old;
@@ -21,6 +22,7 @@ int Instance::EnterPoint(const Point& entered) {
   Point point = entered;
   point.legend = point_legend_;
   if (parts_->points.Find(point.key) != 0) {
+    FinishRedraw();
     const int code = parts_->points.Add(point);
     if (code == 0 && auto_redraw_ && window_) window_->Display().Shown().DrawNew(point);
     return code;
@@ -99,8 +101,9 @@ int Instance::EnterMemo(std::int32_t key, const CString& memo) {
 int Instance::ReadMemo(std::int32_t key, CString* memo) { return parts_->memos.Read(key, memo); }
 
 int Instance::EnterLine(LineKeys keys) {
+  FinishRedraw();
   CLinDb& lines = parts_->lines;
-  if (lines.Find(keys) == 0) return 0;
+  if (lines.Contains(keys)) return 0;
   Line line{0, keys, line_legend_};
   const int code = lines.Add(keys, line.legend, &line.id);
   if (code == 0 && auto_redraw_ && window_) window_->Display().Shown().DrawNew(line);
@@ -108,6 +111,7 @@ int Instance::EnterLine(LineKeys keys) {
 }
 
 int Instance::ChangeLineLegend(LineKeys keys, std::int16_t legend) {
+  FinishRedrawUnlessAnotherFollows();
   CLinDb& lines = parts_->lines;
   if (const int code = lines.Find(keys); code != 0) return code;
   Line old;
@@ -127,6 +131,7 @@ int Instance::EndFigure() {
 }
 
 int Instance::DeleteFigure(std::int32_t number) {
+  FinishRedrawUnlessAnotherFollows();
   if (parts_->figures.IsTaken() || parts_->figures.Delete(number) != 0) return -1;
   RedrawAfterChange(0);
   return 0;

@@ -66,7 +66,8 @@ int WithinResources(Call call) {
 }
 
 // Has `call` answer for the current instance, and refuses where there is none or the system has
-// nothing left for the call.
+// nothing left for the call. A redraw that is pending stays pending: the call changes nothing of
+// what is drawn, or knows itself what to do.
 template <class Call>
 int OnInstance(Call call) {
   Instance* instance = Slots().Current();
@@ -77,6 +78,21 @@ int OnInstance(Call call) {
 template <class Call>
 int OnWindow(Call call) {
   return OnInstance(
+      [&](Instance& instance) { return instance.Window() ? call(*instance.Window()) : kRefused; });
+}
+
+// The same for calls that change what is drawn and do not redraw: a redraw that is pending is
+// drawn first, so that it shows what there was when it was asked for.
+template <class Call>
+int ChangeInstance(Call call) {
+  return OnInstance([&](Instance& instance) {
+    instance.FinishRedraw();
+    return call(instance);
+  });
+}
+template <class Call>
+int ChangeWindow(Call call) {
+  return ChangeInstance(
       [&](Instance& instance) { return instance.Window() ? call(*instance.Window()) : kRefused; });
 }
 

@@ -6,8 +6,9 @@
 
 Every call of frame/tavix.def needs a row for its success there; a row names a call that is
 exported and tests that are built, and each of these says something of the call, itself or by a
-helper of its file. Exits with 1 when it found anything else. Whether a test asks for what its row
-promises, only a reader can tell.
+helper of its file. The tests that docs/limits.md and docs/notifications.md name have to exist too.
+Exits with 1 when it found anything else. Whether a test asks for what its row promises, only a
+reader can tell.
 """
 
 import re
@@ -19,6 +20,9 @@ from check_exports import listed_calls
 from gtest_sources import built_sources, general_name, tests_in
 
 LIST = "docs/exported-calls.md"
+# Pages that name the tests of what they say.
+PAGES = ("docs/limits.md", "docs/notifications.md")
+TEST_NAME = re.compile(r"`([A-Z]\w+\.[A-Z]\w+)`")
 
 
 @dataclass(frozen=True)
@@ -70,11 +74,22 @@ def problems(calls, table, tests):
                 yield f"{here}: {name} says nothing of {row.call}"
 
 
+def missing_tests(root, tests):
+    """One line for each test that a page names and that is not there."""
+    for page in (page for page in PAGES if (root / page).is_file()):
+        for number, line in enumerate((root / page).read_text(encoding="utf-8").splitlines(), 1):
+            for name in TEST_NAME.findall(line):
+                if name not in tests:
+                    yield f"{page}:{number}: there is no test {name}"
+
+
 def main():
     root = Path(sys.argv[1]) if len(sys.argv) > 1 else Path(__file__).resolve().parent.parent
     calls = listed_calls((root / "frame/tavix.def").read_text(encoding="utf-8"))
     table = rows((root / LIST).read_text(encoding="utf-8"))
-    found = list(problems(calls, table, tests_below(root / "tests")))
+    tests = tests_below(root / "tests")
+    found = list(problems(calls, table, tests))
+    found += missing_tests(root, tests)
     if not calls:
         found.append("no call found in frame/tavix.def")
     named = {name for row in table for name in row.tests}

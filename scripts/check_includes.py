@@ -5,10 +5,12 @@
     scripts/check_includes.py FOLDER    another tree laid out the same way
 
 Reports an include that the table does not allow, an include in quotes that does not start from
-the project's root, a portable source that sees the platform's headers, circles of includes, and
-patterns of the table that match no file. Exits with 1 when it found any.
+the project's root (in a public header: from its own folder, since hosts give no other), a portable
+source that sees the platform's headers, circles of includes, and patterns of the table that match
+no file. Exits with 1 when it found any.
 """
 
+import posixpath
 import re
 import sys
 from fnmatch import fnmatch
@@ -17,7 +19,7 @@ from pathlib import Path
 # Layers from the bottom up; a file belongs to the first whose pattern it matches.
 LAYERS = {
     # The leaf: positions, sizes and boxes on the ground and the screen.
-    "coordinates": ("view/coordinates.*", "view/extent.*"),
+    "coordinates": ("view/coordinates.*", "view/extent.*", "view/ground_area.*"),
     "view": ("view/*",),
     "calls": ("include/*",),
     "public": ("platform/*/include/*",),
@@ -28,8 +30,8 @@ LAYERS = {
     "window": ("window/*",),
     "frame": ("frame/*",),
     "bindings": ("bindings/*",),
-    "host": ("host/*", "samples/*"),
-    "tests": ("tests/*", "bench/*", "fuzz/*"),
+    "host": ("host/*", "samples/*", "docs/guide/*"),
+    "tests": ("tests/*", "benchmarks/*", "fuzzers/*"),
 }
 
 _PLATFORM = {"platform", "public"}
@@ -54,6 +56,9 @@ MAY_KNOW = {
 PORTABLE = re.compile(r"^tavix_portable\(([^)]*)\)", re.MULTILINE)
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
 SUFFIXES = {".h", ".hpp", ".c", ".cpp"}
+# The public headers of the platform, and where the installed package has them.
+PUBLIC = re.compile(r"^platform/[^/]+/include/")
+INSTALLED = "include/tavix-framework/"
 # Folders that hold no sources of the project.
 SKIPPED = {"build", "out", ".git"}
 
@@ -81,6 +86,19 @@ def include_roots(root):
     return ["", *(path.relative_to(root).as_posix() + "/" for path in public if path.is_dir())]
 
 
+def is_public(path):
+    """Whether hosts read it from the installed package."""
+    return layer_of(path) in ("calls", "public")
+
+
+def included_file(path, quote, name, roots, known):
+    """The project's file that an include of `path` names, or None."""
+    if quote == '"' and is_public(path):
+        folder = posixpath.dirname(PUBLIC.sub(INSTALLED, path))
+        name = posixpath.normpath(posixpath.join(folder, name)).removeprefix(INSTALLED)
+    return next((start + name for start in roots if start + name in known), None)
+
+
 def includes(root):
     """(file, line number, quote, name, included project file or None) of every include."""
     known = set(sources(root))
@@ -90,9 +108,8 @@ def includes(root):
         for number, line in enumerate(text.splitlines(), 1):
             match = INCLUDE.match(line)
             if match:
-                name = match[2]
-                target = next((start + name for start in roots if start + name in known), None)
-                yield path, number, match[1], name, target
+                quote, name = match.groups()
+                yield path, number, quote, name, included_file(path, quote, name, roots, known)
 
 
 def include_graph(root):
@@ -157,7 +174,8 @@ def problems(root):
         here = f"{path}:{number}"
         if target is None:
             if quote == '"':
-                found.append(f'{here}: "{name}" does not start from the project\'s root')
+                start = "its own folder" if is_public(path) else "the project's root"
+                found.append(f'{here}: "{name}" does not start from {start}')
             continue
         layer, other = layer_of(path), layer_of(target)
         if layer is None or other is None:

@@ -11,6 +11,7 @@ import shutil
 import sys
 from pathlib import Path
 
+from commands.installer import check_packages
 from commands.package import check_hosts
 from commands.reports import count
 from commands.script_tests import count_script_tests
@@ -78,9 +79,13 @@ def plan():
     steps.check(1, "checking who includes whom", [ROOT / "scripts/check_includes.py"])
     title = "checking that a test asks for every exported call"
     steps.check(1, title, [ROOT / "scripts/check_call_tests.py"])
+    steps.check(1, "checking the pages of the guide", [ROOT / "scripts/check_guide.py"],
+                [ROOT / "scripts/check_translations.py"])
     title = "checking the declarations of other languages"
     steps.check(1, title, [ROOT / "bindings/make_bindings.py", "--check"], *other_compilers())
     steps.count(2, "testing the scripts", lambda _: count_script_tests(ROOT / "tests/scripts"))
+    title = "making the documents as HTML"
+    steps.check(8, title, *configure_and_build("docs"))
     steps.build(90, "building native", *configure_and_build("native"))
     steps.count(22, "testing native", lambda watch: run_programs("native", watch))
     steps.check(75, "checking with clang-tidy", *configure_and_build("tidy"))
@@ -97,7 +102,10 @@ def plan():
             1, title, *([ROOT / "scripts/check_exports.py", "--dll", library.with_name(name)]
                         for name in ("tavix.dll", "tavix_c.dll")))
         title = f"building hosts against the {preset} package"
-        steps.count(10, title, lambda _, preset=preset, runs=runs: check_hosts(ROOT, preset, runs))
+        steps.count(15, title, lambda _, preset=preset, runs=runs: check_hosts(ROOT, preset, runs))
+        title = f"making the {preset} packages" + (", installing and removing one" if runs else "")
+        steps.count(
+            15, title, lambda _, preset=preset, runs=runs: check_packages(ROOT, preset, runs))
     return steps
 
 

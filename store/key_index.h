@@ -22,10 +22,12 @@ class KeyIndex {
     if ((count_ + 1) * 2 > slots_.size()) Grow();
   }
 
-  void Insert(std::int32_t key, std::uint32_t position) {
+  // True when another record with this key was there before; the search for it is the one for the
+  // place of the new entry.
+  bool Insert(std::int32_t key, std::uint32_t position) {
     MakeRoom();
-    Place({key, position});
     ++count_;
+    return Place({key, position});
   }
 
   // Calls `visit(position)` for every record with this key, in no order, until it returns false.
@@ -76,10 +78,13 @@ class KeyIndex {
   }
   [[nodiscard]] std::size_t After(std::size_t at) const { return (at + 1) & (slots_.size() - 1); }
 
-  void Place(Slot slot) {
+  // True when an entry with this key lies before the place that is found.
+  bool Place(Slot slot) {
+    bool repeated = false;
     std::size_t at = Home(slot.key);
-    while (!slots_[at].IsEmpty()) at = After(at);
+    for (; !slots_[at].IsEmpty(); at = After(at)) repeated = repeated || slots_[at].key == slot.key;
     slots_[at] = slot;
+    return repeated;
   }
 
   void Grow() {

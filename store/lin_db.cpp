@@ -1,6 +1,7 @@
 #include "store/lin_db.h"
 
 #include <array>
+#include <limits>
 
 namespace tavix {
 namespace {
@@ -13,6 +14,13 @@ std::span<CCeDBProp> SortProperties() {
   static std::array<CCeDBProp, 2> properties{CCeDBProp(CCeDBProp::Type_Short, kId),
                                              CCeDBProp(CCeDBProp::Type_Short, kSmallerKey)};
   return properties;
+}
+
+// The number a record is sorted by. One whose id is of another type stands behind all others.
+std::int16_t PlaceOf(const CCeDBRecord& record) {
+  const CCeDBProp* id = record.GetPropFromIdent(kId);
+  const bool is_sorted = id && id->GetType() == CCeDBProp::Type_Short;
+  return is_sorted ? id->GetShort() : std::numeric_limits<std::int16_t>::max();
 }
 
 }  // namespace
@@ -40,6 +48,7 @@ bool CLinDb::Reopen(Order order) {
     Close();
   } else {
     lookup_.Forget();
+    drawn_changes_.reset();
   }
   if (!database_.Open(&SortProperties()[order == Order::kById ? 0 : 1])) return false;
   order_ = order;
@@ -54,19 +63,34 @@ int CLinDb::Find(LineKeys keys) {
   return lookup_.Find(keys);
 }
 
+bool CLinDb::Contains(LineKeys keys) {
+  if (Reopen(Order::kBySmallerKey) && lookup_.IsKnownAbsent(keys)) return false;
+  return Find(keys) == 0;
+}
+
 int CLinDb::Add(LineKeys keys, std::int16_t legend, std::int32_t* id) {
   if (!order_) return -1;
   std::array<CCeDBProp, 5> properties = EncodeLine({next_id_, keys, legend});
   record_.DeleteAllProps();
   record_.AddProps(properties.data(), static_cast<int>(properties.size()));
+  const bool is_drawn = drawn_changes_ && drawn_changes_ == database_.Records().GetNumChanges();
   const CEOID added = database_.Records().AddRecord(&record_);
   record_.DeleteAllProps();
   if (added == 0) return -1;
   lookup_.Added(keys, added);
+  if (is_drawn) DrawLast(static_cast<std::int16_t>(next_id_), keys, legend);
   *id = next_id_;
   changed_ = true;
   ++next_id_;
   return 0;
+}
+
+// The last in the order of ids, too, unless these have gone round their 16 bits.
+void CLinDb::DrawLast(std::int16_t id, LineKeys keys, std::int16_t legend) {
+  if (id < last_drawn_ || last_drawn_ == std::numeric_limits<std::int16_t>::max()) return;
+  drawn_.Append(keys, legend);
+  last_drawn_ = id;
+  drawn_changes_ = *drawn_changes_ + 1;
 }
 
 int CLinDb::Remove(LineKeys keys) {
@@ -103,6 +127,24 @@ int CLinDb::First(Order order) {
   if (!Reopen(order)) return -2;
   if (database_.Records().GetNumRecords() == 0) return -1;
   return database_.Records().SeekFirst() != 0 ? 0 : -3;
+}
+
+bool CLinDb::ReadForDrawing() {
+  if (First(Order::kById) != 0) return false;
+  const ULONGLONG changes = database_.Records().GetNumChanges();
+  if (drawn_changes_ == changes) return true;
+  drawn_.Clear();
+  drawn_changes_ = changes;
+  do {
+    Line line;
+    if (ReadCur(&line) == 0) {
+      drawn_.Append(line.keys, line.legend);
+      last_drawn_ = PlaceOf(record_);
+    } else {
+      drawn_changes_.reset();
+    }
+  } while (Next() == 0);
+  return true;
 }
 
 int CLinDb::Next() {

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "store/device_database.h"
+#include "store/drawn_lines.h"
 #include "store/line_codec.h"
 #include "store/line_lookup.h"
 
@@ -36,6 +37,10 @@ class CLinDb {
   // -7 its smaller or larger key is missing.
   int Find(LineKeys keys);
 
+  // Whether Find finds it. While the index of the lines is valid no record is read for one that is
+  // not there.
+  bool Contains(LineKeys keys);
+
   // -1 when the record cannot be added.
   int Add(LineKeys keys, std::int16_t legend, std::int32_t* id);
 
@@ -48,6 +53,15 @@ class CLinDb {
 
   // -1 the write failed, -2 closed, -3 unreadable, -4 no legend in the record.
   int SetCurHan(std::int16_t legend);
+
+  // Calls `visit(std::int16_t legend, GroundPoint start, GroundPoint end)` in the order of ids for
+  // each line whose ends are both among `points`, always the same list; lines that `sieve` holds
+  // back are left out. The records are read again only when the database has changed. Moves the
+  // current record; visits nothing when the database cannot be opened.
+  template <class Visit>
+  void ForEachIn(const CPntList& points, const SegmentSieve& sieve, Visit visit) {
+    if (ReadForDrawing()) drawn_.ForEach(points, sieve, visit);
+  }
 
   // The first line in an order. -1 empty, -2 the database cannot be opened, -3 no first record.
   int First(Order order);
@@ -70,12 +84,19 @@ class CLinDb {
 
  private:
   bool Reopen(Order order);
+  // Brings drawn_ up to date. False when there is no first record.
+  bool ReadForDrawing();
+  // Adds a line that was entered just now to drawn_, if its place is the last.
+  void DrawLast(std::int16_t id, LineKeys keys, std::int16_t legend);
 
   DeviceDatabase database_;
   LineLookup lookup_;
   CCeDBRecord record_;          // read into or written; a member to reuse its memory
   std::optional<Order> order_;  // nothing while closed
   std::int32_t next_id_ = 1;
+  DrawnLines drawn_;
+  std::optional<ULONGLONG> drawn_changes_;  // those of the database that drawn_ has seen, if whole
+  std::int16_t last_drawn_ = 0;             // the id of the last one
   bool changed_ = false;
 };
 

@@ -15,6 +15,10 @@ int LineLookup::Find(LineKeys keys) {
   return indexed ? MatchIndexed(keys) : MatchReading(keys);
 }
 
+bool LineLookup::IsKnownAbsent(LineKeys keys) const {
+  return IsInStep() && index_.Find(keys) == LineIndex::kNoRecord;
+}
+
 void LineLookup::Added(LineKeys keys, CEOID record) {
   try {
     index_.Enter(keys, record);
@@ -36,10 +40,10 @@ void LineLookup::Forget() {
 }
 
 bool LineLookup::IsIndexed() {
-  const ULONGLONG changes = records_.GetNumChanges();
-  if (changes == indexed_changes_) return true;
+  if (IsInStep()) return true;
   if (records_read_ < records_.GetNumRecords()) return false;
   records_read_ = 0;
+  const ULONGLONG changes = records_.GetNumChanges();
   if (!IndexAll()) return false;
   indexed_changes_ = changes;
   return true;

@@ -22,6 +22,9 @@ class LineLookup {
   // -6 and -7 one lacks its smaller or larger key; which record is current then is undefined.
   int Find(LineKeys keys);
 
+  // Whether there is no such record for certain; reads nothing.
+  [[nodiscard]] bool IsKnownAbsent(LineKeys keys) const;
+
   // ---- To be called after each change the owner makes to the database
 
   void Added(LineKeys keys, CEOID record);
@@ -35,6 +38,8 @@ class LineLookup {
   void Forget();
 
  private:
+  [[nodiscard]] bool IsInStep() const { return records_.GetNumChanges() == indexed_changes_; }
+  // Builds the index again when it is time.
   [[nodiscard]] bool IsIndexed();
   [[nodiscard]] bool IndexAll();
   int MatchIndexed(LineKeys keys);

@@ -1,14 +1,13 @@
 #include "store/packed_rtree.h"
 
+#include <array>
 #include <bit>
 #include <limits>
-#include <span>
+#include <numeric>
 #include <utility>
 
 namespace tavix {
 namespace {
-
-using Entry = PackedRTree::Entry;
 
 // Bits that sort like the doubles. Neighbouring numbers are neighbouring doubles: one point far
 // away does not press the others together, as it would on a linear scale.
@@ -46,49 +45,46 @@ std::uint64_t SpreadBits(std::uint32_t number) {
   return (bits | bits << 1) & 0x5555555555555555ULL;
 }
 
-struct ZOrdered {
-  std::uint64_t code;   // the bits of both axes in turn: points with close codes are close
-  std::uint32_t index;  // of the entry
-};
-
-std::vector<ZOrdered> InZOrder(const std::vector<Entry>& entries) {
-  Axis north;
-  Axis east;
-  for (const Entry& entry : entries) {
-    north.Include(entry.at.north);
-    east.Include(entry.at.east);
+// Sorts by code, the values with one code as they come: by one digit after another, from the last.
+template <class Value>
+void SortByCode(std::vector<Value>& values) {
+  constexpr int kBits = 11;
+  constexpr std::size_t kDigits = std::size_t{1} << kBits;
+  std::vector<Value> sorted(values.size());
+  for (int shift = 0; shift < 64; shift += kBits) {
+    const auto digit = [=](const Value& value) { return value.code >> shift & (kDigits - 1); };
+    std::array<std::uint32_t, kDigits> places{};
+    for (const Value& value : values) ++places[digit(value)];
+    if (places[digit(values.front())] == values.size()) continue;
+    std::exclusive_scan(places.begin(), places.end(), places.begin(), 0U);
+    for (const Value& value : values) sorted[places[digit(value)]++] = value;
+    values.swap(sorted);
   }
-  std::vector<ZOrdered> order;
-  order.reserve(entries.size());
-  for (const Entry& entry : entries) {
-    const std::uint64_t code =
-        SpreadBits(north.Number(entry.at.north)) << 1 | SpreadBits(east.Number(entry.at.east));
-    order.push_back({code, static_cast<std::uint32_t>(order.size())});
-  }
-  std::sort(order.begin(), order.end(),
-            [](const ZOrdered& one, const ZOrdered& other) { return one.code < other.code; });
-  return order;
 }
 
 }  // namespace
 
-void PackedRTree::Build(std::vector<Entry> entries) {
-  points_.clear();
-  positions_.clear();
-  levels_.clear();
-  points_.reserve(entries.size());
-  positions_.reserve(entries.size());
-  std::vector<ZOrdered> order = InZOrder(entries);
-  for (std::size_t from = 0; from < order.size(); from += kLeaf) {
-    const auto leaf = std::span(order).subspan(from, std::min(kLeaf, order.size() - from));
-    std::sort(leaf.begin(), leaf.end(), [&](const ZOrdered& one, const ZOrdered& other) {
-      return entries[one.index].position < entries[other.index].position;
-    });
-    for (const ZOrdered& each : leaf) {
-      points_.push_back(entries[each.index].at);
-      positions_.push_back(entries[each.index].position);
-    }
+std::vector<PackedRTree::ZOrdered> PackedRTree::InZOrder(
+    std::span<const Position> positions) const {
+  Axis north;
+  Axis east;
+  for (const GroundPoint point : points_) {
+    north.Include(point.north);
+    east.Include(point.east);
   }
+  std::vector<ZOrdered> order;
+  order.reserve(positions.size());
+  for (const GroundPoint point : points_) {
+    const std::uint64_t code =
+        SpreadBits(north.Number(point.north)) << 1 | SpreadBits(east.Number(point.east));
+    order.push_back({code, positions[order.size()]});
+  }
+  if (!order.empty()) SortByCode(order);
+  return order;
+}
+
+void PackedRTree::BuildNodes() {
+  levels_.clear();
   if (IsEmpty()) return;
   BuildLeaves();
   while (levels_.back().size() > 1) BuildAbove(levels_.back());
@@ -112,7 +108,7 @@ void PackedRTree::BuildAbove(const std::vector<Node>& below) {
   nodes.reserve(below.size() / kBranch + 1);
   for (std::size_t from = 0; from < below.size(); from += kBranch) {
     ExtentBuilder box;
-    std::uint32_t first = below[from].first;
+    Position first = below[from].first;
     for (std::size_t i = from; i < std::min(from + kBranch, below.size()); ++i) {
       box.Include(below[i].box);
       first = std::min(first, below[i].first);

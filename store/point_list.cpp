@@ -1,6 +1,5 @@
 #include "store/point_list.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace tavix {
@@ -26,6 +25,7 @@ int CPntList::SetCurCrd(GroundPoint at) {
   PntRec* current = Records().Current();
   if (!current) return -2;
   current->at = at;
+  ++moves_;
   index_.Moved(Records().CurrentPosition());
   SetChanged(true);
   return 0;
@@ -45,18 +45,11 @@ int CPntList::FindNearest(double tolerance, GroundPoint at, std::int32_t* key) c
   if (!(tolerance >= 0.0) || std::isnan(at.north) || std::isnan(at.east))
     return -1;  // no point is near
 
-  // Rounded or not, a difference falls as the coordinate rises: those at the borders of a box bound
-  // the others.
-  const auto too_far = [&](double centre, double low, double high) {
-    return std::max(low - centre, centre - high) > tolerance;  // one branch, mostly predicted
-  };
-  const auto touches = [&](const GroundExtent& box) {
-    return !too_far(at.north, box.min.north, box.max.north) &&
-           !too_far(at.east, box.min.east, box.max.east);
-  };
+  const GroundArea around{at, tolerance, tolerance};
+  const auto touches = [&](const GroundExtent& box) { return around.Touches(box); };
   int candidates = 0;
   double nearest = 0.0;  // the square of its distance
-  index_.ForEach(Records(), touches, [&](const PntRec& record) {
+  index_.ForFirst(Records(), touches, [&](const PntRec& record) {
     const double north = at.north - record.at.north;
     if (!(std::fabs(north) <= tolerance)) return true;
     const double east = at.east - record.at.east;

@@ -69,11 +69,9 @@ class RecordList {
   // Without memory for it the list stays as it is.
   Record& Append(const Record& record) {
     const auto position = static_cast<Position>(records_.size());
-    const bool repeated = FirstWithKey(record.key).has_value();
     index_.MakeRoom();
     records_.push_back(record);
-    index_.Insert(record.key, position);
-    if (repeated) ++repeated_keys_;
+    if (index_.Insert(record.key, position)) ++repeated_keys_;
     ++live_;
     return records_.back();
   }
@@ -84,6 +82,7 @@ class RecordList {
     index_.Erase(record.key, *cursor_);
     record.removed = true;
     --live_;
+    ++removals_;
     if (FirstWithKey(record.key)) --repeated_keys_;
     cursor_.reset();
     if (records_.size() - live_ > std::max(live_, kFewHoles)) CloseHoles();
@@ -96,6 +95,7 @@ class RecordList {
     live_ = 0;
     repeated_keys_ = 0;
     ++numbering_;
+    ++removals_;
     cursor_.reset();
   }
 
@@ -123,8 +123,15 @@ class RecordList {
   [[nodiscard]] std::span<const Record> ByPosition() const { return records_; }
   // Changes whenever records get other positions.
   [[nodiscard]] std::uint64_t Numbering() const { return numbering_; }
+  // Changes whenever records are removed. As long as it stays the same, records keep their
+  // positions.
+  [[nodiscard]] std::uint64_t Removals() const { return removals_; }
   // Of the current record, of which there must be one.
   [[nodiscard]] Position CurrentPosition() const { return *cursor_; }
+  // Of the first record with the key, or nothing; leaves the cursor alone.
+  [[nodiscard]] std::optional<Position> PositionOf(std::int32_t key) const {
+    return FirstWithKey(key);
+  }
 
   // The first record with the key, or null; leaves the cursor alone.
   [[nodiscard]] const Record* Peek(std::int32_t key) const {
@@ -186,6 +193,7 @@ class RecordList {
   std::size_t live_ = 0;
   std::size_t repeated_keys_ = 0;  // records whose key an earlier record has too
   std::uint64_t numbering_ = 0;
+  std::uint64_t removals_ = 0;
   std::optional<Position> cursor_;
 };
 

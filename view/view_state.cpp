@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace tavix {
 namespace {
@@ -190,18 +191,41 @@ bool CViewState::CircleOnScreen(GroundPoint centre, double radius, ScreenPoint& 
   return true;
 }
 
+// The upright box around the turned client area, grown by `pixels` and by two more for truncation
+// and rounding.
+GroundArea CViewState::GroundAround(int pixels) const {
+  constexpr double kAnywhere = std::numeric_limits<double>::infinity();
+  if (!std::isfinite(PixelsToLength(pixels))) return {centre_, kAnywhere, kAnywhere};
+  const int margin = pixels + 2;
+  const double half_x = std::max<double>(half_width_, width_ - half_width_) + margin;
+  const double half_y = std::max<double>(half_height_, height_ - half_height_) + margin;
+  const double across = std::fabs(cos_a_) * half_x + std::fabs(sin_a_) * half_y;
+  const double down = std::fabs(sin_a_) * half_x + std::fabs(cos_a_) * half_y;
+  return {centre_, down / std::fabs(v_scale_), across / std::fabs(scale_)};
+}
+
+SegmentSieve CViewState::OutOfView() const {
+  constexpr double kTruePixels = 1 << 29;  // a quarter of their range: no turn leaves it
+  return {GroundAround(0),
+          {centre_, kTruePixels / std::fabs(v_scale_), kTruePixels / std::fabs(scale_)}};
+}
+
 bool CViewState::ClipGroundSegment(GroundPoint start, GroundPoint end,
                                    ScreenSegment& clipped) const {
   ScreenSegment segment{GroundToScreen(start), GroundToScreen(end)};
+  if (!ClipScreenSegment(segment)) return false;
+  clipped = segment;
+  return true;
+}
+
+bool CViewState::ClipScreenSegment(ScreenSegment& segment) const {
   const int width = TruncateToInt(width_);
   const int height = TruncateToInt(height_);
   if (segment.start.y < 0 && segment.end.y < 0) return false;
   if (segment.start.y > height && segment.end.y > height) return false;
   if (segment.start.x < 0 && segment.end.x < 0) return false;
   if (segment.start.x > width && segment.end.x > width) return false;
-  if (!ClipToQuad(screen_quad_, segment)) return false;
-  clipped = segment;
-  return true;
+  return ClipToQuad(screen_quad_, segment);
 }
 
 bool CViewState::ClipGroundSegmentInPlace(GroundPoint& start, GroundPoint& end,

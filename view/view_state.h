@@ -4,6 +4,7 @@
 
 #include "view/clip.h"
 #include "view/coordinates.h"
+#include "view/ground_area.h"
 
 namespace tavix {
 
@@ -94,12 +95,21 @@ class CViewState {
   // True when a circle of `radius` metres can touch the client area; then `screen` is its centre.
   [[nodiscard]] bool CircleOnScreen(GroundPoint centre, double radius, ScreenPoint& screen) const;
 
+  // The ground outside of which CircleOnScreen is false for every circle of up to `pixels` pixels.
+  [[nodiscard]] GroundArea GroundAround(int pixels) const;
+
+  // The segments for which ClipGroundSegment is false for certain.
+  [[nodiscard]] SegmentSieve OutOfView() const;
+
   // Clips a ground segment to the client area. False when it lies outside; `clipped` then stays as
   // it was.
   [[nodiscard]] bool ClipGroundSegment(GroundPoint start, GroundPoint end,
                                        ScreenSegment& clipped) const;
 
-  // The same, and the ground ends become the ground positions of the clipped pixels.
+  // The same of a segment of pixels, in place. False when it lies outside; it is then undefined.
+  [[nodiscard]] bool ClipScreenSegment(ScreenSegment& segment) const;
+
+  // As ClipGroundSegment, and the ground ends become the ground positions of the clipped pixels.
   [[nodiscard]] bool ClipGroundSegmentInPlace(GroundPoint& start, GroundPoint& end,
                                               ScreenSegment& clipped) const;
 

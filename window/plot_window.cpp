@@ -34,7 +34,7 @@ ScreenPoint ToScreen(CPoint point) {
 struct CPlotWnd::Parts {
   Parts(CPlotWnd& window, UINT notify_id, const PlotLinks& plot_links)
       : links(plot_links),
-        display(window, links, ratio),
+        display(window, buttons, links, ratio),
         navigation(links.view, display, ratio),
         modes({window, display, links.view, links.points}, notify_id, navigation, buttons),
         settings(window, display, navigation, links.legend),
@@ -50,6 +50,7 @@ struct CPlotWnd::Parts {
   SettingsCommand settings;
   ButtonCommands commands;
   OneBitPlot one_bit;
+  bool painting = false;  // BeginPaint is erasing the background
 };
 
 BEGIN_MESSAGE_MAP(CPlotWnd, CWnd)
@@ -59,6 +60,7 @@ ON_WM_PAINT()
 ON_WM_LBUTTONDOWN()
 ON_WM_MOUSEMOVE()
 ON_WM_CAPTURECHANGED()
+ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 CPlotWnd::CPlotWnd(UINT notify_id, const PlotLinks& links)
@@ -105,6 +107,7 @@ void CPlotWnd::ApplyButtonFlag(bool show_buttons) {
   if (m_hWnd) GetClientRect(&client);
   const int column = show_buttons ? ButtonColumnLayout::kWidth : 0;
   CViewState& view = parts_->links.view;
+  parts_->display.FinishRedraw();
   view.SetScreenSize(client.right - column, client.bottom);
   view.SetRatio(1.0);
   parts_->buttons.Show(show_buttons);
@@ -170,23 +173,37 @@ void CPlotWnd::OnCaptureChanged(CWnd* taker) {
   CWnd::OnCaptureChanged(taker);
 }
 
+void CPlotWnd::OnDestroy() {
+  parts_->display.ReleaseScreen();
+  CWnd::OnDestroy();
+}
+
 BOOL CPlotWnd::OnEraseBkgnd(CDC* dc) {
   CRect client;
   GetClientRect(&client);
+  if (parts_->painting) parts_->buttons.ExcludeFrom(*dc);
   ::FillRect(dc->m_hDC, &client, ::GetSysColorBrush(COLOR_WINDOW));
+  // The system can have the background erased before the paint; that covers the buttons, too.
+  if (!parts_->painting && ::WindowFromDC(dc->m_hDC) == m_hWnd) parts_->buttons.Invalidate();
   return TRUE;
 }
 
 void CPlotWnd::OnPaint() {
+  // Before the background is erased: what is on the screen stays there until the picture is ready.
+  parts_->display.FinishRedraw();
   bool begun = false;
+  parts_->painting = true;
   DrawWhatCanBe([&] {
     CPaintDC dc(this);
     begun = true;
+    parts_->painting = false;
     CRect clip;
     const int region = dc.GetClipBox(&clip);
     if (region == NULLREGION || region == ERROR) return;
+    parts_->buttons.ExcludeFrom(dc);
     parts_->display.Paint(dc, clip);
   });
+  parts_->painting = false;
   // Otherwise the system would ask for the paint again and again.
   if (!begun) ValidateRect(nullptr);
 }

@@ -69,6 +69,7 @@ class CPlotWnd : public CWnd {
   afx_msg void OnLButtonDown(UINT flags, CPoint point);
   afx_msg void OnMouseMove(UINT flags, CPoint point);
   afx_msg void OnCaptureChanged(CWnd* taker);
+  afx_msg void OnDestroy();
   DECLARE_MESSAGE_MAP()
 
  private:

@@ -31,8 +31,8 @@ namespace Tavix
         //     y = height / 2 - SideRise * (SideUp * up - SideRight * right)
         //
         // A height above the height base adds its metres at the plan's scale, straight up.
-        public const double SideRight = 0.9;
-        public const double SideUp = 0.7;
+        public const double SideRight = 0.9;                  // of a length to the right
+        public const double SideUp = 0.7;                     // of a length upward
         public const double SideAcross = 0.8660254037844387;  // cos 30 degrees
         public const double SideRise = 0.5;                   // sin 30 degrees
     }
@@ -152,10 +152,12 @@ namespace Tavix
         public static extern int TavixC_DrwFlg(int instance, int @on);
 
         /// <summary>
-        /// Redraws the window; with `keepView` 0 the view is first fitted to the data. With nothing
-        /// to fit the view stays. The side view is fitted as seen from above: laid flat, its far
-        /// right may lie outside of a narrow window; its height base is then the lowest height,
-        /// rounded down to a whole metre. Needs a linked window (-1 without one); returns 0.
+        /// Redraws the window; with `keepView` 0 the view is first fitted to the data. As with
+        /// every redraw the window is invalidated, and its next paint shows the picture of this
+        /// moment. With nothing to fit the view stays. The side view is fitted as seen from above:
+        /// laid flat, its far right may lie outside of a narrow window; its height base is then the
+        /// lowest height, rounded down to a whole metre. Needs a linked window (-1 without one);
+        /// returns 0.
         /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
@@ -486,14 +488,23 @@ namespace Tavix
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
         public static extern int TavixC_ChgPnt3Hid(int instance, int key, short legend);
 
+        /// <summary>
+        /// Changes a point's number and name.
+        /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
         public static extern int TavixC_ChgPnt3NoNam(int instance, int key, int number, string name);
 
+        /// <summary>
+        /// Writes a point's number and name.
+        /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
         public static extern int TavixC_GetPnt3NoNam(int instance, int key, out int number, [Out] char[] name, int capacity, out int length);
 
+        /// <summary>
+        /// Writes a point's coordinates and height.
+        /// </summary>
         [DllImport("tavix_c", CallingConvention = CallingConvention.Cdecl,
                    CharSet = CharSet.Unicode, ExactSpelling = true)]
         public static extern int TavixC_GetPnt3Crd(int instance, int key, out double x, out double y, out double z);

@@ -34,8 +34,8 @@ const (
 	//     y = height / 2 - SideRise * (SideUp * up - SideRight * right)
 	//
 	// A height above the height base adds its metres at the plan's scale, straight up.
-	SideRight  = 0.9
-	SideUp     = 0.7
+	SideRight  = 0.9                // of a length to the right
+	SideUp     = 0.7                // of a length upward
 	SideAcross = 0.8660254037844387 // cos 30 degrees
 	SideRise   = 0.5                // sin 30 degrees
 )
@@ -231,8 +231,9 @@ func cDrwFlg(instance int32, on int32) int32 {
 	return int32(r)
 }
 
-// Redraws the window; with `keepView` 0 the view is first fitted to the data. With nothing to fit
-// the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
+// Redraws the window; with `keepView` 0 the view is first fitted to the data. As with every redraw
+// the window is invalidated, and its next paint shows the picture of this moment. With nothing to
+// fit the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
 // outside of a narrow window; its height base is then the lowest height, rounded down to a whole
 // metre. Needs a linked window (-1 without one); returns 0.
 func cDrw(instance int32, keepView int32) int32 {
@@ -498,16 +499,19 @@ func cChgPnt3Hid(instance int32, key int32, legend int16) int32 {
 	return int32(r)
 }
 
+// Changes a point's number and name.
 func cChgPnt3NoNam(instance int32, key int32, number int32, name *uint16) int32 {
 	r, _, _ := procChgPnt3NoNam.Call(uintptr(instance), uintptr(key), uintptr(number), uintptr(unsafe.Pointer(name)))
 	return int32(r)
 }
 
+// Writes a point's number and name.
 func cGetPnt3NoNam(instance int32, key int32, number *int32, name *uint16, capacity int32, length *int32) int32 {
 	r, _, _ := procGetPnt3NoNam.Call(uintptr(instance), uintptr(key), uintptr(unsafe.Pointer(number)), uintptr(unsafe.Pointer(name)), uintptr(capacity), uintptr(unsafe.Pointer(length)))
 	return int32(r)
 }
 
+// Writes a point's coordinates and height.
 func cGetPnt3Crd(instance int32, key int32, x *float64, y *float64, z *float64) int32 {
 	r, _, _ := procGetPnt3Crd.Call(uintptr(instance), uintptr(key), uintptr(unsafe.Pointer(x)), uintptr(unsafe.Pointer(y)), uintptr(unsafe.Pointer(z)))
 	return int32(r)

@@ -27,8 +27,8 @@ const constants = {
   //     y = height / 2 - SIDE_RISE * (SIDE_UP * up - SIDE_RIGHT * right)
   //
   // A height above the height base adds its metres at the plan's scale, straight up.
-  SIDE_RIGHT: 0.9,
-  SIDE_UP: 0.7,
+  SIDE_RIGHT: 0.9,                  // of a length to the right
+  SIDE_UP: 0.7,                     // of a length upward
   SIDE_ACROSS: 0.8660254037844387,  // cos 30 degrees
   SIDE_RISE: 0.5,                   // sin 30 degrees
 };

@@ -33,8 +33,8 @@ const
   //     y = height / 2 - TavixSideRise * (TavixSideUp * up - TavixSideRight * right)
   //
   // A height above the height base adds its metres at the plan's scale, straight up.
-  TavixSideRight = 0.9;
-  TavixSideUp = 0.7;
+  TavixSideRight = 0.9;                  // of a length to the right
+  TavixSideUp = 0.7;                     // of a length upward
   TavixSideAcross = 0.8660254037844387;  // cos 30 degrees
   TavixSideRise = 0.5;                   // sin 30 degrees
 

@@ -24,11 +24,22 @@ inline std::uint8_t Weighted(std::uint8_t value, std::uint16_t weight) {
 // The weight that gives a row exactly, for all of its values; none where no weight does.
 [[nodiscard]] std::optional<std::uint16_t> FindWeight(const BlendRow& row);
 
-// A row for each level of coverage. A level is named by what it makes of white: 0..255, where 255
-// leaves white as it is.
+// A level of coverage is named by what black text makes of white there: 0..255, where 255 leaves
+// white as it is. A pixel has one for each channel, red, green and blue; they are the same unless
+// text is smoothed in colours.
+using CoverageLevels = std::array<std::uint8_t, 3>;
+
+// The levels of a pixel that black text has made of a white one.
+inline CoverageLevels LevelsOf(std::uint32_t over_white) {
+  return {static_cast<std::uint8_t>(over_white >> 16), static_cast<std::uint8_t>(over_white >> 8),
+          static_cast<std::uint8_t>(over_white)};
+}
+
+// A row for each level of coverage, for text of one colour.
 class BlendTable {
  public:
   void Set(std::uint8_t level, const BlendRow& row);
+  void Forget(std::uint8_t level) { levels_[level] = {}; }
 
   [[nodiscard]] bool Knows(std::uint8_t level) const { return levels_[level].known; }
 
@@ -51,11 +62,12 @@ class BlendTable {
   std::vector<BlendRow> rows_;
 };
 
-// `pixel` with each of its three channels blended by the row.
-inline std::uint32_t Blended(const BlendRow& row, std::uint32_t pixel) {
-  const std::uint32_t red = row[pixel >> 16 & 0xFF];
-  const std::uint32_t green = row[pixel >> 8 & 0xFF];
-  const std::uint32_t blue = row[pixel & 0xFF];
+// `pixel` with each of its three channels blended by the row of its level.
+inline std::uint32_t Blended(const BlendRow* rows, const CoverageLevels& levels,
+                             std::uint32_t pixel) {
+  const std::uint32_t red = rows[levels[0]][pixel >> 16 & 0xFF];
+  const std::uint32_t green = rows[levels[1]][pixel >> 8 & 0xFF];
+  const std::uint32_t blue = rows[levels[2]][pixel & 0xFF];
   return red << 16 | green << 8 | blue;
 }
 

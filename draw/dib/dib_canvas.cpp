@@ -3,20 +3,11 @@
 #include "draw/labels.h"
 
 namespace tavix {
-namespace {
-
-bool IsOnePixelWide(const Pen& pen) { return pen.width == 0 || pen.width == 1; }
-
-bool IsNear(ScreenPoint at) {
-  return at.x >= -kFarthestStep && at.x <= kFarthestStep && at.y >= -kFarthestStep &&
-         at.y <= kFarthestStep;
-}
-
-}  // namespace
 
 DibCanvas::DibCanvas(CDC& dc, const PixelBlock& block, RasterCache& cache)
     : gdi_(dc, block), cache_(cache), text_color_(dc.GetTextColor()) {
   cache_.FollowSettings();
+  redraw_ = cache_.Redraws();
 }
 
 void DibCanvas::UsePen(const Pen& pen) {
@@ -24,13 +15,31 @@ void DibCanvas::UsePen(const Pen& pen) {
   const std::optional<std::uint32_t> value = PixelBlock::ValueOf(pen.color);
   lines_ = IsOnePixelWide(pen) && value ? cache_.Lines() : nullptr;
   line_color_ = value.value_or(0);
+  strokes_ = cache_.StrokesOf(pen);
 }
 
 void DibCanvas::Line(const ScreenSegment& segment) {
-  if (lines_ && IsNear(segment.start) && IsNear(segment.end)) {
+  if (lines_ && IsNear(segment)) {
     StepLine(gdi_.Bits(), *lines_, segment, line_color_);
+    return;
+  }
+  const auto [start, end] = segment;
+  const MarkMask* stroke =
+      strokes_ && IsNear(segment) ? strokes_->Line(end.x - start.x, end.y - start.y) : nullptr;
+  if (stroke) {
+    stroke->Draw(gdi_.Bits(), start);
   } else {
     gdi_.Line(segment);
+  }
+}
+
+void DibCanvas::Circle(ScreenPoint centre, int radius) {
+  const MarkMask* stroke =
+      strokes_ && IsNear({centre, centre}) ? strokes_->Circle(radius) : nullptr;
+  if (stroke) {
+    stroke->Draw(gdi_.Bits(), centre);
+  } else {
+    gdi_.Circle(centre, radius);
   }
 }
 

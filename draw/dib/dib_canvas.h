@@ -20,10 +20,17 @@ class DibCanvas : public PlanCanvas {
   // the canvas.
   DibCanvas(CDC& dc, const PixelBlock& block, RasterCache& cache);
 
+  // False once another canvas has been made with the same cache: what this one has of it may be
+  // gone, and nothing may be drawn on it any more.
+  [[nodiscard]] bool IsCurrent() const { return redraw_ == cache_.Redraws(); }
+
+  // To be called before more is drawn where GDI may have drawn into the block meanwhile.
+  void Resume() { gdi_.Resume(); }
+
   [[nodiscard]] ScreenBox Visible() const override { return gdi_.Visible(); }
   void UsePen(const Pen& pen) override;
   void Line(const ScreenSegment& segment) override;
-  void Circle(ScreenPoint centre, int radius) override { gdi_.Circle(centre, radius); }
+  void Circle(ScreenPoint centre, int radius) override;
   void UsePointSymbol(const PointSymbol& symbol) override;
   void Mark(ScreenPoint at) override;
   void UseTextColor(std::uint32_t color) override;
@@ -34,9 +41,11 @@ class DibCanvas : public PlanCanvas {
 
   LazyGdi<PixelBlock> gdi_;
   RasterCache& cache_;
+  unsigned redraw_;  // of the cache, that the pointers below are of
 
   // Null: GDI draws it.
   const TieRule* lines_ = nullptr;
+  Strokes* strokes_ = nullptr;
   const MarkMask* mark_ = nullptr;
   SmoothLabels* labels_ = nullptr;
   std::uint32_t line_color_ = 0;

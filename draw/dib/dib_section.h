@@ -21,6 +21,11 @@ struct PixelBlock {
     return x >= 0 && y >= 0 && x < width && y < height;
   }
 
+  // Whether a pixel inside has a neighbour outside.
+  [[nodiscard]] bool IsEdge(int x, int y) const {
+    return x == 0 || y == 0 || x == width - 1 || y == height - 1;
+  }
+
   [[nodiscard]] std::uint32_t* At(int x, int y) const {
     return pixels + static_cast<std::ptrdiff_t>(y) * width + x;
   }

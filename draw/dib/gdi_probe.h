@@ -20,6 +20,11 @@ namespace tavix {
 // The mark of a symbol; none where it is too large to be worth it, or not the same everywhere.
 [[nodiscard]] std::optional<MarkMask> ProbeMark(const PointSymbol& symbol);
 
+// The line from a pixel up to one (dx, dy) away, and the hollow circle around a pixel; none where
+// they are not the same everywhere.
+[[nodiscard]] std::optional<MarkMask> ProbeLine(const Pen& pen, int dx, int dy);
+[[nodiscard]] std::optional<MarkMask> ProbeCircle(const Pen& pen, int radius);
+
 // Whether `mask` is what GDI draws as the symbol's mark, over any picture and cut by its edges.
 [[nodiscard]] bool IsGdiMark(const MarkMask& mask, const PointSymbol& symbol);
 

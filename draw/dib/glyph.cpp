@@ -9,21 +9,28 @@ namespace tavix {
 std::optional<Glyph> Glyph::FromPicture(const PixelBlock& over_white, ScreenPoint origin,
                                         int advance) {
   constexpr std::uint32_t kWhite = 0x00FFFFFF;
-  constexpr std::uint32_t kGreyOne = 0x00010101;
   Glyph glyph;
   glyph.advance_ = advance;
   for (int y = 0; y < over_white.height; ++y) {
     for (int x = 0; x < over_white.width; ++x) {
       const std::uint32_t pixel = *over_white.At(x, y);
       if (pixel == kWhite) continue;
-      const auto level = static_cast<std::uint8_t>(pixel);
-      if (pixel != level * kGreyOne) return std::nullopt;
-      if (x < origin.x || x >= origin.x + advance) return std::nullopt;
+      if (pixel > kWhite || over_white.IsEdge(x, y)) return std::nullopt;
       glyph.Add({static_cast<std::int16_t>(x - origin.x), static_cast<std::int16_t>(y - origin.y),
-                 level});
+                 LevelsOf(pixel)});
     }
   }
+  glyph.pixels_.shrink_to_fit();
   return glyph;
+}
+
+bool Glyph::LiesUnder(const Glyph& next) const {
+  if (box_.right <= advance_ + next.box_.left) return false;
+  return std::any_of(pixels_.begin(), pixels_.end(), [&](const Pixel& pixel) {
+    return std::any_of(next.pixels_.begin(), next.pixels_.end(), [&](const Pixel& over) {
+      return over.y == pixel.y && over.x + advance_ == pixel.x;
+    });
+  });
 }
 
 void Glyph::Add(Pixel pixel) {
@@ -45,7 +52,7 @@ void Glyph::Draw(const PixelBlock& block, const BlendTable& blend, ScreenPoint a
   const BlendRow* const rows = blend.Rows();
   for (const Pixel& pixel : pixels_) {
     std::uint32_t* const shown = corner + (pixel.y * width + pixel.x);
-    *shown = Blended(rows[pixel.level], *shown);
+    *shown = Blended(rows, pixel.levels, *shown);
   }
 }
 
@@ -55,22 +62,27 @@ void Glyph::DrawCut(const PixelBlock& block, const BlendTable& blend, ScreenPoin
     const int y = at.y + pixel.y;
     if (!block.Holds(x, y)) continue;
     std::uint32_t* const shown = block.At(x, y);
-    *shown = Blended(blend.Rows()[pixel.level], *shown);
+    *shown = Blended(blend.Rows(), pixel.levels, *shown);
   }
 }
 
 std::optional<GlyphBlocks> GlyphBlocks::From(const Glyph& glyph, const BlendTable& blend) {
   GlyphBlocks blocks;
   for (const Glyph::Pixel& pixel : glyph.Pixels()) {
-    const std::optional<std::uint16_t> weight = blend.Weight(pixel.level);
-    if (!weight) return std::nullopt;
-    blocks.Add(pixel, *weight);
+    Weights weights;
+    for (std::size_t channel = 0; channel < weights.size(); ++channel) {
+      const std::optional<std::uint16_t> weight = blend.Weight(pixel.levels[channel]);
+      if (!weight) return std::nullopt;
+      weights[channel] = *weight;
+    }
+    blocks.Add(pixel, weights);
   }
+  blocks.fours_.shrink_to_fit();
   return blocks;
 }
 
 // The pixels come row by row, from the left.
-void GlyphBlocks::Add(const Glyph::Pixel& pixel, std::uint16_t weight) {
+void GlyphBlocks::Add(const Glyph::Pixel& pixel, const Weights& weights) {
   if (fours_.empty() || fours_.back().y != pixel.y || pixel.x >= fours_.back().x + kPixels) {
     if (fours_.empty()) box_ = {pixel.x, pixel.y, pixel.x, pixel.y};
     fours_.push_back({pixel.x, pixel.y, {}});
@@ -80,7 +92,9 @@ void GlyphBlocks::Add(const Glyph::Pixel& pixel, std::uint16_t weight) {
   }
   Four& four = fours_.back();
   const auto first = static_cast<std::size_t>(pixel.x - four.x) * kChannels;
-  for (std::size_t channel = 0; channel < 3; ++channel) four.weights[first + channel] = weight;
+  // The bytes of a pixel begin with blue.
+  std::reverse_copy(weights.begin(), weights.end(),
+                    four.weights.begin() + static_cast<std::ptrdiff_t>(first));
 }
 
 void GlyphBlocks::Draw(const PixelBlock& block, ScreenPoint at) const {

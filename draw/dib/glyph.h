@@ -19,17 +19,26 @@ class Glyph {
   struct Pixel {
     std::int16_t x;
     std::int16_t y;
-    std::uint8_t level;  // of coverage, see BlendTable
+    CoverageLevels levels;
   };
 
-  // The character whose cell has its top left corner at `origin` of a white picture, `advance`
-  // pixels from the next one. None where it is coloured, or where it leaves the columns of its cell
-  // and may lie under its neighbour.
+  // The character whose cell has its top left corner at `origin` of a white picture, drawn in black
+  // and `advance` pixels from the next one. None where a pixel has a high byte, or lies at the
+  // picture's edge, which may have cut others off.
   static std::optional<Glyph> FromPicture(const PixelBlock& over_white, ScreenPoint origin,
                                           int advance);
 
   [[nodiscard]] int Advance() const { return advance_; }
   [[nodiscard]] const std::vector<Pixel>& Pixels() const { return pixels_; }
+
+  // Whether a pixel lies outside of the cell's columns, as with smoothing in colours most do.
+  [[nodiscard]] bool LeavesCell() const { return box_.left < 0 || box_.right > advance_; }
+
+  // Whether a pixel of `next`, the character after this one, falls on one of this.
+  [[nodiscard]] bool LiesUnder(const Glyph& next) const;
+
+  // Bytes of memory beside the object itself.
+  [[nodiscard]] std::size_t Bytes() const { return pixels_.capacity() * sizeof(Pixel); }
 
   // Draws the character with its cell's corner at `at`, cut at the block's edges. Every level of it
   // is known to `blend`.
@@ -61,6 +70,9 @@ class GlyphBlocks {
 
   void Draw(const PixelBlock& block, ScreenPoint at) const;
 
+  // Bytes of memory beside the object itself.
+  [[nodiscard]] std::size_t Bytes() const { return fours_.capacity() * sizeof(Four); }
+
  private:
   static constexpr int kPixels = 4;
   static constexpr std::size_t kChannels = 4;  // the fourth byte of a pixel is unused and stays
@@ -72,7 +84,10 @@ class GlyphBlocks {
     std::array<std::uint16_t, kBytes> weights;
   };
 
-  void Add(const Glyph::Pixel& pixel, std::uint16_t weight);
+  // The pixel's weights of red, green and blue.
+  using Weights = std::array<std::uint16_t, 3>;
+
+  void Add(const Glyph::Pixel& pixel, const Weights& weights);
 
   PixelBox box_;
   std::vector<Four> fours_;

@@ -56,6 +56,12 @@ class LazyGdi {
     Ready().Label(at, text);
   }
 
+  // Others may have drawn into the bitmap, by GDI too.
+  void Resume() {
+    painted_.Forget();
+    needs_flush_ = true;
+  }
+
   // The bitmap with all that has been drawn, to be drawn into in the pen's colour or, after a call
   // of PaintsText, in any.
   [[nodiscard]] const Block& Bits() {

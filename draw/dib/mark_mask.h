@@ -1,6 +1,7 @@
 // A shape of one colour, drawn many times.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -10,7 +11,7 @@
 
 namespace tavix {
 
-// A point mark as runs of pixels.
+// A point mark, a short line or a circle as runs of pixels.
 class MarkMask {
  public:
   // The shape that shows on two pictures of the same size, drawn at the same `origin` over
@@ -24,6 +25,11 @@ class MarkMask {
 
   // Draws the shape with its origin at `at`, cut at the block's edges.
   void Draw(const PixelBlock& block, ScreenPoint at) const;
+
+  // Bytes of memory beside the object itself.
+  [[nodiscard]] std::size_t Bytes() const {
+    return runs_.capacity() * sizeof(Run) + longest_.capacity() * sizeof(longest_[0]);
+  }
 
  private:
   // Pixels side by side in a row.

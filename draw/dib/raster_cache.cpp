@@ -1,11 +1,9 @@
 #include "draw/dib/raster_cache.h"
 
 #include <afxwin.h>
-#include <framework/scoped_select.h>
 
 #include "draw/dib/gdi_probe.h"
 #include "draw/dib/verification.h"
-#include "draw/gdi_scopes.h"
 
 namespace tavix {
 namespace {
@@ -34,51 +32,27 @@ int ScreenDepth() {
   return depth;
 }
 
-// The sum that a font file carries over all of it; the same value for all fonts without such a
-// file.
-DWORD CheckSum(CDC& dc) {
-  constexpr DWORD kHead = 'h' | 'e' << 8 | 'a' << 16 | 'd' << 24;
-  constexpr DWORD kCheckSumAt = 8;
-  DWORD sum = 0;
-  ::GetFontData(dc.m_hDC, kHead, kCheckSumAt, &sum, sizeof sum);
-  return sum;
-}
-
 }  // namespace
 
 ScreenSettings ScreenSettings::Now() { return {TextSmoothing(), ScreenDepth()}; }
 
-FontIdentity FontIdentity::OfLabels(int height) {
-  CDC dc;
-  dc.CreateCompatibleDC(nullptr);
-  const LOGFONTW wanted = LabelFont(height);
-  CFont font;
-  font.CreateFontIndirect(&wanted);
-  const CScopedSelect selected(dc, font);
-  wchar_t face[LF_FULLFACESIZE] = {};
-  ::GetTextFaceW(dc.m_hDC, LF_FULLFACESIZE, face);
-  TEXTMETRICW metrics = {};
-  dc.GetTextMetrics(&metrics);
-  return {face,
-          CheckSum(dc),
-          metrics.tmHeight,
-          metrics.tmAscent,
-          metrics.tmAveCharWidth,
-          metrics.tmMaxCharWidth,
-          metrics.tmWeight};
-}
-
 RasterCache::CachedMark::CachedMark(const PointSymbol& symbol) : mask(ProbeMark(symbol)) {}
 
-RasterCache::CachedLabels::CachedLabels(const SmoothFont& labels_font)
-    : labels(labels_font), font(FontIdentity::OfLabels(labels_font.Height())) {}
+RasterCache& RasterCache::OfProcess() {
+  static RasterCache cache;
+  return cache;
+}
 
 void RasterCache::FollowSettings(const ScreenSettings& settings) {
-  labels_.ForEach([](CachedLabels& cached) { cached.checked = false; });
+  ++redraws_;
+  marks_.BeginRedraw();
+  strokes_.BeginRedraw(stroke_memory_.IsSpent());
+  labels_.BeginRedraw();
   if (settings == settings_) return;
   if (settings.depth != settings_.depth) {
     lines_probed_ = false;
     marks_.Clear();
+    strokes_.Clear();
   }
   settings_ = settings;
   labels_.Clear();
@@ -97,18 +71,12 @@ const MarkMask* RasterCache::Mark(const PointSymbol& symbol) {
   return cached && cached->mask ? &*cached->mask : nullptr;
 }
 
+Strokes* RasterCache::StrokesOf(const Pen& pen) {
+  return PixelBlock::ValueOf(pen.color) ? strokes_.Get(pen, pen, stroke_memory_) : nullptr;
+}
+
 SmoothLabels* RasterCache::Labels(int height, std::uint32_t color) {
-  const LabelKey key{height, color};
-  const SmoothFont font(height, color, blends_[color]);
-  CachedLabels* cached = labels_.Get(key, font);
-  if (cached && !cached->checked) {
-    cached->checked = true;
-    if (cached->font != FontIdentity::OfLabels(height)) {
-      labels_.Remove(key);
-      cached = labels_.Get(key, font);
-    }
-  }
-  return cached ? &cached->labels : nullptr;
+  return labels_.Get({height, color}, SmoothFont(height, color, blends_[color]));
 }
 
 }  // namespace tavix

@@ -6,14 +6,15 @@
 #include <cstdint>
 #include <map>
 #include <optional>
-#include <string>
 #include <utility>
 
 #include "draw/dib/blend_table.h"
 #include "draw/dib/bounded_cache.h"
 #include "draw/dib/bresenham.h"
+#include "draw/dib/label_cache.h"
 #include "draw/dib/mark_mask.h"
 #include "draw/dib/smooth_labels.h"
+#include "draw/dib/strokes.h"
 #include "store/symbols.h"
 
 namespace tavix {
@@ -29,22 +30,6 @@ struct ScreenSettings {
   friend bool operator==(const ScreenSettings&, const ScreenSettings&) = default;
 };
 
-// Which font GDI takes for labels of a height: another one when fonts are installed or removed, or
-// when another one replaces the default face.
-struct FontIdentity {
-  std::wstring face;
-  DWORD check_sum = 0;  // of the font's file
-  LONG height = 0;      // pixels, like the others
-  LONG ascent = 0;
-  LONG average_width = 0;
-  LONG largest_width = 0;
-  LONG weight = 0;
-
-  [[nodiscard]] static FontIdentity OfLabels(int height);
-
-  friend bool operator==(const FontIdentity&, const FontIdentity&) = default;
-};
-
 // Probes how GDI draws as that is needed, each thing once, and keeps it for the redraws to come.
 // Whatever it hands out has been verified against GDI's drawing; null stands for what is left to
 // GDI: what is not the same everywhere, and what comes after very many others. A pointer is valid
@@ -55,16 +40,26 @@ class RasterCache {
   RasterCache(const RasterCache&) = delete;
   RasterCache& operator=(const RasterCache&) = delete;
 
+  // The one that all windows of the process share, whichever instance they are of. It stays until
+  // the library is unloaded. Only the thread that draws may use it.
+  [[nodiscard]] static RasterCache& OfProcess();
+
   // To be called before a redraw: drops what has changed since the last one. That is text when its
   // smoothing has changed, a label's height when GDI takes another font for it, and everything when
   // the screen has another depth.
   void FollowSettings(const ScreenSettings& settings = ScreenSettings::Now());
+
+  // How often that has been called: whoever keeps a pointer can see whether it is still valid.
+  [[nodiscard]] unsigned Redraws() const { return redraws_; }
 
   // Solid lines of one pixel.
   [[nodiscard]] const TieRule* Lines();
 
   // The mark of a symbol.
   [[nodiscard]] const MarkMask* Mark(const PointSymbol& symbol);
+
+  // Short wide lines and small circles of a pen; null for a pen whose colour has a high byte.
+  [[nodiscard]] Strokes* StrokesOf(const Pen& pen);
 
   // Labels of this height in pixels and this colour.
   [[nodiscard]] SmoothLabels* Labels(int height, std::uint32_t color = 0);
@@ -75,23 +70,15 @@ class RasterCache {
     std::optional<MarkMask> mask;
   };
 
-  // A height and a colour.
-  using LabelKey = std::pair<int, std::uint32_t>;
-
-  struct CachedLabels {
-    explicit CachedLabels(const SmoothFont& labels_font);
-
-    SmoothLabels labels;
-    FontIdentity font;
-    bool checked = true;  // the font is the same as before, since FollowSettings
-  };
-
   bool lines_probed_ = false;
   std::optional<TieRule> lines_;
   BoundedCache<PointSymbol, CachedMark, kMostMarks> marks_;
-  std::map<std::uint32_t, BlendTable> blends_;  // by the text's colour
-  BoundedCache<LabelKey, CachedLabels, kMostFonts> labels_;
+  MemoryBudget stroke_memory_{std::size_t{8} << 20};
+  BoundedCache<Pen, Strokes, kMostPens> strokes_;
+  std::map<std::uint32_t, BlendTable> blends_;                    // by the text's colour
+  LabelCache<std::pair<int, std::uint32_t>, SmoothFont> labels_;  // by height and colour
   ScreenSettings settings_;
+  unsigned redraws_ = 0;
 };
 
 }  // namespace tavix

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "draw/dib/blend_table.h"
 #include "draw/dib/glyph.h"
@@ -16,13 +17,17 @@ namespace tavix {
 class SmoothReference : public LabelReference<ReferenceBitmap, TrialBitmap> {
  public:
   SmoothReference(int height, int length, std::uint32_t color = 0)
-      : LabelReference(height, length, color) {}
+      : LabelReference(height, length, color), color_(color) {}
 
-  // A character as GDI draws it; none where it cannot be a glyph, see Glyph.
-  [[nodiscard]] std::optional<Glyph> ReadGlyph(char16_t character);
+  // A character as GDI draws it in black; none where it cannot be a glyph, see Glyph.
+  [[nodiscard]] std::optional<Glyph> ReadGlyph(const Letter& letter);
 
-  // Sets the rows of `blend` for those levels of the character's glyph that it does not know.
-  void ReadLevels(char16_t character, const Glyph& glyph, BlendTable& blend);
+  // Sets the rows of `blend` for those levels of the character's glyph that it does not know, and
+  // returns the levels.
+  std::vector<std::uint8_t> ReadLevels(const Letter& letter, const Glyph& glyph, BlendTable& blend);
+
+ private:
+  std::uint32_t color_;
 };
 
 // Draws the characters of one font and colour into pixels.
@@ -37,6 +42,13 @@ class SmoothFont {
   struct Glyph {
     tavix::Glyph glyph;
     std::optional<GlyphBlocks> blocks;
+
+    [[nodiscard]] int Advance() const { return glyph.Advance(); }
+    [[nodiscard]] bool LeavesCell() const { return glyph.LeavesCell(); }
+    [[nodiscard]] bool LiesUnder(const Glyph& next) const { return glyph.LiesUnder(next.glyph); }
+    [[nodiscard]] std::size_t Bytes() const {
+      return glyph.Bytes() + (blocks ? blocks->Bytes() : 0);
+    }
   };
 
   // A font of `height` pixels. `blend` is that of the colour, is shared with other fonts and
@@ -46,9 +58,8 @@ class SmoothFont {
 
   [[nodiscard]] int Height() const { return height_; }
   [[nodiscard]] Reference MakeReference(int length) const { return {height_, length, color_}; }
-  [[nodiscard]] std::optional<Glyph> Read(Reference& reference, char16_t character) const;
+  [[nodiscard]] std::optional<Glyph> Read(Reference& reference, const Letter& letter) const;
   void Draw(const Block& block, ScreenPoint at, const Glyph& glyph) const;
-  [[nodiscard]] static int Advance(const Glyph& glyph) { return glyph.glyph.Advance(); }
 
  private:
   int height_;

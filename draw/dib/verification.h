@@ -6,7 +6,10 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <functional>
+#include <string>
 
+#include "draw/dib/label_letters.h"
 #include "draw/gdi_canvas.h"
 #include "platform/wide_text.h"
 #include "store/name_pool.h"
@@ -31,24 +34,36 @@ inline PointSymbol MarkOnly(PointSymbol symbol) {
   return symbol;
 }
 
-// Whether `draw(pixels, at)` draws what GDI draws as the symbol's mark: over any picture, and cut
-// by its edges.
+// A shape that GDI draws the same way at every place.
+struct GdiShape {
+  int reach;                                // from its place to any side, in pixels
+  std::function<void(GdiCanvas& gdi)> use;  // takes pen and brush into use
+  std::function<void(GdiCanvas& gdi, ScreenPoint at)> draw;
+};
+
+inline GdiShape MarkOf(const PointSymbol& symbol) {
+  return {ReachOf(symbol), [=](GdiCanvas& gdi) { gdi.UsePointSymbol(symbol); },
+          [](GdiCanvas& gdi, ScreenPoint at) { gdi.Mark(at); }};
+}
+
+// Whether `draw(pixels, at)` draws what GDI draws as the shape: over any picture, and cut by its
+// edges.
 template <class Reference, class Trial, class Draw>
-[[nodiscard]] bool DrawsGdiMark(const PointSymbol& symbol, Draw draw) {
-  const int reach = ReachOf(symbol);
+[[nodiscard]] bool DrawsGdiShape(const GdiShape& shape, Draw draw) {
+  const int reach = shape.reach;
   const int width = 2 * reach + 4;
   const int height = 2 * reach + 3;
   Reference reference(width, height);
   if (!reference.IsMade()) return false;
   GdiCanvas gdi(reference.Dc());
-  gdi.UsePointSymbol(symbol);
+  shape.use(gdi);
   const ScreenPoint places[] = {
       {reach + 2, reach + 1}, {0, 0}, {width, height}, {0, reach}, {reach, height - 2}};
   return std::all_of(std::begin(places), std::end(places), [&](ScreenPoint at) {
     reference.FillUnevenly();
     const Trial trial(reference);
     draw(trial.Pixels(), at);
-    gdi.Mark(at);
+    shape.draw(gdi, at);
     return trial.Equals(reference);
   });
 }
@@ -59,10 +74,11 @@ template <class Reference, class Trial>
 class LabelReference {
  public:
   LabelReference(int height, int length, std::uint32_t color)
-      : widest_(height * 2),
-        inside_{height, height},
-        right_(height * 2 + widest_ * length),
-        reference_(right_, height * 3),
+      : room_(std::max(height, kLeastRoom)),
+        widest_(room_ * 2),
+        inside_{room_, room_},
+        right_(room_ * 2 + widest_ * length),
+        reference_(right_, room_ * 3),
         gdi_(reference_.Dc()) {
     PointSymbol symbol;
     symbol.label_height = height;
@@ -90,23 +106,31 @@ class LabelReference {
 
  protected:
   // The pixels from a character to the next one; -1 where they are too many for the room.
-  [[nodiscard]] int AdvanceOf(char16_t character) {
-    const int advance = reference_.Dc().GetTextExtent(AsWide(&character), 1).cx;
+  [[nodiscard]] int AdvanceOf(const Letter& letter) {
+    const std::u16string text = letter.Plain();
+    const int advance =
+        reference_.Dc().GetTextExtent(AsWide(text.data()), static_cast<int>(text.size())).cx;
     return advance > widest_ ? -1 : advance;
   }
+
+  void UseTextColor(std::uint32_t color) { gdi_.UseTextColor(color); }
 
   // Far enough from the edges for one character.
   [[nodiscard]] ScreenPoint Inside() const { return inside_; }
 
   // Draws a character there and returns the picture.
-  [[nodiscard]] const auto& Drawn(char16_t character) {
-    gdi_.Label(inside_, {&character, 1});
+  [[nodiscard]] const auto& Drawn(const Letter& letter) {
+    gdi_.Label(inside_, letter.Spelled());
     return reference_.Pixels();
   }
 
   [[nodiscard]] Reference& Paper() { return reference_; }
 
  private:
+  // The lowest fonts leave as much room above an underline as others.
+  static constexpr int kLeastRoom = 16;
+
+  int room_;    // above, below and beside a label, in pixels
   int widest_;  // what a character may take of the row, in pixels
   ScreenPoint inside_;
   int right_;

@@ -1,20 +1,33 @@
 #include "draw/ink/ink_canvas.h"
 
-#include "draw/dib/verification.h"
 #include "draw/labels.h"
 
 namespace tavix {
 
-InkCanvas::InkCanvas(OneBitBitmap& picture, int width, int height)
-    : gdi_(picture.Dc(), {picture.Bits(), width, height, picture.Stride()}) {}
+InkCanvas::InkCanvas(OneBitBitmap& picture, int width, int height, InkCache& cache)
+    : gdi_(picture.Dc(), {picture.Bits(), width, height, picture.Stride()}), cache_(cache) {
+  cache_.BeginPicture();
+}
+
+void InkCanvas::UsePen(const Pen& pen) {
+  gdi_.UsePen(pen);
+  const std::optional<std::uint32_t> value = InkBlock::ValueOf(pen.color);
+  lines_ = IsOnePixelWide(pen) && value ? cache_.Lines() : nullptr;
+  line_value_ = value.value_or(0);
+}
+
+void InkCanvas::Line(const ScreenSegment& segment) {
+  if (lines_ && IsNear(segment)) {
+    StepLine(gdi_.Bits(), *lines_, segment, line_value_);
+  } else {
+    gdi_.Line(segment);
+  }
+}
 
 void InkCanvas::UsePointSymbol(const PointSymbol& symbol) {
   gdi_.UsePointSymbol(symbol);
-  const PointSymbol mark = MarkOnly(symbol);
-  const CachedMark* cached = symbol.size > 0 ? marks_.Get(mark, mark) : nullptr;
-  mark_ = cached && cached->mark ? &*cached->mark : nullptr;
-  const int height = symbol.label_height;
-  labels_ = height > 0 ? fonts_.Get(height, InkFont(height)) : nullptr;
+  mark_ = symbol.size > 0 ? cache_.Mark(symbol) : nullptr;
+  labels_ = symbol.label_height > 0 ? cache_.Labels(symbol.label_height) : nullptr;
 }
 
 void InkCanvas::UseTextColor(std::uint32_t color) {

@@ -4,6 +4,13 @@
 
 namespace tavix {
 
+void StepLine(const InkBlock& block, const TieRule& rule, const ScreenSegment& segment,
+              std::uint32_t value) {
+  ForEachPixel(rule, segment, [&](int x, int y) {
+    if (block.Holds(x, y)) block.Fill(x, y, 1, value != 0);
+  });
+}
+
 InkMask InkMask::FromPicture(const InkBlock& picture, ScreenPoint origin) {
   InkMask mask;
   for (int y = 0; y < picture.height; ++y) {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "draw/dib/bresenham.h"
 #include "view/coordinates.h"
 
 namespace tavix {
@@ -40,6 +41,10 @@ struct InkBlock {
     Set(row[byte], static_cast<std::uint8_t>(mask & 0xFF << (7 - (last & 7))), ink);
   }
 
+  [[nodiscard]] bool Holds(int x, int y) const {
+    return x >= 0 && y >= 0 && x < width && y < height;
+  }
+
   // The pixel value of black or white, 1 or 0; other colours are left to GDI.
   [[nodiscard]] static std::optional<std::uint32_t> ValueOf(std::int32_t color) {
     constexpr std::int32_t kBlack = 0;
@@ -65,6 +70,11 @@ struct InkBlock {
   }
 };
 
+// Draws the line from its start up to its end, the end's own pixel left out, cut at the block's
+// edges, in ink (1) or in white (0). It is near, see IsNear.
+void StepLine(const InkBlock& block, const TieRule& rule, const ScreenSegment& segment,
+              std::uint32_t value);
+
 // A shape of ink, drawn many times.
 class InkMask {
  public:
@@ -74,6 +84,9 @@ class InkMask {
   // Draws the shape in ink, or in white, with its origin at `at`, cut at the block's edges. `at` is
   // so near to the block that no sum of pixels leaves the 32-bit range.
   void Draw(const InkBlock& block, ScreenPoint at, bool ink) const;
+
+  // Bytes of memory beside the object itself.
+  [[nodiscard]] std::size_t Bytes() const { return runs_.capacity() * sizeof(Run); }
 
  private:
   // Pixels side by side in a row.

@@ -1,6 +1,18 @@
 #include "draw/ink/ink_probe.h"
 
+#include "draw/dib/gdi_probe.h"
+#include "draw/dib/line_verification.h"
+
 namespace tavix {
+
+std::optional<TieRule> ProbeInkTieRule() {
+  const auto color_of = [](int number) { return number % 3 == 0 ? 0x00FFFFFF : 0; };
+  std::optional<TieRule> rule = ProbeTieRule();
+  const bool holds = rule && ShortLinesAreSame<OneBitReference, OneBitTrial>(*rule, color_of) &&
+                     LongLinesAreSame<OneBitReference, OneBitTrial>(*rule, color_of);
+  if (!holds) rule.reset();
+  return rule;
+}
 
 std::optional<InkMark> InkMark::Probe(const PointSymbol& symbol) {
   constexpr std::int32_t kBlack = 0;
@@ -15,8 +27,8 @@ std::optional<InkMark> InkMark::Probe(const PointSymbol& symbol) {
   gdi.UsePointSymbol(in_ink);
   gdi.Mark(middle);
   const InkMark mark{InkMask::FromPicture(reference.Pixels(), middle), symbol.pen.color == kBlack};
-  const bool is_gdi_mark = DrawsGdiMark<OneBitReference, OneBitTrial>(
-      symbol, [&](const InkBlock& block, ScreenPoint at) { mark.Draw(block, at); });
+  const bool is_gdi_mark = DrawsGdiShape<OneBitReference, OneBitTrial>(
+      MarkOf(symbol), [&](const InkBlock& block, ScreenPoint at) { mark.Draw(block, at); });
   if (!is_gdi_mark) return std::nullopt;
   return mark;
 }

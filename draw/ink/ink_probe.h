@@ -1,8 +1,10 @@
 // Point marks and labels in ink, read back from GDI's drawing.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 
+#include "draw/dib/bresenham.h"
 #include "draw/dib/glyph_cache.h"
 #include "draw/dib/verification.h"
 #include "draw/ink/ink_mask.h"
@@ -10,6 +12,10 @@
 #include "store/symbols.h"
 
 namespace tavix {
+
+// How GDI breaks the ties of lines on one-bit pictures; none where it does not step solid lines of
+// one pixel by the rule of the others.
+[[nodiscard]] std::optional<TieRule> ProbeInkTieRule();
 
 // A mark as GDI draws it on a one-bit picture.
 struct InkMark {
@@ -23,8 +29,8 @@ struct InkMark {
   bool is_black;
 };
 
-// Reads back characters of one font. Unlike an antialiased one a character may reach beyond its
-// cell: ink over ink is ink.
+// Reads back characters of one font. It does not matter where characters lie over each other:
+// ink over ink is ink.
 class InkLabelReference : public LabelReference<OneBitReference, OneBitTrial> {
  public:
   InkLabelReference(int height, int length) : LabelReference(height, length, 0) {}
@@ -32,14 +38,19 @@ class InkLabelReference : public LabelReference<OneBitReference, OneBitTrial> {
   struct Glyph {
     InkMask mask;
     int advance;  // pixels to the next character
+
+    [[nodiscard]] int Advance() const { return advance; }
+    [[nodiscard]] static bool LeavesCell() { return false; }
+    [[nodiscard]] static bool LiesUnder(const Glyph&) { return false; }
+    [[nodiscard]] std::size_t Bytes() const { return mask.Bytes(); }
   };
 
   // A character as GDI draws it; none where it is too wide.
-  [[nodiscard]] std::optional<Glyph> ReadGlyph(char16_t character) {
-    const int advance = AdvanceOf(character);
+  [[nodiscard]] std::optional<Glyph> ReadGlyph(const Letter& letter) {
+    const int advance = AdvanceOf(letter);
     if (advance < 0) return std::nullopt;
     Paper().FillWhite();
-    return Glyph{InkMask::FromPicture(Drawn(character), Inside()), advance};
+    return Glyph{InkMask::FromPicture(Drawn(letter), Inside()), advance};
   }
 };
 
@@ -55,13 +66,12 @@ class InkFont {
 
   [[nodiscard]] int Height() const { return height_; }
   [[nodiscard]] Reference MakeReference(int length) const { return {height_, length}; }
-  [[nodiscard]] static std::optional<Glyph> Read(Reference& reference, char16_t character) {
-    return reference.ReadGlyph(character);
+  [[nodiscard]] static std::optional<Glyph> Read(Reference& reference, const Letter& letter) {
+    return reference.ReadGlyph(letter);
   }
   static void Draw(const Block& block, ScreenPoint at, const Glyph& glyph) {
     glyph.mask.Draw(block, at, true);
   }
-  [[nodiscard]] static int Advance(const Glyph& glyph) { return glyph.advance; }
 
  private:
   int height_;

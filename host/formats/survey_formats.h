@@ -9,8 +9,8 @@
 
 namespace fieldhost {
 
-// One format. The table of them is the only place that names it: the open dialog, the sentence for
-// a file that holds nothing, and the fuzzer follow from it.
+// One format. The table of them is the only place that names it: the open dialog and the sentence
+// for a file that holds nothing follow from it.
 struct SurveyFormat {
   std::string_view name;                       // as a user knows it
   std::span<const std::string_view> endings;   // of file names, small letters, the usual one first

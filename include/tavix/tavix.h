@@ -72,13 +72,22 @@
 //
 #pragma once
 
+// The installed package has the framework in a folder of its own, beside this one.
+#if __has_include("../tavix-framework/afxwin.h")
+#include "../tavix-framework/afxwin.h"
+#else
 #include <afxwin.h>
+#endif
 
+// The first number of the library's version.
 #define TAVIX_VERSION_MAJOR 1
+// The second.
 #define TAVIX_VERSION_MINOR 0
+// The third.
 #define TAVIX_VERSION_PATCH 0
 
 #if defined(TAVIX_LIBRARY_BUILD)
+// Imports a call from tavix.dll into a host; nothing in the library itself.
 #define TAVIX_CALL
 #else
 #define TAVIX_CALL __declspec(dllimport)
@@ -104,8 +113,8 @@ inline constexpr int kTavixLongestMemo = 32734;
 //     y = height / 2 - kTavixSideRise * (kTavixSideUp * up - kTavixSideRight * right)
 //
 // A height above the height base adds its metres at the plan's scale, straight up.
-inline constexpr double kTavixSideRight = 0.9;
-inline constexpr double kTavixSideUp = 0.7;
+inline constexpr double kTavixSideRight = 0.9;                  // of a length to the right
+inline constexpr double kTavixSideUp = 0.7;                     // of a length upward
 inline constexpr double kTavixSideAcross = 0.8660254037844387;  // cos 30 degrees
 inline constexpr double kTavixSideRise = 0.5;                   // sin 30 degrees
 
@@ -163,8 +172,9 @@ TAVIX_CALL int Tavix_SetBtn(BYTE show);
 // Off at first. Always returns 0.
 TAVIX_CALL int Tavix_DrwFlg(BYTE on);
 
-// Redraws the window; with `keepView` 0 the view is first fitted to the data. With nothing to fit
-// the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
+// Redraws the window; with `keepView` 0 the view is first fitted to the data. As with every redraw
+// the window is invalidated, and its next paint shows the picture of this moment. With nothing to
+// fit the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
 // outside of a narrow window; its height base is then the lowest height, rounded down to a whole
 // metre. Needs a linked window (-1 without one); returns 0.
 TAVIX_CALL int Tavix_Drw(BYTE keepView);
@@ -359,8 +369,14 @@ TAVIX_CALL int Tavix_EntPnt3(int key, int number, CString name, double x, double
 
 // Changes a point's legend number. Returns -1 for an unknown key; so do the calls below.
 TAVIX_CALL int Tavix_ChgPnt3Hid(int key, short legend);
+
+// Changes a point's number and name.
 TAVIX_CALL int Tavix_ChgPnt3NoNam(int key, int number, CString name);
+
+// Writes a point's number and name.
 TAVIX_CALL int Tavix_GetPnt3NoNam(int key, int* number, CString* name);
+
+// Writes a point's coordinates and height.
 TAVIX_CALL int Tavix_GetPnt3Crd(int key, double* x, double* y, double* z);
 
 // Removes a point; a memo of its key stays.

@@ -37,12 +37,17 @@
 
 #include <stddef.h>
 
+// The first number of the library's version.
 #define TAVIX_VERSION_MAJOR 1
+// The second.
 #define TAVIX_VERSION_MINOR 0
+// The third.
 #define TAVIX_VERSION_PATCH 0
 
 #if !defined(_WIN32)
+// The convention of the calls: that of C.
 #define TAVIX_C_CDECL
+// Imports a call from tavix_c.dll into a host; nothing in the library itself.
 #define TAVIX_C_CALL
 #elif defined(TAVIX_C_LIBRARY_BUILD)
 #define TAVIX_C_CDECL __cdecl
@@ -78,8 +83,8 @@
 //     y = height / 2 - TAVIX_C_SIDE_RISE * (TAVIX_C_SIDE_UP * up - TAVIX_C_SIDE_RIGHT * right)
 //
 // A height above the height base adds its metres at the plan's scale, straight up.
-#define TAVIX_C_SIDE_RIGHT 0.9
-#define TAVIX_C_SIDE_UP 0.7
+#define TAVIX_C_SIDE_RIGHT 0.9                  // of a length to the right
+#define TAVIX_C_SIDE_UP 0.7                     // of a length upward
 #define TAVIX_C_SIDE_ACROSS 0.8660254037844387  // cos 30 degrees
 #define TAVIX_C_SIDE_RISE 0.5                   // sin 30 degrees
 
@@ -157,8 +162,9 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_SetBtn(int instance, int show);
 // Off at first. Always returns 0.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_DrwFlg(int instance, int on);
 
-// Redraws the window; with `keepView` 0 the view is first fitted to the data. With nothing to fit
-// the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
+// Redraws the window; with `keepView` 0 the view is first fitted to the data. As with every redraw
+// the window is invalidated, and its next paint shows the picture of this moment. With nothing to
+// fit the view stays. The side view is fitted as seen from above: laid flat, its far right may lie
 // outside of a narrow window; its height base is then the lowest height, rounded down to a whole
 // metre. Needs a linked window (-1 without one); returns 0.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_Drw(int instance, int keepView);
@@ -357,12 +363,15 @@ TAVIX_C_CALL int TAVIX_C_CDECL TavixC_EntPnt3(int instance, int key, int number,
 // Changes a point's legend number. Returns -1 for an unknown key; so do the calls below.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChgPnt3Hid(int instance, int key, short legend);
 
+// Changes a point's number and name.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_ChgPnt3NoNam(int instance, int key, int number,
                                                    const wchar_t* name);
 
+// Writes a point's number and name.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetPnt3NoNam(int instance, int key, int* number,
                                                    wchar_t* name, int capacity, int* length);
 
+// Writes a point's coordinates and height.
 TAVIX_C_CALL int TAVIX_C_CDECL TavixC_GetPnt3Crd(int instance, int key, double* x, double* y,
                                                  double* z);
 

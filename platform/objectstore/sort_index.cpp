@@ -150,6 +150,8 @@ void SortIndex::SettleAll() {
     entries_.AppendTo(pending_);
     std::inplace_merge(pending_.begin(), pending_.begin() + middle, pending_.end(), before);
     entries_.Assign(pending_);
+    pending_.clear();
+    pending_.shrink_to_fit();  // it has held the whole order
   }
   pending_.clear();
 }

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <random>
+#include <vector>
 
 #include "tests/draw/painter_test.h"
 
@@ -52,6 +54,38 @@ TEST_F(LinePainterOn, ACircleIsDrawnWhateverTheStyle) {
   painter.DrawSegment(zeros, {0, 0}, {0, 10});
   painter.DrawCircle(other, {0, 0}, 8);
   EXPECT_EQ((Notes{"pen 0", "circle 120,90 7", "pen 3", "circle 120,90 8"}), canvas_.Take());
+}
+
+TEST_F(LinePainterOn, APolylineIsDrawnAsItsSegments) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  const double odd[] = {kInfinity, -kInfinity, std::numeric_limits<double>::quiet_NaN(), 1e300,
+                        -3e9};
+  std::mt19937 random(3);
+  const auto between = [&](double low, double high) {
+    return std::uniform_real_distribution<double>(low, high)(random);
+  };
+  std::size_t drawn = 0;
+  for (int round = 0; round < 3000; ++round) {
+    const auto coordinate = [&, middle = between(-500, 500)] {
+      return random() % 200 == 0 ? odd[random() % 5] : middle + between(-100, 100);
+    };
+    ASSERT_EQ(0, view_.SetAngle(static_cast<int>(random() % 360)));
+    std::vector<GroundPoint> points(random() % 12);
+    for (GroundPoint& point : points) point = {coordinate(), coordinate()};
+    const auto legend = static_cast<std::int16_t>(round % 8 == 0 ? 102 : 101);
+    {
+      LinePainter painter(canvas_, view_, legend_);
+      painter.DrawPolyline(legend, points);
+    }
+    const Notes polyline = canvas_.Take();
+    LinePainter painter(canvas_, view_, legend_);
+    for (std::size_t i = 1; i < points.size(); ++i) {
+      painter.DrawSegment(legend, points[i - 1], points[i]);
+    }
+    ASSERT_EQ(canvas_.Take(), polyline) << round;
+    drawn += polyline.size();
+  }
+  EXPECT_LT(5000U, drawn);
 }
 
 TEST_F(LinePainterOn, ASegmentOfOnePixelIsADot) {

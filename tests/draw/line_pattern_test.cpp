@@ -3,18 +3,17 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 #include <numeric>
 #include <random>
+#include <stdexcept>
 #include <vector>
+
+#include "tests/draw/full_walk.h"
 
 namespace tavix {
 namespace {
-
-using Pieces = std::vector<LinePiece>;
 
 constexpr ScreenBox kEverything{std::numeric_limits<int>::min(), std::numeric_limits<int>::min(),
                                 std::numeric_limits<int>::max(), std::numeric_limits<int>::max()};
@@ -32,72 +31,6 @@ CViewState ViewAt(GroundPoint centre, double scale, int angle = 0, double ratio 
 
 LinePattern Pattern(int style, int dash = 4, int gap = 2, int short_dash = 3) {
   return PatternOf({style, dash, gap, short_dash, {}}).value();
-}
-
-Pieces Walk(const CViewState& view, const LinePattern& pattern, GroundPoint start, GroundPoint end,
-            const ScreenBox& visible) {
-  Pieces pieces;
-  WalkPattern(view, pattern, start, end, visible,
-              [&](const LinePiece& piece) { pieces.push_back(piece); });
-  return pieces;
-}
-
-bool SamePoint(GroundPoint a, GroundPoint b) { return a.north == b.north && a.east == b.east; }
-bool SamePiece(const LinePiece& a, const LinePiece& b) {
-  return SamePoint(a.start, b.start) && SamePoint(a.end, b.end);
-}
-
-// The walk as the rules tell it, one addition after the other.
-Pieces FullWalk(const CViewState& view, const LinePattern& pattern, GroundPoint start,
-                GroundPoint end) {
-  const double length = std::hypot(end.north - start.north, end.east - start.east);
-  const RealScreenPoint from = view.GroundToRealScreen(start);
-  const RealScreenPoint to = view.GroundToRealScreen(end);
-  const double pixels_per_metre = std::hypot(to.x - from.x, to.y - from.y) / length;
-  const auto inside = [&](GroundPoint at) {
-    return std::min(start.north, end.north) <= at.north &&
-           at.north <= std::max(start.north, end.north) &&
-           std::min(start.east, end.east) <= at.east && at.east <= std::max(start.east, end.east);
-  };
-  const auto step = [&](GroundPoint at, std::size_t i) {
-    const double metres = std::abs(pattern.lengths[i % pattern.count]) / pixels_per_metre;
-    return GroundPoint{at.north + (end.north - start.north) / length * metres,
-                       at.east + (end.east - start.east) / length * metres};
-  };
-  constexpr std::size_t kMost = 5000000;
-  Pieces pieces;
-  GroundPoint p = start;
-  GroundPoint q = step(p, 0);
-  for (std::size_t i = 0; inside(q); i += 2) {
-    pieces.push_back({p, q});
-    if (pieces.size() > kMost) {
-      ADD_FAILURE() << "a walk without end";
-      return pieces;
-    }
-    p = step(q, i + 1);
-    if (!inside(p)) return pieces;
-    q = step(p, i + 2);
-  }
-  pieces.push_back({p, end});
-  return pieces;
-}
-
-bool Touches(const CViewState& view, const LinePiece& piece, const ScreenBox& box) {
-  const RealScreenPoint a = view.GroundToRealScreen(piece.start);
-  const RealScreenPoint b = view.GroundToRealScreen(piece.end);
-  double enter = 0.0;
-  double leave = 1.0;
-  const auto cut = [&](double from, double way, double low, double high) {
-    if (way == 0.0) {
-      if (from < low || from > high) leave = -1.0;
-      return;
-    }
-    enter = std::max(enter, std::min((low - from) / way, (high - from) / way));
-    leave = std::min(leave, std::max((low - from) / way, (high - from) / way));
-  };
-  cut(a.x, b.x - a.x, box.left, box.right);
-  cut(a.y, b.y - a.y, box.top, box.bottom);
-  return enter <= leave;
 }
 
 // Every piece given is one of the full walk, in its order, and none that shows is missing. Returns
@@ -398,6 +331,29 @@ TEST(WalkPattern, APatternTooFineForItsCoordinatesEnds) {
     for (const ScreenBox& visible : {kClient, kEverything}) {
       EXPECT_LE(Walk(view, Pattern(105, 1, 1, 1), start, end, visible).size(), 3U);
     }
+  }
+}
+
+// At 1e17 m neighbouring coordinates are 16 m apart: each step of 4 m to the north is lost, the
+// tiny one to the east is not. There are 1e11 pieces in one pixel.
+TEST(WalkPattern, IsPassedOverWhereItStaysInAPixel) {
+  CViewState view;
+  view.SetScreenSize(200, 200);
+  view.SetCentre({1e17, 0.0});
+  LinePattern pattern;
+  pattern.count = 2;
+  pattern.lengths = {4, 2};
+  constexpr std::size_t kMany = 10000;
+  Pieces pieces;
+  WalkPattern(view, pattern, {1e17, 0.0}, {1e17 + 1e12, 0.5}, {0, 0, 200, 200},
+              [&](const LinePiece& piece) {
+                pieces.push_back(piece);
+                if (pieces.size() > kMany) throw std::length_error("a walk without end");
+              });
+  EXPECT_FALSE(pieces.empty());
+  for (const LinePiece& piece : pieces) {
+    EXPECT_EQ((ScreenPoint{100, 100}), view.GroundToScreen(piece.start));
+    EXPECT_EQ((ScreenPoint{100, 100}), view.GroundToScreen(piece.end));
   }
 }
 

@@ -1,5 +1,10 @@
 /* A host in plain C that knows the installed package and nothing else: it shows a point, taps it and
-   ends with 0 when the answer comes. ./test builds it with the compiler alone and runs it. */
+   ends with 0 when the answer comes. ./test builds it with the compiler alone, and with CMake, and
+   runs it. */
+#if __has_include(<afxwin.h>) || __has_include(<tdialog.h>) || __has_include(<windbase.h>)
+#error "A header of the framework would stand before another framework's of the same name."
+#endif
+
 #include <windows.h>
 
 #include <tavix/tavix_c.h>

@@ -5,6 +5,8 @@
 
 #include <cstdio>
 
+static_assert(__cplusplus >= 201703L, "the package's CMake target asks for C++17");
+
 namespace {
 
 int Fail(const char* what) {

@@ -5,17 +5,15 @@
 #include <tavix/tavix.h>
 
 #include <filesystem>
-#include <functional>
 #include <map>
 #include <string>
 #include <vector>
 
-#include "tests/host/support/host_process.h"
+#include "tests/samples/running_program.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/picture_compare.h"
 #include "tests/support/plot_test.h"
 #include "tests/support/project_folder.h"
-#include "tests/support/window_picture.h"
 
 namespace fieldhost {
 namespace {
@@ -23,12 +21,7 @@ namespace {
 using tavix::test::Picture;
 using tavix::test::SamePicture;
 
-const wchar_t* const kTitle = L"Tap a point";
-
-std::filesystem::path InBuild(const wchar_t* program) {
-  return HostProgram().parent_path() / program;
-}
-
+// A path in the project, as Windows wants it.
 std::filesystem::path InProject(const wchar_t* path) {
   return (tavix::test::ProjectFolder() / path).make_preferred();
 }
@@ -38,90 +31,6 @@ struct Sample {
   const char* language;
   std::filesystem::path program;
   std::vector<std::wstring> arguments;
-};
-
-std::wstring TitleOf(HWND window) {
-  wchar_t text[200] = L"";
-  ::GetWindowTextW(window, text, 200);
-  return text;
-}
-
-// Waits until `condition` holds of another process, which sends no message here when it does.
-bool WaitUntil(const std::function<bool()>& condition) {
-  constexpr ULONGLONG kPatience = 20'000;  // milliseconds
-  constexpr DWORD kLook = 10;
-  for (const ULONGLONG end = ::GetTickCount64() + kPatience; ::GetTickCount64() < end;) {
-    tavix::test::DrainMessages();
-    if (condition()) return true;
-    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, kLook, QS_ALLINPUT);
-  }
-  return false;
-}
-
-// A sample that runs, with its window and its plot.
-class Running {
- public:
-  Running(const std::filesystem::path& folder, const Sample& sample)
-      : process_(folder, sample.arguments, {.program = sample.program}),
-        window_(process_.WaitForWindow(kTitle)) {
-    EXPECT_TRUE(WaitUntil([this] { return Plot() && ::IsWindowVisible(Plot()); }));
-  }
-
-  ~Running() { ::PostMessageW(window_, WM_CLOSE, 0, 0); }
-
-  [[nodiscard]] HWND Window() const { return window_; }
-  [[nodiscard]] HWND Plot() const { return ::GetWindow(window_, GW_CHILD); }
-
-  void Tap(POINT at) const {
-    const LPARAM place = MAKELPARAM(at.x, at.y);
-    ::PostMessageW(Plot(), WM_LBUTTONDOWN, MK_LBUTTON, place);
-    ::PostMessageW(Plot(), WM_LBUTTONUP, 0, place);
-  }
-
-  [[nodiscard]] bool Says(const std::wstring& title) const {
-    return WaitUntil([&] { return TitleOf(window_) == title; });
-  }
-
-  // The plot left of its buttons, as the screen shows it; another process's window has no pixels
-  // here. The buttons paint themselves, in their own time.
-  [[nodiscard]] Picture OnScreen() const {
-    RECT client;
-    ::GetClientRect(Plot(), &client);
-    POINT corner{0, 0};
-    ::ClientToScreen(Plot(), &corner);
-    const HDC screen = ::GetDC(nullptr);
-    const HDC memory = ::CreateCompatibleDC(screen);
-    const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, client.right, client.bottom);
-    const HGDIOBJ old = ::SelectObject(memory, bitmap);
-    ::BitBlt(memory, 0, 0, client.right, client.bottom, screen, corner.x, corner.y, SRCCOPY);
-    const Picture picture =
-        tavix::test::TakePicture(memory, client.right - kTavixButtonColumn, client.bottom);
-    ::SelectObject(memory, old);
-    ::DeleteObject(bitmap);
-    ::DeleteDC(memory);
-    ::ReleaseDC(nullptr, screen);
-    return picture;
-  }
-
-  // The plot's pixels on the screen once they are `expected`; the last ones seen if they never are.
-  [[nodiscard]] Picture Shows(const Picture& expected) const {
-    Picture seen;
-    (void)WaitUntil([&] {
-      seen = OnScreen();
-      return seen == expected;
-    });
-    return seen;
-  }
-
-  void Resize(int width, int height) const {
-    const HWND before = Plot();
-    ::SetWindowPos(window_, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_TRUE(WaitUntil([&] { return Plot() != before && ::IsWindowVisible(Plot()); }));
-  }
-
- private:
-  HostProcess process_;
-  HWND window_;
 };
 
 struct SurveyPoint {
@@ -200,6 +109,16 @@ class Samples : public tavix::test::PlotTest, public testing::WithParamInterface
     return found;
   }
 
+  // The plot's pixels on the screen once they are `expected`; the last ones seen if they never are.
+  static Picture ShownOnce(const Picture& expected, const RunningProgram& running) {
+    Picture seen;
+    (void)WaitUntil([&] {
+      seen = RunningProgram::Shown(running.Plot());
+      return seen == expected;
+    });
+    return seen;
+  }
+
   const std::filesystem::path folder_ = std::filesystem::temp_directory_path() / L"samples" /
                                         std::to_wstring(::GetCurrentProcessId());
 };
@@ -219,17 +138,17 @@ TEST_P(Samples, ShowTheSamePictureAndAnswerTaps) {
   ASSERT_FALSE(first == larger);
   Tavix_Del();
 
-  const Running running(folder_, sample);
+  const RunningProgram running(folder_, {sample.program, sample.arguments, L"Tap a point"});
   ASSERT_NE(nullptr, running.Window());
-  EXPECT_TRUE(SamePicture(first, running.Shows(first)));
+  EXPECT_TRUE(SamePicture(first, ShownOnce(first, running)));
   for (const auto& [key, pixel] : pixels) {
-    running.Tap(pixel);
+    RunningProgram::Tap(running.Plot(), pixel);
     ASSERT_TRUE(running.Says(kPoints[key - 1].title))
         << sample.language << " does not answer for key " << key << " at " << pixel.x << ", "
         << pixel.y;
   }
   running.Resize(kLarger.cx, kLarger.cy);
-  EXPECT_TRUE(SamePicture(larger, running.Shows(larger)));
+  EXPECT_TRUE(SamePicture(larger, ShownOnce(larger, running)));
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -32,13 +32,14 @@ GOOD = """
 
 
 class CallTests(unittest.TestCase):
-    def run_on(self, listing, source=SOURCE):
+    def run_on(self, listing, source=SOURCE, limits="`Calls.Makes`"):
         """The exit code and the output on a small tree."""
         with tempfile.TemporaryDirectory() as folder:
             root = Path(folder)
             for name, text in (
                 ("frame/tavix.def", "EXPORTS\n  Tavix_Crt\n  Tavix_Del\n  Tavix_Dsp\n"),
                 ("docs/exported-calls.md", listing),
+                ("docs/limits.md", limits),
                 ("tests/CMakeLists.txt", "tavix_test(call_tests SOURCES calls_test.cpp)\n"),
                 ("tests/calls_test.cpp", source),
             ):
@@ -68,6 +69,11 @@ class CallTests(unittest.TestCase):
         code, said = self.run_on(GOOD)
         self.assertEqual("3 calls have 4 rows, which name 3 tests.\n", said)
         self.assertEqual(0, code)
+
+    def test_a_page_that_names_a_test_that_is_not_there(self):
+        code, said = self.run_on(GOOD, limits="\n| five | `Calls.Makes`, `Calls.Limits` |")
+        self.assertEqual("docs/limits.md:2: there is no test Calls.Limits\n", said)
+        self.assertEqual(1, code)
 
     def test_each_hole_is_named(self):
         rows = (

@@ -32,6 +32,9 @@ class IncludeRules(unittest.TestCase):
             ("platform/framework/base/wnd.cpp", '#include "platform/objectstore/store.h"'),
             ("view/clip.cpp", "#include <vector>"),
             ("tests/frame/slot_test.cpp", '#include "frame/slot_table.h"'),
+            ("include/tavix/tavix.h", '#include "../tavix-framework/afxwin.h"'),
+            ("platform/framework/include/framework/wnd.h", '#include "../afxwin.h"'),
+            ("platform/tdialog/include/tdialog.h", '#include "afxwin.h"'),
         )
         refused = (
             ("view/clip.h", '#include "store/point_list.h"', "view may not know store"),
@@ -48,6 +51,9 @@ class IncludeRules(unittest.TestCase):
             ("platform/tdialog/a.cpp", '#include "view/coordinates.h"', "platform may not know"),
             ("frame/a.cpp", '#include "tests/frame/support.h"', "frame may not know tests"),
             ("window/a.cpp", '#include "plot_window.h"', "does not start from the project's root"),
+            ("platform/framework/include/framework/wnd.h", '#include "afxwin.h"', "its own folder"),
+            ("include/tavix/tavix.h", '#include "afxwin.h"', "its own folder"),
+            ("include/tavix/tavix.h", '#include "../tavix-framework/a.h"', "its own folder"),
             ("sundry/a.cpp", '#include "view/coordinates.h"', "no rule for sundry/a.cpp"),
         )
         tree = dict.fromkeys(

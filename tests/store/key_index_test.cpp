@@ -15,9 +15,10 @@ namespace {
 class IndexedKeys {
  public:
   void Insert(std::int32_t key) {
+    const bool repeated = !Expected(key).empty();
     keys_.push_back(key);
     const auto position = static_cast<std::uint32_t>(keys_.size() - 1);
-    index_.Insert(key, position);
+    EXPECT_EQ(repeated, index_.Insert(key, position));
     in_.push_back(position);
   }
 

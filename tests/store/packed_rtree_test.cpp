@@ -2,42 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <random>
 #include <vector>
 
+#include "tests/store/tree_search.h"
+
 namespace tavix {
 namespace {
-
-using Positions = std::vector<std::uint32_t>;
-
-bool Overlap(const GroundExtent& a, const GroundExtent& b) {
-  return a.min.north <= b.max.north && b.min.north <= a.max.north && a.min.east <= b.max.east &&
-         b.min.east <= a.max.east;
-}
-
-Positions InTree(PackedRTree& tree, const GroundExtent& box, std::size_t most) {
-  Positions found;
-  tree.ForEachInOrder([&](const GroundExtent& part) { return Overlap(part, box); },
-                      [&](std::uint32_t position) {
-                        found.push_back(position);
-                        return found.size() < most;
-                      });
-  return found;
-}
-
-// A scan of all entries, which are in the order of their positions.
-Positions InScan(const std::vector<PackedRTree::Entry>& entries, const GroundExtent& box,
-                 std::size_t most) {
-  Positions found;
-  for (const PackedRTree::Entry& entry : entries) {
-    if (!Overlap({entry.at, entry.at}, box)) continue;
-    found.push_back(entry.position);
-    if (found.size() == most) break;
-  }
-  return found;
-}
 
 struct Spread {
   const char* name;
@@ -90,14 +64,14 @@ TEST(PackedRTree, GivesWhatAScanGives) {
     for (const std::size_t count : {1U, 16U, 17U, 129U, 2500U}) {
       SCOPED_TRACE(testing::Message() << spread.name << ", " << count);
       std::mt19937 random(61);
-      std::vector<PackedRTree::Entry> entries;
-      std::uint32_t position = 0;
+      std::vector<TreeEntry> entries;
+      unsigned position = 0;
       for (std::size_t i = 0; i < count; ++i) {
-        position += 1 + static_cast<std::uint32_t>(random() % 3);
-        entries.push_back({spread.point(random), position});
+        position += 1 + static_cast<unsigned>(random() % 3);
+        entries.push_back({spread.point(random), static_cast<PackedRTree::Position>(position)});
       }
       PackedRTree tree;
-      tree.Build(entries);
+      Build(tree, entries);
       for (int i = 0; i < 300; ++i) {
         // A box at one of the points or between two: from nothing to all.
         ExtentBuilder box;
@@ -109,6 +83,9 @@ TEST(PackedRTree, GivesWhatAScanGives) {
         if (i % 50 == 0) box.Include(entries[random() % count].at);
         const std::size_t most = i % 3 == 0 ? count : 1 + random() % 12;
         ASSERT_EQ(InScan(entries, box.Extent(), most), InTree(tree, box.Extent(), most)) << i;
+        const Positions all = InScan(entries, box.Extent(), count);
+        ASSERT_EQ(all, InTree(tree, box.Extent())) << i;
+        ASSERT_LE(all.size(), MostInTree(tree, box.Extent())) << i;
       }
     }
   }
@@ -118,9 +95,10 @@ TEST(PackedRTree, WithoutPointsVisitsNothing) {
   PackedRTree tree;
   EXPECT_TRUE(tree.IsEmpty());
   EXPECT_TRUE(InTree(tree, {{1, 1}, {-1, -1}}, 10).empty());
-  tree.Build({{{0, 0}, 5}});
+  EXPECT_TRUE(InTree(tree, {{1, 1}, {-1, -1}}).empty());
+  Build(tree, {{{0, 0}, 5}});
   EXPECT_EQ(Positions{5}, InTree(tree, {{1, 1}, {-1, -1}}, 10));
-  tree.Build({});
+  Build(tree, {});
   EXPECT_TRUE(tree.IsEmpty());
   EXPECT_TRUE(InTree(tree, {{1, 1}, {-1, -1}}, 10).empty());
 }
@@ -128,20 +106,22 @@ TEST(PackedRTree, WithoutPointsVisitsNothing) {
 TEST(PackedRTree, TestsFewOfManyPoints) {
   std::mt19937 random(62);
   for (const Spread& spread : {kSpreads[0], kSpreads[5], kSpreads[6]}) {
-    std::vector<PackedRTree::Entry> entries;
-    for (std::uint32_t i = 0; i < 100000; ++i) entries.push_back({spread.point(random), i});
+    std::vector<TreeEntry> entries;
+    for (std::size_t i = 0; i < PackedRTree::kMostPoints; ++i) {
+      entries.push_back({spread.point(random), static_cast<PackedRTree::Position>(i)});
+    }
     PackedRTree tree;
-    tree.Build(entries);
+    Build(tree, entries);
     int tests = 0;
     for (std::size_t i = 0; i < 100; ++i) {
-      const GroundPoint at = entries[i * 997].at;
+      const GroundPoint at = entries[i * 653].at;
       const GroundExtent box{{at.north + 0.1, at.east + 0.1}, {at.north - 0.1, at.east - 0.1}};
       tree.ForEachInOrder(
           [&](const GroundExtent& part) {
             ++tests;
             return Overlap(part, box);
           },
-          [](std::uint32_t) { return true; });
+          [](PackedRTree::Position) { return true; });
     }
     EXPECT_LT(tests / 100, 400) << spread.name;
   }

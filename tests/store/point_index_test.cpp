@@ -1,72 +1,17 @@
-// The search for the nearest point, compared with a plain scan of the list.
+// The nearest point and the points of an area, compared with a plain scan of the list.
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 #include <random>
-#include <vector>
 
-#include "store/point_list.h"
+#include "tests/store/points_twice.h"
 
 namespace tavix {
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
-
-// The rule, literally: gather up to ten candidates in list order, then choose.
-std::int32_t PlainNearest(const std::vector<Point>& points, double tolerance, GroundPoint at) {
-  std::vector<std::pair<std::int32_t, double>> candidates;
-  for (const Point& point : points) {
-    const double north = at.north - point.at.north;
-    const double east = at.east - point.at.east;
-    if (!(std::fabs(north) <= tolerance && std::fabs(east) <= tolerance)) continue;
-    candidates.emplace_back(point.key, north * north + east * east);
-    if (candidates.size() == 10) break;
-  }
-  if (candidates.empty()) return 0;
-  auto nearest = candidates.front();
-  for (const auto& candidate : candidates) {
-    if (candidate.second < nearest.second) nearest = candidate;
-  }
-  return nearest.first;
-}
-
-// A list under test and a plain vector of the same points. No key is 0.
-class PointsTwice {
- public:
-  void Add(std::int32_t key, GroundPoint at) {
-    points_.Add({key, 1, u"P", at, 1});
-    plain_.push_back({key, 1, u"", at, 1});
-  }
-  void Move(std::size_t which, GroundPoint at) {
-    ASSERT_EQ(0, points_.Find(plain_[which].key));
-    ASSERT_EQ(0, points_.SetCurCrd(at));
-    plain_[which].at = at;
-  }
-  void Remove(std::size_t which) {
-    ASSERT_EQ(0, points_.Remove(plain_[which].key));
-    plain_.erase(plain_.begin() + static_cast<std::ptrdiff_t>(which));
-  }
-  void Clear() {
-    points_.Clear();
-    plain_.clear();
-  }
-  [[nodiscard]] std::size_t Count() const { return plain_.size(); }
-  [[nodiscard]] GroundPoint PositionOf(std::size_t which) const { return plain_[which].at; }
-
-  void ExpectSameNearest(double tolerance, GroundPoint at) const {
-    const std::int32_t expected = PlainNearest(plain_, tolerance, at);
-    std::int32_t key = 99;
-    const int code = points_.FindNearest(tolerance, at, &key);
-    ASSERT_EQ(plain_.empty() ? -3 : (expected == 0 ? -1 : 0), code);
-    ASSERT_EQ(key, expected) << tolerance << " round " << at.north << ", " << at.east;
-  }
-
- private:
-  CPntList points_;
-  std::vector<Point> plain_;
-};
 
 // `whole`: coordinates are whole numbers, so that there are ties and points on the border;
 // `changes`: in a thousand steps; `strange`: some coordinates are not finite.
@@ -110,7 +55,10 @@ void CompareInRandomUse(unsigned seed, int points, int side, bool whole, unsigne
     double tolerance = std::ldexp(1.0, static_cast<int>(random() % 24) - 10);
     if (whole) tolerance = static_cast<double>(random() % 12);
     if (strange && random() % 30 == 0) tolerance = random() % 2 == 0 ? kInfinity : kNoNumber;
-    ASSERT_NO_FATAL_FAILURE(lists.ExpectSameNearest(tolerance, at)) << "step " << step;
+    ASSERT_EQ(lists.FoundByScan(tolerance, at), lists.Found(tolerance, at))
+        << "step " << step << ": " << tolerance << " round " << at.north << ", " << at.east;
+    if (step % 8 != 0) continue;
+    ASSERT_TRUE(lists.HasSameInArea({at, tolerance, tolerance * 0.5})) << "step " << step;
   }
 }
 
@@ -126,6 +74,35 @@ TEST(NearestPoint, IsTheOneAScanFinds) {
   }
 }
 
+// More than one stretch of the index, points that move and go, and points entered late.
+TEST(PointsOfAnArea, AreThoseAScanFindsAmongVeryMany) {
+  constexpr int kPoints = 150000;
+  constexpr double kSide = 1e4;
+  std::mt19937 random(77);
+  const auto some_position = [&] {
+    std::uniform_real_distribution<double> coordinate(0.0, kSide);
+    return GroundPoint{coordinate(random), coordinate(random)};
+  };
+  PointsTwice lists;
+  std::int32_t key = 0;
+  // In rows across the ground, as surveys are entered, and then anywhere.
+  for (; key < kPoints / 2; ++key) {
+    lists.Add(key + 1, {kSide * 2 * key / kPoints, kSide * (key % 300) / 300});
+  }
+  for (; key < kPoints; ++key) lists.Add(key + 1, some_position());
+  for (int step = 0; step < 30; ++step) {
+    const double reach = std::ldexp(1.0, static_cast<int>(random() % 14));
+    const GroundPoint at = some_position();
+    ASSERT_TRUE(lists.HasSameInArea({at, reach, reach * 2})) << "step " << step;
+    ASSERT_EQ(lists.FoundByScan(reach * 0.1, at), lists.Found(reach * 0.1, at)) << "step " << step;
+    for (int i = 0; i < 20; ++i) {
+      lists.Move(random() % lists.Count(), some_position());
+      lists.Remove(random() % lists.Count());
+      lists.Add(++key, some_position());
+    }
+  }
+}
+
 // Differences are rounded: a point may lie on the border of the square by a rounding only.
 TEST(NearestPoint, IsOnTheBorderAsTheDifferenceRounds) {
   std::mt19937 random(90);
@@ -137,7 +114,9 @@ TEST(NearestPoint, IsOnTheBorderAsTheDifferenceRounds) {
     for (int i = 0; i < 3000; ++i) {
       const GroundPoint at{base + 0.1 * static_cast<double>(random() % 30),
                            base + 0.1 * static_cast<double>(random() % 30)};
-      ASSERT_NO_FATAL_FAILURE(lists.ExpectSameNearest(0.1 * static_cast<double>(random() % 4), at));
+      const double tolerance = 0.1 * static_cast<double>(random() % 4);
+      ASSERT_EQ(lists.FoundByScan(tolerance, at), lists.Found(tolerance, at))
+          << tolerance << " round " << at.north << ", " << at.east;
     }
   }
 }

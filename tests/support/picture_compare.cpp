@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <iomanip>
 #include <sstream>
 #include <string>
@@ -12,25 +11,6 @@
 
 namespace tavix::test {
 namespace {
-
-void WriteBmp(const std::filesystem::path& path, const Picture& picture) {
-  BITMAPINFOHEADER info{};
-  info.biSize = sizeof info;
-  info.biWidth = picture.width;
-  info.biHeight = -picture.height;
-  info.biPlanes = 1;
-  info.biBitCount = 32;
-  const std::size_t size = picture.pixels.size() * sizeof picture.pixels[0];
-  BITMAPFILEHEADER file{};
-  file.bfType = 0x4D42;  // "BM"
-  file.bfOffBits = sizeof file + sizeof info;
-  file.bfSize = file.bfOffBits + static_cast<DWORD>(size);
-  std::ofstream out(path, std::ios::binary);
-  out.write(reinterpret_cast<const char*>(&file), sizeof file);
-  out.write(reinterpret_cast<const char*>(&info), sizeof info);
-  out.write(reinterpret_cast<const char*>(picture.pixels.data()),
-            static_cast<std::streamsize>(size));
-}
 
 std::filesystem::path FolderOfFailures() {
   const wchar_t* const folder = ::_wgetenv(L"TAVIX_FAILED_PICTURES");
@@ -41,8 +21,8 @@ std::filesystem::path FolderOfFailures() {
 std::filesystem::path NextPath() {
   static int count = 0;
   const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-  std::string name =
-      std::string(test->test_suite_name()) + "." + test->name() + "." + std::to_string(++count);
+  std::string name = test ? std::string(test->test_suite_name()) + "." + test->name() : "program";
+  name += "." + std::to_string(++count);
   for (char& letter : name) {
     if (letter == '/') letter = '_';
   }

@@ -1,6 +1,7 @@
 #include "tests/support/window_picture.h"
 
 #include <algorithm>
+#include <fstream>
 
 namespace tavix::test {
 namespace {
@@ -54,6 +55,25 @@ Picture LeftPart(const Picture& picture, int width) {
 
 int CountPixels(const Picture& picture, std::uint32_t color) {
   return static_cast<int>(std::count(picture.pixels.begin(), picture.pixels.end(), color));
+}
+
+void WriteBmp(const std::filesystem::path& path, const Picture& picture) {
+  BITMAPINFOHEADER info{};
+  info.biSize = sizeof info;
+  info.biWidth = picture.width;
+  info.biHeight = -picture.height;
+  info.biPlanes = 1;
+  info.biBitCount = 32;
+  const std::size_t size = picture.pixels.size() * sizeof picture.pixels[0];
+  BITMAPFILEHEADER file{};
+  file.bfType = 0x4D42;  // "BM"
+  file.bfOffBits = sizeof file + sizeof info;
+  file.bfSize = file.bfOffBits + static_cast<DWORD>(size);
+  std::ofstream out(path, std::ios::binary);
+  out.write(reinterpret_cast<const char*>(&file), sizeof file);
+  out.write(reinterpret_cast<const char*>(&info), sizeof info);
+  out.write(reinterpret_cast<const char*>(picture.pixels.data()),
+            static_cast<std::streamsize>(size));
 }
 
 }  // namespace tavix::test

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <vector>
 
 namespace tavix::test {
@@ -33,5 +34,8 @@ struct Picture {
 
 // How many pixels have this colour, 0x00RRGGBB.
 [[nodiscard]] int CountPixels(const Picture& picture, std::uint32_t color);
+
+// As a bitmap file of 32 bits a pixel.
+void WriteBmp(const std::filesystem::path& path, const Picture& picture);
 
 }  // namespace tavix::test

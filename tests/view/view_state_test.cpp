@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <random>
 
 namespace tavix {
 namespace {
@@ -263,6 +264,100 @@ TEST(ViewState, ACopyIsTheWholeView) {
   copy.ToggleExtents();
   EXPECT_EQ(copy.Scale(), view.Scale());
   EXPECT_EQ(510.0, copy.Centre().north);
+}
+
+// Points at the border of the view, and views of any kind.
+TEST(ViewState, NoCircleShowsOutsideOfTheGroundAroundIt) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+  constexpr int kLargest = 100;
+  const double odd[] = {kInfinity, -kInfinity, kNoNumber, 0.0, -0.0, 1e300, -1e-300, 5e-324};
+  std::mt19937 random(31);
+  const auto between = [&](double low, double high) {
+    return std::uniform_real_distribution<double>(low, high)(random);
+  };
+  const auto any = [&](double usual) {
+    return random() % 20 == 0 ? odd[random() % std::size(odd)] : usual;
+  };
+  int shown = 0;
+  int outside = 0;
+  for (int i = 0; i < 4000; ++i) {
+    const int width = static_cast<int>(random() % 2000);
+    const int height = static_cast<int>(random() % 1500);
+    CViewState view;
+    if (random() % 8 != 0) view.SetScreenSize(width, height);
+    view.SetRatio(any(random() % 3 == 0 ? between(-4, 4) : 1.0));
+    view.SetCentre({any(between(-1e6, 1e6)), any(between(-1e6, 1e6))});
+    ASSERT_EQ(0, view.SetAngle(static_cast<int>(random() % 360)));
+    view.ZoomOut(any(std::exp(between(-11, 700 * between(0, 1)))));
+    const GroundArea area = view.GroundAround(kLargest);
+    for (int k = 0; k < 50; ++k) {
+      const double reach = random() % 4 == 0 ? 3.0 : 1.3;
+      const GroundPoint at{any(area.centre.north + area.north * between(-reach, reach)),
+                           any(area.centre.east + area.east * between(-reach, reach))};
+      const int size = static_cast<int>(random() % (2 * kLargest + 1)) - kLargest;
+      ScreenPoint ignored;
+      const bool shows = view.CircleOnScreen(at, view.PixelsToLength(size), ignored);
+      const bool touches = area.Touches(at);
+      ASSERT_TRUE(touches || !shows) << i << ": " << at.north << ' ' << at.east << ' ' << size;
+      shown += shows ? 1 : 0;
+      outside += touches ? 0 : 1;
+    }
+  }
+  EXPECT_LT(10000, shown);
+  EXPECT_LT(10000, outside);
+}
+
+TEST(ViewState, NoSegmentShowsThatIsOutOfViewForCertain) {
+  constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+  const double odd[] = {1e300, -1e300, 1e15, -3e9, kNoNumber, -0.0, 5e-324, 0.0};
+  std::mt19937 random(32);
+  const auto between = [&](double low, double high) {
+    return std::uniform_real_distribution<double>(low, high)(random);
+  };
+  const auto any = [&](double usual) {
+    return random() % 30 == 0 ? odd[random() % std::size(odd)] : usual;
+  };
+  int shown = 0;
+  int held_back = 0;
+  for (int i = 0; i < 4000; ++i) {
+    CViewState view;
+    view.SetScreenSize(static_cast<int>(random() % 2000), static_cast<int>(random() % 1500));
+    view.SetRatio(any(random() % 3 == 0 ? between(-4, 4) : 1.0));
+    view.SetCentre({any(between(-1e6, 1e6)), any(between(-1e6, 1e6))});
+    ASSERT_EQ(0, view.SetAngle(static_cast<int>(random() % 360)));
+    view.ZoomOut(any(std::exp(between(-11, 700 * between(0, 1)))));
+    const SegmentSieve sieve = view.OutOfView();
+    for (int k = 0; k < 50; ++k) {
+      const double reach = random() % 8 == 0 ? 1e9 : 1.5;
+      const auto some_end = [&] {
+        const double north = sieve.view.centre.north + sieve.view.north * between(-reach, reach);
+        const double east = sieve.view.centre.east + sieve.view.east * between(-reach, reach);
+        return GroundPoint{any(north), any(east)};
+      };
+      const GroundPoint start = some_end();
+      const GroundPoint end = some_end();
+      ScreenSegment ignored;
+      const bool shows = view.ClipGroundSegment(start, end, ignored);
+      ASSERT_FALSE(shows && sieve.HoldsBack(start, end)) << i << ' ' << k;
+      shown += shows ? 1 : 0;
+      held_back += sieve.HoldsBack(start, end) ? 1 : 0;
+    }
+  }
+  EXPECT_LT(10000, shown);
+  EXPECT_LT(10000, held_back);
+}
+
+// It must not be much larger than the view either.
+TEST(ViewState, TheGroundAroundIsTheBoxThatHoldsTheView) {
+  CViewState view = ViewAtScale(240, 180, 2.0);
+  view.SetCentre({1000, 2000});
+  EXPECT_FALSE(view.GroundAround(10).Touches(GroundPoint{1000 + 51.5, 2000}));
+  EXPECT_TRUE(view.GroundAround(10).Touches(GroundPoint{1000 - 50, 2000 + 65}));
+  EXPECT_FALSE(view.GroundAround(10).Touches(GroundPoint{1000, 2000 - 66.5}));
+  ASSERT_EQ(0, view.SetAngle(90));
+  EXPECT_FALSE(view.GroundAround(10).Touches(GroundPoint{1000 - 66.5, 2000}));
+  EXPECT_TRUE(view.GroundAround(10).Touches(GroundPoint{1000 + 65, 2000 - 50}));
 }
 
 }  // namespace

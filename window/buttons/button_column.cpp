@@ -107,15 +107,49 @@ bool ButtonColumn::IsOnScreen() const {
   return IsShown(ButtonColumnLayout::kScrollUp) || IsShown(ButtonColumnLayout::kFirstMain);
 }
 
-bool ButtonColumn::Covers(CPoint at) const {
+std::vector<CRect> ButtonColumn::Places() const {
+  std::vector<CRect> places;
   for (const CBitmapButton& button : buttons_) {
     if (!HasVisibleStyle(button)) continue;
-    CRect place;
+    CRect& place = places.emplace_back();
     button.GetWindowRect(&place);
     button.GetParent()->ScreenToClient(&place);
-    if (place.PtInRect(at)) return true;
   }
-  return false;
+  return places;
+}
+
+bool ButtonColumn::Covers(CPoint at) const {
+  const std::vector<CRect> places = Places();
+  return std::any_of(places.begin(), places.end(),
+                     [at](const CRect& place) { return place.PtInRect(at) != FALSE; });
+}
+
+// The update region is all of `rect`, under the buttons too, as hosts know it.
+void ButtonColumn::InvalidateAround(CWnd& parent, const CRect& rect) const {
+  const std::vector<CRect> places = Places();
+  if (!places.empty()) {
+    CRgn around;
+    around.CreateRectRgnIndirect(&rect);
+    for (const CRect& place : places) {
+      CRgn button;
+      button.CreateRectRgnIndirect(&place);
+      around.CombineRgn(&around, &button, RGN_DIFF);
+    }
+    parent.RedrawWindow(nullptr, &around, RDW_INVALIDATE | RDW_ERASE);
+    parent.RedrawWindow(&rect, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
+  } else {
+    parent.InvalidateRect(&rect, TRUE);
+  }
+}
+
+void ButtonColumn::ExcludeFrom(CDC& dc) const {
+  for (const CRect& place : Places()) dc.ExcludeClipRect(&place);
+}
+
+void ButtonColumn::Invalidate() {
+  for (CBitmapButton& button : buttons_) {
+    if (button.m_hWnd) button.Invalidate();
+  }
 }
 
 }  // namespace tavix

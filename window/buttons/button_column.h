@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <vector>
 
 #include "window/buttons/button_column_layout.h"
 
@@ -39,12 +40,25 @@ class ButtonColumn {
   [[nodiscard]] bool IsOnScreen() const;
   [[nodiscard]] bool Covers(CPoint at) const;
 
+  // Invalidates `rect` of the parent's client area, with the child windows in it but without the
+  // buttons, which a new picture leaves as they are.
+  void InvalidateAround(CWnd& parent, const CRect& rect) const;
+
+  // Keeps a drawing on the parent off the buttons.
+  void ExcludeFrom(CDC& dc) const;
+
+  // Has the buttons painted.
+  void Invalidate();
+
  private:
   [[nodiscard]] CBitmapButton& Button(int k) { return buttons_[static_cast<std::size_t>(k)]; }
   [[nodiscard]] const CBitmapButton& Button(int k) const {
     return buttons_[static_cast<std::size_t>(k)];
   }
   [[nodiscard]] bool IsShown(int k) const;
+
+  // The places of the buttons that have the visible style, in client pixels of the parent.
+  [[nodiscard]] std::vector<CRect> Places() const;
   void Arrange();
 
   std::array<CBitmapButton, ButtonColumnLayout::kButtons> buttons_;

@@ -1,17 +1,18 @@
 #include "window/scenes/plan_scene.h"
 
-#include "draw/gdi_canvas.h"
 #include "view/extent.h"
 #include "window/buttons/button_column_layout.h"
+#include "window/immediate_surfaces.h"
 #include "window/output.h"
 
 namespace tavix {
 
 PlanScene::PlanScene(const PlotLinks& links, const OverlaySurfaces& surfaces,
-                     const RatioSetting& ratio, RubberBand& band)
+                     ImmediateSurfaces& immediate, const RatioSetting& ratio, RubberBand& band)
     : Scene(links.view, links.legend),
       links_(links),
       surfaces_(surfaces),
+      immediate_(immediate),
       frame_(links.view),
       north_arrow_(links.view),
       scale_bar_(links.view, ratio),
@@ -45,24 +46,20 @@ PlotData PlanScene::Data() const {
   return {view_, legend_, links_.points, links_.lines, links_.figures, draws_lines_};
 }
 
-void PlanScene::Draw(PlanCanvas& canvas) const { DrawPlanView(canvas, Data()); }
+void PlanScene::LeaveOutNewFigures() {
+  if (!figures_shown_) figures_shown_ = links_.figures.Count();
+}
 
-template <class DrawOn>
-void PlanScene::DrawAtOnce(DrawOn draw) {
-  CWnd& window = surfaces_.window;
-  if (!window.m_hWnd) return;
+void PlanScene::Draw(PlanCanvas& canvas) const {
+  PlotData data = Data();
+  if (figures_shown_) data.figure_count = *figures_shown_;
+  DrawPlanView(canvas, data);
+}
+
+void PlanScene::DrawAtOnce(const std::function<void(PlanCanvas&)>& draw) {
+  if (!surfaces_.window.m_hWnd) return;
   for (Overlay* overlay : overlays_) overlay->TakeOff();
-  if (window.IsWindowVisible()) {
-    DrawWhatCanBe([&] {
-      ClientSurface screen(window);
-      GdiCanvas canvas(screen.Dc());
-      draw(canvas);
-    });
-  }
-  DrawWhatCanBe([&] {
-    GdiCanvas canvas(surfaces_.buffer);
-    draw(canvas);
-  });
+  immediate_.Draw(draw);
   for (Overlay* overlay : overlays_) overlay->DrawOver();
 }
 

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
+#include <functional>
+#include <optional>
 
 #include "draw/plan_view.h"
 #include "window/overlays/map_surround.h"
@@ -12,11 +15,13 @@
 
 namespace tavix {
 
+class ImmediateSurfaces;
+
 class PlanScene : public Scene {
  public:
-  // `band` is the topmost overlay; it belongs to the window.
-  PlanScene(const PlotLinks& links, const OverlaySurfaces& surfaces, const RatioSetting& ratio,
-            RubberBand& band);
+  // New entities are drawn on `immediate`. `band` is the topmost overlay; it belongs to the window.
+  PlanScene(const PlotLinks& links, const OverlaySurfaces& surfaces, ImmediateSurfaces& immediate,
+            const RatioSetting& ratio, RubberBand& band);
 
   int Fit() override;
   void Draw(PlanCanvas& canvas) const override;
@@ -33,6 +38,10 @@ class PlanScene : public Scene {
   // Pans by half the drawing area.
   void PressArrow(WPARAM key) override;
 
+  // From now on draws the figures there are at this moment only, or all of them.
+  void LeaveOutNewFigures();
+  void ShowAllFigures() { figures_shown_.reset(); }
+
   // What a drawing pass of the plan reads.
   [[nodiscard]] PlotData Data() const;
 
@@ -45,12 +54,13 @@ class PlanScene : public Scene {
   [[nodiscard]] TracedLine& Trace() { return traced_line_; }
 
  private:
-  template <class DrawOn>
-  void DrawAtOnce(DrawOn draw);
+  void DrawAtOnce(const std::function<void(PlanCanvas&)>& draw);
 
   const PlotLinks& links_;
   const OverlaySurfaces& surfaces_;
+  ImmediateSurfaces& immediate_;
   bool draws_lines_ = true;
+  std::optional<std::int32_t> figures_shown_;  // the first so many; nothing: all
   PaperFrameOverlay frame_;
   NorthArrowOverlay north_arrow_;
   ScaleBarOverlay scale_bar_;

@@ -11,7 +11,8 @@ namespace tavix {
 
 void SettingsCommand::Run() {
   PlotSettings settings{display_.Plan().DrawsLines(), legend_.RotationStep(), navigation_.Ratio()};
-  SettingsDialog dialog(window_.GetParent(), legend_, settings);
+  SettingsDialog dialog(window_.GetParent(), legend_, settings,
+                        [this] { display_.FinishRedraw(); });
   open_.push_back(&dialog);
   window_.EnableWindow(FALSE);
   const INT_PTR result = dialog.DoModal();

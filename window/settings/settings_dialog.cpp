@@ -4,6 +4,7 @@
 #include <afxdlgs.h>
 
 #include <string>
+#include <utility>
 
 #include "draw/marks.h"
 #include "platform/wide_text.h"
@@ -42,8 +43,13 @@ ON_BN_CLICKED(IDC_COLOR, &SettingsDialog::OnColor)
 ON_WM_DRAWITEM()
 END_MESSAGE_MAP()
 
-SettingsDialog::SettingsDialog(CWnd* owner, LegendTable& legend, PlotSettings& settings)
-    : TDialog(IDD_SETTINGS, owner), legend_(&legend), settings_(settings), editor_(legend) {}
+SettingsDialog::SettingsDialog(CWnd* owner, LegendTable& legend, PlotSettings& settings,
+                               std::function<void()> before_writing)
+    : TDialog(IDD_SETTINGS, owner),
+      legend_(&legend),
+      settings_(settings),
+      before_writing_(std::move(before_writing)),
+      editor_(legend) {}
 
 BOOL SettingsDialog::OnInitDialog() {
   TDialog::OnInitDialog();
@@ -138,7 +144,9 @@ CComboBox& SettingsDialog::List(int id) { return *static_cast<CComboBox*>(GetDlg
 void SettingsDialog::OnEntryChange() {
   TakeEntry();
   CComboBox& list = List(IDC_ENTRY);
-  ShowEntry(static_cast<int>(list.GetItemData(list.GetCurSel())));
+  const int line = list.GetCurSel();
+  // A program may report a change that leaves nothing selected: the entry shown stays.
+  if (line != CB_ERR) ShowEntry(static_cast<int>(list.GetItemData(line)));
 }
 
 void SettingsDialog::OnCopyToAll() {
@@ -156,6 +164,7 @@ void SettingsDialog::OnColor() {
 void SettingsDialog::OnOK() {
   if (IsAbandoned()) return;
   TakeEntry();
+  before_writing_();
   editor_.Save(*legend_);
   settings_.draws_lines = IsDlgButtonChecked(IDC_DRAW_LINES) == BST_CHECKED;
   // With a text that is no number in range the position has a high word, and is out of range too.

@@ -3,6 +3,8 @@
 
 #include <tdialog.h>
 
+#include <functional>
+
 #include "window/settings/legend_editor.h"
 #include "window/settings/plot_settings.h"
 
@@ -10,9 +12,10 @@ namespace tavix {
 
 class SettingsDialog : public TDialog {
  public:
-  // `legend` and `settings` are written on OK. `settings` must outlive the dialog, `legend` too
-  // unless the dialog is abandoned first.
-  SettingsDialog(CWnd* owner, LegendTable& legend, PlotSettings& settings);
+  // `legend` and `settings` are written on OK, after `before_writing` has been called. `settings`
+  // must outlive the dialog, `legend` too unless the dialog is abandoned first.
+  SettingsDialog(CWnd* owner, LegendTable& legend, PlotSettings& settings,
+                 std::function<void()> before_writing);
 
   // To be called before the legend is destroyed while the dialog's loop runs: closes the dialog as
   // if it were cancelled, with a colour chooser above it. Later messages write nothing; DoModal
@@ -43,6 +46,7 @@ class SettingsDialog : public TDialog {
 
   LegendTable* legend_;  // null: abandoned
   PlotSettings& settings_;
+  std::function<void()> before_writing_;
   LegendEditor editor_;
   CBrush color_brush_;
   TEditInt vertical_;

@@ -23,8 +23,6 @@ class Fields {
     return place && *place < fields_.size() ? fields_[*place] : std::string_view();
   }
 
-  [[nodiscard]] std::size_t Count() const { return fields_.size(); }
-
  private:
   const ColumnLayout& layout_;
   std::vector<std::string_view> fields_;

@@ -82,8 +82,9 @@ XmlText Utf8XmlText(std::string_view bytes) {
   const std::string name = EncodingName(declaration);
   std::optional<std::string> text = Labelled(name, bytes.substr(declaration.size()));
   if (!text) {
-    return {"", "is not text in an encoding that is known here (" + Quoted(name) +
-                    "); save it as UTF-8"};
+    // The name itself may be no text either.
+    return {"", "is not text in an encoding that is known here (" +
+                    Quoted(Unlabelled(name).value_or("")) + "); save it as UTF-8"};
   }
   std::string blanks(declaration);
   std::replace_if(

@@ -1,6 +1,6 @@
 // For the DllMain of an extension module.
 #pragma once
 
-#include <afx.h>
+#include "afx.h"
 
 #include "framework/extension_module.h"

@@ -1,4 +1,4 @@
 // Extensions of the framework's windows: the bitmap button and extension modules.
 #pragma once
 
-#include <afxwin.h>
+#include "afxwin.h"

@@ -2,7 +2,7 @@
 // Include it before any other header that needs <windows.h>.
 #pragma once
 
-#include <afx.h>
+#include "afx.h"
 
 #include "framework/command_handlers.h"
 #include "framework/controls.h"

@@ -1,7 +1,7 @@
 // The device's dialogs: TDialog, and the edits TEdit and TEditInt.
 #pragma once
 
-#include <afxwin.h>
+#include "afxwin.h"
 
 #if defined(TDIALOG_BUILD)
 #define TDIALOG_CLASS __declspec(dllexport)

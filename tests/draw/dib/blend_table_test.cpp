@@ -23,11 +23,21 @@ TEST(BlendTableLevels, AreKnownOnceSet) {
   blend.Set(0x80, RowOf([](int value) { return value / 2; }));
   EXPECT_TRUE(blend.Knows(0x80));
   EXPECT_FALSE(blend.Knows(0x81));
+  blend.Forget(0x80);
+  EXPECT_FALSE(blend.Knows(0x80));
 }
 
 TEST(BlendTableLevels, BlendEachChannelByItself) {
-  const BlendRow row = RowOf([](int value) { return value * 128 / 255; });
-  EXPECT_EQ(0x00804020u, Blended(row, 0x00FF8040));
+  BlendTable blend;
+  blend.Set(0x80, RowOf([](int value) { return value * 128 / 255; }));
+  blend.Set(0x00, RowOf([](int) { return 7; }));
+  blend.Set(0xFF, RowOf([](int value) { return value; }));
+  EXPECT_EQ(0x00804020u, Blended(blend.Rows(), {0x80, 0x80, 0x80}, 0x00FF8040));
+  EXPECT_EQ(0x00FF0720u, Blended(blend.Rows(), {0xFF, 0x00, 0x80}, 0x00FF8040));
+}
+
+TEST(BlendTableLevels, AreThoseOfRedGreenAndBlue) {
+  EXPECT_EQ((CoverageLevels{0x12, 0x34, 0x56}), LevelsOf(0x00123456));
 }
 
 TEST(BackgroundWeight, IsFoundForEveryLevelThatRoundsDown) {

@@ -91,6 +91,33 @@ TEST_F(DibLines, OfWidePensMatchGdi) {
   }
 }
 
+// Again and again, so that they are drawn here.
+TEST_F(DibLines, OfWidePensAndFewPixelsMatchGdi) {
+  for (const int width : {2, 3, 5, -2}) {
+    for (int round = 0; round < 20; ++round) {
+      Use(width);
+      for (int dy = -5; dy <= 5; ++dy) {
+        for (int dx = -5; dx <= 5; ++dx) {
+          const ScreenPoint start = dice_.Place(kWidth, kHeight, 12);
+          pair_.Line({start, {start.x + dx, start.y + dy}});
+        }
+      }
+    }
+    EXPECT_TRUE(pair_.AreSame()) << width;
+  }
+}
+
+TEST_F(DibLines, OfSmallCirclesMatchGdi) {
+  for (int width = 0; width <= 3; ++width) {
+    Use(width);
+    for (int i = 0; i < 3000; ++i) {
+      const int radius = dice_.Between(-70, 70);
+      pair_.Circle(dice_.Place(kWidth, kHeight, 40), radius);
+    }
+    EXPECT_TRUE(pair_.AreSame()) << width;
+  }
+}
+
 TEST_F(DibLines, OfPaletteColoursMatchGdi) {
   for (const std::int32_t high_byte : {0x01, 0x02, 0x10, 0x7F}) {
     pair_.UsePen({1, high_byte << 24 | 0x000003});

@@ -69,7 +69,8 @@ TEST(CirclesThatPassBy, AreNotDrawn) {
 
 TEST(PaintedInk, IsNotPaintedAgain) {
   OneBitBitmap picture(kWidth, kHeight);
-  InkCanvas canvas(picture, kWidth, kHeight);
+  InkCache cache;
+  InkCanvas canvas(picture, kWidth, kHeight, cache);
   canvas.UsePen(kWide);
   canvas.Line(kAcross);
   const std::vector<std::uint8_t> painted(picture.Bits(),

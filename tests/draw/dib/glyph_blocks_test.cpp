@@ -30,9 +30,12 @@ BlendTable Blend(int odd) {
 Glyph AnyGlyph(std::minstd_rand& random, int pixels) {
   BlockPicture picture(20, 20);
   for (int i = 0; i < pixels; ++i) {
-    const auto level = static_cast<std::uint32_t>(random() % 254);
-    picture.Set(kOrigin.x + static_cast<int>(random() % kCell), static_cast<int>(random() % 16),
-                level * 0x00010101);
+    const auto level = [&] { return static_cast<std::uint32_t>(random() % 254); };
+    const int x = kOrigin.x + static_cast<int>(random() % kCell);
+    const int y = 1 + static_cast<int>(random() % 16);
+    const std::uint32_t red = level();
+    const std::uint32_t green = level();
+    picture.Set(x, y, red << 16 | green << 8 | level());
   }
   return Glyph::FromPicture(picture.Block(), kOrigin, kCell).value();
 }

@@ -35,10 +35,10 @@ TEST(Glyphs, RememberTheirPixelsAndTheWayToTheNext) {
   ASSERT_TRUE(glyph);
   EXPECT_EQ(2, glyph->Advance());
   ASSERT_EQ(2u, glyph->Pixels().size());
-  EXPECT_EQ(0, glyph->Pixels()[0].level);
+  EXPECT_EQ((CoverageLevels{0, 0, 0}), glyph->Pixels()[0].levels);
   EXPECT_EQ(1, glyph->Pixels()[1].x);
   EXPECT_EQ(2, glyph->Pixels()[1].y);
-  EXPECT_EQ(0x80, glyph->Pixels()[1].level);
+  EXPECT_EQ((CoverageLevels{0x80, 0x80, 0x80}), glyph->Pixels()[1].levels);
 }
 
 TEST(Glyphs, DarkenWhatLiesBelow) {
@@ -67,20 +67,58 @@ TEST(Glyphs, AreCutAtEachEdge) {
   }
 }
 
-TEST(Glyphs, AreNotMadeOfColour) {
-  for (const std::uint32_t color : {0x00808081u, 0x00818080u, 0x00808180u, 0x01808080u}) {
+TEST(Glyphs, BlendEachChannelByItsLevel) {
+  BlockPicture picture = CharacterPicture();
+  picture.Set(3, 4, 0x0080FF00);
+  const auto glyph = Glyph::FromPicture(picture.Block(), {2, 2}, 2);
+  ASSERT_TRUE(glyph);
+  EXPECT_EQ((CoverageLevels{0x80, 0xFF, 0}), glyph->Pixels()[1].levels);
+  BlendTable blend = Blend();
+  BlendRow row;
+  for (std::size_t value = 0; value < row.size(); ++value) {
+    row.at(value) = static_cast<std::uint8_t>(value);
+  }
+  blend.Set(0xFF, row);
+  BlockPicture drawn(4, 4, 0x00FF8040);
+  glyph->Draw(drawn.Block(), blend, {0, 0});
+  EXPECT_EQ(0x00808000u, drawn.At(1, 2));
+}
+
+TEST(Glyphs, AreNotMadeOfPixelsWithAHighByte) {
+  BlockPicture picture = CharacterPicture();
+  picture.Set(2, 2, 0x01808080);
+  EXPECT_FALSE(Glyph::FromPicture(picture.Block(), {2, 2}, 2));
+}
+
+// What lies at the edge may be a part of more.
+TEST(Glyphs, AreNotMadeOfInkAtThePicturesEdge) {
+  for (const ScreenPoint& at : {ScreenPoint{0, 3}, {6, 3}, {3, 0}, {3, 5}}) {
     BlockPicture picture = CharacterPicture();
-    picture.Set(2, 2, color);
-    EXPECT_FALSE(Glyph::FromPicture(picture.Block(), {2, 2}, 2)) << std::hex << color;
+    picture.Set(at.x, at.y, 0);
+    EXPECT_FALSE(Glyph::FromPicture(picture.Block(), {2, 2}, 2)) << at.x << ", " << at.y;
   }
 }
 
-TEST(Glyphs, AreNotMadeOfInkBesideTheirCell) {
-  for (const int x : {1, 4}) {
-    BlockPicture picture = CharacterPicture();
-    picture.Set(x, 3, 0);
-    EXPECT_FALSE(Glyph::FromPicture(picture.Block(), {2, 2}, 2)) << x;
-  }
+// Pixels beside the cell, in the rows of the other character's pixels or not.
+TEST(Glyphs, LieUnderTheNextOneWhereTheirPixelsMeet) {
+  BlockPicture wide = CharacterPicture();
+  wide.Set(4, 3, 0);
+  BlockPicture early = CharacterPicture();
+  early.Set(2, 3, 0);
+  BlockPicture low = CharacterPicture();
+  low.Set(2, 2, 0);
+  const auto made = [](const BlockPicture& picture) {
+    return Glyph::FromPicture(picture.Block(), {2, 2}, 2).value();
+  };
+  const Glyph plain = made(CharacterPicture());
+  EXPECT_FALSE(plain.LeavesCell());
+  EXPECT_TRUE(made(wide).LeavesCell());
+  EXPECT_FALSE(made(early).LeavesCell());
+  EXPECT_FALSE(plain.LiesUnder(plain));
+  EXPECT_FALSE(made(wide).LiesUnder(plain)) << "beside each other";
+  EXPECT_FALSE(plain.LiesUnder(made(early))) << "beside each other";
+  EXPECT_TRUE(made(wide).LiesUnder(made(early)));
+  EXPECT_FALSE(made(wide).LiesUnder(made(low))) << "in different rows";
 }
 
 }  // namespace

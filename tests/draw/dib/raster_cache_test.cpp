@@ -31,15 +31,6 @@ class RasterCacheTest : public testing::Test {
   RasterCache cache_;
 };
 
-class CachedLabels : public RasterCacheTest {
- protected:
-  void SetUp() override {
-    if (!SmoothReference(10, 1).ReadGlyph(u'8')) {
-      GTEST_SKIP() << "GDI antialiases text in colours: labels are left to it";
-    }
-  }
-};
-
 TEST_F(RasterCacheTest, LinesAreKept) {
   const TieRule* lines = cache_.Lines();
   ASSERT_TRUE(lines);
@@ -73,20 +64,22 @@ TEST_F(RasterCacheTest, LabelsOfHeightsWithoutEndAreLeftToGdi) {
   EXPECT_EQ(first, cache_.Labels(10));
 }
 
-TEST_F(CachedLabels, OfPrintableCharactersAreDrawnHere) {
+TEST_F(RasterCacheTest, LabelsOfLettersSideBySideAreDrawnHere) {
   for (const int height : {8, 10, 12, 16}) {
-    for (const char16_t* text : {u"P1", u"0123456789", u"P 7", u" "}) {
+    for (const char16_t* text : {u"P1", u"0123456789", u"P 7", u" ", u"基準点", u"ｱｲｳﾞ", u"é",
+                                 u"a&b", u"&", u"&&", u"点&", u"&点"}) {
       EXPECT_TRUE(DrawsLabel(height, text)) << height;
     }
   }
 }
 
-TEST_F(CachedLabels, OfOtherCharactersAreLeftToGdi) {
-  const std::u16string rows[] = {u"基準点",
-                                 u"P\n1",
+TEST_F(RasterCacheTest, OtherLabelsAreLeftToGdi) {
+  const std::u16string rows[] = {u"P\n1",
                                  u"P\t1",
-                                 u"a&b",
-                                 u"é",
+                                 u"&a&b",
+                                 u"e\u0301",
+                                 u"\u05D0",
+                                 std::u16string(1, char16_t{0xD840}),
                                  u"\x7F",
                                  u"\x1F",
                                  std::u16string(1, u'\0'),
@@ -135,6 +128,28 @@ TEST_F(FullRasterCache, IsDroppedWithAnotherDepthOfTheScreen) {
   cache_.FollowSettings({kSettings.smoothing, 16});
   EXPECT_TRUE(HasRoomForMarks());
   EXPECT_TRUE(HasRoomForLabels());
+}
+
+// Not at once: windows that draw in turn share the cache.
+TEST_F(FullRasterCache, MakesRoomForNewSymbolsWhenNoneOfTheOldIsDrawn) {
+  for (int redraw = 0; redraw < 16; ++redraw) {
+    cache_.FollowSettings(kSettings);
+    EXPECT_FALSE(HasRoomForMarks());
+    EXPECT_FALSE(HasRoomForLabels());
+  }
+  cache_.FollowSettings(kSettings);
+  EXPECT_TRUE(HasRoomForMarks());
+  EXPECT_TRUE(HasRoomForLabels());
+}
+
+TEST_F(FullRasterCache, KeepsWhatIsDrawn) {
+  const MarkMask* mark = cache_.Mark(Symbol(2, 4, 7));
+  SmoothLabels* labels = cache_.Labels(1007);
+  for (int redraw = 0; redraw < 40; ++redraw) {
+    cache_.FollowSettings(kSettings);
+    ASSERT_EQ(mark, cache_.Mark(Symbol(2, 4, 7)));
+    ASSERT_EQ(labels, cache_.Labels(1007));
+  }
 }
 
 TEST_F(FullRasterCache, DropsOnlyTextWithOtherSmoothing) {

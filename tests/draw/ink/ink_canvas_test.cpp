@@ -91,7 +91,8 @@ class InkScenes : public testing::TestWithParam<Scene> {
   OneBitBitmap gdi_picture_{GetParam().width, GetParam().height};
   OneBitBitmap ink_picture_{GetParam().width, GetParam().height};
   GdiCanvas gdi_{gdi_picture_.Dc()};
-  InkCanvas ink_{ink_picture_, GetParam().width, GetParam().height};
+  InkCache cache_;
+  InkCanvas ink_{ink_picture_, GetParam().width, GetParam().height, cache_};
 };
 
 TEST_P(InkScenes, MatchGdi) {

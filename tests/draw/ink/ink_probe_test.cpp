@@ -36,15 +36,17 @@ TEST(InkMarks, AreLeftToGdiWhenLargeOrOfAnotherColour) {
   }
 }
 
-TEST(InkLabelsOfPrintableCharacters, AreDrawnHere) {
+TEST(InkLines, AreDrawnHere) { EXPECT_TRUE(ProbeInkTieRule()); }
+
+TEST(InkLabels, OfLettersSideBySideAreDrawnHere) {
   for (const int height : {8, 10, 12, 16}) {
-    InkLabels labels{InkFont(height)};
+    MemoryBudget memory(1 << 20);
+    InkLabels labels{InkFont(height), memory};
     OneBitReference reference(200, 60);
-    for (const char16_t* text : {u"P1", u"0123456789", u"Wf j", u" "}) {
+    for (const char16_t* text : {u"P1", u"0123456789", u"Wf j", u" ", u"点", u"a&b"}) {
       EXPECT_TRUE(labels.Draw(reference.Pixels(), {5, 5}, text)) << height;
     }
-    EXPECT_FALSE(labels.Draw(reference.Pixels(), {5, 5}, u"点")) << height;
-    EXPECT_FALSE(labels.Draw(reference.Pixels(), {5, 5}, u"a&b")) << height;
+    EXPECT_FALSE(labels.Draw(reference.Pixels(), {5, 5}, u"a\nb")) << height;
   }
 }
 

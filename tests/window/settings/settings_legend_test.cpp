@@ -94,6 +94,20 @@ TEST_F(SettingsLegend, WithoutATitleEditsTheFirstEntry) {
   EXPECT_EQ(2, Entry(1).size);
 }
 
+// The change once took the entry before the first one and wrote into it.
+TEST_F(SettingsLegend, AChangeThatLeavesNothingChosenKeepsTheEntry) {
+  TitleAll();
+  const std::vector<PointLegend> before = AllEntries();
+  Confirm({Choose(kEntries, 2), Choose(kEntries, -1),
+           [](HWND dialog) {
+             EXPECT_EQ(-1, ChosenLine(dialog, kEntries));
+             EXPECT_EQ(5, ChosenLine(dialog, kTextSizes));
+           },
+           Choose(kTextSizes, 7)});
+  EXPECT_EQ(14, Entry(3).text_height);
+  EXPECT_EQ(before[1].text_height, Entry(2).text_height);
+}
+
 TEST_F(SettingsLegend, OffersTheseSizes) {
   Cancel({[](HWND dialog) {
     const Lines sizes{L"なし", L" 2", L" 4", L" 6", L" 8", L"10",

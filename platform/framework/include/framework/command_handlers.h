@@ -4,7 +4,7 @@
 // Windows accepts.
 #pragma once
 
-#include "framework/message_map.h"
+#include "message_map.h"
 
 namespace afx {
 

@@ -1,9 +1,9 @@
 // CColorDialog and CFileDialog: the common dialogs of the system.
 #pragma once
 
-#include "framework/object_list.h"
-#include "framework/string.h"
-#include "framework/wnd.h"
+#include "object_list.h"
+#include "string.h"
+#include "wnd.h"
 
 #include <commdlg.h>
 

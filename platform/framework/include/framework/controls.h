@@ -2,9 +2,9 @@
 // Most members send one message to the control.
 #pragma once
 
-#include "framework/gdi_objects.h"
-#include "framework/string.h"
-#include "framework/wnd.h"
+#include "gdi_objects.h"
+#include "string.h"
+#include "wnd.h"
 
 class AFX_FRAMEWORK CButton : public CWnd {
  public:

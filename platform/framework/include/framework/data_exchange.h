@@ -3,8 +3,8 @@
 // value.
 #pragma once
 
-#include "framework/string.h"
-#include "framework/wnd.h"
+#include "string.h"
+#include "wnd.h"
 
 class AFX_FRAMEWORK CDataExchange {
  public:

@@ -7,8 +7,8 @@
 // GetNumChanges is an addition.
 #pragma once
 
-#include "framework/db_record.h"
-#include "framework/string.h"
+#include "db_record.h"
+#include "string.h"
 
 class CWnd;
 

@@ -1,7 +1,7 @@
 // CCeDBProp and CCeDBRecord: the properties of a database record, and a record in memory.
 #pragma once
 
-#include <windbase.h>
+#include "../windbase.h"
 
 #include <memory>
 #include <vector>

@@ -4,9 +4,9 @@
 // Drawing names that <windows.h> defines as macros are declared twice, see framework/platform.h.
 #pragma once
 
-#include "framework/gdi_objects.h"
-#include "framework/geometry.h"
-#include "framework/string.h"
+#include "gdi_objects.h"
+#include "geometry.h"
+#include "string.h"
 
 class CWnd;
 

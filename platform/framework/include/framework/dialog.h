@@ -1,8 +1,8 @@
 // CDialog: a dialog from a template, modal (DoModal) or not (Create).
 #pragma once
 
-#include "framework/data_exchange.h"
-#include "framework/wnd.h"
+#include "data_exchange.h"
+#include "wnd.h"
 
 class AFX_FRAMEWORK CDialog : public CWnd {
  public:

@@ -1,8 +1,8 @@
 // Exceptions. They are thrown as pointers; the handler that catches one calls Delete().
 #pragma once
 
-#include "framework/object.h"
-#include "framework/string.h"
+#include "object.h"
+#include "string.h"
 
 class AFX_FRAMEWORK CException : public CObject {
   DECLARE_DYNAMIC(CException)

@@ -4,8 +4,8 @@
 // creates a `new CDynLinkLibrary(record)` on attach, and calls AfxTermExtensionModule on detach.
 #pragma once
 
-#include "framework/object.h"
-#include "framework/platform.h"
+#include "object.h"
+#include "platform.h"
 
 struct AFX_EXTENSION_MODULE {
   BOOL bInitialized = FALSE;

@@ -4,9 +4,9 @@
 // the folder that AfxMapDevicePath describes. All calls that take a path map it.
 #pragma once
 
-#include "framework/exception.h"
-#include "framework/object.h"
-#include "framework/string.h"
+#include "exception.h"
+#include "object.h"
+#include "string.h"
 
 // Maps a path of the device to a path of the system. A path that begins with exactly one backslash
 // is placed in the folder named by the environment variable CE_DEVICE_ROOT, which is read at each

@@ -2,7 +2,7 @@
 // its window was destroyed.
 #pragma once
 
-#include "framework/wnd.h"
+#include "wnd.h"
 
 class AFX_FRAMEWORK CFrameWnd : public CWnd {
  public:

@@ -1,9 +1,9 @@
 // The drawing objects: CGdiObject and its classes CPen, CBrush, CFont, CBitmap, CRgn.
 #pragma once
 
-#include "framework/geometry.h"
-#include "framework/object.h"
-#include "framework/platform.h"
+#include "geometry.h"
+#include "object.h"
+#include "platform.h"
 
 class CBitmap;
 class CDC;

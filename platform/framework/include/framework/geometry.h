@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "framework/platform.h"
+#include "platform.h"
 
 class CPoint;
 

@@ -2,8 +2,8 @@
 // it was detached, for example because it became the menu of a window.
 #pragma once
 
-#include "framework/object.h"
-#include "framework/string.h"
+#include "object.h"
+#include "string.h"
 
 class CWnd;
 

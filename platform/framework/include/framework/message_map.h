@@ -7,8 +7,8 @@
 #include <cstddef>
 #include <cstring>
 
-#include "framework/object.h"
-#include "framework/platform.h"
+#include "object.h"
+#include "platform.h"
 
 class CCmdTarget;
 struct AFX_MSGMAP_ENTRY;

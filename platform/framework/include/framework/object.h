@@ -1,7 +1,7 @@
 // CObject: the root of the framework's classes.
 #pragma once
 
-#include "framework/platform.h"
+#include "platform.h"
 
 // The run-time description of a class.
 struct CRuntimeClass {

@@ -1,7 +1,7 @@
 // CObList: a doubly linked list of pointers to objects.
 #pragma once
 
-#include "framework/object.h"
+#include "object.h"
 
 // A position in a list, or null.
 struct AFX_POSITION;

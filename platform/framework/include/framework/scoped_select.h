@@ -6,7 +6,7 @@
 // Both the context and the object must outlive it.
 #pragma once
 
-#include "framework/dc.h"
+#include "dc.h"
 
 class CScopedSelect {
  public:

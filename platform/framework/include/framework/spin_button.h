@@ -1,7 +1,7 @@
 // CSpinButtonCtrl: an up-down control, usually with an edit as its buddy.
 #pragma once
 
-#include "framework/wnd.h"
+#include "wnd.h"
 
 #include <commctrl.h>
 

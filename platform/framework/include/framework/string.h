@@ -10,7 +10,7 @@
 
 #include <cstdarg>
 
-#include "framework/platform.h"
+#include "platform.h"
 
 class AFX_FRAMEWORK CString {
  public:

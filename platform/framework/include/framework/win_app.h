@@ -2,9 +2,9 @@
 // global object of a class derived from CWinApp. It is optional: see AfxPreTranslateMessage.
 #pragma once
 
-#include "framework/message_map.h"
-#include "framework/string.h"
-#include "framework/wnd.h"
+#include "message_map.h"
+#include "string.h"
+#include "wnd.h"
 
 class AFX_FRAMEWORK CWinThread : public CCmdTarget {
  public:

@@ -2,10 +2,10 @@
 // has a default for each, which calls Default().
 #pragma once
 
-#include "framework/controls.h"
-#include "framework/dc.h"
-#include "framework/menu.h"
-#include "framework/wnd.h"
+#include "controls.h"
+#include "dc.h"
+#include "menu.h"
+#include "wnd.h"
 
 namespace afx {
 

@@ -8,9 +8,9 @@
 // Members named after macros of <windows.h> are declared twice, see framework/platform.h.
 #pragma once
 
-#include "framework/geometry.h"
-#include "framework/message_map.h"
-#include "framework/string.h"
+#include "geometry.h"
+#include "message_map.h"
+#include "string.h"
 
 class CDC;
 class CDataExchange;

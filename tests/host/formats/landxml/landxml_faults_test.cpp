@@ -91,6 +91,7 @@ TEST(LandXmlFaults, SkipsAndSaysBadElementsAndKeepsTheOthers) {
       {"<CoordGeom><Chain>a</Chain></CoordGeom>",
        "the point 'a' that is referred to is not in this file"},
       {"<CoordGeom><Chain/></CoordGeom>", "the Chain names no points"},
+      {"<CoordGeom><Chain>good</Chain></CoordGeom>", "the Chain names a single point"},
   };
   for (const auto& row : rows) {
     const Read read =

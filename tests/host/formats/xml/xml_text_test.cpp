@@ -47,5 +47,11 @@ TEST(Utf8XmlText, RefusesAnEncodingItDoesNotKnow) {
             Utf8XmlText("<?xml version=\"1.0\" encoding=\"Shift_JIS\"?><a>\x8A</a>").problem);
 }
 
+// The bytes of the name went into the sentence, which was then no text itself.
+TEST(Utf8XmlText, RefusesANameThatIsNoTextInASentenceThatIs) {
+  EXPECT_EQ("is not text in an encoding that is known here ('þtf'); save it as UTF-8",
+            Utf8XmlText("<?xml version=\"1.0\" encoding=\"\xFEtf\"?><a>\xC0\xB1</a>").problem);
+}
+
 }  // namespace
 }  // namespace fieldhost

@@ -1,0 +1,35 @@
+# The target docs: the public headers and the pages of docs/ as HTML in ${PROJECT_BINARY_DIR}/html,
+# the guide first. What is public and not documented is an error, and so is a link to nowhere.
+find_package(Doxygen 1.9 REQUIRED)
+
+set(DOXYGEN_PROJECT_NAME "Tavix")
+set(DOXYGEN_PROJECT_NUMBER ${PROJECT_VERSION})
+set(DOXYGEN_USE_MDFILE_AS_MAINPAGE ${PROJECT_SOURCE_DIR}/docs/guide/README.md)
+set(DOXYGEN_FULL_PATH_NAMES YES)
+set(DOXYGEN_STRIP_FROM_PATH ${PROJECT_SOURCE_DIR}/docs ${PROJECT_SOURCE_DIR}/include)
+set(DOXYGEN_IMAGE_PATH ${PROJECT_SOURCE_DIR}/docs)
+set(DOXYGEN_MARKDOWN_SUPPORT YES)
+set(DOXYGEN_TOC_INCLUDE_HEADINGS 0)
+set(filter ${PROJECT_SOURCE_DIR}/scripts/doxygen_input.py)
+set(DOXYGEN_FILE_PATTERNS *.h *.md)
+set(DOXYGEN_FILTER_PATTERNS "*.h=${filter}" "*.md=${filter}")
+set(DOXYGEN_EXTRACT_ALL NO)
+set(DOXYGEN_OPTIMIZE_OUTPUT_FOR_C YES)
+set(DOXYGEN_EXTENSION_MAPPING "h=C++")
+set(DOXYGEN_MACRO_EXPANSION YES)
+set(DOXYGEN_EXPAND_ONLY_PREDEF YES)
+set(DOXYGEN_PREDEFINED TAVIX_LIBRARY_BUILD "TAVIX_CALL=" "TAVIX_C_CALL=" "TAVIX_C_CDECL=")
+set(DOXYGEN_SEARCH_INCLUDES NO)
+set(DOXYGEN_SHOW_INCLUDE_FILES NO)
+set(DOXYGEN_VERBATIM_HEADERS NO)
+set(DOXYGEN_HAVE_DOT NO)
+set(DOXYGEN_WARN_IF_UNDOCUMENTED YES)
+set(DOXYGEN_WARN_AS_ERROR FAIL_ON_WARNINGS)
+set(DOXYGEN_QUIET YES)
+# The programs of the guide, which its pages link.
+file(GLOB programs CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/guide/*.c)
+set(DOXYGEN_HTML_EXTRA_FILES ${programs})
+doxygen_add_docs(docs
+  ${PROJECT_SOURCE_DIR}/include/tavix
+  ${PROJECT_SOURCE_DIR}/docs
+  COMMENT "Making the documents as HTML")

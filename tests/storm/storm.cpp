@@ -1,0 +1,81 @@
+#include "tests/storm/storm.h"
+
+#include <tavix/tavix.h>
+
+#include "tests/support/message_pump.h"
+
+namespace tavix::storm {
+
+Storm::Storm(std::uint64_t seed) : chance_(seed) { Tavix_SetIdx(0); }
+
+Storm::~Storm() {
+  for (int index = 0; index < kInstances; ++index) {
+    Tavix_SetIdx(index);
+    Tavix_Del();
+  }
+  host_.reset();
+  test::DrainMessages();
+}
+
+void Storm::Step() {
+  constexpr int kHandsAmongCalls = 6;
+  constexpr int kStepsBetweenPictures = 100;
+  if (chance_.OneIn(kHandsAmongCalls)) {
+    MoveHands(*this);
+  } else {
+    MakeCall(*this);
+  }
+  CheckAfterStep();
+  if (++steps_ % kStepsBetweenPictures == 0) CheckPicture(*this);
+}
+
+test::PlotHost& Storm::Host() {
+  if (!host_) host_ = std::make_unique<test::PlotHost>();
+  return *host_;
+}
+
+void Storm::DestroyHost() {
+  host_.reset();
+  test::DrainMessages();
+}
+
+void Storm::Note(std::string text) {
+  constexpr std::size_t kKept = 40;
+  notes_.push_back(std::to_string(index_) + ": " + std::move(text));
+  if (notes_.size() > kKept) notes_.pop_front();
+}
+
+std::string Storm::Recent() const {
+  std::string text = "step " + std::to_string(steps_) + ", after these calls:";
+  for (const std::string& note : notes_) text += "\n  " + note;
+  return text;
+}
+
+void Storm::Expect(bool holds, const std::string& what) const {
+  if (!holds) throw Broken(what + "\n" + Recent());
+}
+
+void Storm::ExpectCode(int expected, int code) const {
+  Expect(code == expected,
+         "the code is " + std::to_string(code) + ", not " + std::to_string(expected));
+}
+
+void Storm::CheckAfterStep() {
+  int index = -1;
+  Tavix_GetIdx(&index);
+  Expect(index == index_, "instance " + std::to_string(index) + " is current");
+  const Model& model = Now();
+  int angle = -1;
+  ExpectCode(model.exists ? 0 : -1, Tavix_GetAng(&angle));
+  if (model.exists) {
+    Expect(angle >= 0 && angle <= 359, "the angle is " + std::to_string(angle));
+  }
+  Expect((Tavix_Wnd() != nullptr) == model.linked, "there is a window, or none, against the model");
+  if (model.linked) {
+    // What the view says of the middle of its own window has to agree with itself.
+    const HWND window = Tavix_Wnd()->m_hWnd;
+    Expect(!window || ::IsWindow(window), "the window's handle is a dead one");
+  }
+}
+
+}  // namespace tavix::storm
