@@ -13,11 +13,13 @@ void GdiSymbol::Use(const Pen& pen, bool is_filled) {
   is_filled_ = is_filled;
   LOGPEN logical{PS_SOLID, {pen.width, pen.width}, static_cast<COLORREF>(pen.color)};
   pen_.CreatePenIndirect(&logical);
-  old_pen_ = dc_.SelectObject(&pen_);
+  old_pen_ = dc_.SelectObject(pen_.m_hObject);
   if (is_filled) {
     brush_.CreateSolidBrush(static_cast<COLORREF>(pen.color));
-    old_brush_ = dc_.SelectObject(&brush_);
+    old_brush_ = dc_.SelectObject(brush_.m_hObject);
   }
+  // What could not be made is asked for again.
+  if (!pen_.m_hObject || (is_filled && !brush_.m_hObject)) pen_in_use_.reset();
 }
 
 void GdiSymbol::Use(const PointSymbol& symbol) {
@@ -32,7 +34,7 @@ void GdiSymbol::SelectFont(int height) {
   DropFont();
   const LOGFONTW font = LabelFont(height);
   font_.CreateFontIndirect(&font);
-  old_font_ = dc_.SelectObject(&font_);
+  old_font_ = dc_.SelectObject(font_.m_hObject);
   font_height_ = height;
 }
 

@@ -45,9 +45,9 @@ class GdiSymbol {
   CBrush brush_;
   CFont font_;
   int font_height_ = 0;  // pixels; 0 while there is none
-  CPen* old_pen_ = nullptr;
-  CBrush* old_brush_ = nullptr;
-  CFont* old_font_ = nullptr;
+  HGDIOBJ old_pen_ = nullptr;
+  HGDIOBJ old_brush_ = nullptr;
+  HGDIOBJ old_font_ = nullptr;
 };
 
 // Draws into any device context, one GDI call an operation. Every other canvas has to give its

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <afxwin.h>
+#include <framework/scoped_select.h>
 
 namespace tavix {
 
@@ -25,19 +26,16 @@ class XorDrawing {
   XorDrawing(CDC& dc, int style, int width, COLORREF color)
       : dc_(dc),
         pen_(style, width, color),
-        old_pen_(dc.SelectObject(&pen_)),
+        pen_in_use_(dc, pen_),
         old_operation_(dc.SetROP2(R2_XORPEN)) {}
-  ~XorDrawing() {
-    dc_.SetROP2(old_operation_);
-    dc_.SelectObject(old_pen_);
-  }
+  ~XorDrawing() { dc_.SetROP2(old_operation_); }
   XorDrawing(const XorDrawing&) = delete;
   XorDrawing& operator=(const XorDrawing&) = delete;
 
  private:
   CDC& dc_;
   CPen pen_;
-  CPen* old_pen_;
+  CScopedSelect pen_in_use_;
   int old_operation_;
 };
 

@@ -55,8 +55,9 @@ void CloseAndDelete(CFile& file) {
   if (!path.IsEmpty()) Quietly([&] { CFile::Remove(path); });
 }
 
-std::uint64_t LengthOf(CFile& file) {
-  std::uint64_t length = 0;
+// Nothing when the length cannot be found out.
+std::optional<std::uint64_t> LengthOf(CFile& file) {
+  std::optional<std::uint64_t> length;
   Quietly([&] { length = file.GetLength(); });
   return length;
 }
@@ -160,10 +161,14 @@ int CFigList::AddCurve(std::span<const GroundPoint> points) {
 
 // Points first and record last, so that a record never refers to missing points. What does not fit
 // is cut off again: otherwise the points of later figures would be read as those of this record.
-// The record is written behind the last whole one, over a record that was cut short.
+// The record is written behind the last whole one, over a record that was cut short. Where the end
+// of a file cannot be found out nothing is written: it would go over the first figures.
 void CFigList::Append(std::int32_t point_count, bool is_circle,
                       std::span<const GroundPoint> points) {
-  const std::uint64_t first_point = LengthOf(*coordinates_);
+  const std::optional<std::uint64_t> end_of_points = LengthOf(*coordinates_);
+  const std::optional<std::uint64_t> end_of_records = LengthOf(*index_);
+  if (!end_of_points || !end_of_records) return;
+  const std::uint64_t first_point = *end_of_points;
   std::vector<unsigned char> bytes;
   bytes.reserve(points.size() * kFigurePointSize);
   for (const GroundPoint point : points) {
@@ -177,7 +182,8 @@ void CFigList::Append(std::int32_t point_count, bool is_circle,
   pending_.first_point = static_cast<std::uint32_t>(first_point);
   pending_.deleted = 0;
   const FigureRecordBytes record = EncodeFigureRecord(pending_);
-  if (!Extend(*index_, OffsetOf(Count()), record)) CutTo(*coordinates_, first_point);
+  const std::uint64_t first_place = *end_of_records / kFigureRecordSize * kFigureRecordSize;
+  if (!Extend(*index_, first_place, record)) CutTo(*coordinates_, first_point);
 }
 
 int CFigList::Delete(std::int32_t number) {
@@ -197,7 +203,7 @@ int CFigList::Delete(std::int32_t number) {
 }
 
 std::int32_t CFigList::Count() const {
-  return static_cast<std::int32_t>(LengthOf(*index_) / kFigureRecordSize);
+  return static_cast<std::int32_t>(LengthOf(*index_).value_or(0) / kFigureRecordSize);
 }
 
 int CFigList::Get(std::int32_t index, Figure* figure) const {

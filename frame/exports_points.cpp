@@ -40,8 +40,8 @@ int Tavix_GetPntNoNam(int key, int* number, CString* name) {
   return OnInstance([=](Instance& instance) {
     const auto point = instance.FindPoint(key);
     if (!point) return kRefused;
+    *name = ToHostString(point->name);  // first: only the name may need memory
     *number = point->number;
-    *name = ToHostString(point->name);
     return 0;
   });
 }
@@ -99,8 +99,8 @@ int Tavix_GetPnt3NoNam(int key, int* number, CString* name) {
   return OnInstance([=](Instance& instance) {
     const auto point = instance.FindPoint3(key);
     if (!point) return kRefused;
+    *name = ToHostString(point->name);  // first: only the name may need memory
     *number = point->number;
-    *name = ToHostString(point->name);
     return 0;
   });
 }

@@ -1,6 +1,9 @@
 #include "frame/instance.h"
 
+#include <new>
+
 #include "frame/instance_parts.h"
+#include "window/output.h"
 #include "window/overlays/moved_point.h"
 #include "window/plot_display.h"
 #include "window/plot_window.h"
@@ -20,12 +23,22 @@ Instance::Instance(int index)
 }
 
 Instance::~Instance() {
-  if (window_) window_->DestroyWindow();
+  // Each step is taken, whether or not there was memory for the one before.
+  const auto take = [](auto step) {
+    try {
+      step();
+    } catch (const std::bad_alloc&) {
+      // The step is left half done: an instance ends all the same.
+    }
+  };
+  take([&] {
+    if (window_) window_->DestroyWindow();
+  });
   window_.reset();
-  parts_->memos.Discard();
-  parts_->lines.Discard();
-  parts_->figures.Close();
-  parts_->legend.Save();
+  take([&] { parts_->memos.Discard(); });
+  take([&] { parts_->lines.Discard(); });
+  take([&] { parts_->figures.Close(); });
+  take([&] { parts_->legend.Save(); });
 }
 
 CViewState& Instance::View() { return parts_->view; }
@@ -77,7 +90,8 @@ int Instance::StartMovePoint(int legend) {
 int Instance::Redraw(bool keep_view) {
   if (!window_) return -1;
   PlotDisplay& display = window_->Display();
-  if (!keep_view) display.Shown().Fit();  // with nothing to fit the view stays
+  // With nothing to fit the view stays, and without memory to find out.
+  if (!keep_view) DrawWhatCanBe([&] { display.Shown().Fit(); });
   return display.ViewChanged();
 }
 

@@ -1,9 +1,12 @@
 // The library's five slots, the one that is current, and what the exported calls ask of it.
 #pragma once
 
+#include <afxwin.h>
+
 #include <array>
 #include <cstddef>
 #include <memory>
+#include <new>
 
 #include "frame/instance.h"
 
@@ -49,12 +52,26 @@ class SlotTable {
 
 constexpr int kRefused = -1;
 
-// Has `call` answer for the current instance, and refuses where there is none. A redraw that is
-// pending stays pending: the call changes nothing of what is drawn, or knows itself what to do.
+// Has `call` answer, and refuses where the system has no memory or no drawing object for it.
+template <class Call>
+int WithinResources(Call call) {
+  try {
+    return call();
+  } catch (const std::bad_alloc&) {
+    return kRefused;
+  } catch (CResourceException* exception) {
+    exception->Delete();
+    return kRefused;
+  }
+}
+
+// Has `call` answer for the current instance, and refuses where there is none or the system has
+// nothing left for the call. A redraw that is pending stays pending: the call changes nothing of
+// what is drawn, or knows itself what to do.
 template <class Call>
 int OnInstance(Call call) {
   Instance* instance = Slots().Current();
-  return instance ? call(*instance) : kRefused;
+  return instance ? WithinResources([&] { return call(*instance); }) : kRefused;
 }
 
 // The same for the current instance's window, which has to be linked.

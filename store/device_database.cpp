@@ -2,6 +2,8 @@
 
 #include <windbase.h>
 
+#include <new>
+
 namespace tavix {
 
 DeviceDatabase::DeviceDatabase(LPCWSTR base_name, int instance, DWORD ident,
@@ -12,7 +14,13 @@ DeviceDatabase::DeviceDatabase(LPCWSTR base_name, int instance, DWORD ident,
   Recreate();
 }
 
-DeviceDatabase::~DeviceDatabase() { Discard(); }
+DeviceDatabase::~DeviceDatabase() {
+  try {
+    Discard();
+  } catch (const std::bad_alloc&) {
+    // It stays on the device, and is replaced by the next one of its name.
+  }
+}
 
 bool DeviceDatabase::Open(CCeDBProp* sort_property) {
   return database_.Open(name_, sort_property) != FALSE;

@@ -17,10 +17,15 @@ class KeyIndex {
  public:
   static constexpr std::uint32_t kNone = 0xFFFFFFFF;  // no position
 
+  // Makes room for one entry more, so that the next Insert needs no memory.
+  void MakeRoom() {
+    if ((count_ + 1) * 2 > slots_.size()) Grow();
+  }
+
   // True when another record with this key was there before; the search for it is the one for the
   // place of the new entry.
   bool Insert(std::int32_t key, std::uint32_t position) {
-    if ((count_ + 1) * 2 > slots_.size()) Grow();
+    MakeRoom();
     ++count_;
     return Place({key, position});
   }
@@ -84,8 +89,8 @@ class KeyIndex {
 
   void Grow() {
     constexpr std::size_t kFirst = 64;
-    const std::vector<Slot> old = std::move(slots_);
-    slots_.assign(old.empty() ? kFirst : old.size() * 2, Slot());
+    std::vector<Slot> old(slots_.empty() ? kFirst : slots_.size() * 2);
+    slots_.swap(old);
     shift_ = 64;
     for (std::size_t size = slots_.size(); size > 1; size /= 2) --shift_;
     for (const Slot slot : old) {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <utility>
 
 #include "store/name_pool.h"
@@ -16,7 +17,8 @@ namespace tavix {
 // record into a point by View(record).
 //
 // A store accepts a key twice; the exported calls look a key up first and never enter one twice.
-// Operations return 0 for success, -1 when nothing was found, -2 without a current point.
+// Operations return 0 for success, -1 when nothing was found, -2 without a current point. One for
+// which there is no memory throws std::bad_alloc, and the store is as it was.
 template <class Store, class Record, class Point>
 class KeyedPoints {
  public:
@@ -44,8 +46,8 @@ class KeyedPoints {
   int SetCurNoNam(std::int32_t number, NameView name) {
     Record* current = records_.Current();
     if (!current) return -2;
-    current->number = number;
     names_.Replace(current->name, name);
+    current->number = number;
     CloseNameGaps();
     return 0;
   }
@@ -82,7 +84,12 @@ class KeyedPoints {
   KeyedPoints() = default;
 
   void Append(const Record& record) {
-    records_.Append(record);
+    try {
+      records_.Append(record);
+    } catch (const std::bad_alloc&) {
+      names_.Drop(record.name);
+      throw;
+    }
     changed_ = true;
   }
 
@@ -98,6 +105,11 @@ class KeyedPoints {
   void CloseNameGaps() {
     if (!names_.IsMostlyGaps()) return;
     NamePool packed;
+    try {
+      packed.MakeRoomFor(names_);
+    } catch (const std::bad_alloc&) {
+      return;  // the gaps stay until the next change
+    }
     records_.ForEach([&](Record& record) { record.name = packed.Add(names_.View(record.name)); });
     names_ = std::move(packed);
   }

@@ -1,5 +1,7 @@
 #include "store/line_lookup.h"
 
+#include <new>
+
 #include "store/line_codec.h"
 
 namespace tavix {
@@ -18,8 +20,12 @@ bool LineLookup::IsKnownAbsent(LineKeys keys) const {
 }
 
 void LineLookup::Added(LineKeys keys, CEOID record) {
-  ++indexed_changes_;
-  index_.Enter(keys, record);
+  try {
+    index_.Enter(keys, record);
+    ++indexed_changes_;
+  } catch (const std::bad_alloc&) {
+    // The index is behind the database now, and is built again by a later search.
+  }
 }
 
 void LineLookup::Deleted(LineKeys keys) {

@@ -41,11 +41,15 @@ class NamePool {
       name.length = static_cast<std::uint32_t>(text.size());
       return;
     }
+    const PooledName added = Add(text);
     Drop(name);
-    name = Add(text);
+    name = added;
   }
 
   void Drop(PooledName name) { wasted_ += name.length; }
+
+  // Makes room for all names of another pool, so that adding them needs no memory.
+  void MakeRoomFor(const NamePool& other) { text_.reserve(other.text_.size()); }
 
   [[nodiscard]] bool IsMostlyGaps() const { return wasted_ > kSmall && wasted_ > text_.size() / 2; }
 

@@ -20,12 +20,11 @@ int CPnt3List::GetCurCrd(GroundPoint* at, double* z) const {
 
 int CPnt3List::SetCur(std::int32_t number, NameView name, GroundPoint at, double z,
                       std::int16_t legend) {
+  if (SetCurNoNam(number, name) != 0) return -2;  // first: only the name may need memory
   Pnt3Rec* current = Records().Current();
-  if (!current) return -2;
   current->at = at;
   current->z = z;
-  SetCurHan(legend);
-  return SetCurNoNam(number, name);
+  return SetCurHan(legend);
 }
 
 int CPnt3List::GetExtent(GroundExtent3* extent) const {

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <span>
 #include <vector>
 
@@ -41,7 +42,10 @@ class PointIndex {
       visit(static_cast<Position>(at));
       return true;
     };
-    Follow(records, 2);
+    if (!Follow(records, 2)) {
+      Scan(all, 0, all.size(), touches, visit_at);
+      return;
+    }
     for (std::size_t i = 0; i < stretches_.size(); ++i) {
       std::size_t from = i * kStretch;
       const Stretch* stretch = Indexed(all, i);
@@ -68,7 +72,10 @@ class PointIndex {
       to = std::min(to + kStepsPerHit, all.size());
     }
     if (at == all.size()) return;
-    Follow(records, 1);
+    if (!Follow(records, 1)) {
+      Scan(all, at, all.size(), touches, visit_at);
+      return;
+    }
     for (std::size_t i = at / kStretch; i < stretches_.size(); ++i) {
       at = std::max(at, i * kStretch);
       if (Stretch* stretch = Indexed(all, i)) {
@@ -87,7 +94,11 @@ class PointIndex {
     if (position >= stretch.end) return;
     const auto place = std::lower_bound(stretch.outside.begin(), stretch.outside.end(), position);
     if (place != stretch.outside.end() && *place == position) return;
-    stretch.outside.insert(place, position);
+    try {
+      stretch.outside.insert(place, position);
+    } catch (const std::bad_alloc&) {
+      stretch = Empty(position / kStretch);
+    }
     if (stretch.outside.size() > kAlwaysScanned + (stretch.end - stretch.begin) / 64) {
       stretch = Empty(position / kStretch);
     }
@@ -95,6 +106,7 @@ class PointIndex {
 
  private:
   static constexpr std::size_t kStretch = PackedRTree::kMostPoints;
+  static constexpr std::size_t kBits = 64;  // of one number of hits_
   static constexpr std::size_t kAlwaysScanned = 256;
   static constexpr std::size_t kStepsPerHit = 512;  // what the tree needs to find one more point
   static constexpr std::size_t kManyShare = 4;      // a scan is faster for one in so many
@@ -114,13 +126,18 @@ class PointIndex {
   [[nodiscard]] static GroundExtent BoxOf(const Record& record) { return {record.at, record.at}; }
 
   // Begins a call that may build so many trees: all positions may have changed, and the list may
-  // have grown.
-  void Follow(const Records& records, int most_built) {
+  // have grown. False without memory for it: then all is scanned.
+  [[nodiscard]] bool Follow(const Records& records, int most_built) {
     if (numbering_ != records.Numbering()) stretches_.clear();
     numbering_ = records.Numbering();
     buildable_ = most_built;
     const std::size_t count = (records.ByPosition().size() + kStretch - 1) / kStretch;
-    while (stretches_.size() < count) stretches_.push_back(Empty(stretches_.size()));
+    try {
+      while (stretches_.size() < count) stretches_.push_back(Empty(stretches_.size()));
+    } catch (const std::bad_alloc&) {
+      stretches_.clear();
+    }
+    return stretches_.size() == count;
   }
 
   // The stretch if it has a tree, which is built when its time has come; otherwise null.
@@ -130,7 +147,11 @@ class PointIndex {
     if (stretch.end < EndOf(all, i) && in_vain_ >= kBuildingCost * size && buildable_ > 0) {
       in_vain_ -= kBuildingCost * size;
       --buildable_;
-      Build(all.first(EndOf(all, i)), stretch);
+      try {
+        Build(all.first(EndOf(all, i)), stretch);
+      } catch (const std::bad_alloc&) {
+        stretch = Empty(i);
+      }
     }
     return stretch.end > stretch.begin ? &stretch : nullptr;
   }
@@ -149,6 +170,7 @@ class PointIndex {
         stretch.outside.push_back(static_cast<Position>(at));
       }
     }
+    hits_.resize(kStretch / kBits);
     stretch.tree.Build(
         inside, [records = all.subspan(stretch.begin)](std::size_t at) { return records[at].at; });
   }
@@ -201,8 +223,6 @@ class PointIndex {
   template <class Touches, class Visit>
   void VisitIndexed(std::span<const Record> all, const Stretch& stretch, Touches& touches,
                     const Visit& visit) {
-    constexpr std::size_t kBits = 64;
-    hits_.resize(kStretch / kBits);
     const auto mark = [&](std::size_t offset) {
       hits_[offset / kBits] |= std::uint64_t{1} << offset % kBits;
     };

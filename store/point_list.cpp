@@ -32,9 +32,9 @@ int CPntList::SetCurCrd(GroundPoint at) {
 }
 
 int CPntList::SetCur(std::int32_t number, NameView name, GroundPoint at, std::int16_t legend) {
-  if (SetCurCrd(at) != 0) return -2;
+  if (SetCurNoNam(number, name) != 0) return -2;  // first: only the name may need memory
   SetCurHan(legend);
-  return SetCurNoNam(number, name);
+  return SetCurCrd(at);
 }
 
 int CPntList::FindNearest(double tolerance, GroundPoint at, std::int32_t* key) const {

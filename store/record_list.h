@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "store/key_index.h"
@@ -64,8 +66,10 @@ class RecordList {
 
   // ---- Changes
 
+  // Without memory for it the list stays as it is.
   Record& Append(const Record& record) {
     const auto position = static_cast<Position>(records_.size());
+    index_.MakeRoom();
     records_.push_back(record);
     if (index_.Insert(record.key, position)) ++repeated_keys_;
     ++live_;
@@ -172,10 +176,16 @@ class RecordList {
   }
 
   void CloseHoles() {
+    KeyIndex closed;
+    try {
+      Position at = 0;
+      ForEach([&](const Record& record) { closed.Insert(record.key, at++); });
+    } catch (const std::bad_alloc&) {
+      return;  // the holes stay until the next removal
+    }
     ++numbering_;
     std::erase_if(records_, [](const Record& record) { return record.removed; });
-    index_.Clear();
-    for (Position at = 0; at < records_.size(); ++at) index_.Insert(records_[at].key, at);
+    index_ = std::move(closed);
   }
 
   std::vector<Record> records_;

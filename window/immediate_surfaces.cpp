@@ -4,10 +4,12 @@ namespace tavix {
 
 void ImmediateSurfaces::Draw(const std::function<void(PlanCanvas&)>& draw) {
   if (window_.IsWindowVisible()) {
-    if (!screen_) screen_.emplace(window_);
-    draw(screen_->canvas);
+    DrawWhatCanBe([&] {
+      if (!screen_) screen_.emplace(window_);
+      draw(screen_->canvas);
+    });
   }
-  draw(BufferCanvas());
+  DrawWhatCanBe([&] { draw(BufferCanvas()); });
 }
 
 void ImmediateSurfaces::Release() {

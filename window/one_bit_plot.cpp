@@ -14,7 +14,8 @@ int OneBitPlot::Build(int height, int width) {
   picture_->Release();
   if (GroupPicture::IsTooLarge(height, width)) return -1;
   PlanScene& plan = display_.Plan();
-  BeepIfCut(picture_->Build(plan.Data(), plan.Frame().Sheet(), height, width));
+  DrawWhatCanBe(
+      [&] { BeepIfCut(picture_->Build(plan.Data(), plan.Frame().Sheet(), height, width)); });
   return 0;
 }
 

@@ -4,6 +4,7 @@
 #include <afxwin.h>
 #include <framework/scoped_select.h>
 
+#include <new>
 #include <optional>
 
 #include "draw/dib/dib_section.h"
@@ -55,6 +56,19 @@ class ClientSurface {
   HWND window_;
   CDC dc_;
 };
+
+// Runs a step of drawing. Drawing reports no failure: where the system has no memory or no drawing
+// object for it, the rest of the step is left out, and the next redraw draws it.
+template <class Draw>
+void DrawWhatCanBe(Draw draw) {
+  try {
+    draw();
+  } catch (const std::bad_alloc&) {
+    // Left out.
+  } catch (CResourceException* exception) {
+    exception->Delete();
+  }
+}
 
 // The user hears when something was refused.
 void BeepOnRefusal();

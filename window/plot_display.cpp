@@ -41,14 +41,18 @@ void PlotDisplay::FinishRedraw() {
   immediate_.Release();
   buffer_.Fill();
   plan_.Trace().ForgetSegments();
-  if (buffer_.Pixels().pixels && way_ == DrawingWay::kFast) {
-    DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), RasterCache::OfProcess());
-    shown_->Draw(canvas);
-  } else {
-    GdiCanvas canvas(buffer_.Dc());
-    shown_->Draw(canvas);
+  DrawWhatCanBe([&] {
+    if (buffer_.Pixels().pixels && way_ == DrawingWay::kFast) {
+      DibCanvas canvas(buffer_.Dc(), buffer_.Pixels(), RasterCache::OfProcess());
+      shown_->Draw(canvas);
+    } else {
+      GdiCanvas canvas(buffer_.Dc());
+      shown_->Draw(canvas);
+    }
+  });
+  for (Overlay* overlay : shown_->Overlays()) {
+    DrawWhatCanBe([&] { overlay->DrawInto(buffer_.Dc()); });
   }
-  for (Overlay* overlay : shown_->Overlays()) overlay->DrawInto(buffer_.Dc());
 }
 
 void PlotDisplay::LeaveOutNewFigures() {
@@ -64,7 +68,9 @@ void PlotDisplay::Paint(CDC& paint, const CRect& clip) {
   immediate_.Release();
   paint.BitBlt(clip.left, clip.top, clip.Width(), clip.Height(), &buffer_.Dc(), clip.left, clip.top,
                SRCCOPY);
-  for (Overlay* overlay : shown_->Overlays()) overlay->PutBack(paint);
+  for (Overlay* overlay : shown_->Overlays()) {
+    DrawWhatCanBe([&] { overlay->PutBack(paint); });
+  }
 }
 
 }  // namespace tavix

@@ -7,6 +7,7 @@
 #include "window/modes/plot_modes.h"
 #include "window/navigation.h"
 #include "window/one_bit_plot.h"
+#include "window/output.h"
 #include "window/plot_display.h"
 #include "window/settings/settings_command.h"
 
@@ -190,14 +191,21 @@ BOOL CPlotWnd::OnEraseBkgnd(CDC* dc) {
 void CPlotWnd::OnPaint() {
   // Before the background is erased: what is on the screen stays there until the picture is ready.
   parts_->display.FinishRedraw();
+  bool begun = false;
   parts_->painting = true;
-  CPaintDC dc(this);
+  DrawWhatCanBe([&] {
+    CPaintDC dc(this);
+    begun = true;
+    parts_->painting = false;
+    CRect clip;
+    const int region = dc.GetClipBox(&clip);
+    if (region == NULLREGION || region == ERROR) return;
+    parts_->buttons.ExcludeFrom(dc);
+    parts_->display.Paint(dc, clip);
+  });
   parts_->painting = false;
-  CRect clip;
-  const int region = dc.GetClipBox(&clip);
-  if (region == NULLREGION || region == ERROR) return;
-  parts_->buttons.ExcludeFrom(dc);
-  parts_->display.Paint(dc, clip);
+  // Otherwise the system would ask for the paint again and again.
+  if (!begun) ValidateRect(nullptr);
 }
 
 }  // namespace tavix

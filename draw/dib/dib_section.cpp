@@ -2,6 +2,8 @@
 
 #include <afxwin.h>
 
+#include <new>
+
 namespace tavix {
 
 PixelBlock CreateDib(CDC& dc, int width, int height, CBitmap& bitmap) {
@@ -10,8 +12,13 @@ PixelBlock CreateDib(CDC& dc, int width, int height, CBitmap& bitmap) {
   BITMAPINFO info{};
   info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, kBits, BI_RGB, 0, 0, 0, 0, 0};
   void* bits = nullptr;
-  if (!bitmap.Attach(::CreateDIBSection(dc.m_hDC, &info, DIB_RGB_COLORS, &bits, nullptr, 0))) {
-    return {};
+  const HBITMAP made = ::CreateDIBSection(dc.m_hDC, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  if (!made) return {};
+  try {
+    bitmap.Attach(made);
+  } catch (const std::bad_alloc&) {
+    ::DeleteObject(made);
+    throw;
   }
   return {static_cast<std::uint32_t*>(bits), width, height};
 }

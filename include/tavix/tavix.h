@@ -24,7 +24,8 @@
 //  8. Calls return 0 for success. Refusals are negative:
 //
 //         -1   refused: unknown key or legend number, slot in use, no instance, no window, or the
-//              window could not be made; each call says which of them it knows
+//              window could not be made; each call says which of them it knows. Of any call, where
+//              the system has no memory for it: it can be made again
 //         other negative codes pass through from the store that failed; the call lists them
 //
 //     With the auto-redraw flag on, a call that redraws returns the redraw's result, which is 0.

@@ -1,6 +1,7 @@
 #include "platform/objectstore/database.h"
 
 #include <algorithm>
+#include <new>
 
 namespace tavix {
 
@@ -86,8 +87,16 @@ void Database::ChangeRecord(Slot slot, std::span<const Property> properties) {
     index->Remove(slot);
     moving[count++] = index.get();
   }
-  records_.Replace(slot, properties);
-  for (std::size_t i = 0; i < count; ++i) moving[i]->Add(slot);
+  const auto move_in = [&] {
+    for (std::size_t i = 0; i < count; ++i) moving[i]->Add(slot);
+  };
+  try {
+    records_.Replace(slot, properties);
+  } catch (const std::bad_alloc&) {
+    move_in();
+    throw;
+  }
+  move_in();
   CountChange();
 }
 

@@ -19,11 +19,16 @@ StoreHandle MakeHandle(std::uint32_t place, std::uint16_t times_used) {
 
 bool HandleTable::IsFull() const { return free_.empty() && places_.size() == kMaxPlaces; }
 
+void HandleTable::MakeRoom() {
+  if (!free_.empty()) return;
+  // Removing a handle then needs no memory.
+  if (free_.capacity() <= places_.size()) free_.reserve(2 * places_.size() + 1);
+  places_.emplace_back();
+  free_.push_back(static_cast<std::uint32_t>(places_.size() - 1));
+}
+
 StoreHandle HandleTable::Add(OpenObject object) {
-  if (free_.empty()) {
-    free_.push_back(static_cast<std::uint32_t>(places_.size()));
-    places_.emplace_back();
-  }
+  MakeRoom();
   const std::uint32_t index = free_.back();
   free_.pop_back();
   Place& place = places_[index];

@@ -26,6 +26,9 @@ class HandleTable {
  public:
   [[nodiscard]] bool IsFull() const;
 
+  // The table must not be full. Makes room for one handle, so that the next Add needs no memory.
+  void MakeRoom();
+
   // The table must not be full.
   StoreHandle Add(OpenObject object);
 

@@ -31,8 +31,8 @@ Outcome<ObjectId> MemoryStore::CreateDatabase(std::u16string_view name, std::uin
   database->SetName(name);
   database->SetType(type);
   database->SetOrders(orders);
-  directory_.Set(id, {database.get(), ObjectDirectory::kIsDatabase});
   databases_.push_back(std::move(database));
+  directory_.Set(id, {databases_.back().get(), ObjectDirectory::kIsDatabase});
   return id;
 }
 
@@ -94,6 +94,7 @@ Outcome<StoreHandle> MemoryStore::Open(ObjectId database, PropertyId sort, bool 
   Database* found = DatabaseOf(database);
   if (!found) return StoreError::kInvalidParameter;
   if (handles_.IsFull()) return StoreError::kTooManyOpen;
+  handles_.MakeRoom();
   OpenObject open;
   open.database = found;
   open.cursor = found->OpenCursor(sort, auto_increment);

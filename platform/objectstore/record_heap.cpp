@@ -1,6 +1,8 @@
 #include "platform/objectstore/record_heap.h"
 
+#include <algorithm>
 #include <cstring>
+#include <new>
 
 namespace tavix {
 namespace {
@@ -29,25 +31,29 @@ RecordHeap::~RecordHeap() {
 }
 
 RecordHeap::Slot RecordHeap::Add(ObjectId id, std::span<const Property> properties) {
-  Slot slot = SlotEnd();
-  if (free_slots_.empty()) {
-    records_.emplace_back();
-  } else {
-    slot = free_slots_.back();
-    free_slots_.pop_back();
-  }
-  Record& record = records_[slot];
-  record.id = id;
-  Fill(record, properties);
+  if (free_slots_.empty()) MakeSlot();
+  const Slot slot = free_slots_.back();
+  records_[slot] = Store(id, properties);
+  free_slots_.pop_back();
   return slot;
+}
+
+// All slots have room among the free ones, so that giving one back needs no memory.
+void RecordHeap::MakeSlot() {
+  if (records_.size() == records_.capacity()) {
+    constexpr std::size_t kFirst = 16;
+    records_.reserve(std::max(kFirst, 2 * records_.size()));
+  }
+  free_slots_.reserve(records_.capacity());
+  free_slots_.push_back(SlotEnd());
+  records_.emplace_back();
 }
 
 void RecordHeap::Replace(Slot slot, std::span<const Property> properties) {
   // The new values are copied before the old ones are freed: they may be in the same memory.
-  Record& record = records_[slot];
   const std::vector<Property> wanted(properties.begin(), properties.end());
-  const Record old = record;
-  Fill(record, wanted);
+  const Record old = records_[slot];
+  records_[slot] = Store(old.id, wanted);
   Drop(old);
 }
 
@@ -70,17 +76,29 @@ std::uint32_t RecordHeap::TakeCells(std::uint32_t count) {
 
 void RecordHeap::GiveCellsBack(std::uint32_t first, std::uint32_t count) {
   if (count == 0) return;
-  if (count >= free_cells_.size()) free_cells_.resize(count + 1);
-  free_cells_[count].push_back(first);
+  try {
+    if (count >= free_cells_.size()) free_cells_.resize(count + 1);
+    free_cells_[count].push_back(first);
+  } catch (const std::bad_alloc&) {
+    // They are not used again.
+  }
 }
 
-void RecordHeap::Fill(Record& record, std::span<const Property> properties) {
-  record.count = static_cast<std::uint32_t>(properties.size());
+RecordHeap::Record RecordHeap::Store(ObjectId id, std::span<const Property> properties) {
+  Record record{id, 0, static_cast<std::uint32_t>(properties.size())};
   record.first = TakeCells(record.count);
-  for (std::size_t i = 0; i < properties.size(); ++i) {
-    cells_[record.first + i] = Copy(properties[i]);
-    bytes_ += ValueBytes(properties[i]);
+  std::uint32_t copied = 0;
+  try {
+    for (; copied < record.count; ++copied) {
+      cells_[record.first + copied] = Copy(properties[copied]);
+    }
+  } catch (const std::bad_alloc&) {
+    while (copied > 0) Free(cells_[record.first + --copied]);
+    GiveCellsBack(record.first, record.count);
+    throw;
   }
+  for (const Property& property : properties) bytes_ += ValueBytes(property);
+  return record;
 }
 
 void RecordHeap::Drop(const Record& record) {

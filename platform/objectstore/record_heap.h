@@ -22,7 +22,8 @@ class RecordHeap {
   RecordHeap& operator=(const RecordHeap&) = delete;
   ~RecordHeap();
 
-  // The values are copied.
+  // The values are copied. Add and Replace leave the heap as it is when there is no memory for
+  // them; Remove needs none.
   Slot Add(ObjectId id, std::span<const Property> properties);
 
   // `properties` may point into the heap, as those of the same record do.
@@ -56,7 +57,9 @@ class RecordHeap {
   // A stretch of cells for `count` properties: a free one, or a new one at the end.
   std::uint32_t TakeCells(std::uint32_t count);
   void GiveCellsBack(std::uint32_t first, std::uint32_t count);
-  void Fill(Record& record, std::span<const Property> properties);
+  // Copies the values; without memory for them nothing is changed.
+  Record Store(ObjectId id, std::span<const Property> properties);
+  void MakeSlot();
   void Drop(const Record& record);
 
   std::vector<Record> records_;

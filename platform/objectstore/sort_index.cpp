@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <new>
 #include <string_view>
 #include <utility>
 
@@ -84,13 +85,28 @@ char16_t FoldAscii(char16_t character) {
 // ---- SortIndex
 
 void SortIndex::Add(Slot slot) {
-  if (in_use_) pending_.push_back(Entry(slot));
+  if (!in_use_) return;
+  try {
+    pending_.push_back(Entry(slot));
+  } catch (const std::bad_alloc&) {
+    Drop();
+  }
 }
 
 void SortIndex::Remove(Slot slot) {
   if (!in_use_) return;
-  Settle();
-  entries_.Erase(Find(slot));
+  try {
+    Settle();
+    entries_.Erase(Find(slot));
+  } catch (const std::bad_alloc&) {
+    Drop();
+  }
+}
+
+void SortIndex::Drop() {
+  in_use_ = false;
+  pending_.clear();
+  entries_.Assign({});
 }
 
 bool SortIndex::Moves(Slot slot, std::span<const Property> properties) const {
@@ -101,6 +117,15 @@ bool SortIndex::Moves(Slot slot, std::span<const Property> properties) const {
 }
 
 void SortIndex::Settle() {
+  try {
+    SettleAll();
+  } catch (const std::bad_alloc&) {
+    Drop();
+    throw;
+  }
+}
+
+void SortIndex::SettleAll() {
   if (!in_use_) {
     in_use_ = true;
     pending_.reserve(heap_->Count());

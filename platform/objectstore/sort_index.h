@@ -18,7 +18,8 @@ using CaseFold = char16_t (*)(char16_t);
 char16_t FoldAscii(char16_t character);
 
 // Sorting is deferred until the order is used: an index that no handle has used costs nothing, and
-// records that were added in a burst are sorted together.
+// records that were added in a burst are sorted together. Where there is no memory to keep the
+// order it is dropped, and sorted again later: only Settle throws for lack of memory.
 //
 // An order without a property is the order of creation.
 class SortIndex {
@@ -57,6 +58,10 @@ class SortIndex {
   [[nodiscard]] bool HasValue(Position position, const Property& value) const;
 
  private:
+  // Forgets the order, which Settle then makes from the records again.
+  void Drop();
+  void SettleAll();
+
   [[nodiscard]] OrderedEntry Entry(Slot slot) const;
   // Nearly always the numbers decide, so that a search reads no records.
   [[nodiscard]] bool Before(const OrderedEntry& one, const OrderedEntry& other) const {

@@ -53,9 +53,10 @@ DeviceTemplate::DeviceTemplate(LPCWSTR name) {
   const HRSRC found = ::FindResourceW(module, name, RT_DIALOG);
   if (!found) return;
   const DWORD size = ::SizeofResource(module, found);
-  if (size < kPlain.names * sizeof(WORD)) return;
+  const void* bytes = ::LockResource(::LoadResource(module, found));
+  if (!bytes || size < kPlain.names * sizeof(WORD)) return;
   words_.resize((size + sizeof(WORD) - 1) / sizeof(WORD));
-  std::memcpy(words_.data(), ::LockResource(::LoadResource(module, found)), size);
+  std::memcpy(words_.data(), bytes, size);
 
   pointsAt_ = PointsAt(words_);
   WORD& style = words_[LayoutOf(words_).extendedStyle + 1];

@@ -18,6 +18,8 @@ constexpr std::uint64_t kPlenty = 1000000;
 // A file on a disk that has room for `room` more bytes: as much of a write as fits gets there.
 class FileOnFullDisk : public CFile {
  public:
+  bool hides_length = false;  // its length cannot be found out
+
   explicit FileOnFullDisk(std::uint64_t& room) : room_(room) {}
 
   void Write(const void* buffer, UINT count) override {
@@ -25,6 +27,11 @@ class FileOnFullDisk : public CFile {
     CFile::Write(buffer, fits);
     room_ -= fits;
     if (fits < count) AfxThrowFileException(CFileException::diskFull, ERROR_DISK_FULL);
+  }
+
+  ULONGLONG GetLength() const override {
+    if (hides_length) AfxThrowFileException(CFileException::hardIO, ERROR_READ_FAULT);
+    return CFile::GetLength();
   }
 
  private:
@@ -63,15 +70,28 @@ class FiguresOnFullDisk : public testing::Test {
 
   std::uint64_t index_room_ = kPlenty;
   std::uint64_t coordinate_room_ = kPlenty;
+  FileOnFullDisk* index_ = new FileOnFullDisk(index_room_);  // the list's
+  FileOnFullDisk* coordinates_ = new FileOnFullDisk(coordinate_room_);
 
  private:
   ScratchFolder root_;
   EnvironmentVariable variable_{L"CE_DEVICE_ROOT", root_.Path().c_str()};
 
  protected:
-  CFigList figures_{0, std::make_unique<FileOnFullDisk>(index_room_),
-                    std::make_unique<FileOnFullDisk>(coordinate_room_)};
+  CFigList figures_{0, std::unique_ptr<CFile>(index_), std::unique_ptr<CFile>(coordinates_)};
 };
+
+// They were written over the first ones.
+TEST_F(FiguresOnFullDisk, AreNotKeptWhenTheEndOfAFileCannotBeFoundOut) {
+  AddPolyline(2, 1.0);
+  AddPolyline(2, 2.0);
+  for (FileOnFullDisk* const file : {index_, coordinates_}) {
+    file->hides_length = true;
+    AddPolyline(2, 3.0);
+    file->hides_length = false;
+  }
+  EXPECT_EQ((std::vector<std::vector<double>>{{1.0, 1.0}, {2.0, 2.0}}), Marks());
+}
 
 TEST_F(FiguresOnFullDisk, AreNotKeptWhenTheirPointsDoNotAllFit) {
   AddPolyline(2, 1.0);

@@ -50,8 +50,10 @@ void MovedPoint::PutBack(CDC& paint) {
 
 void MovedPoint::Flip() const {
   if (!on_screen_ || !surfaces_.window.m_hWnd) return;
-  ClientSurface screen(surfaces_.window);
-  FlipOn(screen.Dc());
+  DrawWhatCanBe([&] {
+    ClientSurface screen(surfaces_.window);
+    FlipOn(screen.Dc());
+  });
 }
 
 void MovedPoint::FlipOn(CDC& dc) const {

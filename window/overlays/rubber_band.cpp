@@ -36,8 +36,10 @@ void RubberBand::PutBack(CDC& paint) {
 
 void RubberBand::Flip() const {
   if (!shown_) return;
-  ClientSurface screen(window_);
-  FlipOn(screen.Dc());
+  DrawWhatCanBe([&] {
+    ClientSurface screen(window_);
+    FlipOn(screen.Dc());
+  });
 }
 
 void RubberBand::FlipOn(CDC& dc) const {

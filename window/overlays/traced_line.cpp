@@ -58,11 +58,11 @@ void TracedLine::DrawInto(CDC& buffer) {
 
 void TracedLine::Flip(std::span<const Drawn> segments) const {
   if (segments.empty() || !surfaces_.window.m_hWnd) return;
-  {
+  DrawWhatCanBe([&] {
     ClientSurface screen(surfaces_.window);
     FlipOn(screen.Dc(), segments);
-  }
-  FlipOn(surfaces_.buffer, segments);
+  });
+  DrawWhatCanBe([&] { FlipOn(surfaces_.buffer, segments); });
 }
 
 void TracedLine::FlipOn(CDC& dc, std::span<const Drawn> segments) {

@@ -1,5 +1,7 @@
 #include "framework/dc.h"
 
+#include <new>
+
 #include "framework/exception.h"
 #include "framework/wnd.h"
 #include "platform/framework/gdi/handle_map.h"
@@ -35,10 +37,19 @@ CDC* CDC::FromHandle(HDC handle) {
 
 BOOL CDC::Attach(HDC handle) {
   if (!handle) return FALSE;
-  m_hDC = handle;
   PermanentContexts().Set(handle, this);
+  m_hDC = handle;
   SetAttribDC(handle);
   return TRUE;
+}
+
+BOOL CDC::Own(HDC made) {
+  try {
+    return Attach(made);
+  } catch (const std::bad_alloc&) {
+    ::DeleteDC(made);
+    throw;
+  }
 }
 
 HDC CDC::Detach() {
@@ -177,20 +188,38 @@ CSize CDC::GetTextExtent(LPCWSTR text, int count) const {
 
 // ---- Device contexts of windows: released, and detached so that ~CDC does not delete them
 
+namespace {
+
+// Attaches a context that was just got, which is released when there is no memory for that.
+template <class Release>
+void AttachOrRelease(CDC& dc, HDC handle, Release release) {
+  if (!handle) AfxThrowResourceException();
+  try {
+    dc.Attach(handle);
+  } catch (const std::bad_alloc&) {
+    release();
+    throw;
+  }
+}
+
+}  // namespace
+
 CClientDC::CClientDC(CWnd* window) : m_hWnd(window ? window->m_hWnd : nullptr) {
-  if (!Attach(::GetDC(m_hWnd))) AfxThrowResourceException();
+  const HDC handle = ::GetDC(m_hWnd);
+  AttachOrRelease(*this, handle, [&] { ::ReleaseDC(m_hWnd, handle); });
 }
 
 CClientDC::~CClientDC() { ::ReleaseDC(m_hWnd, Detach()); }
 
 CWindowDC::CWindowDC(CWnd* window) : m_hWnd(window ? window->m_hWnd : nullptr) {
-  if (!Attach(::GetWindowDC(m_hWnd))) AfxThrowResourceException();
+  const HDC handle = ::GetWindowDC(m_hWnd);
+  AttachOrRelease(*this, handle, [&] { ::ReleaseDC(m_hWnd, handle); });
 }
 
 CWindowDC::~CWindowDC() { ::ReleaseDC(m_hWnd, Detach()); }
 
 CPaintDC::CPaintDC(CWnd* window) : m_hWnd(window->m_hWnd) {
-  if (!Attach(::BeginPaint(m_hWnd, &m_ps))) AfxThrowResourceException();
+  AttachOrRelease(*this, ::BeginPaint(m_hWnd, &m_ps), [&] { ::EndPaint(m_hWnd, &m_ps); });
 }
 
 CPaintDC::~CPaintDC() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 
 #include "framework/dc.h"
 #include "framework/exception.h"
@@ -70,6 +71,15 @@ BOOL CGdiObject::Attach(HGDIOBJ handle) {
   return Borrow(handle);
 }
 
+BOOL CGdiObject::Own(HGDIOBJ made) {
+  try {
+    return Attach(made);
+  } catch (const std::bad_alloc&) {
+    ::DeleteObject(made);
+    throw;
+  }
+}
+
 BOOL CGdiObject::Borrow(HGDIOBJ handle) {
   if (!handle) return FALSE;
   m_hObject = handle;
@@ -112,7 +122,7 @@ CBrush::CBrush(CBitmap* bitmap) {
 
 CBrush* CBrush::FromHandle(HBRUSH handle) { return GdiObjectFromHandle<CBrush>(handle); }
 
-BOOL CBrush::CreatePatternBrush(CBitmap* bitmap) { return Attach(::CreatePatternBrush(*bitmap)); }
+BOOL CBrush::CreatePatternBrush(CBitmap* bitmap) { return Own(::CreatePatternBrush(*bitmap)); }
 
 // ---- CFont
 
@@ -146,15 +156,13 @@ BOOL CFont::CreatePointFontIndirect(const LOGFONTW* font, CDC* dc) {
 CBitmap* CBitmap::FromHandle(HBITMAP handle) { return GdiObjectFromHandle<CBitmap>(handle); }
 
 BOOL CBitmap::LoadBitmapW(LPCWSTR name) {
-  return Attach(::LoadBitmapW(AfxFindResourceHandle(name, RT_BITMAP), name));
+  return Own(::LoadBitmapW(AfxFindResourceHandle(name, RT_BITMAP), name));
 }
 
-BOOL CBitmap::LoadOEMBitmap(UINT id) {
-  return Attach(::LoadBitmapW(nullptr, MAKEINTRESOURCEW(id)));
-}
+BOOL CBitmap::LoadOEMBitmap(UINT id) { return Own(::LoadBitmapW(nullptr, MAKEINTRESOURCEW(id))); }
 
 BOOL CBitmap::CreateCompatibleBitmap(CDC* dc, int width, int height) {
-  return Attach(::CreateCompatibleBitmap(dc->m_hDC, width, height));
+  return Own(::CreateCompatibleBitmap(dc->m_hDC, width, height));
 }
 
 // ---- CRgn

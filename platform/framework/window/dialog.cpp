@@ -1,5 +1,6 @@
 #include "framework/dialog.h"
 
+#include <new>
 #include <optional>
 #include <utility>
 
@@ -169,6 +170,9 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND window, UINT message, WPARAM, LPARAM) 
     return dialog->OnInitDialog();
   } catch (CException* exception) {
     afx::ReportAndDelete(exception);
+    dialog->EndDialog(-1);
+    return FALSE;
+  } catch (const std::bad_alloc&) {
     dialog->EndDialog(-1);
     return FALSE;
   }

@@ -77,8 +77,8 @@ CWnd* CWnd::FromHandlePermanent(HWND window) { return afx::FindPermanentWindow(w
 
 BOOL CWnd::Attach(HWND window) {
   if (!window) return FALSE;
-  m_hWnd = window;
   afx::SetPermanentWindow(window, this);
+  m_hWnd = window;
   return TRUE;
 }
 

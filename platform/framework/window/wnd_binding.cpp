@@ -1,5 +1,6 @@
 #include "platform/framework/window/wnd_binding.h"
 
+#include <new>
 #include <utility>
 
 #include "framework/win_app.h"
@@ -52,9 +53,9 @@ WNDPROC SetProcedure(HWND window, WNDPROC procedure) {
 }  // namespace
 
 void CWindowBinding::Subclass(CWnd& object, HWND window) {
+  afx::SetPermanentWindow(window, &object);
   object.m_hWnd = window;
   object.m_pfnSuper = nullptr;
-  afx::SetPermanentWindow(window, &object);
   object.PreSubclassWindow();
   if (ProcedureOf(window) != &AfxWndProc) object.m_pfnSuper = SetProcedure(window, &AfxWndProc);
 }
@@ -117,7 +118,13 @@ LRESULT CALLBACK CreationHook::OnHook(int code, WPARAM wParam, LPARAM lParam) {
     const HWND window = reinterpret_cast<HWND>(wParam);
     if (!IsInputMethodWindow(window)) {
       bound = std::exchange(innermost->object_, nullptr);
-      CWindowBinding::Subclass(*bound, window);
+      try {
+        CWindowBinding::Subclass(*bound, window);
+      } catch (const std::bad_alloc&) {
+        constexpr LRESULT kRefused = 1;
+        CWindowBinding::WindowIsGone(*bound);
+        return kRefused;
+      }
     }
   }
   const LRESULT refused = ::CallNextHookEx(nullptr, code, wParam, lParam);

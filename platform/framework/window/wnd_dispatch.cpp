@@ -1,5 +1,7 @@
 // The way of a message: from AfxWndProc to CWnd::WindowProc, and from there to the handlers.
 
+#include <new>
+
 #include "framework/command_handlers.h"
 #include "framework/exception.h"
 #include "framework/window_handlers.h"
@@ -52,6 +54,8 @@ LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
       result = CWindowBinding::CallWindowProcedure(*object, message, wParam, lParam);
     } catch (CException* exception) {
       afx::ReportAndDelete(exception);
+      result = afx::AnswerAfterException(window, message);
+    } catch (const std::bad_alloc&) {
       result = afx::AnswerAfterException(window, message);
     }
   }

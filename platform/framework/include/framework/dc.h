@@ -32,15 +32,13 @@ class AFX_FRAMEWORK CDC : public CObject {
   virtual void ReleaseOutputDC();
 
   BOOL CreateDCW(LPCWSTR driver, LPCWSTR device, LPCWSTR output, const void* initData) {
-    return Attach(::CreateDCW(driver, device, output, static_cast<const DEVMODEW*>(initData)));
+    return Own(::CreateDCW(driver, device, output, static_cast<const DEVMODEW*>(initData)));
   }
   BOOL CreateDCA(LPCWSTR driver, LPCWSTR device, LPCWSTR output, const void* initData) {
     return CreateDCW(driver, device, output, initData);
   }
   // A memory context like `dc`, or like the screen when dc is null.
-  BOOL CreateCompatibleDC(CDC* dc) {
-    return Attach(::CreateCompatibleDC(dc ? dc->m_hDC : nullptr));
-  }
+  BOOL CreateCompatibleDC(CDC* dc) { return Own(::CreateCompatibleDC(dc ? dc->m_hDC : nullptr)); }
   BOOL DeleteDC();
 
   // ---- Objects: each call selects an object and returns the one selected before (null when GDI
@@ -213,6 +211,10 @@ class AFX_FRAMEWORK CDC : public CObject {
     return DrawTextW(text, rect, format);
   }
   BOOL GetTextMetricsA(TEXTMETRICW* metrics) const { return GetTextMetricsW(metrics); }
+
+ private:
+  // Attaches a context that was just made, which is deleted when there is no memory for that.
+  BOOL Own(HDC made);
 };
 
 // ---- Device contexts of windows, released on destruction. A null window is the whole screen. The

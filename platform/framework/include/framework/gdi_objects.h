@@ -47,6 +47,8 @@ class AFX_FRAMEWORK CGdiObject : public CObject {
   BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
 
  protected:
+  // Attaches an object that was just made, which is deleted when there is no memory for that.
+  BOOL Own(HGDIOBJ made);
   // Holds a handle without owning it. FALSE for a null handle.
   BOOL Borrow(HGDIOBJ handle);
 };
@@ -64,9 +66,9 @@ class AFX_FRAMEWORK CPen : public CGdiObject {
 
   // width in logical units; 0 is one pixel in every mapping mode.
   BOOL CreatePen(int style, int width, COLORREF colour) {
-    return Attach(::CreatePen(style, width, colour));
+    return Own(::CreatePen(style, width, colour));
   }
-  BOOL CreatePenIndirect(LOGPEN* pen) { return Attach(::CreatePenIndirect(pen)); }
+  BOOL CreatePenIndirect(LOGPEN* pen) { return Own(::CreatePenIndirect(pen)); }
   int GetLogPen(LOGPEN* pen) const { return GetObjectW(sizeof(*pen), pen); }
 };
 
@@ -80,11 +82,11 @@ class AFX_FRAMEWORK CBrush : public CGdiObject {
   static CBrush* FromHandle(HBRUSH handle);
   operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
 
-  BOOL CreateSolidBrush(COLORREF colour) { return Attach(::CreateSolidBrush(colour)); }
+  BOOL CreateSolidBrush(COLORREF colour) { return Own(::CreateSolidBrush(colour)); }
   BOOL CreateHatchBrush(int hatch, COLORREF colour) {
-    return Attach(::CreateHatchBrush(hatch, colour));
+    return Own(::CreateHatchBrush(hatch, colour));
   }
-  BOOL CreateBrushIndirect(const LOGBRUSH* brush) { return Attach(::CreateBrushIndirect(brush)); }
+  BOOL CreateBrushIndirect(const LOGBRUSH* brush) { return Own(::CreateBrushIndirect(brush)); }
   // The bitmap must outlive the brush.
   BOOL CreatePatternBrush(CBitmap* bitmap);
   BOOL CreateSysColorBrush(int index) { return Borrow(::GetSysColorBrush(index)); }
@@ -98,15 +100,15 @@ class AFX_FRAMEWORK CFont : public CGdiObject {
   static CFont* FromHandle(HFONT handle);
   operator HFONT() const { return static_cast<HFONT>(m_hObject); }
 
-  BOOL CreateFontIndirectW(const LOGFONTW* font) { return Attach(::CreateFontIndirectW(font)); }
+  BOOL CreateFontIndirectW(const LOGFONTW* font) { return Own(::CreateFontIndirectW(font)); }
   BOOL CreateFontIndirectA(const LOGFONTW* font) { return CreateFontIndirectW(font); }
   // height > 0: of the cell, < 0: of the characters; logical units. The rest as LOGFONT.
   BOOL CreateFontW(int height, int width, int escapement, int orientation, int weight, BYTE italic,
                    BYTE underline, BYTE strikeOut, BYTE charSet, BYTE outPrecision,
                    BYTE clipPrecision, BYTE quality, BYTE pitchAndFamily, LPCWSTR faceName) {
-    return Attach(::CreateFontW(height, width, escapement, orientation, weight, italic, underline,
-                                strikeOut, charSet, outPrecision, clipPrecision, quality,
-                                pitchAndFamily, faceName));
+    return Own(::CreateFontW(height, width, escapement, orientation, weight, italic, underline,
+                             strikeOut, charSet, outPrecision, clipPrecision, quality,
+                             pitchAndFamily, faceName));
   }
   BOOL CreateFontA(int height, int width, int escapement, int orientation, int weight, BYTE italic,
                    BYTE underline, BYTE strikeOut, BYTE charSet, BYTE outPrecision,
@@ -135,9 +137,9 @@ class AFX_FRAMEWORK CBitmap : public CGdiObject {
   BOOL LoadOEMBitmap(UINT id);
 
   BOOL CreateBitmap(int width, int height, UINT planes, UINT bitCount, const void* bits) {
-    return Attach(::CreateBitmap(width, height, planes, bitCount, bits));
+    return Own(::CreateBitmap(width, height, planes, bitCount, bits));
   }
-  BOOL CreateBitmapIndirect(const BITMAP* bitmap) { return Attach(::CreateBitmapIndirect(bitmap)); }
+  BOOL CreateBitmapIndirect(const BITMAP* bitmap) { return Own(::CreateBitmapIndirect(bitmap)); }
   BOOL CreateCompatibleBitmap(CDC* dc, int width, int height);
 
   int GetBitmap(BITMAP* bitmap) const { return GetObjectW(sizeof(*bitmap), bitmap); }
@@ -157,14 +159,14 @@ class AFX_FRAMEWORK CRgn : public CGdiObject {
   operator HRGN() const { return static_cast<HRGN>(m_hObject); }
 
   BOOL CreateRectRgn(int left, int top, int right, int bottom) {
-    return Attach(::CreateRectRgn(left, top, right, bottom));
+    return Own(::CreateRectRgn(left, top, right, bottom));
   }
-  BOOL CreateRectRgnIndirect(const RECT* rect) { return Attach(::CreateRectRgnIndirect(rect)); }
+  BOOL CreateRectRgnIndirect(const RECT* rect) { return Own(::CreateRectRgnIndirect(rect)); }
   BOOL CreateEllipticRgn(int left, int top, int right, int bottom) {
-    return Attach(::CreateEllipticRgn(left, top, right, bottom));
+    return Own(::CreateEllipticRgn(left, top, right, bottom));
   }
   BOOL CreatePolygonRgn(const POINT* points, int count, int fillMode) {
-    return Attach(::CreatePolygonRgn(points, count, fillMode));
+    return Own(::CreatePolygonRgn(points, count, fillMode));
   }
   int CombineRgn(const CRgn* first, const CRgn* second, int mode) {
     return ::CombineRgn(*this, *first, second ? static_cast<HRGN>(*second) : nullptr, mode);
