@@ -1,6 +1,7 @@
 #include "window/buttons/button_column.h"
 
 #include <algorithm>
+#include <new>
 
 namespace tavix {
 namespace {
@@ -126,8 +127,12 @@ bool ButtonColumn::Covers(CPoint at) const {
 
 // The update region is all of `rect`, under the buttons too, as hosts know it.
 void ButtonColumn::InvalidateAround(CWnd& parent, const CRect& rect) const {
-  const std::vector<CRect> places = Places();
-  if (!places.empty()) {
+  try {
+    const std::vector<CRect> places = Places();
+    if (places.empty()) {
+      parent.InvalidateRect(&rect, TRUE);
+      return;
+    }
     CRgn around;
     around.CreateRectRgnIndirect(&rect);
     for (const CRect& place : places) {
@@ -137,8 +142,8 @@ void ButtonColumn::InvalidateAround(CWnd& parent, const CRect& rect) const {
     }
     parent.RedrawWindow(nullptr, &around, RDW_INVALIDATE | RDW_ERASE);
     parent.RedrawWindow(&rect, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
-  } else {
-    parent.InvalidateRect(&rect, TRUE);
+  } catch (const std::bad_alloc&) {
+    parent.InvalidateRect(&rect, TRUE);  // no memory to leave the buttons out
   }
 }
 
