@@ -2,6 +2,7 @@
 
 #include <array>
 #include <limits>
+#include <new>
 
 namespace tavix {
 namespace {
@@ -88,9 +89,13 @@ int CLinDb::Add(LineKeys keys, std::int16_t legend, std::int32_t* id) {
 // The last in the order of ids, too, unless these have gone round their 16 bits.
 void CLinDb::DrawLast(std::int16_t id, LineKeys keys, std::int16_t legend) {
   if (id < last_drawn_ || last_drawn_ == std::numeric_limits<std::int16_t>::max()) return;
-  drawn_.Append(keys, legend);
-  last_drawn_ = id;
-  drawn_changes_ = *drawn_changes_ + 1;
+  try {
+    drawn_.Append(keys, legend);
+    last_drawn_ = id;
+    drawn_changes_ = *drawn_changes_ + 1;
+  } catch (const std::bad_alloc&) {
+    drawn_changes_.reset();  // the line is in the database: the next redraw reads all of them
+  }
 }
 
 int CLinDb::Remove(LineKeys keys) {
@@ -134,16 +139,18 @@ bool CLinDb::ReadForDrawing() {
   const ULONGLONG changes = database_.Records().GetNumChanges();
   if (drawn_changes_ == changes) return true;
   drawn_.Clear();
-  drawn_changes_ = changes;
+  drawn_changes_.reset();  // until all of them are read: there may be no memory for some
+  bool is_whole = true;
   do {
     Line line;
     if (ReadCur(&line) == 0) {
       drawn_.Append(line.keys, line.legend);
       last_drawn_ = PlaceOf(record_);
     } else {
-      drawn_changes_.reset();
+      is_whole = false;
     }
   } while (Next() == 0);
+  if (is_whole) drawn_changes_ = changes;
   return true;
 }
 

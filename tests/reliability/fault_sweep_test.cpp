@@ -105,9 +105,9 @@ TEST_F(FaultSweep, OfFiles) { Sweep(WholeLife(host_.Window()), Resource::kFiles,
 
 TEST_F(FaultSweep, OfWindows) { Sweep(WholeLife(host_.Window()), Resource::kWindows, Stride(1)); }
 
-TEST_F(FaultSweep, OfDrawing) { Sweep(WholeLife(host_.Window()), Resource::kDrawing, Stride(79)); }
+TEST_F(FaultSweep, OfDrawing) { Sweep(WholeLife(host_.Window()), Resource::kDrawing, Stride(37)); }
 
-TEST_F(FaultSweep, OfMemory) { Sweep(WholeLife(host_.Window()), Resource::kMemory, Stride(47)); }
+TEST_F(FaultSweep, OfMemory) { Sweep(WholeLife(host_.Window()), Resource::kMemory, Stride(19)); }
 
 TEST_F(FaultSweep, OfDrawingWithSettings) {
   Sweep(LifeWithSettings(host_.Window()), Resource::kDrawing, Stride(13));

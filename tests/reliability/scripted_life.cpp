@@ -310,7 +310,8 @@ std::vector<LifeStep> WholeLife(HWND parent) {
       {"hide the surround", &HideSurround, {"-1"}, {}},
       {"side view", &ShowSide, {"0 0 *"}, {}},
       {"one-bit picture", &DrawOneBit, {"0 *"}, {}},
-      {"taps and buttons", &UseWindow, {}, {}},
+      // A tap for which there is no memory captures no point.
+      {"taps and buttons", &UseWindow, {"0 -1 0 0"}, {}},
       {"changes", &ChangeWithRedraws, {"-1"}, {}},
       {"redraw", &Redraw, {"0 *"}, {}},
       {"remove", &Remove, {"-1"}, {}},
