@@ -40,6 +40,7 @@ class FaultSweep : public LibraryTest {
  protected:
   FaultedLife Live(const Life& life, SystemFaults& faults) {
     WriteBytes(LegendFile(), BuiltInLegendBytes());
+    if (faults.Of() == Resource::kMemory || faults.Of() == Resource::kDrawing) HaveScreenChanged();
     FaultedLife lived;
     for (std::size_t i = 0; i < life.size(); ++i) {
       const LifeStep& step = life[i];
@@ -105,9 +106,9 @@ TEST_F(FaultSweep, OfFiles) { Sweep(WholeLife(host_.Window()), Resource::kFiles,
 
 TEST_F(FaultSweep, OfWindows) { Sweep(WholeLife(host_.Window()), Resource::kWindows, Stride(1)); }
 
-TEST_F(FaultSweep, OfDrawing) { Sweep(WholeLife(host_.Window()), Resource::kDrawing, Stride(37)); }
+TEST_F(FaultSweep, OfDrawing) { Sweep(WholeLife(host_.Window()), Resource::kDrawing, Stride(79)); }
 
-TEST_F(FaultSweep, OfMemory) { Sweep(WholeLife(host_.Window()), Resource::kMemory, Stride(19)); }
+TEST_F(FaultSweep, OfMemory) { Sweep(WholeLife(host_.Window()), Resource::kMemory, Stride(47)); }
 
 TEST_F(FaultSweep, OfDrawingWithSettings) {
   Sweep(LifeWithSettings(host_.Window()), Resource::kDrawing, Stride(13));

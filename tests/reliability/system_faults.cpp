@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <mutex>
 #include <unordered_set>
+#include <utility>
 
 #include "tests/reliability/import_hook.h"
 
@@ -116,6 +117,26 @@ Hook GivesBack(Resource resource, Result (*call)(Arguments...)) {
   return {kName.text, reinterpret_cast<void*>(&Row::GiveBack)};
 }
 
+// ---- A screen that changes
+
+int g_screen_changes = 0;
+bool g_is_change_seen = true;
+int (*g_device_caps)(HDC, int) = &::GetDeviceCaps;
+
+// The depth is asked for once a second: time stands still, and each change is long after the last.
+ULONGLONG TickCount() {
+  constexpr ULONGLONG kBetweenChanges = 10'000;  // milliseconds
+  return kBetweenChanges * static_cast<ULONGLONG>(1 + g_screen_changes);
+}
+
+// More planes than there are, for the first to ask after a change: the bitmaps that are made for
+// the screen then have its real depth.
+int DeviceCaps(HDC dc, int index) {
+  const int value = g_device_caps(dc, index);
+  if (index != PLANES || ::WindowFromDC(dc) != ::GetDesktopWindow()) return value;
+  return std::exchange(g_is_change_seen, true) ? value : value + 1 + g_screen_changes % 2;
+}
+
 // Every call for files, memory, drawing and windows that the library makes and that can fail.
 void InstallHooks() {
   using enum Resource;
@@ -164,6 +185,9 @@ void InstallHooks() {
       Fails<"CreateDialogIndirectParamW">(kWindows, nullptr, &::CreateDialogIndirectParamW),
       Fails<"SetWindowsHookExW">(kWindows, nullptr, &::SetWindowsHookExW),
       Fails<"LoadResource">(kWindows, nullptr, &::LoadResource),
+
+      {"GetTickCount64", reinterpret_cast<void*>(&TickCount)},
+      {"GetDeviceCaps", reinterpret_cast<void*>(&DeviceCaps)},
   };
   for (const Hook& hook : hooks) {
     EXPECT_LT(0, ReplaceImports(hook.name, hook.replacement)) << hook.name;
@@ -194,6 +218,12 @@ bool SystemFaults::Refuses(Resource resource, const char* call) {
   if (resource != resource_ || ::GetCurrentThreadId() != thread_ || ++calls_ != nth_) return false;
   failed_ = call;
   return true;
+}
+
+void HaveScreenChanged() {
+  Install();
+  ++g_screen_changes;
+  g_is_change_seen = false;
 }
 
 Holdings HeldByLibrary() {

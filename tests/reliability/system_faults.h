@@ -21,6 +21,8 @@ class SystemFaults {
   SystemFaults(const SystemFaults&) = delete;
   SystemFaults& operator=(const SystemFaults&) = delete;
 
+  [[nodiscard]] Resource Of() const { return resource_; }
+
   [[nodiscard]] int Calls() const { return calls_; }
 
   // The name of the call that failed; empty as long as none has.
@@ -36,6 +38,10 @@ class SystemFaults {
   int calls_ = 0;
   std::string failed_;
 };
+
+// Has the library find the screen changed from here on, as by a user who chooses another depth: it
+// probes GDI's drawing again, which it otherwise does once in a process.
+void HaveScreenChanged();
 
 // How much the library holds at this moment: file and search handles, blocks of memory, GDI objects
 // and device contexts. Counted from the first call of this function on.
