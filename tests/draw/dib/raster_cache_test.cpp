@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "draw/dib/dib_canvas.h"
 #include "draw/dib/reference_bitmap.h"
 #include "draw/dib/smooth_labels.h"
 
@@ -43,6 +44,17 @@ TEST_F(RasterCacheTest, MarksAreKeptWhateverTheLabel) {
   EXPECT_EQ(mask, cache_.Mark({2, 10, 14, LabelContent::kNumber, {1, 0x00FF0000}}));
   EXPECT_NE(mask, cache_.Mark(Symbol(2, 10, 0x00FF0001)));
   EXPECT_NE(mask, cache_.Mark(Symbol(3, 10, 0x00FF0000)));
+}
+
+// What a canvas holds of the cache may be gone once another window has been redrawn.
+TEST_F(RasterCacheTest, ACanvasIsOutOfDateOnceAnotherIsMade) {
+  ReferenceBitmap first(20, 20);
+  ReferenceBitmap second(20, 20);
+  const DibCanvas canvas(first.Dc(), first.Pixels(), cache_);
+  EXPECT_TRUE(canvas.IsCurrent());
+  const DibCanvas other(second.Dc(), second.Pixels(), cache_);
+  EXPECT_FALSE(canvas.IsCurrent());
+  EXPECT_TRUE(other.IsCurrent());
 }
 
 // Memory stays within bounds, and what is known stays known.
