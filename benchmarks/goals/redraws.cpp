@@ -48,7 +48,8 @@ void PrintRedraws(Figure figure, const Plot& plot, int rounds, Floor floor) {
         return redraw;
       });
   figure.value = result.ratio;
-  figure.details = Times(result.floor, result.product) + Text(", its paint %.3g ms", Median(paints));
+  figure.details =
+      Times(result.floor, result.product) + Text(", its paint %.3g ms", Median(paints));
   Print(figure);
 }
 
@@ -87,7 +88,7 @@ struct Case {
 
 // The plot against the plain picture, whole or a part of the survey in view.
 void Compare(const Case& named, SIZE size, const Survey& survey, const Look& look,
-                   double ground_side) {
+             double ground_side) {
   Plot plot(0, size);
   plot.Use(look);
   plot.Enter(survey);
