@@ -187,14 +187,6 @@ SegmentSieve CViewState::OutOfView() const {
           {centre_, kTruePixels / std::fabs(v_scale_), kTruePixels / std::fabs(scale_)}};
 }
 
-bool CViewState::ClipGroundSegment(GroundPoint start, GroundPoint end,
-                                   ScreenSegment& clipped) const {
-  ScreenSegment segment{GroundToScreen(start), GroundToScreen(end)};
-  if (!ClipScreenSegment(segment)) return false;
-  clipped = segment;
-  return true;
-}
-
 bool CViewState::ClipAcrossBorder(ScreenSegment& segment) const {
   const int width = TruncateToInt(width_);
   const int height = TruncateToInt(height_);

@@ -114,7 +114,13 @@ class CViewState {
   // Clips a ground segment to the client area. False when it lies outside; `clipped` then stays as
   // it was.
   [[nodiscard]] bool ClipGroundSegment(GroundPoint start, GroundPoint end,
-                                       ScreenSegment& clipped) const;
+                                       ScreenSegment& clipped) const {
+    const GroundTransform transform = Transform();
+    ScreenSegment segment{transform.ToScreen(start), transform.ToScreen(end)};
+    if (!ClipScreenSegment(segment)) return false;
+    clipped = segment;
+    return true;
+  }
 
   // The same of a segment of pixels, in place. False when it lies outside; it is then undefined.
   [[nodiscard]] bool ClipScreenSegment(ScreenSegment& segment) const {
