@@ -15,10 +15,9 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <string>
 #include <vector>
 
+#include "benchmarks/device_root.h"
 #include "benchmarks/timing.h"
 #include "figure/figure_codec.h"
 #include "figure/figure_list.h"
@@ -42,26 +41,6 @@ struct Seen {
     mixed += (std::bit_cast<std::uint64_t>(point.east) ^ points) * 5;
   }
   friend bool operator==(const Seen&, const Seen&) = default;
-};
-
-// A folder for the device's root that goes with the object.
-class DeviceRoot {
- public:
-  DeviceRoot()
-      : folder_(std::filesystem::temp_directory_path() /
-                ("figure_bench" + std::to_string(::GetCurrentProcessId()))) {
-    std::filesystem::create_directories(folder_);
-    ::SetEnvironmentVariableW(L"CE_DEVICE_ROOT", folder_.c_str());
-  }
-  ~DeviceRoot() {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
-  }
-  DeviceRoot(const DeviceRoot&) = delete;
-  DeviceRoot& operator=(const DeviceRoot&) = delete;
-
- private:
-  std::filesystem::path folder_;
 };
 
 void AddFigures(tavix::CFigList& figures, int count) {
@@ -111,7 +90,7 @@ void ReadBlocks(CFile& file, std::vector<unsigned char>& block) {
 
 int main(int argc, char** argv) {
   const int count = argc > 1 ? std::max(1, std::atoi(argv[1])) : 10000;
-  const DeviceRoot root;
+  const tavix::DeviceRoot root;
   tavix::CFigList figures(0);
   if (figures.Open() != 0) {
     std::puts("the figure files cannot be made");

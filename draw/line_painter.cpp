@@ -1,10 +1,11 @@
 #include "draw/line_painter.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdlib>
-#include <optional>
+#include <utility>
 
 #include "view/coordinates.h"
 
@@ -24,7 +25,11 @@ LinePainter::LinePainter(PlanCanvas& canvas, const CViewState& view, const Legen
       out_of_view_(view.OutOfView()) {}
 
 void LinePainter::Use(std::int16_t legend) {
-  if (symbol_.Use(legend)) canvas_.UsePen(symbol_.Get().pen);
+  if (!symbol_.Use(legend)) return;
+  const LineSymbol& symbol = symbol_.Get();
+  canvas_.UsePen(symbol.pen);
+  is_solid_ = symbol.style == kSolidLine;
+  pattern_ = PatternOf(symbol);
 }
 
 // What is visible, grown by the reach of the pen, and by a pixel for the truncation of positions.
@@ -36,33 +41,42 @@ ScreenBox LinePainter::Reached() const {
 
 void LinePainter::DrawSegment(std::int16_t legend, GroundPoint start, GroundPoint end) {
   ScreenSegment clipped;
-  if (view_.ClipGroundSegment(start, end, clipped)) DrawClipped(legend, clipped, start, end);
+  if (!view_.ClipGroundSegment(start, end, clipped)) return;
+  Use(legend);
+  DrawClipped(clipped, start, end);
 }
 
 void LinePainter::DrawPolyline(std::int16_t legend, std::span<const GroundPoint> points) {
   if (points.empty() || out_of_view_.HoldsBack(points)) return;
-  ScreenPoint from = view_.GroundToScreen(points.front());
-  for (std::size_t i = 1; i < points.size(); ++i) {
-    const ScreenPoint to = view_.GroundToScreen(points[i]);
-    ScreenSegment segment{from, to};
-    if (view_.ClipScreenSegment(segment)) DrawClipped(legend, segment, points[i - 1], points[i]);
-    from = to;
+  const GroundTransform transform = view_.Transform();
+  bool in_use = false;
+  std::array<ScreenPoint, 64> pixels;
+  for (std::size_t from = 0; from + 1 < points.size(); from += pixels.size() - 1) {
+    const auto part = points.subspan(from, std::min(pixels.size(), points.size() - from));
+    for (std::size_t i = 0; i < part.size(); ++i) pixels[i] = transform.ToScreen(part[i]);
+    for (std::size_t i = 1; i < part.size(); ++i) {
+      ScreenSegment segment{pixels[i - 1], pixels[i]};
+      if (!view_.ClipScreenSegment(segment)) continue;
+      if (!std::exchange(in_use, true)) Use(legend);
+      DrawClipped(segment, part[i - 1], part[i]);
+    }
   }
 }
 
-void LinePainter::DrawClipped(std::int16_t legend, const ScreenSegment& clipped, GroundPoint start,
-                              GroundPoint end) {
-  Use(legend);
-  if (symbol_.Get().style == kSolidLine) {
-    canvas_.Line(WithDot(clipped));
-  } else if (const std::optional<LinePattern> pattern = PatternOf(symbol_.Get())) {
-    DrawPattern(*pattern, start, end);
+void LinePainter::DrawClipped(ScreenSegment& clipped, GroundPoint start, GroundPoint end) {
+  if (is_solid_) {
+    AddDot(clipped);
+    canvas_.Line(clipped);
+  } else if (pattern_) {
+    DrawPattern(start, end);
   }
 }
 
-void LinePainter::DrawPattern(const LinePattern& pattern, GroundPoint start, GroundPoint end) {
-  WalkPattern(view_, pattern, start, end, Reached(), [this](const LinePiece& piece) {
-    canvas_.Line(WithDot({view_.GroundToScreen(piece.start), view_.GroundToScreen(piece.end)}));
+void LinePainter::DrawPattern(GroundPoint start, GroundPoint end) {
+  WalkPattern(view_, *pattern_, start, end, Reached(), [this](const LinePiece& piece) {
+    ScreenSegment line{view_.GroundToScreen(piece.start), view_.GroundToScreen(piece.end)};
+    AddDot(line);
+    canvas_.Line(line);
   });
 }
 

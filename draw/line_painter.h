@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 
 #include "draw/line_styles.h"
@@ -28,16 +29,17 @@ class LinePainter {
 
  private:
   void Use(std::int16_t legend);
-  // The part that shows of a segment between two points on the ground.
-  void DrawClipped(std::int16_t legend, const ScreenSegment& clipped, GroundPoint start,
-                   GroundPoint end);
-  void DrawPattern(const LinePattern& pattern, GroundPoint start, GroundPoint end);
+  // The part that shows of a segment between two points on the ground, with the symbol in use.
+  void DrawClipped(ScreenSegment& clipped, GroundPoint start, GroundPoint end);
+  void DrawPattern(GroundPoint start, GroundPoint end);
   void DrawHugeCircle(RealScreenPoint centre, double radius);
   [[nodiscard]] ScreenBox Reached() const;
 
   PlanCanvas& canvas_;
   const CViewState& view_;
   SymbolInUse<LineSymbol> symbol_;
+  bool is_solid_ = false;               // the symbol in use is a solid line,
+  std::optional<LinePattern> pattern_;  // or has this pattern, or draws no segment
   ScreenBox visible_;
   SegmentSieve out_of_view_;
 };

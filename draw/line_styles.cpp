@@ -105,7 +105,7 @@ class PatternWalk {
       draw_({at_, end_});
       return;
     }
-    constexpr std::int64_t kFewRounds = 16;  // not worth passing over
+    if (IsShort() && !DrawRounds(kFewRounds)) return;
     constexpr std::int64_t kManyRounds = std::int64_t{1} << 60;
     std::int64_t rounds = kFewRounds;
     while (!CannotShow(at_, end_)) {
@@ -126,6 +126,15 @@ class PatternWalk {
   }
 
  private:
+  static constexpr std::int64_t kFewRounds = 16;  // not worth passing over
+
+  // Whether a few rounds lead to the end, but for their rounding.
+  [[nodiscard]] bool IsShort() const {
+    GroundStep round;
+    for (const GroundStep step : steps_) round = {round.dx + step.dx, round.dy + step.dy};
+    return !box_.Holds(at_ + GroundStep{round.dx * kFewRounds, round.dy * kFewRounds});
+  }
+
   [[nodiscard]] bool IsHere(GroundPoint at) const {
     return at.north == at_.north && at.east == at_.east;
   }

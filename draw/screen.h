@@ -15,13 +15,12 @@ struct ScreenBox {
   int bottom = 0;
 };
 
-// The line to draw for a segment, so that one with both ends on the same pixel still leaves a dot:
-// a line leaves its own end out. At the right end of the range of pixels, far out of view, there is
-// no dot.
-inline ScreenSegment WithDot(ScreenSegment segment) {
+// Makes of a segment the line to draw for it, so that one with both ends on the same pixel still
+// leaves a dot: a line leaves its own end out. At the right end of the range of pixels, far out of
+// view, there is no dot.
+inline void AddDot(ScreenSegment& segment) {
   constexpr int kLast = std::numeric_limits<int>::max();
   if (segment.start == segment.end && segment.end.x < kLast) ++segment.end.x;
-  return segment;
 }
 
 }  // namespace tavix

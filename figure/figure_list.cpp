@@ -98,14 +98,21 @@ int ReadFigure(FileWindow& index_file, FileWindow& coordinate_file, std::int32_t
   figure->number = record->number;
   figure->legend = record->legend;
   figure->is_circle = record->is_circle != 0;
-  figure->points.clear();
-  if (record->point_count < 1) return 0;
+  std::vector<GroundPoint>& points = figure->points;
+  if (record->point_count < 1) {
+    points.clear();
+    return 0;
+  }
   // In 64 bits: the size of a damaged count may exceed 32.
   const auto size = static_cast<std::uint64_t>(record->point_count) * kFigurePointSize;
   const unsigned char* bytes = coordinate_file.Bytes(record->first_point, size);
-  if (!bytes) return -3;
-  figure->points.resize(static_cast<std::size_t>(record->point_count));
-  DecodeFigurePoints(bytes, figure->points);
+  if (!bytes) {
+    points.clear();
+    return -3;
+  }
+  // Not cleared before, which would set each point twice.
+  points.resize(static_cast<std::size_t>(record->point_count));
+  DecodeFigurePoints(bytes, points);
   return 0;
 }
 

@@ -49,11 +49,6 @@ bool ClipAtOneCrossing(ScreenSegment& segment, ScreenPoint crossing, bool start_
 
 }  // namespace
 
-bool PointInQuad(const ScreenQuad& quad, ScreenPoint point) {
-  return point.x >= quad[0].x && point.x <= quad[1].x && point.y >= quad[0].y &&
-         point.y <= quad[2].y;
-}
-
 bool ClipToQuad(const ScreenQuad& quad, ScreenSegment& segment) {
   const bool start_inside = PointInQuad(quad, segment.start);
   const bool end_inside = PointInQuad(quad, segment.end);

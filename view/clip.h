@@ -11,7 +11,10 @@ namespace tavix {
 using ScreenQuad = std::array<ScreenPoint, 4>;
 
 // True when the point lies in the rectangle, borders included: 0 <= x <= w and 0 <= y <= h.
-bool PointInQuad(const ScreenQuad& quad, ScreenPoint point);
+inline bool PointInQuad(const ScreenQuad& quad, ScreenPoint point) {
+  return point.x >= quad[0].x && point.x <= quad[1].x && point.y >= quad[0].y &&
+         point.y <= quad[2].y;
+}
 
 // Clips `segment` in place to the rectangle; false when no part of it is inside.
 //

@@ -12,18 +12,6 @@ namespace {
 constexpr double kRadiansPerDegree = 0.017453292519943295;
 constexpr double kSameView = 0.00001;  // pixels per metre, and metres
 
-struct Cosines {
-  double cos;
-  double sin;
-};
-
-// Rotates (x, y) about the pixel (cx, cy): clockwise for a positive angle, since y runs down.
-RealScreenPoint RotateAbout(double x, double y, int cx, int cy, Cosines angle) {
-  const double dx = x - cx;
-  const double dy = y - cy;
-  return {dx * angle.cos - dy * angle.sin + cx, dy * angle.cos + dx * angle.sin + cy};
-}
-
 }  // namespace
 
 void CViewState::SetScreenSize(int width, int height) {
@@ -135,20 +123,9 @@ void CViewState::ToggleExtents() {
   v_scale_ = scale_ * ratio_;
 }
 
-RealScreenPoint CViewState::GroundToRealScreen(GroundPoint ground) const {
-  const double u = (ground.east - centre_.east) * scale_ + half_width_;
-  const double v = (centre_.north - ground.north) * v_scale_ + half_height_;
-  return RotateAbout(u, v, half_width_, half_height_, {cos_a_, sin_a_});
-}
-
-ScreenPoint CViewState::GroundToScreen(GroundPoint ground) const {
-  const RealScreenPoint screen = GroundToRealScreen(ground);
-  return {TruncateToInt(screen.x), TruncateToInt(screen.y)};
-}
-
 GroundPoint CViewState::ScreenToGround(ScreenPoint screen) const {
   const RealScreenPoint flat =
-      RotateAbout(screen.x, screen.y, half_width_, half_height_, {cos_inv_, sin_inv_});
+      ScreenRotation{Middle(), cos_inv_, sin_inv_}.Of({1.0 * screen.x, 1.0 * screen.y});
   return {(half_height_ - flat.y) / v_scale_ + centre_.north,
           (flat.x - half_width_) / scale_ + centre_.east};
 }
@@ -210,15 +187,7 @@ SegmentSieve CViewState::OutOfView() const {
           {centre_, kTruePixels / std::fabs(v_scale_), kTruePixels / std::fabs(scale_)}};
 }
 
-bool CViewState::ClipGroundSegment(GroundPoint start, GroundPoint end,
-                                   ScreenSegment& clipped) const {
-  ScreenSegment segment{GroundToScreen(start), GroundToScreen(end)};
-  if (!ClipScreenSegment(segment)) return false;
-  clipped = segment;
-  return true;
-}
-
-bool CViewState::ClipScreenSegment(ScreenSegment& segment) const {
+bool CViewState::ClipAcrossBorder(ScreenSegment& segment) const {
   const int width = TruncateToInt(width_);
   const int height = TruncateToInt(height_);
   if (segment.start.y < 0 && segment.end.y < 0) return false;

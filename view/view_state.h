@@ -5,6 +5,7 @@
 #include "view/clip.h"
 #include "view/coordinates.h"
 #include "view/ground_area.h"
+#include "view/ground_transform.h"
 
 namespace tavix {
 
@@ -62,11 +63,20 @@ class CViewState {
 
   // ---- Transforms
 
+  // Ground to pixel as the view is now.
+  [[nodiscard]] GroundTransform Transform() const {
+    return {centre_, scale_, v_scale_, {Middle(), cos_a_, sin_a_}};
+  }
+
   // Ground to pixel, truncated toward zero.
-  [[nodiscard]] ScreenPoint GroundToScreen(GroundPoint ground) const;
+  [[nodiscard]] ScreenPoint GroundToScreen(GroundPoint ground) const {
+    return Transform().ToScreen(ground);
+  }
 
   // The same before the truncation.
-  [[nodiscard]] RealScreenPoint GroundToRealScreen(GroundPoint ground) const;
+  [[nodiscard]] RealScreenPoint GroundToRealScreen(GroundPoint ground) const {
+    return Transform().ToRealScreen(ground);
+  }
 
   // Pixel to ground: the inverse of GroundToRealScreen.
   [[nodiscard]] GroundPoint ScreenToGround(ScreenPoint screen) const;
@@ -104,10 +114,20 @@ class CViewState {
   // Clips a ground segment to the client area. False when it lies outside; `clipped` then stays as
   // it was.
   [[nodiscard]] bool ClipGroundSegment(GroundPoint start, GroundPoint end,
-                                       ScreenSegment& clipped) const;
+                                       ScreenSegment& clipped) const {
+    const GroundTransform transform = Transform();
+    ScreenSegment segment{transform.ToScreen(start), transform.ToScreen(end)};
+    if (!ClipScreenSegment(segment)) return false;
+    clipped = segment;
+    return true;
+  }
 
   // The same of a segment of pixels, in place. False when it lies outside; it is then undefined.
-  [[nodiscard]] bool ClipScreenSegment(ScreenSegment& segment) const;
+  [[nodiscard]] bool ClipScreenSegment(ScreenSegment& segment) const {
+    const bool inside =
+        PointInQuad(screen_quad_, segment.start) && PointInQuad(screen_quad_, segment.end);
+    return inside || ClipAcrossBorder(segment);
+  }
 
   // As ClipGroundSegment, and the ground ends become the ground positions of the clipped pixels.
   [[nodiscard]] bool ClipGroundSegmentInPlace(GroundPoint& start, GroundPoint& end,
@@ -126,6 +146,12 @@ class CViewState {
   [[nodiscard]] bool NoViewYet() const { return no_view_yet_; }
 
  private:
+  // The pixel that the view rotates about.
+  [[nodiscard]] RealScreenPoint Middle() const {
+    return {static_cast<double>(half_width_), static_cast<double>(half_height_)};
+  }
+  // ClipScreenSegment where an end lies outside.
+  [[nodiscard]] bool ClipAcrossBorder(ScreenSegment& segment) const;
   [[nodiscard]] bool SetScaleCapped(double scale);
   [[nodiscard]] double ScaleToShow(GroundSize size, double width, double height,
                                    double margin) const;

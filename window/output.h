@@ -30,6 +30,11 @@ class BackBuffer {
   // The pixels that Dc() draws into; null where the screen's colours are not of 32 bits.
   [[nodiscard]] const PixelBlock& Pixels() const { return pixels_; }
 
+  // Whether the buffer has been made and holds all of a client area.
+  [[nodiscard]] bool Covers(const CRect& client) const {
+    return selected_ && client.right <= rect_.right && client.bottom <= rect_.bottom;
+  }
+
   // The client area at creation: left and top are 0.
   [[nodiscard]] const CRect& Rect() const { return rect_; }
 

@@ -52,6 +52,9 @@ class PlotDisplay {
   // To be called before the window goes: gives back what is kept of its screen.
   void ReleaseScreen() { immediate_.Release(); }
 
+  // Whether a paint leaves nothing of what the client area showed before.
+  [[nodiscard]] bool Covers(const CRect& client) const { return buffer_.Covers(client); }
+
   // Copies the buffer, and puts the overlays back over it.
   void Paint(CDC& paint, const CRect& clip);
 

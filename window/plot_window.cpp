@@ -181,6 +181,7 @@ void CPlotWnd::OnDestroy() {
 BOOL CPlotWnd::OnEraseBkgnd(CDC* dc) {
   CRect client;
   GetClientRect(&client);
+  if (parts_->painting && parts_->display.Covers(client)) return TRUE;
   if (parts_->painting) parts_->buttons.ExcludeFrom(*dc);
   ::FillRect(dc->m_hDC, &client, ::GetSysColorBrush(COLOR_WINDOW));
   // The system can have the background erased before the paint; that covers the buttons, too.

@@ -87,6 +87,13 @@ void Plot::Show(double ground_side, int angle) {
   static_cast<void>(view_.SetAngle(angle));
 }
 
+// A redraw that is pending is drawn before the angle is set, to what it is.
+void Plot::Redraw() const {
+  Tavix_Drw(1);
+  Tavix_SetAng(view_.Angle());
+  ::GdiFlush();
+}
+
 void Plot::RedrawAndPaint() const {
   Tavix_Drw(1);
   ::UpdateWindow(window_);

@@ -41,7 +41,9 @@ class Plot {
   // The view that the last Show gave the instance.
   [[nodiscard]] const CViewState& View() const { return view_; }
 
-  // A redraw up to its pixels on the screen.
+  // A redraw up to its pixels in the back buffer, without a paint.
+  void Redraw() const;
+  // The same up to its pixels on the screen.
   void RedrawAndPaint() const;
   // The same pixels on the screen once more.
   void Paint() const;

@@ -25,6 +25,9 @@ constexpr SIZE kHandheld{240, 320};
 constexpr SIZE kTablet{1280, 1024};
 constexpr SIZE kLarge{3840, 2160};
 
+// What grows with use is there by then: the index of places, a part at each redraw.
+constexpr int kRedrawsBefore = 20;
+
 int Rounds(std::size_t points) {
   if (points >= 1000000) return 3;
   return points >= 100000 ? 5 : points >= 10000 ? 11 : 21;
@@ -32,12 +35,22 @@ int Rounds(std::size_t points) {
 
 std::string SizeText(SIZE size) { return Text("%ldx%ld", size.cx, size.cy); }
 
-// A redraw without the copy to the screen, which the floor does not have: from the call to the
-// painted window, less a paint of the same picture. When the call draws is the library's own
-// affair.
-double RedrawMilliseconds(const Plot& plot) {
-  const double both = Milliseconds([&] { plot.RedrawAndPaint(); });
-  return both - Milliseconds([&] { plot.Paint(); });
+// Redraws beside a floor, in turn. Each is painted afterwards, as redraws are, but that is not
+// timed with it: the floor has no copy to the screen.
+template <class Floor>
+void PrintRedraws(Figure figure, const Plot& plot, int rounds, Floor floor) {
+  std::vector<double> paints;
+  const Comparison result = InTurn(
+      rounds, [&] { return Milliseconds(floor); },
+      [&] {
+        const double redraw = Milliseconds([&] { plot.Redraw(); });
+        paints.push_back(Milliseconds([&] { plot.Paint(); }));
+        return redraw;
+      });
+  figure.value = result.ratio;
+  figure.details =
+      Times(result.floor, result.product) + Text(", its paint %.3g ms", Median(paints));
+  Print(figure);
 }
 
 long Differences(const std::vector<std::uint32_t>& a, const std::vector<std::uint32_t>& b) {
@@ -74,25 +87,19 @@ struct Case {
 };
 
 // The plot against the plain picture, whole or a part of the survey in view.
-Comparison Compare(const Case& named, SIZE size, const Survey& survey, const Look& look,
-                   double ground_side) {
+void Compare(const Case& named, SIZE size, const Survey& survey, const Look& look,
+             double ground_side) {
   Plot plot(0, size);
   plot.Use(look);
   plot.Enter(survey);
   plot.Show(ground_side);
   PlainPicture plain(size, look);
   plain.Draw(survey, plot.View(), Clipping::kByView);
-  // What grows with use is there by then: the index of places, a part at each redraw.
-  constexpr int kRedrawsBefore = 20;
   for (int i = 0; i < kRedrawsBefore; ++i) plot.RedrawAndPaint();
   const long different = DifferencesFromPlain(plot, plain, size);
-  const Comparison result = InTurn(
-      Rounds(survey.points.size()),
-      [&] { return Milliseconds([&] { plain.Draw(survey, plot.View(), Clipping::kBySystem); }); },
-      [&] { return RedrawMilliseconds(plot); });
-  Print({named.goal, named.what + ", " + SizeText(size), result.ratio, "", named.limit,
-         Times(result.floor, result.product), different});
-  return result;
+  PrintRedraws({named.goal, named.what + ", " + SizeText(size), 0, "", named.limit, "", different},
+               plot, Rounds(survey.points.size()),
+               [&] { plain.Draw(survey, plot.View(), Clipping::kBySystem); });
 }
 
 bool Shows(const std::vector<GroundPoint>& figure, const CViewState& view) {
@@ -118,19 +125,29 @@ Survey VisiblePart(const Survey& survey, const CViewState& view) {
   return part;
 }
 
-// A zoomed-in view of a survey, also against a store that holds nothing but what is in view.
-void CompareZoomed(const Case& named, SIZE size, const Survey& survey, double ground_side,
-                   bool beside_small_store) {
-  const Comparison whole = Compare(named, size, survey, {}, ground_side);
-  if (!beside_small_store) return;
-  Plot plot(0, size);
-  plot.Use({});
-  plot.Show(ground_side);
-  plot.Enter(VisiblePart(survey, plot.View()));
-  const double small = MedianMilliseconds([&] { plot.RedrawAndPaint(); }) -
-                       MedianMilliseconds([&] { plot.Paint(); });
-  Print({named.goal, named.what + " against a store of what is visible, " + SizeText(size),
-         whole.product / small, "", 2.0, Times(small, whole.product)});
+// A zoomed-in view of a survey against a store that holds nothing but what is in view.
+void CompareWithSmallStore(const Case& named, SIZE size, const Survey& survey, double ground_side) {
+  Plot whole(0, size);
+  whole.Use({});
+  whole.Enter(survey);
+  whole.Show(ground_side);
+  Plot small(1, size);
+  small.Use({});
+  small.Show(ground_side);
+  small.Enter(VisiblePart(survey, small.View()));
+  for (const Plot* plot : {&small, &whole}) {
+    plot->MakeCurrent();
+    for (int i = 0; i < kRedrawsBefore; ++i) plot->RedrawAndPaint();
+  }
+  constexpr int kRounds = 31;
+  const auto floor = [&] {
+    small.MakeCurrent();
+    small.Redraw();
+    whole.MakeCurrent();
+  };
+  PrintRedraws({named.goal, named.what + ", against a store of what is visible, " + SizeText(size),
+                0, "", named.limit, ""},
+               whole, kRounds, floor);
 }
 
 Survey Circles(int count) {
@@ -199,9 +216,10 @@ void MeasurePens() {
 void MeasureZoomedViews() {
   Survey survey = MakeSurvey(1000000);
   for (const SIZE size : {kHandheld, kTablet}) {
-    CompareZoomed({"3", "S(1e6), 0.01 % in view", 0.10}, size, survey, kSurveySide / 100, true);
+    Compare({"3", "S(1e6), 0.01 % in view", 0.10}, size, survey, {}, kSurveySide / 100);
+    CompareWithSmallStore({"3", "S(1e6), 0.01 % in view", 2.0}, size, survey, kSurveySide / 100);
   }
-  CompareZoomed({"4", "S(1e6), 1 % in view", 0.20}, kTablet, survey, kSurveySide / 10, false);
+  Compare({"4", "S(1e6), 1 % in view", 0.20}, kTablet, survey, {}, kSurveySide / 10);
   Compare({"4", "S(1e5), 1 % in view", 0.20}, kTablet, MakeSurvey(100000), {}, kSurveySide / 10);
   Compare({"4", "S(1e4), 1 % in view", 0.20}, kTablet, MakeSurvey(10000), {}, kSurveySide / 10);
 }
@@ -253,11 +271,8 @@ void MeasureSideView() {
   plain.DrawSide(survey, heights, plot.View());
   plot.RedrawAndPaint();
   const long different = Differences(plain.Pixels(), plot.Screen());
-  const Comparison result = InTurn(
-      5, [&] { return Milliseconds([&] { plain.DrawSide(survey, heights, plot.View()); }); },
-      [&] { return RedrawMilliseconds(plot); });
-  Print({"17", "side view of 1e5 points, " + SizeText(kTablet), result.ratio, "", 0.15,
-         Times(result.floor, result.product), different});
+  PrintRedraws({"17", "side view of 1e5 points, " + SizeText(kTablet), 0, "", 0.15, "", different},
+               plot, 5, [&] { plain.DrawSide(survey, heights, plot.View()); });
 }
 
 }  // namespace tavix

@@ -256,7 +256,7 @@ void MeasureChanges() {
     for (int i = 0; i < kChanges; ++i) ::InvalidateRect(plot.Window(), nullptr, TRUE);
   });
   const double paint = MedianMilliseconds([&] { plot.Paint(); });
-  const double redraw = MedianMilliseconds([&] { plot.RedrawAndPaint(); }) - paint;
+  const double redraw = MedianMilliseconds([&] { plot.Redraw(); });
   Tavix_DrwFlg(1);
   const double drawn = Milliseconds([&] {
     change();

@@ -1,29 +1,8 @@
 #include "draw/dib/bresenham.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <cstdlib>
 
 namespace tavix {
-
-int TieRule::OctantOf(int dx, int dy) {
-  return (dx < 0 ? 1 : 0) | (dy < 0 ? 2 : 0) | (std::abs(dx) > std::abs(dy) ? 4 : 0);
-}
-
-LineWalk::LineWalk(const TieRule& rule, const ScreenSegment& segment) {
-  const int dx = segment.end.x - segment.start.x;
-  const int dy = segment.end.y - segment.start.y;
-  is_flat_ = std::abs(dx) > std::abs(dy);
-  step_x_ = dx < 0 ? -1 : 1;
-  step_y_ = dy < 0 ? -1 : 1;
-  length_ = std::max(std::abs(dx), std::abs(dy));
-  const int shorter = std::min(std::abs(dx), std::abs(dy));
-  // A tie is an error of zero; where the line steps later it counts as not yet passed.
-  const bool at_once = rule.StepsAtOnce(TieRule::OctantOf(dx, dy));
-  error_ = 2 * shorter - length_ - (at_once ? 0 : 1);
-  on_straight_ = 2 * shorter;
-  on_aside_ = 2 * (shorter - length_);
-}
 
 void StepLine(const PixelBlock& block, const TieRule& rule, const ScreenSegment& segment,
               std::uint32_t color) {

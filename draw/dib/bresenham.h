@@ -1,9 +1,11 @@
 // Solid lines one pixel wide, stepped by Bresenham's algorithm.
 #pragma once
 
+#include <algorithm>
 #include <bitset>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 
 #include "draw/dib/dib_section.h"
 #include "store/symbols.h"
@@ -19,7 +21,9 @@ class TieRule {
 
   // Which of the eight octants a step of (dx, dy) pixels belongs to; of equal steps it is the one
   // nearer to vertical. 0..7.
-  [[nodiscard]] static int OctantOf(int dx, int dy);
+  [[nodiscard]] static int OctantOf(int dx, int dy) {
+    return (dx < 0 ? 1 : 0) | (dy < 0 ? 2 : 0) | (std::abs(dx) > std::abs(dy) ? 4 : 0);
+  }
 
   void SetStepsAtOnce(int octant, bool at_once) { at_once_.set(Index(octant), at_once); }
   [[nodiscard]] bool StepsAtOnce(int octant) const { return at_once_[Index(octant)]; }
@@ -46,7 +50,22 @@ inline bool IsOnePixelWide(const Pen& pen) { return pen.width == 0 || pen.width 
 // A walk along a line's longer axis, from its start up to its end.
 class LineWalk {
  public:
-  LineWalk(const TieRule& rule, const ScreenSegment& segment);
+  LineWalk(const TieRule& rule, const ScreenSegment& segment) {
+    const int dx = segment.end.x - segment.start.x;
+    const int dy = segment.end.y - segment.start.y;
+    const int width = std::abs(dx);
+    const int height = std::abs(dy);
+    is_flat_ = width > height;
+    step_x_ = dx < 0 ? -1 : 1;
+    step_y_ = dy < 0 ? -1 : 1;
+    length_ = std::max(width, height);
+    const int shorter = std::min(width, height);
+    // A tie is an error of zero; where the line steps later it counts as not yet passed.
+    const bool at_once = rule.StepsAtOnce(TieRule::OctantOf(dx, dy));
+    error_ = 2 * shorter - length_ - (at_once ? 0 : 1);
+    on_straight_ = 2 * shorter;
+    on_aside_ = 2 * (shorter - length_);
+  }
 
   [[nodiscard]] int Pixels() const { return length_; }
   [[nodiscard]] bool IsFlat() const { return is_flat_; }

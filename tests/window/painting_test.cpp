@@ -64,6 +64,20 @@ TEST_F(Painting, ErasesWithTheWindowColour) {
   EXPECT_TRUE(SamePicture(Empty(), canvas.Take()));
 }
 
+// The buffer keeps the size that the window had when it was made.
+TEST_F(Painting, ErasesWhatAWindowMadeLargerHasBesideItsPicture) {
+  const Picture before = Shown();
+  RECT outer{};
+  ::GetWindowRect(Window(), &outer);
+  ::SetWindowPos(Window(), nullptr, 0, 0, outer.right - outer.left + 40,
+                 outer.bottom - outer.top + 30, SWP_NOMOVE | SWP_NOZORDER);
+  Scribble(Client());
+  ::InvalidateRect(Window(), nullptr, TRUE);
+  const Picture picture = Shown();
+  EXPECT_EQ(0, CountPixels(picture, kRedPixel));
+  EXPECT_EQ(before.At(1, 1), picture.At(150, 110));
+}
+
 TEST_F(Painting, ARedrawInvalidatesTheWholeClient) {
   for (const BYTE keep_view : {BYTE{0}, BYTE{1}}) {
     EXPECT_EQ(0, Tavix_Drw(keep_view));

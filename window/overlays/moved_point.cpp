@@ -66,7 +66,7 @@ void MovedPoint::FlipOn(CDC& dc) const {
   }
   ScreenSegment line;
   if (has_line_ && view.ClipGroundSegment(anchor_, position_, line)) {
-    line = WithDot(line);
+    AddDot(line);
     dc.MoveTo(line.start.x, line.start.y);
     dc.LineTo(line.end.x, line.end.y);
   }
