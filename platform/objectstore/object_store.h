@@ -21,6 +21,7 @@
 #include <string_view>
 
 #include "platform/objectstore/property.h"
+#include "platform/objectstore/record_layout.h"
 
 namespace tavix {
 
@@ -127,7 +128,7 @@ struct SeekTarget {
 // The current record of a handle. The properties are good until the store next changes.
 struct RecordView {
   ObjectId id = 0;
-  std::span<const Property> properties;
+  RecordValues properties;
 };
 
 // ---- The store

@@ -74,20 +74,18 @@ bool AreDistinct(std::span<const Property> properties) {
   return true;
 }
 
-std::vector<Property> MergeValues(std::span<const Property> record,
-                                  std::span<const Property> written) {
-  std::vector<Property> merged(record.begin(), record.end());
+std::vector<Property> MergeValues(std::vector<Property> record, std::span<const Property> written) {
   for (const Property& property : written) {
-    const auto same = std::ranges::find(merged, property.Id(), &Property::Id);
+    const auto same = std::ranges::find(record, property.Id(), &Property::Id);
     if (property.IsRemoval()) {
-      if (same != merged.end()) merged.erase(same);
-    } else if (same != merged.end()) {
+      if (same != record.end()) record.erase(same);
+    } else if (same != record.end()) {
       *same = property;
     } else {
-      merged.push_back(property);
+      record.push_back(property);
     }
   }
-  return merged;
+  return record;
 }
 
 bool FitInRecord(std::span<const Property> properties) {

@@ -95,6 +95,10 @@ class Property {
   static Property Blob(std::uint16_t tag, std::span<const std::byte> bytes) {
     return {PropertyId(tag, PropertyType::kBlob), bytes.data(), bytes.size()};
   }
+  // A double by its bits, so that those of a NaN stay as they are.
+  static Property R8Bits(std::uint16_t tag, std::uint64_t bits) {
+    return {PropertyId(tag, PropertyType::kR8), bits};
+  }
   // For writing only: removes the property from the record.
   static Property Removal(PropertyId id) { return {id, nullptr, kRemoval}; }
   // The same property with its string or blob at another address.
@@ -161,8 +165,7 @@ bool AreDistinct(std::span<const Property> properties);
 
 // The properties of a record after a write: a value replaces one with the same identifier or is
 // appended, a removal removes it. Strings and blobs are not copied.
-std::vector<Property> MergeValues(std::span<const Property> record,
-                                  std::span<const Property> written);
+std::vector<Property> MergeValues(std::vector<Property> record, std::span<const Property> written);
 
 // False when the values are too large for one record.
 bool FitInRecord(std::span<const Property> properties);

@@ -251,10 +251,10 @@ class StorePair {
 
   void ExpectRecord(const RecordView& view) {
     const ModelRecord& record = model_.records.at(view.id);
-    const Property* number = FindProperty(view.properties, kNumberId);
-    const Property* text = FindProperty(view.properties, kTextId);
-    Require(record.number.has_value() == (number != nullptr), "whether there is a number");
-    Require(record.text.has_value() == (text != nullptr), "whether there is a text");
+    const std::optional<Property> number = view.properties.Find(kNumberId);
+    const std::optional<Property> text = view.properties.Find(kTextId);
+    Require(record.number.has_value() == number.has_value(), "whether there is a number");
+    Require(record.text.has_value() == text.has_value(), "whether there is a text");
     Require(!number || *record.number == number->AsI2(), "the number");
     Require(!text || *record.text == text->AsString(), "the text");
   }
