@@ -2,6 +2,7 @@
 
 #include <array>
 #include <limits>
+#include <new>
 
 namespace tavix {
 namespace {
@@ -73,7 +74,7 @@ int CLinDb::Add(LineKeys keys, std::int16_t legend, std::int32_t* id) {
   std::array<CCeDBProp, 5> properties = EncodeLine({next_id_, keys, legend});
   record_.DeleteAllProps();
   record_.AddProps(properties.data(), static_cast<int>(properties.size()));
-  const bool is_drawn = drawn_changes_ && drawn_changes_ == database_.Records().GetNumChanges();
+  const bool is_drawn = IsDrawn();
   const CEOID added = database_.Records().AddRecord(&record_);
   record_.DeleteAllProps();
   if (added == 0) return -1;
@@ -88,16 +89,26 @@ int CLinDb::Add(LineKeys keys, std::int16_t legend, std::int32_t* id) {
 // The last in the order of ids, too, unless these have gone round their 16 bits.
 void CLinDb::DrawLast(std::int16_t id, LineKeys keys, std::int16_t legend) {
   if (id < last_drawn_ || last_drawn_ == std::numeric_limits<std::int16_t>::max()) return;
-  drawn_.Append(keys, legend);
+  try {
+    drawn_.Append(id, keys, legend);
+  } catch (const std::bad_alloc&) {
+    return;  // all are read again
+  }
   last_drawn_ = id;
   drawn_changes_ = *drawn_changes_ + 1;
+}
+
+bool CLinDb::IsDrawn() {
+  return drawn_changes_ && drawn_changes_ == database_.Records().GetNumChanges();
 }
 
 int CLinDb::Remove(LineKeys keys) {
   changed_ = true;
   if (const int code = Find(keys); code != 0) return code;
+  const bool is_drawn = IsDrawn() && database_.Records().ReadCurrRecord(&record_);
   if (!database_.DeleteCurrent()) return -7;
   lookup_.Deleted(keys);
+  if (is_drawn && drawn_.Remove(PlaceOf(record_), keys)) drawn_changes_ = *drawn_changes_ + 1;
   return 0;
 }
 
@@ -117,8 +128,13 @@ int CLinDb::SetCurHan(std::int16_t legend) {
   CCeDBProp* property = record.GetPropFromIdent(kLegend);
   if (!property) return -4;
   property->SetShort(legend);
+  const bool is_drawn = IsDrawn();
   if (!database_.Records().WriteCurrRecord(&record)) return -1;
   lookup_.Changed();
+  const std::optional<Line> line = DecodeLine(record);
+  if (is_drawn && line && drawn_.SetLegend(PlaceOf(record), line->keys, legend)) {
+    drawn_changes_ = *drawn_changes_ + 1;
+  }
   changed_ = true;
   return 0;
 }
@@ -134,16 +150,18 @@ bool CLinDb::ReadForDrawing() {
   const ULONGLONG changes = database_.Records().GetNumChanges();
   if (drawn_changes_ == changes) return true;
   drawn_.Clear();
-  drawn_changes_ = changes;
+  drawn_changes_.reset();
+  bool is_whole = true;
   do {
     Line line;
     if (ReadCur(&line) == 0) {
-      drawn_.Append(line.keys, line.legend);
       last_drawn_ = PlaceOf(record_);
+      drawn_.Append(last_drawn_, line.keys, line.legend);
     } else {
-      drawn_changes_.reset();
+      is_whole = false;
     }
   } while (Next() == 0);
+  if (is_whole) drawn_changes_ = changes;
   return true;
 }
 

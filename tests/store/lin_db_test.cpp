@@ -204,6 +204,13 @@ TEST_F(LineStore, ReadsItsRecordsOnceForAllRedraws) {
   points.SetCurCrd({-1, -1});
   EXPECT_EQ(50U, Walk(lines, points).size());
   EXPECT_EQ(49, reads()) << "nor is a line entered between two redraws";
+  EXPECT_EQ(0, lines.Find(LineKeys::Of(3, 0)));
+  ASSERT_EQ(0, lines.SetCurHan(7));
+  ASSERT_EQ(0, lines.Remove(LineKeys::Of(0, 4)));
+  const int before = reads();
+  EXPECT_EQ(49U, Walk(lines, points).size());
+  EXPECT_EQ(before, reads()) << "nor are the others when one has changed or gone";
+  EXPECT_EQ(Read(lines, points), Walk(lines, points));
 }
 
 }  // namespace
