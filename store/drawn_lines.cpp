@@ -67,6 +67,7 @@ void DrawnLines::FindEnds(const CPntList& points) {
   removals_ = points.Removals();
   moves_ = points.Moves();
   points_ = points.PositionEnd();
+  if (ends_.empty()) ends_.reserve(lines_.size());
   while (ends_.size() < lines_.size()) {
     const LineKeys keys = lines_[ends_.size()].keys;
     ends_.push_back({points.PositionOf(keys.a).value_or(kMissing),

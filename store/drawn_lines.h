@@ -20,6 +20,8 @@ namespace tavix {
 class DrawnLines {
  public:
   void Clear();
+  // Makes room for this many lines.
+  void Reserve(std::size_t count) { lines_.reserve(count); }
 
   // Its id is not below that of the last one.
   void Append(std::int16_t id, LineKeys keys, std::int16_t legend);

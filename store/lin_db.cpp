@@ -65,18 +65,15 @@ int CLinDb::Find(LineKeys keys) {
 }
 
 bool CLinDb::Contains(LineKeys keys) {
-  if (Reopen(Order::kBySmallerKey) && lookup_.IsKnownAbsent(keys)) return false;
-  return Find(keys) == 0;
+  const std::optional<bool> known =
+      Reopen(Order::kBySmallerKey) ? lookup_.IsThere(keys) : std::nullopt;
+  return known ? *known : Find(keys) == 0;
 }
 
 int CLinDb::Add(LineKeys keys, std::int16_t legend, std::int32_t* id) {
   if (!order_) return -1;
-  std::array<CCeDBProp, 5> properties = EncodeLine({next_id_, keys, legend});
-  record_.DeleteAllProps();
-  record_.AddProps(properties.data(), static_cast<int>(properties.size()));
   const bool is_drawn = IsDrawn();
-  const CEOID added = database_.Records().AddRecord(&record_);
-  record_.DeleteAllProps();
+  const CEOID added = database_.Records().AddRecord(&written_.Of({next_id_, keys, legend}));
   if (added == 0) return -1;
   lookup_.Added(keys, added);
   if (is_drawn) DrawLast(static_cast<std::int16_t>(next_id_), keys, legend);
@@ -150,6 +147,7 @@ bool CLinDb::ReadForDrawing() {
   const ULONGLONG changes = database_.Records().GetNumChanges();
   if (drawn_changes_ == changes) return true;
   drawn_.Clear();
+  drawn_.Reserve(database_.Records().GetNumRecords());
   drawn_changes_.reset();
   bool is_whole = true;
   do {

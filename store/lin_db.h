@@ -93,7 +93,8 @@ class CLinDb {
 
   DeviceDatabase database_;
   LineLookup lookup_;
-  CCeDBRecord record_;          // read into or written; a member to reuse its memory
+  LineRecord written_;
+  CCeDBRecord record_;          // read into; a member to reuse its memory
   std::optional<Order> order_;  // nothing while closed
   std::int32_t next_id_ = 1;
   DrawnLines drawn_;

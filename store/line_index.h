@@ -106,10 +106,12 @@ class LineIndex {
     // From behind a free place on, so that records with one pair keep their order.
     std::size_t start = 0;
     while (start < old.size() && old[start].record != kNoRecord) ++start;
-    for (std::size_t i = 0; i < old.size(); ++i) {
-      const Entry& entry = old[(start + i) % old.size()];
+    const auto from = old.begin() + static_cast<std::ptrdiff_t>(start);
+    const auto put = [this](Entry entry) {
       if (entry.record != kNoRecord) Put(entry);
-    }
+    };
+    std::for_each(from, old.end(), put);
+    std::for_each(old.begin(), from, put);
   }
 
   std::vector<Entry> entries_;

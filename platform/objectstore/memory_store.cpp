@@ -71,6 +71,12 @@ Outcome<ObjectInfo> MemoryStore::Info(ObjectId object) {
   return info;
 }
 
+Outcome<std::uint64_t> MemoryStore::Changes(ObjectId database) {
+  const Database* found = DatabaseOf(database);
+  if (!found) return StoreError::kNotFound;
+  return found->Changes();
+}
+
 StoreError MemoryStore::ChangeDatabase(ObjectId database, const DatabaseChange& change) {
   Database* found = DatabaseOf(database);
   if (!found) return StoreError::kInvalidParameter;

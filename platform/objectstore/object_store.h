@@ -156,6 +156,9 @@ class ObjectStore {
   // Of any object; kNotFound.
   virtual Outcome<ObjectInfo> Info(ObjectId object) = 0;
 
+  // The number of changes in a database's description, by itself; kNotFound.
+  virtual Outcome<std::uint64_t> Changes(ObjectId database) = 0;
+
   // Makes all changes or none. Fails as CreateDatabase does, and with kInUse for new orders while a
   // handle is open on the database.
   virtual StoreError ChangeDatabase(ObjectId database, const DatabaseChange& change) = 0;

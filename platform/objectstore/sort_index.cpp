@@ -145,8 +145,12 @@ void SortIndex::SettleAll() {
     return;
   }
   SortPending();
-  entries_.Merge(pending_,
-                 [this](Slot one, Slot other) { return Before(KeyOf(one), KeyOf(other)); });
+  // A pending record is compared with many others in turn.
+  Key pending = KeyOf(pending_.front());
+  entries_.Merge(pending_, [&](Slot one, Slot other) {
+    if (pending.slot != one) pending = KeyOf(one);
+    return Before(pending, KeyOf(other));
+  });
   pending_ = {};
 }
 
