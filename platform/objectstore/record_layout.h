@@ -25,12 +25,19 @@ class RecordLayout {
 
   [[nodiscard]] std::size_t Count() const { return columns_.size(); }
   // The number of a property, or nothing.
-  [[nodiscard]] std::optional<std::size_t> Find(PropertyId id) const;
+  [[nodiscard]] std::optional<std::size_t> Find(PropertyId id) const {
+    for (std::size_t number = 0; number < columns_.size(); ++number) {
+      if (columns_[number].id == id) return number;
+    }
+    return std::nullopt;
+  }
   [[nodiscard]] std::size_t RowBytes() const { return row_bytes_; }
   // Whether there are strings or blobs.
   [[nodiscard]] bool HasData() const { return has_data_; }
 
-  [[nodiscard]] Property Read(const std::byte* row, std::size_t number) const;
+  [[nodiscard]] Property Read(const std::byte* row, std::size_t number) const {
+    return Property::At(columns_[number].id, row + columns_[number].offset);
+  }
   // A string or blob is written as it is, not copied.
   void Write(std::byte* row, std::size_t number, const Property& value) const;
 

@@ -197,20 +197,17 @@ bool SortIndex::HasValue(Position position, const Property& value) const {
 
 SortIndex::Key SortIndex::KeyOf(Slot slot) const {
   const std::optional<Property> value = heap_->Properties(slot).Find(order_.property);
-  return {.number = value ? SortNumber(*value, order_, fold_) : 0,
-          .id = heap_->Id(slot),
-          .slot = slot,
-          .unknown = !value};
+  return {.number = value ? SortNumber(*value, order_, fold_) : 0, .slot = slot, .unknown = !value};
 }
 
 bool SortIndex::BeforeBeyondNumbers(const Key& one, const Key& other) const {
   if (one.unknown != other.unknown) return one.unknown == order_.unknown_first;
-  if (order_.property.Type() == PropertyType::kString && !one.unknown && one.id != other.id) {
+  if (order_.property.Type() == PropertyType::kString && !one.unknown && one.slot != other.slot) {
     const std::optional<Property> value = heap_->Properties(other.slot).Find(order_.property);
     const std::strong_ordering compared = Compare(one, *value, other.number);
     if (std::is_neq(compared)) return std::is_lt(compared);
   }
-  return one.id < other.id;
+  return heap_->Id(one.slot) < heap_->Id(other.slot);
 }
 
 std::strong_ordering SortIndex::Compare(const Key& key, const Property& value,

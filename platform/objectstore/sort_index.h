@@ -67,7 +67,6 @@ class SortIndex {
   // seldom compared.
   struct Key {
     std::uint64_t number = 0;  // of the sort property's value
-    ObjectId id = 0;
     Slot slot = 0;
     bool unknown = false;  // the record has no such property
   };

@@ -213,7 +213,7 @@ CEOID WINAPI CeWriteRecordProps(HANDLE hDbase, CEOID oidRecord, WORD cPropID,
     SetLastError(ERROR_INVALID_PARAMETER);
     return 0;
   }
-  constexpr std::size_t kUsual = 16;  // up to this number without an allocation
+  constexpr std::size_t kUsual = 8;  // up to this number without an allocation
   std::array<Property, kUsual> few;
   std::vector<Property> many(cPropID > kUsual ? cPropID : 0);
   const std::span<Property> properties =

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstring>
 #include <iterator>
 #include <map>
 #include <utility>
@@ -74,8 +76,11 @@ INSTANTIATE_TEST_SUITE_P(Mixes, RecordHeapTest,
 
 TEST(RecordHeap, KeepsTheBitsOfANotANumber) {
   constexpr std::uint64_t kSignalling = 0x7FF0000000000123;
+  std::array<std::byte, sizeof kSignalling> bits{};
+  std::memcpy(bits.data(), &kSignalling, sizeof kSignalling);
   RecordHeap heap;
-  const RecordHeap::Slot slot = heap.Add(1, std::vector{Property::R8Bits(1, kSignalling)});
+  const RecordHeap::Slot slot =
+      heap.Add(1, std::vector{Property::At(PropertyId(1, PropertyType::kR8), bits.data())});
   EXPECT_EQ(kSignalling, heap.Properties(slot)[0].AsFileTime());
 }
 
