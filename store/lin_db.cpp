@@ -88,11 +88,11 @@ void CLinDb::DrawLast(std::int16_t id, LineKeys keys, std::int16_t legend) {
   if (id < last_drawn_ || last_drawn_ == std::numeric_limits<std::int16_t>::max()) return;
   try {
     drawn_.Append(id, keys, legend);
+    last_drawn_ = id;
+    drawn_changes_ = *drawn_changes_ + 1;
   } catch (const std::bad_alloc&) {
-    return;  // all are read again
+    drawn_changes_.reset();  // the line is in the database: the next redraw reads all of them
   }
-  last_drawn_ = id;
-  drawn_changes_ = *drawn_changes_ + 1;
 }
 
 bool CLinDb::IsDrawn() {
@@ -124,8 +124,10 @@ int CLinDb::SetCurHan(std::int16_t legend) {
   if (!database_.Records().ReadCurrRecord(&record)) return -3;
   CCeDBProp* property = record.GetPropFromIdent(kLegend);
   if (!property) return -4;
+  // A number of another type stays beside the new one, and counts.
+  const bool is_replaced = property->GetType() == CCeDBProp::Type_Short;
   property->SetShort(legend);
-  const bool is_drawn = IsDrawn();
+  const bool is_drawn = is_replaced && IsDrawn();
   if (!database_.Records().WriteCurrRecord(&record)) return -1;
   lookup_.Changed();
   const std::optional<Line> line = DecodeLine(record);
@@ -147,8 +149,8 @@ bool CLinDb::ReadForDrawing() {
   const ULONGLONG changes = database_.Records().GetNumChanges();
   if (drawn_changes_ == changes) return true;
   drawn_.Clear();
+  drawn_changes_.reset();  // until all of them are read: there may be no memory for some
   drawn_.Reserve(database_.Records().GetNumRecords());
-  drawn_changes_.reset();
   bool is_whole = true;
   do {
     Line line;
