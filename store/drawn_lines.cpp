@@ -48,12 +48,14 @@ bool DrawnLines::Remove(std::int16_t id, LineKeys keys) {
 }
 
 std::optional<std::size_t> DrawnLines::Find(std::int16_t id, LineKeys keys) const {
-  const auto named = std::ranges::equal_range(lines_, id, {}, &Named::id);
+  const auto first = std::ranges::lower_bound(lines_, id, {}, &Named::id);
+  const auto last = std::ranges::upper_bound(lines_, id, {}, &Named::id);
   const auto has_keys = [&](const Named& line) {
     return line.keys.Smaller() == keys.Smaller() && line.keys.Larger() == keys.Larger();
   };
-  if (std::ranges::count_if(named, has_keys) != 1) return std::nullopt;
-  return static_cast<std::size_t>(std::ranges::find_if(named, has_keys) - lines_.begin());
+  const auto found = std::find_if(first, last, has_keys);
+  if (found == last || std::find_if(found + 1, last, has_keys) != last) return std::nullopt;
+  return static_cast<std::size_t>(found - lines_.begin());
 }
 
 void DrawnLines::FindEnds(const CPntList& points) {
