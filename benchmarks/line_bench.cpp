@@ -64,7 +64,7 @@ std::vector<LineKeys> Chain(int count) {
 void EnterAll(CLinDb& store, const std::vector<LineKeys>& lines) {
   std::int32_t id = 0;
   for (const LineKeys keys : lines) {
-    if (store.Find(keys) != 0) store.Add(keys, 101, &id);
+    if (!store.Contains(keys)) store.Add(keys, 101, &id);
   }
 }
 

@@ -65,18 +65,15 @@ int CLinDb::Find(LineKeys keys) {
 }
 
 bool CLinDb::Contains(LineKeys keys) {
-  if (Reopen(Order::kBySmallerKey) && lookup_.IsKnownAbsent(keys)) return false;
-  return Find(keys) == 0;
+  const std::optional<bool> known =
+      Reopen(Order::kBySmallerKey) ? lookup_.IsThere(keys) : std::nullopt;
+  return known ? *known : Find(keys) == 0;
 }
 
 int CLinDb::Add(LineKeys keys, std::int16_t legend, std::int32_t* id) {
   if (!order_) return -1;
-  std::array<CCeDBProp, 5> properties = EncodeLine({next_id_, keys, legend});
-  record_.DeleteAllProps();
-  record_.AddProps(properties.data(), static_cast<int>(properties.size()));
-  const bool is_drawn = drawn_changes_ && drawn_changes_ == database_.Records().GetNumChanges();
-  const CEOID added = database_.Records().AddRecord(&record_);
-  record_.DeleteAllProps();
+  const bool is_drawn = IsDrawn();
+  const CEOID added = database_.Records().AddRecord(&written_.Of({next_id_, keys, legend}));
   if (added == 0) return -1;
   lookup_.Added(keys, added);
   if (is_drawn) DrawLast(static_cast<std::int16_t>(next_id_), keys, legend);
@@ -90,7 +87,7 @@ int CLinDb::Add(LineKeys keys, std::int16_t legend, std::int32_t* id) {
 void CLinDb::DrawLast(std::int16_t id, LineKeys keys, std::int16_t legend) {
   if (id < last_drawn_ || last_drawn_ == std::numeric_limits<std::int16_t>::max()) return;
   try {
-    drawn_.Append(keys, legend);
+    drawn_.Append(id, keys, legend);
     last_drawn_ = id;
     drawn_changes_ = *drawn_changes_ + 1;
   } catch (const std::bad_alloc&) {
@@ -98,11 +95,17 @@ void CLinDb::DrawLast(std::int16_t id, LineKeys keys, std::int16_t legend) {
   }
 }
 
+bool CLinDb::IsDrawn() {
+  return drawn_changes_ && drawn_changes_ == database_.Records().GetNumChanges();
+}
+
 int CLinDb::Remove(LineKeys keys) {
   changed_ = true;
   if (const int code = Find(keys); code != 0) return code;
+  const bool is_drawn = IsDrawn() && database_.Records().ReadCurrRecord(&record_);
   if (!database_.DeleteCurrent()) return -7;
   lookup_.Deleted(keys);
+  if (is_drawn && drawn_.Remove(PlaceOf(record_), keys)) drawn_changes_ = *drawn_changes_ + 1;
   return 0;
 }
 
@@ -121,9 +124,16 @@ int CLinDb::SetCurHan(std::int16_t legend) {
   if (!database_.Records().ReadCurrRecord(&record)) return -3;
   CCeDBProp* property = record.GetPropFromIdent(kLegend);
   if (!property) return -4;
+  // A number of another type stays beside the new one, and counts.
+  const bool is_replaced = property->GetType() == CCeDBProp::Type_Short;
   property->SetShort(legend);
+  const bool is_drawn = is_replaced && IsDrawn();
   if (!database_.Records().WriteCurrRecord(&record)) return -1;
   lookup_.Changed();
+  const std::optional<Line> line = DecodeLine(record);
+  if (is_drawn && line && drawn_.SetLegend(PlaceOf(record), line->keys, legend)) {
+    drawn_changes_ = *drawn_changes_ + 1;
+  }
   changed_ = true;
   return 0;
 }
@@ -140,12 +150,13 @@ bool CLinDb::ReadForDrawing() {
   if (drawn_changes_ == changes) return true;
   drawn_.Clear();
   drawn_changes_.reset();  // until all of them are read: there may be no memory for some
+  drawn_.Reserve(database_.Records().GetNumRecords());
   bool is_whole = true;
   do {
     Line line;
     if (ReadCur(&line) == 0) {
-      drawn_.Append(line.keys, line.legend);
       last_drawn_ = PlaceOf(record_);
+      drawn_.Append(last_drawn_, line.keys, line.legend);
     } else {
       is_whole = false;
     }

@@ -56,8 +56,8 @@ class CLinDb {
 
   // Calls `visit(std::int16_t legend, GroundPoint start, GroundPoint end)` in the order of ids for
   // each line whose ends are both among `points`, always the same list; lines that `sieve` holds
-  // back are left out. The records are read again only when the database has changed. Moves the
-  // current record; visits nothing when the database cannot be opened.
+  // back are left out. The records are read again only when others have changed the database. Moves
+  // the current record; visits nothing when the database cannot be opened.
   template <class Visit>
   void ForEachIn(const CPntList& points, const SegmentSieve& sieve, Visit visit) {
     if (ReadForDrawing()) drawn_.ForEach(points, sieve, visit);
@@ -86,12 +86,15 @@ class CLinDb {
   bool Reopen(Order order);
   // Brings drawn_ up to date. False when there is no first record.
   bool ReadForDrawing();
+  // Whether drawn_ is up to date.
+  [[nodiscard]] bool IsDrawn();
   // Adds a line that was entered just now to drawn_, if its place is the last.
   void DrawLast(std::int16_t id, LineKeys keys, std::int16_t legend);
 
   DeviceDatabase database_;
   LineLookup lookup_;
-  CCeDBRecord record_;          // read into or written; a member to reuse its memory
+  LineRecord written_;
+  CCeDBRecord record_;          // read into; a member to reuse its memory
   std::optional<Order> order_;  // nothing while closed
   std::int32_t next_id_ = 1;
   DrawnLines drawn_;

@@ -10,11 +10,23 @@ std::optional<std::int16_t> ShortOf(const CCeDBRecord& record, WORD ident) {
   return property->GetShort();
 }
 
-std::array<CCeDBProp, 5> EncodeLine(const Line& line) {
-  const auto larger_first = static_cast<short>(line.keys.LargerFirst() ? 1 : 0);
-  return {CCeDBProp(static_cast<short>(line.id), kId), CCeDBProp(line.keys.Smaller(), kSmallerKey),
-          CCeDBProp(line.keys.Larger(), kLargerKey), CCeDBProp(larger_first, kLargerFirst),
-          CCeDBProp(line.legend, kLegend)};
+LineRecord::LineRecord()
+    : properties_{CCeDBProp(CCeDBProp::Type_Short, kId),
+                  CCeDBProp(CCeDBProp::Type_Short, kSmallerKey),
+                  CCeDBProp(CCeDBProp::Type_Short, kLargerKey),
+                  CCeDBProp(CCeDBProp::Type_Short, kLargerFirst),
+                  CCeDBProp(CCeDBProp::Type_Short, kLegend)} {
+  record_.AddProps(properties_.data(), static_cast<int>(properties_.size()));
+}
+
+CCeDBRecord& LineRecord::Of(const Line& line) {
+  auto& [id, smaller, larger, larger_first, legend] = properties_;
+  id.SetShort(static_cast<short>(line.id));
+  smaller.SetShort(line.keys.Smaller());
+  larger.SetShort(line.keys.Larger());
+  larger_first.SetShort(static_cast<short>(line.keys.LargerFirst() ? 1 : 0));
+  legend.SetShort(line.legend);
+  return record_;
 }
 
 std::optional<Line> DecodeLine(const CCeDBRecord& record) {

@@ -30,8 +30,20 @@ constexpr WORD kLegend = 115;
 // The value of a 16-bit property of a record; nothing when it is missing.
 [[nodiscard]] std::optional<std::int16_t> ShortOf(const CCeDBRecord& record, WORD ident);
 
-// A line's properties in the order in which they are written.
-[[nodiscard]] std::array<CCeDBProp, 5> EncodeLine(const Line& line);
+// Lines on their way into the database, one after another in the same memory.
+class LineRecord {
+ public:
+  LineRecord();
+  LineRecord(const LineRecord&) = delete;
+  LineRecord& operator=(const LineRecord&) = delete;
+
+  // The record that holds this line, until the next.
+  [[nodiscard]] CCeDBRecord& Of(const Line& line);
+
+ private:
+  std::array<CCeDBProp, 5> properties_;  // in the order in which they are written
+  CCeDBRecord record_;
+};
 
 // Nothing when a property is missing.
 [[nodiscard]] std::optional<Line> DecodeLine(const CCeDBRecord& record);

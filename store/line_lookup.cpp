@@ -15,8 +15,10 @@ int LineLookup::Find(LineKeys keys) {
   return indexed ? MatchIndexed(keys) : MatchReading(keys);
 }
 
-bool LineLookup::IsKnownAbsent(LineKeys keys) const {
-  return IsInStep() && index_.Find(keys) == LineIndex::kNoRecord;
+std::optional<bool> LineLookup::IsThere(LineKeys keys) {
+  if (!IsInStep()) return std::nullopt;
+  const CEOID found = index_.Find(keys);
+  return found != LineIndex::kNoRecord && records_.SeekToRecord(found) != 0 && CanReadCurrent();
 }
 
 void LineLookup::Added(LineKeys keys, CEOID record) {
@@ -67,17 +69,20 @@ bool LineLookup::IndexAll() {
   return seen == records_.GetNumRecords();
 }
 
-// From the first record with the smaller key to the one that has the larger key too. It is read
-// although nothing of it is used: an unreadable record counts as not found.
+// From the first record with the smaller key to the one that has the larger key too.
 int LineLookup::MatchIndexed(LineKeys keys) {
   const CEOID found = index_.Find(keys);
   if (found != LineIndex::kNoRecord && found != records_.GetCurrRecord() &&
       records_.SeekToRecord(found) == 0) {
     return -1;
   }
-  CCeDBProp filter(CCeDBProp::Type_Short, kSmallerKey);
-  if (!records_.ReadCurrRecord(&record_, 1, &filter)) return -5;
+  if (!CanReadCurrent()) return -5;
   return found != LineIndex::kNoRecord ? 0 : -1;
+}
+
+bool LineLookup::CanReadCurrent() {
+  CCeDBProp filter(CCeDBProp::Type_Short, kSmallerKey);
+  return records_.ReadCurrRecord(&record_, 1, &filter) != FALSE;
 }
 
 // From the first record with the smaller key on, the one that has the larger key too.

@@ -3,6 +3,8 @@
 
 #include <wcedb.h>
 
+#include <optional>
+
 #include "store/line_index.h"
 
 namespace tavix {
@@ -22,8 +24,9 @@ class LineLookup {
   // -6 and -7 one lacks its smaller or larger key; which record is current then is undefined.
   int Find(LineKeys keys);
 
-  // Whether there is no such record for certain; reads nothing.
-  [[nodiscard]] bool IsKnownAbsent(LineKeys keys) const;
+  // Whether Find finds one, where the index alone can answer; nothing where it cannot. The order of
+  // the database is not used, which would have to be kept while lines are entered.
+  [[nodiscard]] std::optional<bool> IsThere(LineKeys keys);
 
   // ---- To be called after each change the owner makes to the database
 
@@ -43,6 +46,8 @@ class LineLookup {
   [[nodiscard]] bool IsIndexed();
   [[nodiscard]] bool IndexAll();
   int MatchIndexed(LineKeys keys);
+  // It is read although nothing of it is used: an unreadable record counts as not found.
+  [[nodiscard]] bool CanReadCurrent();
   int MatchReading(LineKeys keys);
 
   CCeDBDatabase& records_;

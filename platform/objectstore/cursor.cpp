@@ -81,11 +81,10 @@ Outcome<ObjectId> Cursor::StandAt(Position position) {
     record_.reset();
     return StoreError::kNoMoreItems;
   }
-  const OrderedEntry& entry = index_->Entries().At(position);
-  record_ = entry.slot;
+  record_ = index_->Entries().At(position);
   position_ = position;
   version_ = index_->Entries().Version();
-  return entry.id;
+  return heap_->Id(*record_);
 }
 
 Outcome<ObjectId> Cursor::StandAtIndex(std::int64_t index) {
@@ -127,8 +126,8 @@ SortIndex::Position Cursor::Smaller(const Property& value) const {
   const Position behind = index_->FirstNotBefore(value);
   if (behind == index_->KnownBegin()) return entries.End();
   const std::size_t last = (behind == entries.End() ? entries.Size() : entries.Index(behind)) - 1;
-  const Slot slot = entries.At(entries.AtIndex(last)).slot;
-  return index_->FirstNotBefore(*FindProperty(heap_->Properties(slot), Order().property));
+  const Slot slot = entries.At(entries.AtIndex(last));
+  return index_->FirstNotBefore(*heap_->Properties(slot).Find(Order().property));
 }
 
 // The record after the cursor, which must not be at the end.
@@ -142,7 +141,7 @@ std::optional<Cursor::Slot> Cursor::Successor() {
   const Position next = index_->Entries().Next(Locate());
   version_ = index_->Entries().Version() - 1;
   if (next == index_->Entries().End()) return std::nullopt;
-  return index_->Entries().At(next).slot;
+  return index_->Entries().At(next);
 }
 
 }  // namespace tavix

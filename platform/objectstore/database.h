@@ -24,6 +24,7 @@ class Database {
   [[nodiscard]] std::u16string_view Name() const { return info_.Name(); }
   [[nodiscard]] std::uint32_t Type() const { return info_.type; }
   [[nodiscard]] DatabaseInfo Info() const;
+  [[nodiscard]] std::uint64_t Changes() const { return info_.changes; }
 
   // ---- Description
 

@@ -50,6 +50,12 @@ Outcome<ObjectInfo> FailingStore::Info(ObjectId object) {
   return inner_.Info(object);
 }
 
+Outcome<std::uint64_t> FailingStore::Changes(ObjectId database) {
+  const StoreError error = Turn(Operation::kInfo);
+  if (error != StoreError::kNone) return error;
+  return inner_.Changes(database);
+}
+
 StoreError FailingStore::ChangeDatabase(ObjectId database, const DatabaseChange& change) {
   const StoreError error = Turn(Operation::kChange);
   if (error != StoreError::kNone) return error;

@@ -15,7 +15,7 @@ class FailingStore : public ObjectStore {
     kCreate,
     kDelete,  // of a database
     kFind,
-    kInfo,
+    kInfo,    // and the number of changes
     kChange,  // of a database
     kOpen,
     kOpenEnumeration,
@@ -44,6 +44,7 @@ class FailingStore : public ObjectStore {
   StoreError DeleteDatabase(ObjectId database) override;
   Outcome<ObjectId> FindDatabase(std::u16string_view name) override;
   Outcome<ObjectInfo> Info(ObjectId object) override;
+  Outcome<std::uint64_t> Changes(ObjectId database) override;
   StoreError ChangeDatabase(ObjectId database, const DatabaseChange& change) override;
   Outcome<StoreHandle> Open(ObjectId database, PropertyId sort, bool auto_increment) override;
   Outcome<StoreHandle> OpenEnumeration(std::uint32_t type) override;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <optional>
 #include <utility>
 
 namespace tavix {
@@ -25,14 +26,15 @@ Outcome<ObjectId> MemoryStore::CreateDatabase(std::u16string_view name, std::uin
     return error;
   }
   if (DatabaseNamed(name)) return StoreError::kDuplicateName;
-  const ObjectId id = directory_.Add();
+  const ObjectId id = directory_.Next();
   if (id == 0) return StoreError::kFull;
   auto database = std::make_unique<Database>(id, fold_, clock_);
   database->SetName(name);
   database->SetType(type);
   database->SetOrders(orders);
+  directory_.MakeRoom(database.get());
   databases_.push_back(std::move(database));
-  directory_.Set(id, {databases_.back().get(), ObjectDirectory::kIsDatabase});
+  directory_.Add({databases_.back().get(), ObjectDirectory::kIsDatabase});
   return id;
 }
 
@@ -57,7 +59,7 @@ Outcome<ObjectId> MemoryStore::FindDatabase(std::u16string_view name) {
 }
 
 Outcome<ObjectInfo> MemoryStore::Info(ObjectId object) {
-  const ObjectDirectory::Place* place = directory_.Find(object);
+  const std::optional<ObjectDirectory::Place> place = directory_.Find(object);
   if (!place) return StoreError::kNotFound;
   ObjectInfo info;
   info.is_database = place->slot == ObjectDirectory::kIsDatabase;
@@ -67,6 +69,12 @@ Outcome<ObjectInfo> MemoryStore::Info(ObjectId object) {
     info.parent = place->database->Id();
   }
   return info;
+}
+
+Outcome<std::uint64_t> MemoryStore::Changes(ObjectId database) {
+  const Database* found = DatabaseOf(database);
+  if (!found) return StoreError::kNotFound;
+  return found->Changes();
 }
 
 StoreError MemoryStore::ChangeDatabase(ObjectId database, const DatabaseChange& change) {
@@ -182,7 +190,7 @@ StoreError MemoryStore::DeleteRecord(StoreHandle handle, ObjectId record) {
 // ---- Finding things
 
 Database* MemoryStore::DatabaseOf(ObjectId id) const {
-  const ObjectDirectory::Place* place = directory_.Find(id);
+  const std::optional<ObjectDirectory::Place> place = directory_.Find(id);
   return place && place->slot == ObjectDirectory::kIsDatabase ? place->database : nullptr;
 }
 
@@ -200,7 +208,7 @@ OpenObject* MemoryStore::OpenDatabaseOf(StoreHandle handle) {
 
 bool MemoryStore::FindRecord(const Database& database, ObjectId record,
                              Database::Slot& slot) const {
-  const ObjectDirectory::Place* place = directory_.Find(record);
+  const std::optional<ObjectDirectory::Place> place = directory_.Find(record);
   if (!place || place->database != &database) return false;
   slot = place->slot;
   return slot != ObjectDirectory::kIsDatabase;
@@ -208,10 +216,11 @@ bool MemoryStore::FindRecord(const Database& database, ObjectId record,
 
 Outcome<ObjectId> MemoryStore::WriteNew(OpenObject& open, std::span<const Property> properties) {
   if (!FitInRecord(properties)) return StoreError::kInvalidParameter;
-  const ObjectId id = directory_.Add();
+  const ObjectId id = directory_.Next();
   if (id == 0) return StoreError::kFull;
+  directory_.MakeRoom(open.database);
   const Database::Slot slot = open.database->AddRecord(id, properties);
-  directory_.Set(id, {open.database, slot});
+  directory_.Add({open.database, slot});
   open.cursor->StandOn(slot);
   return id;
 }
@@ -220,8 +229,11 @@ Outcome<ObjectId> MemoryStore::WriteExisting(OpenObject& open, ObjectId record,
                                              std::span<const Property> properties) {
   Database::Slot slot = 0;
   if (!FindRecord(*open.database, record, slot)) return StoreError::kInvalidParameter;
-  const std::vector<Property> merged =
-      MergeValues(open.database->Records().Properties(slot), properties);
+  const RecordValues values = open.database->Records().Properties(slot);
+  std::vector<Property> merged;
+  merged.reserve(values.size() + properties.size());
+  merged.assign(values.begin(), values.end());
+  merged = MergeValues(std::move(merged), properties);
   if (!FitInRecord(merged)) return StoreError::kInvalidParameter;
   open.database->ChangeRecord(slot, merged);
   open.cursor->StandOn(slot);

@@ -22,6 +22,7 @@ class MemoryStore : public ObjectStore {
   StoreError DeleteDatabase(ObjectId database) override;
   Outcome<ObjectId> FindDatabase(std::u16string_view name) override;
   Outcome<ObjectInfo> Info(ObjectId object) override;
+  Outcome<std::uint64_t> Changes(ObjectId database) override;
   StoreError ChangeDatabase(ObjectId database, const DatabaseChange& change) override;
 
   Outcome<StoreHandle> Open(ObjectId database, PropertyId sort, bool auto_increment) override;

@@ -21,6 +21,7 @@
 #include <string_view>
 
 #include "platform/objectstore/property.h"
+#include "platform/objectstore/record_layout.h"
 
 namespace tavix {
 
@@ -127,7 +128,7 @@ struct SeekTarget {
 // The current record of a handle. The properties are good until the store next changes.
 struct RecordView {
   ObjectId id = 0;
-  std::span<const Property> properties;
+  RecordValues properties;
 };
 
 // ---- The store
@@ -154,6 +155,9 @@ class ObjectStore {
 
   // Of any object; kNotFound.
   virtual Outcome<ObjectInfo> Info(ObjectId object) = 0;
+
+  // The number of changes in a database's description, by itself; kNotFound.
+  virtual Outcome<std::uint64_t> Changes(ObjectId database) = 0;
 
   // Makes all changes or none. Fails as CreateDatabase does, and with kInUse for new orders while a
   // handle is open on the database.

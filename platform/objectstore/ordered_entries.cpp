@@ -57,20 +57,19 @@ OrderedEntries::Position OrderedEntries::AtIndex(std::size_t index) const {
   return {found.place, found.rest};
 }
 
-void OrderedEntries::Insert(Position position, const OrderedEntry& entry) {
+void OrderedEntries::Insert(Position position, Entry entry) {
   ++version_;
-  ++size_;
   if (position == End()) {
     // Entries that arrive in order fill each stretch completely.
-    if (stretches_.empty() || stretches_.back().size() == kMaxStretch) {
-      stretches_.emplace_back();
-      stretches_.back().reserve(kMaxStretch);
+    const std::size_t stretches = stretches_.size();
+    PushBack(entry);
+    if (stretches_.size() > stretches) {
       lasts_.emplace_back();
       lengths_.Append();
     }
-    stretches_.back().push_back(entry);
     lasts_.back() = entry;
     lengths_.Change(stretches_.size() - 1, 1);
+    ++size_;
     return;
   }
   if (stretches_[position.stretch].size() == kMaxStretch) {
@@ -82,6 +81,7 @@ void OrderedEntries::Insert(Position position, const OrderedEntry& entry) {
   stretch.insert(stretch.begin() + static_cast<std::ptrdiff_t>(position.offset), entry);
   lasts_[position.stretch] = stretch.back();
   lengths_.Change(position.stretch, 1);
+  ++size_;
 }
 
 void OrderedEntries::Erase(Position position) {
@@ -98,24 +98,20 @@ void OrderedEntries::Erase(Position position) {
   TallyStretches();
 }
 
-void OrderedEntries::Assign(const std::vector<OrderedEntry>& sorted) {
+void OrderedEntries::Clear() {
   ++version_;
-  size_ = sorted.size();
-  stretches_.clear();
-  // Three quarters full, to leave room for later insertions.
-  constexpr std::size_t kFill = kMaxStretch - kMaxStretch / 4;
-  for (std::size_t from = 0; from < sorted.size(); from += kFill) {
-    const std::size_t to = std::min(from + kFill, sorted.size());
-    Stretch& stretch = stretches_.emplace_back();
-    stretch.reserve(kMaxStretch);
-    stretch.assign(sorted.begin() + static_cast<std::ptrdiff_t>(from),
-                   sorted.begin() + static_cast<std::ptrdiff_t>(to));
-  }
-  TallyStretches();
+  size_ = 0;
+  stretches_ = {};
+  lasts_ = {};
+  lengths_ = {};
 }
 
-void OrderedEntries::AppendTo(std::vector<OrderedEntry>& out) const {
-  for (const Stretch& stretch : stretches_) out.insert(out.end(), stretch.begin(), stretch.end());
+void OrderedEntries::PushBack(Entry entry) {
+  if (stretches_.empty() || stretches_.back().size() == kMaxStretch) {
+    stretches_.emplace_back();
+    stretches_.back().reserve(kMaxStretch);
+  }
+  stretches_.back().push_back(entry);
 }
 
 void OrderedEntries::Split(std::size_t stretch) {
@@ -134,10 +130,13 @@ void OrderedEntries::TallyStretches() {
   std::vector<std::size_t> lengths;
   lengths.reserve(stretches_.size());
   lasts_.clear();
+  size_ = 0;
   for (const Stretch& stretch : stretches_) {
     lengths.push_back(stretch.size());
     lasts_.push_back(stretch.back());
+    size_ += stretch.size();
   }
+  ++version_;
   lengths_.Assign(lengths);
 }
 

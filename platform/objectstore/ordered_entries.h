@@ -4,9 +4,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
-
-#include "platform/objectstore/object_store.h"
 
 namespace tavix {
 
@@ -35,19 +34,13 @@ class PrefixCounts {
   std::vector<std::size_t> tree_;  // tree_[i]: the sum of the LowBit(i + 1) counts that end at i
 };
 
-// A record in a sort order, with enough of its value to compare most records without reading them.
-struct OrderedEntry {
-  std::uint64_t number = 0;  // of the sort property's value
-  ObjectId id = 0;
-  std::uint32_t slot : 31 = 0;    // where the record is
-  std::uint32_t unknown : 1 = 0;  // the record has no such property
-};
-
-// The sequence is divided into short stretches: an insertion moves the entries of one stretch only,
-// and the prefix sums of the stretches' lengths convert a position to an index and back. The caller
-// keeps the order: it says where an entry goes.
+// The numbers of records in a sequence, four bytes each. It is divided into short stretches: an
+// insertion moves the entries of one stretch only, and the prefix sums of the stretches' lengths
+// convert a position to an index and back. The caller keeps the order: it says where an entry goes.
 class OrderedEntries {
  public:
+  using Entry = std::uint32_t;
+
   struct Position {
     std::size_t stretch = 0;
     std::size_t offset = 0;
@@ -57,7 +50,7 @@ class OrderedEntries {
   [[nodiscard]] std::size_t Size() const { return size_; }
   [[nodiscard]] Position Begin() const { return {}; }
   [[nodiscard]] Position End() const { return {stretches_.size(), 0}; }
-  [[nodiscard]] const OrderedEntry& At(Position position) const {
+  [[nodiscard]] Entry At(Position position) const {
     return stretches_[position.stretch][position.offset];
   }
   [[nodiscard]] Position Next(Position position) const {
@@ -84,29 +77,53 @@ class OrderedEntries {
   }
 
   // Before the entry at the position, or last at End.
-  void Insert(Position position, const OrderedEntry& entry);
+  void Insert(Position position, Entry entry);
   void Erase(Position position);
 
-  // Replaces all entries; `sorted` is in order.
-  void Assign(const std::vector<OrderedEntry>& sorted);
-  // Appends all entries, in order, to `out`.
-  void AppendTo(std::vector<OrderedEntry>& out) const;
+  // Takes in entries that are in order, in one pass. `before(one, other)` is true when entry `one`
+  // comes before entry `other`. After an exception only Clear may follow.
+  template <class Before>
+  void Merge(std::span<const Entry> sorted, Before before);
+
+  void Clear();
 
   // Changes whenever positions change: a position is valid while this stays the same.
   [[nodiscard]] std::uint64_t Version() const { return version_; }
 
  private:
-  using Stretch = std::vector<OrderedEntry>;  // never empty
+  using Stretch = std::vector<Entry>;  // never empty
   static constexpr std::size_t kMaxStretch = 256;
 
+  // Last of all, without counting it.
+  void PushBack(Entry entry);
   void Split(std::size_t stretch);
   void TallyStretches();
 
   std::vector<Stretch> stretches_;
-  std::vector<OrderedEntry> lasts_;  // of each stretch, in one array for a fast search
+  std::vector<Entry> lasts_;  // of each stretch, in one array for a fast search
   PrefixCounts lengths_;
   std::size_t size_ = 0;
   std::uint64_t version_ = 0;
 };
+
+template <class Before>
+void OrderedEntries::Merge(std::span<const Entry> sorted, Before before) {
+  if (sorted.empty()) return;
+  std::vector<Stretch> old;
+  // Entries that all come behind the others are appended.
+  if (!stretches_.empty() && before(sorted.front(), stretches_.back().back())) {
+    old.swap(stretches_);
+  }
+  auto next = sorted.begin();
+  for (Stretch& stretch : old) {
+    for (const Entry entry : stretch) {
+      while (next != sorted.end() && before(*next, entry)) PushBack(*next++);
+      PushBack(entry);
+    }
+    Stretch().swap(stretch);  // so that the sequence is never in memory twice
+  }
+  while (next != sorted.end()) PushBack(*next++);
+  TallyStretches();
+}
 
 }  // namespace tavix

@@ -20,6 +20,34 @@ bool IsKnownType(PropertyType type) {
   return false;
 }
 
+std::size_t Property::StoredBytes() const {
+  return IsVariableSize(Type()) ? sizeof data_ + sizeof size_ : ValueBytes(*this);
+}
+
+void Property::Store(std::byte* at) const {
+  const auto store = [at](const auto& value) { std::memcpy(at, &value, sizeof value); };
+  switch (Type()) {
+    case PropertyType::kI2:
+    case PropertyType::kUI2:
+    case PropertyType::kBool:
+      store(AsUI2());
+      break;
+    case PropertyType::kI4:
+    case PropertyType::kUI4:
+      store(AsUI4());
+      break;
+    case PropertyType::kR8:
+    case PropertyType::kFileTime:
+      store(bits_);
+      break;
+    case PropertyType::kString:
+    case PropertyType::kBlob:
+      store(data_);
+      std::memcpy(at + sizeof data_, &size_, sizeof size_);
+      break;
+  }
+}
+
 const Property* FindProperty(std::span<const Property> properties, PropertyId id) {
   for (const Property& property : properties) {
     if (property.Id() == id) return &property;
@@ -74,20 +102,18 @@ bool AreDistinct(std::span<const Property> properties) {
   return true;
 }
 
-std::vector<Property> MergeValues(std::span<const Property> record,
-                                  std::span<const Property> written) {
-  std::vector<Property> merged(record.begin(), record.end());
+std::vector<Property> MergeValues(std::vector<Property> record, std::span<const Property> written) {
   for (const Property& property : written) {
-    const auto same = std::ranges::find(merged, property.Id(), &Property::Id);
+    const auto same = std::ranges::find(record, property.Id(), &Property::Id);
     if (property.IsRemoval()) {
-      if (same != merged.end()) merged.erase(same);
-    } else if (same != merged.end()) {
+      if (same != record.end()) record.erase(same);
+    } else if (same != record.end()) {
       *same = property;
     } else {
-      merged.push_back(property);
+      record.push_back(property);
     }
   }
-  return merged;
+  return record;
 }
 
 bool FitInRecord(std::span<const Property> properties) {

@@ -102,6 +102,34 @@ class Property {
     return {other.id_, data, other.size_};
   }
 
+  // ---- Values in memory without their identifiers, in their own sizes; of a string or blob the
+  //      address and the length, as the data stays where it is.
+
+  [[nodiscard]] std::size_t StoredBytes() const;
+  // Takes StoredBytes() bytes; they need not be aligned.
+  void Store(std::byte* at) const;
+  [[nodiscard]] static Property At(PropertyId id, const std::byte* at) {
+    switch (id.Type()) {
+      case PropertyType::kI2:
+        return {id, static_cast<std::uint64_t>(NumberAt<std::int16_t>(at))};
+      case PropertyType::kUI2:
+      case PropertyType::kBool:
+        return {id, NumberAt<std::uint16_t>(at)};
+      case PropertyType::kI4:
+        return {id, static_cast<std::uint64_t>(NumberAt<std::int32_t>(at))};
+      case PropertyType::kUI4:
+        return {id, NumberAt<std::uint32_t>(at)};
+      case PropertyType::kR8:
+      case PropertyType::kFileTime:
+        return {id, NumberAt<std::uint64_t>(at)};
+      case PropertyType::kString:
+      case PropertyType::kBlob:
+        break;
+    }
+    const auto bytes = NumberAt<std::uint32_t>(at + sizeof(const void*));
+    return {id, NumberAt<const void*>(at), std::size_t{bytes}};
+  }
+
   Property() : Property(PropertyId(), std::uint64_t{0}) {}
 
   [[nodiscard]] PropertyId Id() const { return id_; }
@@ -129,6 +157,13 @@ class Property {
 
  private:
   static constexpr std::uint32_t kRemoval = 0xFFFFFFFF;
+
+  template <class Number>
+  static Number NumberAt(const std::byte* at) {
+    Number number{};
+    std::memcpy(&number, at, sizeof number);
+    return number;
+  }
 
   Property(PropertyId id, std::uint64_t bits) : id_(id), bits_(bits) {}
   Property(PropertyId id, const void* data, std::size_t size)
@@ -161,8 +196,7 @@ bool AreDistinct(std::span<const Property> properties);
 
 // The properties of a record after a write: a value replaces one with the same identifier or is
 // appended, a removal removes it. Strings and blobs are not copied.
-std::vector<Property> MergeValues(std::span<const Property> record,
-                                  std::span<const Property> written);
+std::vector<Property> MergeValues(std::vector<Property> record, std::span<const Property> written);
 
 // False when the values are too large for one record.
 bool FitInRecord(std::span<const Property> properties);

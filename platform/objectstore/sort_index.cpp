@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <new>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -86,8 +87,10 @@ char16_t FoldAscii(char16_t character) {
 
 void SortIndex::Add(Slot slot) {
   if (!in_use_) return;
+  constexpr std::size_t kFew = 256;
+  if (pending_.size() >= std::max(entries_.Size(), kFew)) return Drop();
   try {
-    pending_.push_back(Entry(slot));
+    pending_.push_back(slot);
   } catch (const std::bad_alloc&) {
     Drop();
   }
@@ -105,14 +108,14 @@ void SortIndex::Remove(Slot slot) {
 
 void SortIndex::Drop() {
   in_use_ = false;
-  pending_.clear();
-  entries_.Assign({});
+  pending_ = {};
+  entries_.Clear();
 }
 
 bool SortIndex::Moves(Slot slot, std::span<const Property> properties) const {
-  const Property* old_value = FindProperty(heap_->Properties(slot), order_.property);
+  const std::optional<Property> old_value = heap_->Properties(slot).Find(order_.property);
   const Property* new_value = FindProperty(properties, order_.property);
-  if (!old_value || !new_value) return old_value != new_value;
+  if (!old_value || !new_value) return old_value.has_value() != (new_value != nullptr);
   return !SameProperty(*old_value, *new_value);
 }
 
@@ -130,86 +133,89 @@ void SortIndex::SettleAll() {
     in_use_ = true;
     pending_.reserve(heap_->Count());
     for (Slot slot = 0; slot < heap_->SlotEnd(); ++slot) {
-      if (heap_->Id(slot) != 0) pending_.push_back(Entry(slot));
+      if (heap_->Id(slot) != 0) pending_.push_back(slot);
     }
   }
-  const auto before = [this](const OrderedEntry& one, const OrderedEntry& other) {
-    return Before(one, other);
-  };
-  // A few entries are inserted one by one; many are merged in one pass.
+  if (pending_.empty()) return;
+  // A few records are inserted one by one; many are merged in one pass.
   constexpr std::size_t kFewShare = 16;
-  if (pending_.size() * kFewShare <= entries_.Size() || pending_.size() == 1) {
-    for (const OrderedEntry& entry : pending_) {
-      entries_.Insert(
-          entries_.Partition([&](const OrderedEntry& other) { return Before(other, entry); }),
-          entry);
-    }
-  } else if (!pending_.empty()) {
-    std::sort(pending_.begin(), pending_.end(), before);
-    const auto middle = static_cast<std::ptrdiff_t>(pending_.size());
-    entries_.AppendTo(pending_);
-    std::inplace_merge(pending_.begin(), pending_.begin() + middle, pending_.end(), before);
-    entries_.Assign(pending_);
+  if (pending_.size() == 1 || pending_.size() * kFewShare <= entries_.Size()) {
+    for (const Slot slot : pending_) entries_.Insert(Find(slot), slot);
     pending_.clear();
-    pending_.shrink_to_fit();  // it has held the whole order
+    return;
   }
-  pending_.clear();
+  SortPending();
+  // A pending record is compared with many others in turn.
+  Key pending = KeyOf(pending_.front());
+  entries_.Merge(pending_, [&](Slot one, Slot other) {
+    if (pending.slot != one) pending = KeyOf(one);
+    return Before(pending, KeyOf(other));
+  });
+  pending_ = {};
+}
+
+void SortIndex::SortPending() {
+  std::vector<Key> keys;
+  keys.reserve(pending_.size());
+  for (const Slot slot : pending_) keys.push_back(KeyOf(slot));
+  const auto before = [this](const Key& one, const Key& other) { return Before(one, other); };
+  if (std::ranges::is_sorted(keys, before)) return;
+  std::ranges::sort(keys, before);
+  std::ranges::transform(keys, pending_.begin(), &Key::slot);
 }
 
 SortIndex::Position SortIndex::Find(Slot slot) const {
-  const OrderedEntry entry = Entry(slot);
-  return entries_.Partition([&](const OrderedEntry& other) { return Before(other, entry); });
+  const Key key = KeyOf(slot);
+  return entries_.Partition([&](Slot other) { return Before(KeyOf(other), key); });
 }
 
 SortIndex::Position SortIndex::FirstNotBefore(const Property& value) const {
   const std::uint64_t number = SortNumber(value, order_, fold_);
-  return entries_.Partition([&](const OrderedEntry& entry) {
-    if (entry.unknown) return order_.unknown_first;
-    if (entry.number != number) return entry.number < number;
-    return std::is_lt(Compare(entry, value, number));
+  return entries_.Partition([&](Slot slot) {
+    const Key key = KeyOf(slot);
+    if (key.unknown) return order_.unknown_first;
+    if (key.number != number) return key.number < number;
+    return std::is_lt(Compare(key, value, number));
   });
 }
 
 SortIndex::Position SortIndex::KnownBegin() const {
   if (!order_.unknown_first) return entries_.Begin();
-  return entries_.Partition([](const OrderedEntry& entry) { return entry.unknown != 0; });
+  return entries_.Partition([this](Slot slot) { return KeyOf(slot).unknown; });
 }
 
 SortIndex::Position SortIndex::KnownEnd() const {
   if (order_.unknown_first) return entries_.End();
-  return entries_.Partition([](const OrderedEntry& entry) { return entry.unknown == 0; });
+  return entries_.Partition([this](Slot slot) { return !KeyOf(slot).unknown; });
 }
 
 bool SortIndex::HasValue(Position position, const Property& value) const {
   if (position == entries_.End()) return false;
-  const OrderedEntry& entry = entries_.At(position);
-  return !entry.unknown && std::is_eq(Compare(entry, value, SortNumber(value, order_, fold_)));
+  const Key key = KeyOf(entries_.At(position));
+  return !key.unknown && std::is_eq(Compare(key, value, SortNumber(value, order_, fold_)));
 }
 
-OrderedEntry SortIndex::Entry(Slot slot) const {
-  OrderedEntry entry{.id = heap_->Id(slot), .slot = slot & 0x7FFFFFFFU};
-  const Property* value = FindProperty(heap_->Properties(slot), order_.property);
-  entry.unknown = value ? 0 : 1;
-  if (value) entry.number = SortNumber(*value, order_, fold_);
-  return entry;
+SortIndex::Key SortIndex::KeyOf(Slot slot) const {
+  const std::optional<Property> value = heap_->Properties(slot).Find(order_.property);
+  return {.number = value ? SortNumber(*value, order_, fold_) : 0, .slot = slot, .unknown = !value};
 }
 
-bool SortIndex::BeforeBeyondNumbers(const OrderedEntry& one, const OrderedEntry& other) const {
-  if (one.unknown != other.unknown) return (one.unknown != 0) == order_.unknown_first;
-  if (order_.property.Type() == PropertyType::kString && !one.unknown && one.id != other.id) {
-    const Property* value = FindProperty(heap_->Properties(other.slot), order_.property);
+bool SortIndex::BeforeBeyondNumbers(const Key& one, const Key& other) const {
+  if (one.unknown != other.unknown) return one.unknown == order_.unknown_first;
+  if (order_.property.Type() == PropertyType::kString && !one.unknown && one.slot != other.slot) {
+    const std::optional<Property> value = heap_->Properties(other.slot).Find(order_.property);
     const std::strong_ordering compared = Compare(one, *value, other.number);
     if (std::is_neq(compared)) return std::is_lt(compared);
   }
-  return one.id < other.id;
+  return heap_->Id(one.slot) < heap_->Id(other.slot);
 }
 
-std::strong_ordering SortIndex::Compare(const OrderedEntry& entry, const Property& value,
+std::strong_ordering SortIndex::Compare(const Key& key, const Property& value,
                                         std::uint64_t number) const {
-  if (entry.number != number || order_.property.Type() != PropertyType::kString) {
-    return entry.number <=> number;
+  if (key.number != number || order_.property.Type() != PropertyType::kString) {
+    return key.number <=> number;
   }
-  const Property* own = FindProperty(heap_->Properties(entry.slot), order_.property);
+  const std::optional<Property> own = heap_->Properties(key.slot).Find(order_.property);
   return CompareStrings(own->AsString(), value.AsString(), order_, fold_);
 }
 

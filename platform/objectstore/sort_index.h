@@ -18,8 +18,9 @@ using CaseFold = char16_t (*)(char16_t);
 char16_t FoldAscii(char16_t character);
 
 // Sorting is deferred until the order is used: an index that no handle has used costs nothing, and
-// records that were added in a burst are sorted together. Where there is no memory to keep the
-// order it is dropped, and sorted again later: only Settle throws for lack of memory.
+// records that were added in a burst are sorted together. An order that lacks more records than it
+// has is dropped, as is one that there is no memory to keep, and sorted again later: only Settle
+// throws for lack of memory.
 //
 // An order without a property is the order of creation.
 class SortIndex {
@@ -62,24 +63,32 @@ class SortIndex {
   void Drop();
   void SettleAll();
 
-  [[nodiscard]] OrderedEntry Entry(Slot slot) const;
-  // Nearly always the numbers decide, so that a search reads no records.
-  [[nodiscard]] bool Before(const OrderedEntry& one, const OrderedEntry& other) const {
+  // What decides where a record stands. Nearly always the numbers are enough, so that strings are
+  // seldom compared.
+  struct Key {
+    std::uint64_t number = 0;  // of the sort property's value
+    Slot slot = 0;
+    bool unknown = false;  // the record has no such property
+  };
+  [[nodiscard]] Key KeyOf(Slot slot) const;
+  [[nodiscard]] bool Before(const Key& one, const Key& other) const {
     if (one.unknown == other.unknown && one.number != other.number)
       return one.number < other.number;
     return BeforeBeyondNumbers(one, other);
   }
-  [[nodiscard]] bool BeforeBeyondNumbers(const OrderedEntry& one, const OrderedEntry& other) const;
-  // Compares an entry's value with `value`, whose number is `number`; the entry has the property.
-  [[nodiscard]] std::strong_ordering Compare(const OrderedEntry& entry, const Property& value,
+  [[nodiscard]] bool BeforeBeyondNumbers(const Key& one, const Key& other) const;
+  // Compares a record's value with `value`, whose number is `number`; the record has the property.
+  [[nodiscard]] std::strong_ordering Compare(const Key& key, const Property& value,
                                              std::uint64_t number) const;
+  // Puts the pending records in order among themselves.
+  void SortPending();
 
   SortOrder order_;
   const RecordHeap* heap_;
   CaseFold fold_;
   bool in_use_ = false;
   OrderedEntries entries_;
-  std::vector<OrderedEntry> pending_;  // not yet among the entries
+  std::vector<Slot> pending_;  // not yet among the entries
 };
 
 }  // namespace tavix

@@ -238,8 +238,21 @@ std::vector<std::u16string> RecordsOf(Databases& databases) {
 TEST(MemoryFailures, LeaveTheRecordsOfADatabaseAsTheyWere) {
   using Change = std::function<void(Databases&)>;
   const std::u16string long_name(3000, u'b');
-  const std::array<Change, 4> changes{
+  const auto write = [](Databases& databases, ObjectId record, const Property& value) {
+    EXPECT_EQ(StoreError::kNone,
+              databases.store.Write(databases.by_number, record, {&value, 1}).error);
+  };
+  const std::array<Change, 7> changes{
       [&](Databases& databases) { databases.Write(0, 25, long_name); },
+      // Properties that the other records have not, or have and it has not.
+      [&](Databases& databases) { write(databases, 0, Property::String(3, long_name)); },
+      [&](Databases& databases) {
+        write(databases, databases.records[1], Property::String(3, long_name));
+      },
+      [&](Databases& databases) {
+        write(databases, databases.records[1],
+              Property::Removal(PropertyId(kName, PropertyType::kString)));
+      },
       [&](Databases& databases) { databases.Write(databases.records[0], 49, long_name); },
       [&](Databases& databases) {
         databases.store.DeleteRecord(databases.by_number, databases.records[0]);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <random>
@@ -17,6 +18,7 @@ namespace {
 constexpr int kKeys = 300;
 
 struct PlainLine {
+  std::int16_t id;
   LineKeys keys;
   std::int16_t legend;
 };
@@ -51,9 +53,26 @@ class LinesTwice {
   void EnterLine() {
     const int key = last_key_++ % kKeys;
     const int other = Below(100) == 0 ? SomeKey() : key + 1 + static_cast<int>(Below(3));
-    const PlainLine line{LineKeys::Of(key, other), static_cast<std::int16_t>(Below(5))};
-    lines_.Append(line.keys, line.legend);
+    if (Below(4) != 0) ++last_id_;  // of another program's lines several may have one id
+    const PlainLine line{last_id_, LineKeys::Of(key, other), static_cast<std::int16_t>(Below(5))};
+    lines_.Append(line.id, line.keys, line.legend);
     plain_.push_back(line);
+  }
+  void ChangeLine() {
+    if (plain_.empty()) return;
+    PlainLine& line = plain_[Below(static_cast<unsigned>(plain_.size()))];
+    const auto legend = static_cast<std::int16_t>(Below(5));
+    const bool changed = lines_.SetLegend(line.id, Swapped(line.keys), legend);
+    EXPECT_EQ(IsOnlyOne(line), changed);
+    if (changed) line.legend = legend;
+  }
+  void RemoveLine() {
+    if (plain_.empty()) return;
+    const auto line = plain_.begin() + Below(static_cast<unsigned>(plain_.size()));
+    const bool removed = lines_.Remove(line->id, line->keys);
+    EXPECT_EQ(IsOnlyOne(*line), removed);
+    if (removed) plain_.erase(line);
+    EXPECT_FALSE(lines_.Remove(static_cast<std::int16_t>(last_id_ + 1), LineKeys::Of(1, 2)));
   }
   void ClearLines() {
     lines_.Clear();
@@ -92,6 +111,14 @@ class LinesTwice {
   }
 
  private:
+  static LineKeys Swapped(LineKeys keys) { return {keys.b, keys.a}; }
+  [[nodiscard]] bool IsOnlyOne(const PlainLine& line) const {
+    return std::ranges::count_if(plain_, [&](const PlainLine& other) {
+             return other.id == line.id && other.keys.Smaller() == line.keys.Smaller() &&
+                    other.keys.Larger() == line.keys.Larger();
+           }) == 1;
+  }
+
   int SomeKey() { return static_cast<int>(Below(kKeys)); }
   double SomeCoordinate() {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -113,6 +140,7 @@ class LinesTwice {
   DrawnLines lines_;
   std::vector<PlainLine> plain_;
   int last_key_ = 0;
+  std::int16_t last_id_ = 0;
 };
 
 TEST(DrawnLines, AreThoseWhoseEndsAreFoundOneByOne) {
@@ -128,7 +156,9 @@ TEST(DrawnLines, AreThoseWhoseEndsAreFoundOneByOne) {
         if (choice < 30) lines.EnterPoint();
         if (choice >= 30 && choice < 55) lines.MovePoint();
         if (choice >= 55 && choice < 75) lines.RemovePoint();
-        if (choice >= 75 && choice < 98) lines.EnterLine();
+        if (choice >= 75 && choice < 88) lines.EnterLine();
+        if (choice >= 88 && choice < 93) lines.ChangeLine();
+        if (choice >= 93 && choice < 98) lines.RemoveLine();
         if (choice == 98 && lines.Below(10) == 0) lines.ClearPoints();
         if (choice == 99 && lines.Below(10) == 0) lines.ClearLines();
       }
@@ -144,7 +174,7 @@ TEST(DrawnLines, OutOfViewAreLeftOut) {
   DrawnLines lines;
   for (std::int16_t key = 1; key <= 1000; ++key) {
     points.Add({key, 0, u"", {key * 10.0, 0.0}, 1});
-    if (key > 1) lines.Append({static_cast<std::int16_t>(key - 1), key}, 101);
+    if (key > 1) lines.Append(key, {static_cast<std::int16_t>(key - 1), key}, 101);
   }
   CViewState view;
   view.SetScreenSize(100, 100);

@@ -102,9 +102,9 @@ class OtherProgram {
  public:
   OtherProgram() { EXPECT_TRUE(database_.Open(L"QZLinDB0", nullptr)); }
 
-  void Add(CCeDBProp id, bool has_legend) {
+  void Add(CCeDBProp id, bool has_legend, CCeDBProp legend = CCeDBProp(short{105}, 115)) {
     std::array<CCeDBProp, 5> properties{id, CCeDBProp(short{1}, 112), CCeDBProp(short{2}, 113),
-                                        CCeDBProp(short{0}, 114), CCeDBProp(short{105}, 115)};
+                                        CCeDBProp(short{0}, 114), legend};
     CCeDBRecord record;
     record.AddProps(properties.data(), has_legend ? 5 : 4);
     EXPECT_NE(0U, database_.AddRecord(&record));
@@ -151,6 +151,10 @@ TEST_F(LineStore, GivesARedrawTheLinesItsRecordsHold) {
       other->Add(CCeDBProp(static_cast<short>(random()), 111), random() % 4 != 0);
     } else if (choice == 81 && random() % 4 == 0) {
       other->Add(CCeDBProp(static_cast<long>(random() % 100), 111), true);  // not sorted by it
+    } else if (choice == 82 && random() % 4 == 0) {
+      const CCeDBProp wide(static_cast<long>(random() % 100), 115);
+      other->Add(CCeDBProp(static_cast<short>(random()), 111), true, wide);
+      if (lines.Find({1, 2}) == 0) lines.SetCurHan(static_cast<std::int16_t>(random() % 100));
     } else if (choice < 86) {
       other->DeleteOne(random());
     } else if (choice == 86 && random() % 4 == 0) {
@@ -204,6 +208,13 @@ TEST_F(LineStore, ReadsItsRecordsOnceForAllRedraws) {
   points.SetCurCrd({-1, -1});
   EXPECT_EQ(50U, Walk(lines, points).size());
   EXPECT_EQ(49, reads()) << "nor is a line entered between two redraws";
+  EXPECT_EQ(0, lines.Find(LineKeys::Of(3, 0)));
+  ASSERT_EQ(0, lines.SetCurHan(7));
+  ASSERT_EQ(0, lines.Remove(LineKeys::Of(0, 4)));
+  const int before = reads();
+  EXPECT_EQ(49U, Walk(lines, points).size());
+  EXPECT_EQ(before, reads()) << "nor are the others when one has changed or gone";
+  EXPECT_EQ(Read(lines, points), Walk(lines, points));
 }
 
 }  // namespace

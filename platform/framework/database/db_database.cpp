@@ -127,8 +127,8 @@ DWORD CCeDBDatabase::GetNumRecords() const {
 
 ULONGLONG CCeDBDatabase::GetNumChanges() const {
   constexpr ULONGLONG kUnknown = ~ULONGLONG{0};
-  const auto info = DeviceStore().Info(m_oidDatabase);
-  return info ? info.value.database.changes : kUnknown;
+  const auto changes = DeviceStore().Changes(m_oidDatabase);
+  return changes ? changes.value : kUnknown;
 }
 
 DWORD CCeDBDatabase::GetSize() const { return Describe().dwSize; }

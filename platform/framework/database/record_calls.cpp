@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstring>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -30,8 +31,8 @@ std::size_t Aligned(std::size_t bytes) {
 class ReadLayout {
  public:
   // All properties of the record; or those of `wanted`, in this order, with missing ones marked.
-  explicit ReadLayout(std::span<const Property> record);
-  ReadLayout(std::span<const Property> record, std::span<const CEPROPID> wanted);
+  explicit ReadLayout(const tavix::RecordValues& record);
+  ReadLayout(const tavix::RecordValues& record, std::span<const CEPROPID> wanted);
 
   [[nodiscard]] std::size_t Count() const { return values_.size(); }
   [[nodiscard]] bool HasAnyValue() const { return found_ > 0; }
@@ -41,7 +42,7 @@ class ReadLayout {
   void Write(LPBYTE buffer) const;
 
  private:
-  void Add(CEPROPID id, const Property* property);
+  void Add(CEPROPID id, const std::optional<Property>& property);
 
   struct Value {
     CEPROPVAL head;
@@ -51,12 +52,12 @@ class ReadLayout {
   std::size_t found_ = 0;
 };
 
-ReadLayout::ReadLayout(std::span<const Property> record) {
-  for (const Property& property : record) Add(property.Id().Value(), &property);
+ReadLayout::ReadLayout(const tavix::RecordValues& record) {
+  for (const Property& property : record) Add(property.Id().Value(), property);
 }
 
-ReadLayout::ReadLayout(std::span<const Property> record, std::span<const CEPROPID> wanted) {
-  for (const CEPROPID id : wanted) Add(id, FindProperty(record, tavix::PropertyId(id)));
+ReadLayout::ReadLayout(const tavix::RecordValues& record, std::span<const CEPROPID> wanted) {
+  for (const CEPROPID id : wanted) Add(id, record.Find(tavix::PropertyId(id)));
 }
 
 std::size_t ReadLayout::Bytes() const {
@@ -85,7 +86,7 @@ void ReadLayout::Write(LPBYTE buffer) const {
   }
 }
 
-void ReadLayout::Add(CEPROPID id, const Property* property) {
+void ReadLayout::Add(CEPROPID id, const std::optional<Property>& property) {
   Value value{};
   if (property) {
     ++found_;
@@ -212,7 +213,7 @@ CEOID WINAPI CeWriteRecordProps(HANDLE hDbase, CEOID oidRecord, WORD cPropID,
     SetLastError(ERROR_INVALID_PARAMETER);
     return 0;
   }
-  constexpr std::size_t kUsual = 16;  // up to this number without an allocation
+  constexpr std::size_t kUsual = 8;  // up to this number without an allocation
   std::array<Property, kUsual> few;
   std::vector<Property> many(cPropID > kUsual ? cPropID : 0);
   const std::span<Property> properties =

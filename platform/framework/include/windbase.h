@@ -5,6 +5,7 @@
 //  - the value of CeSeekDatabase is a DWORD_PTR, because for some seek types it is a pointer;
 //  - databases are kept in memory until the process ends;
 //  - windows are not notified of changes: hwndNotify is ignored;
+//  - the time of the last modification is exact to the system's tick, some 16 ms;
 //  - use from one thread at a time.
 #pragma once
 

@@ -3,8 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
 #include <numeric>
 #include <random>
+#include <vector>
 
 namespace tavix {
 namespace {
@@ -38,17 +41,11 @@ TEST(PrefixCounts, SumsAndFindsWhateverWasChanged) {
   }
 }
 
-OrderedEntry Entry(std::uint64_t number) {
-  OrderedEntry entry;
-  entry.number = number;
-  return entry;
-}
-
-void ExpectSame(const OrderedEntries& entries, const std::vector<std::uint64_t>& expected) {
+void ExpectSame(const OrderedEntries& entries, const std::vector<std::uint32_t>& expected) {
   ASSERT_EQ(expected.size(), entries.Size());
   OrderedEntries::Position position = entries.Begin();
   for (std::size_t i = 0; i < expected.size(); ++i) {
-    ASSERT_EQ(expected[i], entries.At(position).number);
+    ASSERT_EQ(expected[i], entries.At(position));
     ASSERT_EQ(i, entries.Index(position));
     ASSERT_EQ(position, entries.AtIndex(i));
     position = entries.Next(position);
@@ -65,15 +62,14 @@ class OrderedEntriesTest : public testing::TestWithParam<Feed> {};
 TEST_P(OrderedEntriesTest, HoldsWhatAVectorWouldHold) {
   std::mt19937 random(7);
   OrderedEntries entries;
-  std::vector<std::uint64_t> expected;
-  for (std::uint64_t i = 0; i < 3000; ++i) {
-    const std::uint64_t number = GetParam() == Feed::kRising    ? i
-                                 : GetParam() == Feed::kFalling ? 3000 - i
-                                                                : random() % 1000;
+  std::vector<std::uint32_t> expected;
+  for (std::uint32_t i = 0; i < 3000; ++i) {
+    const std::uint32_t number = GetParam() == Feed::kRising ? i
+                                 : GetParam() == Feed::kFalling
+                                     ? 3000 - i
+                                     : static_cast<std::uint32_t>(random() % 1000);
     const auto at = std::ranges::upper_bound(expected, number);
-    entries.Insert(
-        entries.Partition([&](const OrderedEntry& other) { return other.number <= number; }),
-        Entry(number));
+    entries.Insert(entries.Partition([&](std::uint32_t other) { return other <= number; }), number);
     expected.insert(at, number);
   }
   ExpectSame(entries, expected);
@@ -93,17 +89,41 @@ INSTANTIATE_TEST_SUITE_P(Feeds, OrderedEntriesTest,
                          testing::Values(Feed::kRising, Feed::kFalling, Feed::kMixed));
 
 TEST(OrderedEntries, TakesOverASortedRow) {
-  for (const std::size_t size : {0U, 1U, 191U, 192U, 193U, 1000U}) {
-    std::vector<std::uint64_t> expected(size);
+  for (const std::size_t size : {0U, 1U, 255U, 256U, 257U, 1000U}) {
+    std::vector<std::uint32_t> expected(size);
     std::iota(expected.begin(), expected.end(), 0U);
-    std::vector<OrderedEntry> sorted;
-    for (const std::uint64_t number : expected) sorted.push_back(Entry(number));
     OrderedEntries entries;
-    entries.Assign(sorted);
+    entries.Merge(expected, std::less<>());
     ExpectSame(entries, expected);
-    std::vector<OrderedEntry> back;
-    entries.AppendTo(back);
-    EXPECT_EQ(size, back.size());
+    entries.Clear();
+    ExpectSame(entries, {});
+  }
+}
+
+TEST(OrderedEntries, MergesASortedRowIntoAnother) {
+  std::mt19937 random(9);
+  for (const std::uint32_t below : {10U, 1000U, 100000U}) {
+    OrderedEntries entries;
+    std::vector<std::uint32_t> expected;
+    for (const std::size_t size : {1U, 300U, 0U, 2000U, 5U, 700U}) {
+      std::vector<std::uint32_t> more(size);
+      for (std::uint32_t& number : more) number = static_cast<std::uint32_t>(random() % below);
+      std::ranges::sort(more);
+      const std::uint64_t version = entries.Version();
+      entries.Merge(more, std::less<>());
+      EXPECT_EQ(more.empty(), version == entries.Version());
+      expected.insert(expected.end(), more.begin(), more.end());
+      std::ranges::sort(expected);
+      ExpectSame(entries, expected);
+      // What follows the merge finds room in every stretch.
+      for (int i = 0; i < 50; ++i) {
+        const auto number = static_cast<std::uint32_t>(random() % below);
+        const auto before = [&](std::uint32_t other) { return other <= number; };
+        entries.Insert(entries.Partition(before), number);
+        expected.insert(std::ranges::upper_bound(expected, number), number);
+      }
+      ExpectSame(entries, expected);
+    }
   }
 }
 

@@ -131,7 +131,8 @@ TEST_P(RecordTest, ARecordMayBeWrittenFromItsOwnValues) {
       Add(handle_, {Property::String(1, u"text"), Property::String(2, u"more")});
   for (int i = 0; i < 100; ++i) {
     const RecordView view = Read();
-    ASSERT_TRUE(Store().Write(handle_, record, view.properties));
+    const std::vector<Property> own(view.properties.begin(), view.properties.end());
+    ASSERT_TRUE(Store().Write(handle_, record, own));
   }
   EXPECT_EQ(u"more", Read().properties[1].AsString());
 }

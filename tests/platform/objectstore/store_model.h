@@ -13,10 +13,12 @@
 
 namespace tavix {
 
-// A record of the model: a number and a text, either of which may be missing.
+// A record of the model: a number and a text, either of which may be missing, and properties of any
+// type that no order uses.
 struct ModelRecord {
   std::optional<std::int16_t> number;
   std::optional<std::u16string> text;
+  std::map<std::uint32_t, std::uint8_t> others;  // by their identifiers; the value is made of this
 };
 
 struct ModelOrder {

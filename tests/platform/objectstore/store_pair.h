@@ -7,6 +7,9 @@
 #include <cstdint>
 #include <functional>
 #include <iterator>
+#include <map>
+#include <optional>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -71,6 +74,7 @@ class StorePair {
   using enum SeekTarget::Kind;
   static constexpr std::uint16_t kNumber = 1;
   static constexpr std::uint16_t kText = 2;
+  static constexpr std::uint16_t kOther = 3;  // and the next
   static constexpr PropertyId kNumberId{kNumber, PropertyType::kI2};
   static constexpr PropertyId kTextId{kText, PropertyType::kString};
 
@@ -97,12 +101,52 @@ class StorePair {
     const std::u16string start = Below(2) == 0 ? u"LINE" : u"";
     return start + std::u16string(Below(3), static_cast<char16_t>(u'a' + Below(3)));
   }
-  static std::vector<Property> Written(const ModelRecord& record) {
+  // Sets a property of any type, or takes one of them out.
+  void ChangeOthers(ModelRecord& record) {
+    constexpr std::array kTypes = {
+        PropertyType::kI4,   PropertyType::kUI2,      PropertyType::kR8,   PropertyType::kUI4,
+        PropertyType::kBool, PropertyType::kFileTime, PropertyType::kBlob, PropertyType::kString};
+    const auto tag = static_cast<std::uint16_t>(kOther + Below(2));
+    const PropertyId id(tag, kTypes[Below(kTypes.size())]);
+    if (Below(3) == 0) {
+      record.others.erase(id.Value());
+    } else {
+      record.others[id.Value()] = static_cast<std::uint8_t>(Below(200));
+    }
+  }
+  static Property OtherOf(std::uint32_t number, std::uint8_t value) {
+    static const std::u16string kText(200, u'o');
+    const PropertyId id(number);
+    switch (id.Type()) {
+      case PropertyType::kI4:
+        return Property::I4(id.Tag(), -value);
+      case PropertyType::kUI2:
+        return Property::UI2(id.Tag(), value);
+      case PropertyType::kR8:
+        return Property::R8(id.Tag(), value / 7.0);
+      case PropertyType::kUI4:
+        return Property::UI4(id.Tag(), 0xFFFFFF00U + value);
+      case PropertyType::kBool:
+        return Property::Bool(id.Tag(), value % 2 != 0);
+      case PropertyType::kFileTime:
+        return Property::FileTime(id.Tag(), std::uint64_t{value} << 50);
+      case PropertyType::kBlob:
+        return Property::Blob(id.Tag(), std::as_bytes(std::span(kText)).first(value));
+      default:
+        return Property::String(id.Tag(), std::u16string_view(kText).substr(0, value));
+    }
+  }
+  // What makes a record of `old` one of `record`.
+  static std::vector<Property> Written(const ModelRecord& record, const ModelRecord& old) {
     std::vector<Property> properties;
     properties.push_back(record.number ? Property::I2(kNumber, *record.number)
                                        : Property::Removal(kNumberId));
     properties.push_back(record.text ? Property::String(kText, *record.text)
                                      : Property::Removal(kTextId));
+    for (const auto& [id, value] : record.others) properties.push_back(OtherOf(id, value));
+    for (const auto& [id, value] : old.others) {
+      if (!record.others.contains(id)) properties.push_back(Property::Removal(PropertyId(id)));
+    }
     return properties;
   }
 
@@ -116,8 +160,9 @@ class StorePair {
   }
 
   void AddRecord(std::size_t i) {
-    const ModelRecord record = RandomRecord();
-    const ObjectId id = store_.Write(handles_[i], 0, Written(record)).value;
+    ModelRecord record = RandomRecord();
+    if (Below(4) == 0) ChangeOthers(record);
+    const ObjectId id = store_.Write(handles_[i], 0, Written(record, {})).value;
     Require(id != 0, "a new record");
     model_.records[id] = record;
     StandOn(i, id);
@@ -126,10 +171,12 @@ class StorePair {
   void ChangeRecord(std::size_t i) {
     if (model_.records.empty()) return;
     const ObjectId id = AnyRecord();
-    const ModelRecord record = RandomRecord();
-    Require(id == store_.Write(handles_[i], id, Written(record)).value, "a changed record");
+    const ModelRecord old = model_.records[id];
+    ModelRecord record = RandomRecord();
+    record.others = old.others;
+    if (Below(2) == 0) ChangeOthers(record);
+    Require(id == store_.Write(handles_[i], id, Written(record, old)).value, "a changed record");
     for (ModelCursor& cursor : cursors_) {
-      const ModelRecord& old = model_.records[id];
       const bool moves =
           cursor.order.by_text ? old.text != record.text : old.number != record.number;
       if (moves && cursor.deleted && cursor.record == id) cursor.record = Behind(cursor, id);
@@ -185,7 +232,7 @@ class StorePair {
     const std::u16string text = RandomText();
     const auto number = static_cast<std::int16_t>(static_cast<int>(Below(24)) - 12);
     StoreModel with_probe = model_;
-    with_probe.records[kProbe] = {number, text};
+    with_probe.records[kProbe] = {number, text, {}};
     const auto side = [&](ObjectId id) { return with_probe.Compare(order, id, kProbe); };
     const auto known = [&](ObjectId id) {
       const ModelRecord& record = model_.records.at(id);
@@ -251,12 +298,18 @@ class StorePair {
 
   void ExpectRecord(const RecordView& view) {
     const ModelRecord& record = model_.records.at(view.id);
-    const Property* number = FindProperty(view.properties, kNumberId);
-    const Property* text = FindProperty(view.properties, kTextId);
-    Require(record.number.has_value() == (number != nullptr), "whether there is a number");
-    Require(record.text.has_value() == (text != nullptr), "whether there is a text");
+    const std::optional<Property> number = view.properties.Find(kNumberId);
+    const std::optional<Property> text = view.properties.Find(kTextId);
+    Require(record.number.has_value() == number.has_value(), "whether there is a number");
+    Require(record.text.has_value() == text.has_value(), "whether there is a text");
     Require(!number || *record.number == number->AsI2(), "the number");
     Require(!text || *record.text == text->AsString(), "the text");
+    const std::size_t known = (number ? 1U : 0U) + (text ? 1U : 0U);
+    Require(record.others.size() + known == view.properties.size(), "the number of properties");
+    for (const auto& [id, value] : record.others) {
+      const std::optional<Property> other = view.properties.Find(PropertyId(id));
+      Require(other && SameProperty(OtherOf(id, value), *other), "a property of another type");
+    }
   }
 
   ObjectId AnyRecord() {
