@@ -49,10 +49,10 @@ int Tavix_GetPntNoNam(int key, int* number, CString* name) {
 int Tavix_GetPntCrd(int key, double* x, double* y) {
   if (!tavix::CanWrite(x, y)) return kRefused;
   return OnInstance([=](Instance& instance) {
-    const auto point = instance.FindPoint(key);
-    if (!point) return kRefused;
-    *x = point->at.north;
-    *y = point->at.east;
+    const auto at = instance.FindPointPosition(key);
+    if (!at) return kRefused;
+    *x = at->north;
+    *y = at->east;
     return 0;
   });
 }

@@ -14,6 +14,7 @@ class CFigList;
 class CPlotWnd;
 class CViewState;
 class LegendTable;
+struct GroundPoint;
 struct LineKeys;
 struct Point;
 struct Point3;
@@ -87,12 +88,13 @@ class Instance {
 
   // Enter a point with the selected point legend, or replace all but the key of the one that has
   // this key. 0, or the redraw's result.
-  int EnterPoint(const Point& point);
-  int EnterPoint3(const Point3& point);
+  int EnterPoint(Point point);
+  int EnterPoint3(Point3 point);
 
   // Find a point by its key and make it current; where keys repeat, the nearest to the point that
   // is current. Its name is valid until a point changes.
   [[nodiscard]] std::optional<Point> FindPoint(std::int32_t key);
+  [[nodiscard]] std::optional<GroundPoint> FindPointPosition(std::int32_t key);
   [[nodiscard]] std::optional<Point3> FindPoint3(std::int32_t key);
 
   // Change one value of a point. With auto-redraw on a value that is there already is no change,

@@ -18,8 +18,7 @@ int Instance::ChangePoint(std::int32_t key, IsSame is_same, Change change) {
   return RedrawAfterChange(change(points));
 }
 
-int Instance::EnterPoint(const Point& entered) {
-  Point point = entered;
+int Instance::EnterPoint(Point point) {
   point.legend = point_legend_;
   if (parts_->points.Find(point.key) != 0) {
     FinishRedraw();
@@ -38,8 +37,7 @@ int Instance::EnterPoint(const Point& entered) {
       });
 }
 
-int Instance::EnterPoint3(const Point3& entered) {
-  Point3 point = entered;
+int Instance::EnterPoint3(Point3 point) {
   point.legend = point_legend_;
   CPnt3List& points = parts_->points3;
   if (points.Find(point.key) != 0) return points.Add(point);
@@ -50,6 +48,12 @@ std::optional<Point> Instance::FindPoint(std::int32_t key) {
   Point point;
   if (parts_->points.Find(key) != 0 || parts_->points.GetCur(&point) != 0) return std::nullopt;
   return point;
+}
+
+std::optional<GroundPoint> Instance::FindPointPosition(std::int32_t key) {
+  GroundPoint at;
+  if (parts_->points.Find(key) != 0 || parts_->points.GetCurCrd(&at) != 0) return std::nullopt;
+  return at;
 }
 
 std::optional<Point3> Instance::FindPoint3(std::int32_t key) {

@@ -3,7 +3,6 @@
 #include <afxwin.h>
 
 #include <algorithm>
-#include <cassert>
 #include <new>
 
 namespace tavix {
@@ -38,12 +37,6 @@ bool SlotTable::IsOnItsThread() {
   return thread_ == ::GetCurrentThreadId();
 }
 
-SlotTable& Slots() {
-  // Never destroyed: what an ending process leaves behind is not saved, and at that time neither
-  // the framework nor the windows may be called any more.
-  static SlotTable& slots = *new SlotTable;
-  assert(slots.IsOnItsThread() && "a call from another thread than the instances'");
-  return slots;
-}
+constinit LastingSlotTable g_slots;
 
 }  // namespace tavix

@@ -4,6 +4,7 @@
 #include <afxwin.h>
 
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <memory>
 #include <new>
@@ -46,9 +47,21 @@ class SlotTable {
   unsigned long thread_ = 0;
 };
 
+// The table is never destroyed: what an ending process leaves behind is not saved, and at that time
+// neither the framework nor the windows may be called any more.
+union LastingSlotTable {
+  constexpr LastingSlotTable() : table() {}
+  ~LastingSlotTable() {}
+  SlotTable table;
+};
+extern LastingSlotTable g_slots;
+
 // The library's table. To be asked on one thread as long as instances exist; builds with assertions
 // stop at a call from another.
-[[nodiscard]] SlotTable& Slots();
+[[nodiscard]] inline SlotTable& Slots() {
+  assert(g_slots.table.IsOnItsThread() && "a call from another thread than the instances'");
+  return g_slots.table;
+}
 
 constexpr int kRefused = -1;
 

@@ -56,9 +56,8 @@ class RecordList {
   // at each step. Without a cursor the search runs from the head. 0, or -1 with the cursor as it
   // was.
   int FindOutward(std::int32_t key) {
-    if (!cursor_) return FindFirst(key);
     const std::optional<Position> found =
-        repeated_keys_ == 0 ? FirstWithKey(key) : NearestWithKey(key, *cursor_);
+        cursor_ && repeated_keys_ != 0 ? NearestWithKey(key, *cursor_) : FirstWithKey(key);
     if (!found) return -1;
     cursor_ = found;
     return 0;
@@ -69,9 +68,9 @@ class RecordList {
   // Without memory for it the list stays as it is.
   Record& Append(const Record& record) {
     const auto position = static_cast<Position>(records_.size());
-    index_.MakeRoom();
+    index_.MakeRoom(ByPosition());
     records_.push_back(record);
-    if (index_.Insert(record.key, position)) ++repeated_keys_;
+    if (index_.Insert(ByPosition(), position)) ++repeated_keys_;
     ++live_;
     return records_.back();
   }
@@ -79,7 +78,7 @@ class RecordList {
   // Removes the current record, of which there must be one; then there is no cursor.
   void RemoveCurrent() {
     Record& record = records_[*cursor_];
-    index_.Erase(record.key, *cursor_);
+    index_.Erase(ByPosition(), *cursor_);
     record.removed = true;
     --live_;
     ++removals_;
@@ -151,7 +150,7 @@ class RecordList {
 
   [[nodiscard]] std::optional<Position> FirstWithKey(std::int32_t key) const {
     Position first = KeyIndex::kNone;
-    index_.ForEach(key, [&](Position position) {
+    index_.ForEach(ByPosition(), key, [&](Position position) {
       first = std::min(first, position);
       return repeated_keys_ != 0;
     });
@@ -176,16 +175,9 @@ class RecordList {
   }
 
   void CloseHoles() {
-    KeyIndex closed;
-    try {
-      Position at = 0;
-      ForEach([&](const Record& record) { closed.Insert(record.key, at++); });
-    } catch (const std::bad_alloc&) {
-      return;  // the holes stay until the next removal
-    }
     ++numbering_;
     std::erase_if(records_, [](const Record& record) { return record.removed; });
-    index_ = std::move(closed);
+    index_.Rebuild(ByPosition());
   }
 
   std::vector<Record> records_;

@@ -5,40 +5,51 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <numeric>
 #include <random>
+#include <span>
 #include <vector>
 
 namespace tavix {
 namespace {
 
-// An index over keys that lie in a plain array, with a record of what is in it.
+// An index over an array of keys, with a record of what is in it.
 class IndexedKeys {
  public:
   void Insert(std::int32_t key) {
     const bool repeated = !Expected(key).empty();
-    keys_.push_back(key);
-    const auto position = static_cast<std::uint32_t>(keys_.size() - 1);
-    EXPECT_EQ(repeated, index_.Insert(key, position));
+    index_.MakeRoom(Records());
+    records_.push_back({key, false});
+    const auto position = static_cast<std::uint32_t>(records_.size() - 1);
+    EXPECT_EQ(repeated, index_.Insert(Records(), position));
     in_.push_back(position);
   }
 
   // Removes the nth entry that is in the index.
   void Erase(std::size_t nth) {
-    index_.Erase(keys_[in_[nth]], in_[nth]);
+    index_.Erase(Records(), in_[nth]);
+    records_[in_[nth]].removed = true;
     in_.erase(in_.begin() + static_cast<std::ptrdiff_t>(nth));
   }
 
   void Clear() {
     index_.Clear();
     in_.clear();
-    keys_.clear();
+    records_.clear();
+  }
+
+  void CloseHoles() {
+    std::erase_if(records_, [](const Record& record) { return record.removed; });
+    in_.resize(records_.size());
+    std::iota(in_.begin(), in_.end(), 0U);
+    index_.Rebuild(Records());
   }
 
   [[nodiscard]] std::size_t Count() const { return in_.size(); }
 
   [[nodiscard]] std::vector<std::uint32_t> Found(std::int32_t key) const {
     std::vector<std::uint32_t> found;
-    index_.ForEach(key, [&](std::uint32_t position) {
+    index_.ForEach(Records(), key, [&](std::uint32_t position) {
       found.push_back(position);
       return true;
     });
@@ -49,14 +60,14 @@ class IndexedKeys {
   [[nodiscard]] std::vector<std::uint32_t> Expected(std::int32_t key) const {
     std::vector<std::uint32_t> expected;
     for (const std::uint32_t position : in_) {
-      if (keys_[position] == key) expected.push_back(position);
+      if (records_[position].key == key) expected.push_back(position);
     }
     return expected;
   }
 
   [[nodiscard]] int VisitsUntilRefused(std::int32_t key) const {
     int visits = 0;
-    index_.ForEach(key, [&](std::uint32_t) {
+    index_.ForEach(Records(), key, [&](std::uint32_t) {
       ++visits;
       return false;
     });
@@ -64,8 +75,15 @@ class IndexedKeys {
   }
 
  private:
+  struct Record {
+    std::int32_t key;
+    bool removed;
+  };
+
+  [[nodiscard]] std::span<const Record> Records() const { return records_; }
+
   KeyIndex index_;
-  std::vector<std::int32_t> keys_;
+  std::vector<Record> records_;
   std::vector<std::uint32_t> in_;
 };
 
@@ -114,6 +132,7 @@ TEST(KeyIndex, RandomInsertionsAndRemovalsLoseNothing) {
         keys.Erase(below(keys.Count()));
       }
       ASSERT_EQ(keys.Found(key), keys.Expected(key));
+      if (i % 500 == 499) keys.CloseHoles();
     }
     while (keys.Count() > 0) keys.Erase(below(keys.Count()));
     EXPECT_TRUE(keys.Found(0).empty());
