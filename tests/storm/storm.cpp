@@ -65,17 +65,15 @@ void Storm::CheckAfterStep() {
   Tavix_GetIdx(&index);
   Expect(index == index_, "instance " + std::to_string(index) + " is current");
   const Model& model = Now();
-  int angle = -1;
-  ExpectCode(model.exists ? 0 : -1, Tavix_GetAng(&angle));
-  if (model.exists) {
-    Expect(angle >= 0 && angle <= 359, "the angle is " + std::to_string(angle));
-  }
   Expect((Tavix_Wnd() != nullptr) == model.linked, "there is a window, or none, against the model");
   if (model.linked) {
-    // What the view says of the middle of its own window has to agree with itself.
     const HWND window = Tavix_Wnd()->m_hWnd;
     Expect(!window || ::IsWindow(window), "the window's handle is a dead one");
   }
+  CheckFlags(*this);
+  ReadBack(*this);
+  constexpr int kStepsBetweenViews = 12;
+  if (chance_.OneIn(kStepsBetweenViews)) CheckView(*this);
 }
 
 }  // namespace tavix::storm

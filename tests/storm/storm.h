@@ -72,6 +72,17 @@ void MakeCall(Storm& storm);
 // A random movement of the user: stylus, buttons, keys, dialogs, the host's window.
 void MoveHands(Storm& storm);
 
+// Reads something of every store of the current instance back, by keys at random.
+void ReadBack(Storm& storm);
+
+// What the current instance says of its angle, its ratio, its overlays and what it shows.
+void CheckFlags(Storm& storm);
+
+// Taps the middle and the corners of the drawing area: they lie where the angle, the ratio and what
+// else the model knows put them, they are in view, and they stay as long as no call changes the
+// view. Ends the coordinate capture.
+void CheckView(Storm& storm);
+
 // Compares what the current instance shows after a redraw with a redraw from nothing: another
 // instance into which the model is entered. Does nothing where there is no room for one.
 void CheckPicture(Storm& storm);
