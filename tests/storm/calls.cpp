@@ -124,6 +124,7 @@ void Link(Storm& storm, int width, int height) {
   model.linked = true;
   model.window = {};
   model.window.client = ClientSize();
+  model.window.column = model.window.client.cy;
 }
 
 void LnkRct(Storm& storm) {
@@ -151,6 +152,7 @@ void Lnk(Storm& storm) {
   model.linked = true;  // a window that could not be made stays, without a handle
   model.window = {};
   model.window.client = ClientSize();
+  model.window.column = model.window.client.cy;
 }
 
 void Wnd(Storm& storm) {

@@ -77,7 +77,8 @@ using MeasuredView = std::array<std::optional<ModelGround>, 5>;
 
 // What begins with every link.
 struct ModelWindow {
-  SIZE client{};  // when it was linked or its buttons changed: the drawing area keeps to it
+  SIZE client{};   // when it was linked or its buttons changed: the drawing area keeps to it
+  int column = 0;  // the height of the buttons' column: that of the link
   bool shown = false;
   std::pair<int, int> ratio{1, 1};  // vertical, horizontal
   bool ratio_given = false;

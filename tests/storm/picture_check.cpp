@@ -108,6 +108,7 @@ void EnterShowing(Model& model, const Showing& showing) {
   RECT client{};
   ::GetClientRect(Tavix_Wnd()->m_hWnd, &client);
   model.window.client = {client.right, client.bottom};
+  model.window.column = client.bottom;
   model.window.ratio_given = true;
   model.window.centre = {showing.middle_x, showing.middle_y};
   // The square around the circle, turned, fills the square window.

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -65,6 +66,12 @@ class Storm {
   std::deque<std::string> notes_;
   std::int64_t steps_ = 0;
 };
+
+// Runs a storm of so many steps, after a few others that fill what the process keeps: at its end
+// the library holds what it held at its beginning. Throws Broken. `running` is called with the
+// storm before its first step.
+void Run(
+    std::uint64_t seed, int steps, const std::function<void(const Storm*)>& running = [](auto*) {});
 
 // A random exported call with random arguments.
 void MakeCall(Storm& storm);

@@ -16,6 +16,8 @@ namespace tavix::storm {
 namespace {
 
 constexpr double kLargestScale = 100000.0;  // pixels per metre
+constexpr int kOneButton =
+    60;  // pixels: a column that has room for one, and for the scroll buttons
 
 bool IsFinite(const ModelGround& ground) {
   return std::isfinite(ground.north) && std::isfinite(ground.east);
@@ -42,14 +44,15 @@ SIZE DrawingArea(const Model& model) {
           model.window.client.cy};
 }
 
-// The ground under a pixel; nothing when no coordinate was captured, as where the user chose
-// another mode, or when that of a point was.
+// What a tap on a pixel captured.
 struct Captured {
-  bool any = false;
-  std::optional<ModelGround> ground;
+  bool any = false;                   // not where the user chose another mode, or on a button
+  std::optional<ModelGround> ground;  // not where a point was hit
 };
 
 Captured Capture(const Model& model, HWND plot, POINT pixel) {
+  constexpr int kAnyCommand = 4321;
+  Tavix_CrdStt(kAnyCommand);  // forgets the coordinate before
   const LPARAM at = MAKELPARAM(pixel.x, pixel.y);
   ::SendMessageW(plot, WM_LBUTTONDOWN, MK_LBUTTON, at);
   ::SendMessageW(plot, WM_LBUTTONUP, 0, at);
@@ -71,10 +74,9 @@ std::array<POINT, 5> Pixels(SIZE area) {
            {area.cx - 1, area.cy - 1}}};
 }
 
-// Taps the pixels. False when a tap was for another mode; the view may have changed then.
+// Taps the pixels. False when a tap captured nothing: it may have been for a mode that changes the
+// view.
 bool Measure(const Model& model, HWND plot, MeasuredView& view) {
-  constexpr int kAnyCommand = 4321;
-  Tavix_CrdStt(kAnyCommand);
   const auto pixels = Pixels(DrawingArea(model));
   bool all = true;
   for (std::size_t i = 0; i < pixels.size() && all; ++i) {
@@ -181,10 +183,13 @@ void CheckFlags(Storm& storm) {
   }
   if (const HWND plot = PlotWindow()) {
     storm.Expect(IsShown(plot) == model.window.shown, "the window is shown, or not, by itself");
-    if (const HWND button = ::GetDlgItem(plot, kSettingsButton)) {
-      storm.Expect(IsShown(button) == model.buttons || DrawingArea(model).cy < 300,
-                   "the buttons are shown, or not, by themselves");
-    }
+    const bool any_button =
+        std::any_of(kButtonTable.begin(), kButtonTable.end(), [&](const ButtonRow& row) {
+          const HWND button = ::GetDlgItem(plot, static_cast<int>(row.id));
+          return button && IsShown(button);
+        });
+    storm.Expect(any_button == model.buttons || (!any_button && model.window.column < kOneButton),
+                 "the buttons are shown, or not, by themselves");
   }
 }
 
