@@ -208,11 +208,9 @@ void CheckView(Storm& storm) {
   for (const auto& each : view) text += each ? " (" + Text(*each) + ")" : " (a point)";
   storm.Note("view of " + std::to_string(area.cx) + " x " + std::to_string(area.cy) + text);
   if (view[0] && window.centre && IsFinite(*view[0])) {
-    storm.Expect(IsSame(*window.centre, *view[0]), "the view's centre is at " +
-                                                       std::to_string(view[0]->north) + ", " +
-                                                       std::to_string(view[0]->east) + ", not " +
-                                                       std::to_string(window.centre->north) + ", " +
-                                                       std::to_string(window.centre->east));
+    const auto [north, east] = *window.centre;
+    storm.Expect(north == view[0]->north && east == view[0]->east,
+                 "the view's centre is at " + Text(*view[0]) + ", not " + Text(*window.centre));
   }
   for (std::size_t i = 0; i < view.size(); ++i) {
     if (!window.measured || !view[i] || !(*window.measured)[i]) continue;
