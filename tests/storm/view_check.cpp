@@ -16,8 +16,8 @@ namespace tavix::storm {
 namespace {
 
 constexpr double kLargestScale = 100000.0;  // pixels per metre
-constexpr int kOneButton =
-    60;  // pixels: a column that has room for one, and for the scroll buttons
+// A column of this height, in pixels, has room for one button and for those that scroll.
+constexpr int kOneButton = 60;
 
 bool IsFinite(const ModelGround& ground) {
   return std::isfinite(ground.north) && std::isfinite(ground.east);
