@@ -10,7 +10,7 @@ get_property(guide_programs GLOBAL PROPERTY TAVIX_GUIDE_PROGRAMS)
 list(APPEND programs ${guide_programs}
   test_runner second_program framework_test_host framework_test_host_unicode fieldhost
   sample_framework sample_c
-  exception_relay framework framework_test_extension rovcond tavix tavix_c tdialog)
+  exception_relay framework framework_test_extension guard_heap rovcond tavix tavix_c tdialog)
 
 set(lines)
 foreach(program IN LISTS programs)

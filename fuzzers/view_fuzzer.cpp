@@ -111,7 +111,8 @@ void CheckSegment(const Plot& plot, FuzzInput& input) {
   }
 }
 
-// There and back again, where pixels are small against the coordinates' last digits.
+// There and back again, where pixels are small against the coordinates' last digits. The factor of
+// ZoomOut is not checked: one far below 1 leads beyond the largest scale.
 void CheckThereAndBack(const Plot& plot, FuzzInput& input) {
   const CViewState& view = plot.view;
   const ScreenPoint pixel{input.Take<std::int16_t>(), input.Take<std::int16_t>()};
@@ -119,7 +120,8 @@ void CheckThereAndBack(const Plot& plot, FuzzInput& input) {
   if (!fuzz::IsFinite(view.Centre())) return;
   const double largest = std::max(std::fabs(view.Centre().north), std::fabs(view.Centre().east));
   const double ratio = std::fabs(view.Ratio());
-  const bool ordinary = view.Scale() > 1e-9 && ratio > 1e-3 && ratio < 1e3 && largest < 1e9 &&
+  const bool ordinary = view.Scale() > 1e-9 && view.Scale() <= CViewState::kScaleCap &&
+                        ratio > 1e-3 && ratio < 1e3 && largest < 1e9 &&
                         largest * view.Scale() * std::max(1.0, ratio) < 1e9;
   if (!ordinary) return;
   const RealScreenPoint back = view.GroundToRealScreen(ground);

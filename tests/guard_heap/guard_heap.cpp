@@ -2,7 +2,8 @@
 //
 // Every block has pages of its own and ends at one that cannot be read. Freed pages stay
 // unreadable: no address is given out twice. In a build with TAVIX_GUARD_HEAP all modules call
-// these functions in place of the C runtime's.
+// these functions in place of the C runtime's. No static local here: the lock that guards its
+// initialisation takes memory from this heap.
 #include <windows.h>
 
 #include <atomic>
@@ -15,7 +16,6 @@ namespace {
 
 constexpr std::size_t kPage = 4096;
 constexpr std::size_t kRoom = std::size_t{1} << 38;  // of addresses, not of memory
-constexpr std::size_t kAlignment = 16;               // of every block, as the C runtime's
 constexpr std::uint64_t kMark = 0x6B636F6C42786154;  // before a block that is in use
 constexpr unsigned char kFresh = 0xA5;               // what a new block is filled with
 
@@ -27,14 +27,18 @@ struct Head {
   std::size_t count;  // of bytes of pages that can be read
 };
 
-char* Room() {
-  static char* const room =
-      static_cast<char*>(::VirtualAlloc(nullptr, kRoom, MEM_RESERVE, PAGE_NOACCESS));
-  return room;
-}
-
+std::atomic<char*> room{nullptr};
 std::atomic<std::size_t> used{0};  // bytes of the room that have been given out
 std::atomic<long> blocks{0};
+
+char* Room() {
+  char* begin = room;
+  if (begin) return begin;
+  auto* reserved = static_cast<char*>(::VirtualAlloc(nullptr, kRoom, MEM_RESERVE, PAGE_NOACCESS));
+  if (room.compare_exchange_strong(begin, reserved)) return reserved;
+  ::VirtualFree(reserved, 0, MEM_RELEASE);  // another thread was first
+  return begin;
+}
 
 bool IsOurs(const void* block) {
   const auto* at = static_cast<const char*>(block);
@@ -50,17 +54,18 @@ Head& HeadOf(void* block) { return static_cast<Head*>(block)[-1]; }
 }
 
 void* Allocate(std::size_t size) {
-  if (size > kRoom / 4) return nullptr;
-  // A block of a size that is no multiple of the alignment ends up to 15 bytes before the page.
-  const std::size_t rounded = (size + kAlignment - 1) / kAlignment * kAlignment;
-  const std::size_t count = (sizeof(Head) + rounded + kPage - 1) / kPage * kPage;
+  if (size > kRoom / 4 || !Room()) return nullptr;
+  const std::size_t count = (sizeof(Head) + size + kPage - 1) / kPage * kPage;
   const std::size_t at = used.fetch_add(count + kPage);
   if (at + count + kPage > kRoom) return nullptr;
   char* pages = Room() + at;
   if (!::VirtualAlloc(pages, count, MEM_COMMIT, PAGE_READWRITE)) return nullptr;
-  char* block = pages + count - rounded;
+  // A block is as strictly aligned as its size is, and so is what it holds: the size of an object
+  // is a multiple of its alignment. Where a header stands before the elements of an array it may be
+  // less aligned than it asks for, which this processor allows.
+  char* block = pages + count - size;
   HeadOf(block) = {kMark, size, pages, count};
-  std::memset(block, kFresh, rounded);
+  std::memset(block, kFresh, size);
   ++blocks;
   return block;
 }
@@ -68,15 +73,11 @@ void* Allocate(std::size_t size) {
 void Release(void* block) {
   Head& head = HeadOf(block);
   if (head.mark != kMark) Stop("guard heap: freed what is no block\n");
-  const auto* end = static_cast<unsigned char*>(block) + head.size;
-  for (std::size_t i = 0; (head.size + i) % kAlignment != 0; ++i) {
-    if (end[i] != kFresh) Stop("guard heap: written behind the end of a block\n");
-  }
   ::VirtualFree(head.pages, head.count, MEM_DECOMMIT);
   --blocks;
 }
 
-// The C runtime's own, for blocks that it made itself.
+// One of the C runtime's own functions, for blocks that it made itself.
 template <class Function>
 Function OfRuntime(const char* name) {
   return reinterpret_cast<Function>(
@@ -105,16 +106,14 @@ __declspec(dllexport) void free(void* block) {
   if (IsOurs(block)) {
     Release(block);
   } else {
-    static const auto runtime_free = OfRuntime<void (*)(void*)>("free");
-    runtime_free(block);
+    OfRuntime<void (*)(void*)>("free")(block);
   }
 }
 
 __declspec(dllexport) void* realloc(void* block, std::size_t size) {
   if (!block) return malloc(size);
   if (!IsOurs(block)) {
-    static const auto runtime_realloc = OfRuntime<void* (*)(void*, std::size_t)>("realloc");
-    return runtime_realloc(block, size);
+    return OfRuntime<void* (*)(void*, std::size_t)>("realloc")(block, size);
   }
   if (size == 0) {
     free(block);

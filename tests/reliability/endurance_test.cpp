@@ -11,26 +11,10 @@
 #include "tests/reliability/whole_run.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/plot_test.h"
+#include "tests/support/window_count.h"
 
 namespace tavix::test {
 namespace {
-
-BOOL CALLBACK CountOne(HWND, LPARAM count) {
-  ++*reinterpret_cast<int*>(count);
-  return TRUE;
-}
-
-BOOL CALLBACK CountTree(HWND window, LPARAM count) {
-  ::EnumChildWindows(window, &CountOne, count);
-  return CountOne(window, count);
-}
-
-// Of this thread, with their children.
-int CountWindows() {
-  int count = 0;
-  ::EnumThreadWindows(::GetCurrentThreadId(), &CountTree, reinterpret_cast<LPARAM>(&count));
-  return count;
-}
 
 class Endurance : public PlotTest {
  protected:

@@ -55,6 +55,13 @@ void ExpectChanged(Storm& storm, bool known, int code) {
 
 // ---- Instances and windows
 
+// Of the plot window; nothing where it could not be made.
+SIZE ClientSize() {
+  RECT client{};
+  ::GetClientRect(Tavix_Wnd()->m_hWnd, &client);
+  return {client.right, client.bottom};
+}
+
 // The legend as the library has it: that of the file, or the built-in one.
 void ReadLegend(Storm& storm) {
   Model& model = storm.Now();
@@ -115,8 +122,9 @@ void Link(Storm& storm, int width, int height) {
   storm.ExpectCode(OnInstance(model), code);
   if (!model.exists) return;
   model.linked = true;
-  model.width = width;
-  model.height = height;
+  model.window = {};
+  model.window.client = ClientSize();
+  model.window.column = model.window.client.cy;
 }
 
 void LnkRct(Storm& storm) {
@@ -142,7 +150,9 @@ void Lnk(Storm& storm) {
   }
   storm.Expect(code == 0 || code == kRefused, "Lnk returns " + std::to_string(code));
   model.linked = true;  // a window that could not be made stays, without a handle
-  model.width = model.height = 0;
+  model.window = {};
+  model.window.client = ClientSize();
+  model.window.column = model.window.client.cy;
 }
 
 void Wnd(Storm& storm) {
@@ -153,19 +163,26 @@ void Dsp(Storm& storm) {
   const BYTE show = storm.Any().Flag();
   Note(storm, "Dsp", int{show});
   storm.ExpectCode(OnWindow(storm.Now()), Tavix_Dsp(show));
+  storm.Now().window.shown = show != 0;
 }
 
 void Dsp3D(Storm& storm) {
   const BYTE on = storm.Any().Flag();
   Note(storm, "Dsp3D", int{on});
   storm.ExpectCode(0, Tavix_Dsp3D(on));
+  storm.Now().angle = 0;
+  storm.Now().window.ForgetView();
 }
 
 void SetBtn(Storm& storm) {
   const BYTE show = storm.Any().Flag();
   Note(storm, "SetBtn", int{show});
   storm.ExpectCode(0, Tavix_SetBtn(show));
-  storm.Now().buttons = show != 0;
+  Model& model = storm.Now();
+  model.buttons = show != 0;
+  model.window.ForgetView();
+  model.window.ratio_counts = false;
+  if (model.linked) model.window.client = ClientSize();  // the drawing area follows it now
 }
 
 void DrwFlg(Storm& storm) {
@@ -179,6 +196,7 @@ void Drw(Storm& storm) {
   const BYTE keep = storm.Any().Flag();
   Note(storm, "Drw", int{keep});
   storm.ExpectCode(OnWindow(storm.Now()), Tavix_Drw(keep));
+  if (keep == 0) storm.Now().window.ForgetView();
 }
 
 void DrwClr(Storm& storm) {
@@ -195,8 +213,10 @@ void SetAng(Storm& storm) {
   Note(storm, "SetAng", degrees);
   const bool valid = degrees >= 0 && degrees <= 359;
   storm.ExpectCode(OnInstance(storm.Now(), valid ? 0 : kRefused), Tavix_SetAng(degrees));
-  int angle = -1;
-  if (storm.Now().exists && valid && Tavix_GetAng(&angle) == 0) storm.ExpectCode(degrees, angle);
+  if (!storm.Now().exists || !valid) return;
+  storm.Now().angle = degrees;
+  storm.Now().window.measured.reset();
+  storm.Now().window.scale.reset();
 }
 
 void GetAng(Storm& storm) { storm.ExpectCode(kRefused, Tavix_GetAng(nullptr)); }
@@ -205,7 +225,12 @@ void SetTatYok(Storm& storm) {
   const int tate = storm.Any().OneIn(3) ? storm.Any().Number() : storm.Any().Between(1, 5);
   const int yoko = storm.Any().OneIn(5) ? storm.Any().Number() : storm.Any().Between(1, 5);
   Note(storm, "SetTatYok", tate, yoko);
-  storm.ExpectCode(OnWindow(storm.Now()), Tavix_SetTatYok(tate, yoko));
+  Model& model = storm.Now();
+  storm.ExpectCode(OnWindow(model), Tavix_SetTatYok(tate, yoko));
+  if (!model.linked) return;
+  model.window.ratio = {tate, yoko};
+  model.window.ratio_given = model.window.ratio_counts = true;
+  model.window.measured.reset();
 }
 
 void GetTatYok(Storm& storm) {
@@ -215,12 +240,19 @@ void GetTatYok(Storm& storm) {
   storm.Expect(code == kRefused || storm.Now().linked, "a ratio without a window");
 }
 
+// The view now has its centre here.
+void Centred(Storm& storm, double north, double east) {
+  storm.Now().window.ForgetView();
+  storm.Now().window.centre = {north, east};
+}
+
 void Zom(Storm& storm) {
   Chance& any = storm.Any();
   const std::array<double, 4> box{any.Coordinate(), any.Coordinate(), any.Coordinate(),
                                   any.Coordinate()};
   Note(storm, "Zom", box[0], box[1], box[2], box[3]);
   storm.ExpectCode(OnWindow(storm.Now()), Tavix_Zom(box[0], box[1], box[2], box[3]));
+  Centred(storm, (box[0] + box[2]) * 0.5, (box[1] + box[3]) * 0.5);
 }
 
 void Zom1(Storm& storm) {
@@ -230,6 +262,7 @@ void Zom1(Storm& storm) {
   const double radius = any.Length();
   Note(storm, "Zom1", x, y, radius);
   storm.ExpectCode(OnWindow(storm.Now()), Tavix_Zom1(x, y, radius));
+  Centred(storm, x, y);
 }
 
 void Pan(Storm& storm) {
@@ -237,6 +270,9 @@ void Pan(Storm& storm) {
   const double y = storm.Any().Coordinate();
   Note(storm, "Pan", x, y);
   storm.ExpectCode(OnWindow(storm.Now()), Tavix_Pan(x, y));
+  const auto scale = storm.Now().window.scale;
+  Centred(storm, x, y);
+  storm.Now().window.scale = scale;
 }
 
 void Mov(Storm& storm) { storm.ExpectCode(0, Tavix_Mov()); }
@@ -740,6 +776,7 @@ void SetWak(Storm& storm) {
   const int units = any.OneIn(6) ? any.Number() : any.Between(50, 800);
   Note(storm, "SetWak", int{on}, per_inch, units);
   storm.ExpectCode(OnWindow(storm.Now()), Tavix_SetWak(on, per_inch, units, per_inch, units));
+  storm.Now().window.has_frame = storm.Now().linked && on != 0;
 }
 
 void WakDsp(Storm& storm) {
@@ -750,6 +787,7 @@ void SetWakScl(Storm& storm) {
   const int scale = storm.Any().OneIn(4) ? storm.Any().Number() : storm.Any().Between(100, 5000);
   Note(storm, "SetWakScl", scale);
   Tavix_SetWakScl(scale);
+  storm.Now().window.ForgetView();
 }
 
 void GetWakScl(Storm&) {
@@ -761,6 +799,7 @@ void SetWakGen(Storm& storm) {
   const double x = storm.Any().Coordinate();
   Note(storm, "SetWakGen", x, x);
   Tavix_SetWakGen(x, x);
+  storm.Now().window.ForgetView();
 }
 
 void GetWakGen(Storm&) {
@@ -799,6 +838,7 @@ void MvPntEnd(Storm& storm) {
 void VoStt(Storm& storm) {
   Note(storm, "VoStt");
   storm.ExpectCode(OnWindow(storm.Now()), Tavix_VoStt());
+  storm.Now().window.trace.clear();
 }
 
 void VoAdd(Storm& storm) {
@@ -806,11 +846,14 @@ void VoAdd(Storm& storm) {
   const double y = storm.Any().Coordinate();
   Note(storm, "VoAdd", x, y);
   storm.ExpectCode(OnWindow(storm.Now()), Tavix_VoAdd(x, y));
+  if (storm.Now().linked) storm.Now().window.trace.push_back({x, y});
 }
 
 void VoDel(Storm& storm) {
   Note(storm, "VoDel");
-  Tavix_VoDel();
+  std::vector<ModelGround>& trace = storm.Now().window.trace;
+  storm.ExpectCode(trace.empty() ? kRefused : 0, Tavix_VoDel());
+  if (!trace.empty()) trace.pop_back();
 }
 
 void VoLst(Storm& storm) {
@@ -839,6 +882,7 @@ void VoIdx(Storm& storm) {
 void VoEnd(Storm& storm) {
   Note(storm, "VoEnd");
   storm.ExpectCode(OnWindow(storm.Now()), Tavix_VoEnd());
+  storm.Now().window.trace.clear();
 }
 
 // ---- One-bit picture
@@ -900,7 +944,41 @@ constexpr std::array kCalls{
 };
 static_assert(kCalls.size() == 84);
 
+// A change of a line's legend to the one it has: what is there is found, what is not is not.
+void AskForLine(Storm& storm) {
+  Model& model = storm.Now();
+  const int a = storm.Any().Key();
+  const int b = storm.Any().Key();
+  const ModelLine* line = model.lines.Find(a, b);
+  const int code = Tavix_ChgLinHid(a, b, line ? line->legend : short{1});
+  if (line) {
+    ExpectChanged(storm, true, code);
+  } else {
+    storm.ExpectCode(OnInstance(model, MissingLine(model)), code);
+  }
+}
+
+// The deletion of a number that no piece has: whether there are figures at all.
+void AskForFigures(Storm& storm) {
+  constexpr int kNoFigure = 987654321;
+  const Model& model = storm.Now();
+  if (model.exists && !model.figures_known) return;
+  ExpectChanged(storm, model.exists && model.pieces_made > 0, Tavix_DelFig(kNoFigure));
+}
+
 }  // namespace
+
+void ReadBack(Storm& storm) {
+  GetPntNoNam(storm);
+  GetPntCrd(storm);
+  GetPnt3NoNam(storm);
+  GetPnt3Crd(storm);
+  GetPntMem(storm);
+  GetPntHan(storm);
+  GetLinHan(storm);
+  AskForLine(storm);
+  AskForFigures(storm);
+}
 
 void MakeCall(Storm& storm) {
   int all = 0;

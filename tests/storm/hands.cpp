@@ -183,12 +183,21 @@ constexpr std::array<Hand, 14> kHands{Stylus, Stylus,      Stylus,        Button
                                       Button, Key,         Paint,         Paint,  Settings,
                                       Resize, DestroyPlot, DestroyParent, Drain};
 
+// What the user may have changed.
+void ReadViewAgain(Model& model) {
+  Tavix_GetAng(&model.angle);
+  ModelWindow& window = model.window;
+  window.ratio_given = Tavix_GetTatYok(&window.ratio.first, &window.ratio.second) == 0;
+  window.ForgetView();
+}
+
 }  // namespace
 
 void MoveHands(Storm& storm) {
   const auto chosen =
       static_cast<std::size_t>(storm.Any().Between(0, static_cast<int>(kHands.size()) - 1));
   kHands[chosen](storm);
+  ReadViewAgain(storm.Now());
 }
 
 }  // namespace tavix::storm

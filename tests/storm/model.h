@@ -1,11 +1,14 @@
 // What an instance has to hold, kept as simply as can be: plain lists, searched from the front.
 #pragma once
 
+#include <windows.h>
+
 #include <array>
 #include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tavix::storm {
@@ -64,11 +67,41 @@ struct ModelPiece {
   std::vector<double> numbers;
 };
 
+struct ModelGround {
+  double north = 0;
+  double east = 0;
+};
+
+// The ground under the middle and the corners of the drawing area; nothing where a point is.
+using MeasuredView = std::array<std::optional<ModelGround>, 5>;
+
+// What begins with every link.
+struct ModelWindow {
+  SIZE client{};   // when it was linked or its buttons changed: the drawing area keeps to it
+  int column = 0;  // the height of the buttons' column: that of the link
+  bool shown = false;
+  std::pair<int, int> ratio{1, 1};  // vertical, horizontal
+  bool ratio_given = false;
+  bool ratio_counts = true;  // false after a change of the buttons: the view's is 1 then
+  bool has_frame = false;
+  std::vector<ModelGround> trace;
+
+  // Of the view, as far as it is known without the arithmetic of the library.
+  std::optional<ModelGround> centre;
+  std::optional<double> scale;           // pixels per metre
+  std::optional<MeasuredView> measured;  // since the last call that may change it
+
+  void ForgetView() {
+    centre.reset();
+    scale.reset();
+    measured.reset();
+  }
+};
+
 struct Model {
   bool exists = false;
   bool linked = false;
-  int width = 0;  // of the rectangle of the link, in pixels
-  int height = 0;
+  ModelWindow window;
   int angle = 0;
   bool buttons = true;
   bool auto_redraw = false;

@@ -1,6 +1,8 @@
 // What an instance shows after a redraw, beside a redraw of the same data from nothing.
 #include <tavix/tavix.h>
 
+#include <cmath>
+#include <numbers>
 #include <optional>
 
 #include "tests/storm/storm.h"
@@ -97,6 +99,24 @@ void EnterAll(const Model& model) {
   for (const ModelPiece& piece : model.pieces) EnterPiece(piece);
 }
 
+// What the model says of an instance that shows this.
+void EnterShowing(Model& model, const Showing& showing) {
+  model.linked = true;
+  model.buttons = false;
+  model.angle = showing.angle;
+  model.window = {};
+  RECT client{};
+  ::GetClientRect(Tavix_Wnd()->m_hWnd, &client);
+  model.window.client = {client.right, client.bottom};
+  model.window.column = client.bottom;
+  model.window.ratio_given = true;
+  model.window.centre = {showing.middle_x, showing.middle_y};
+  // The square around the circle, turned, fills the square window.
+  const double angle = showing.angle * std::numbers::pi / 180;
+  model.window.scale = client.right / (2 * showing.radius *
+                                       (std::fabs(std::cos(angle)) + std::fabs(std::sin(angle))));
+}
+
 }  // namespace
 
 void CheckPicture(Storm& storm) {
@@ -108,6 +128,8 @@ void CheckPicture(Storm& storm) {
                         any.Between(1, 700) * 1.0};
   storm.Note("picture");
   const test::Picture shown = ShownBy(storm, showing);
+  EnterShowing(storm.Now(), showing);
+  CheckView(storm);
   const int index = storm.Index();
 
   Tavix_SetIdx(*free);
@@ -119,10 +141,8 @@ void CheckPicture(Storm& storm) {
   Tavix_SelPntHan(model.point_legend);
   Tavix_DrwFlg(model.auto_redraw ? 1 : 0);
   Tavix_SetBtn(model.buttons ? 1 : 0);
-  Model& now = storm.Now();
-  now.linked = true;
-  now.width = now.height = kSide;
-  now.angle = showing.angle;
+  storm.Now().buttons = model.buttons;
+  storm.Now().window.ForgetView();
   const testing::AssertionResult same = test::SamePicture(expected, shown);
   storm.Expect(same, std::string("a redraw from nothing differs: ") + same.message());
 }

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -66,11 +67,28 @@ class Storm {
   std::int64_t steps_ = 0;
 };
 
+// Runs a storm of so many steps, after a few others that fill what the process keeps: at its end
+// the library holds what it held at its beginning. Throws Broken. `running` is called with the
+// storm before its first step.
+void Run(
+    std::uint64_t seed, int steps, const std::function<void(const Storm*)>& running = [](auto*) {});
+
 // A random exported call with random arguments.
 void MakeCall(Storm& storm);
 
 // A random movement of the user: stylus, buttons, keys, dialogs, the host's window.
 void MoveHands(Storm& storm);
+
+// Reads something of every store of the current instance back, by keys at random.
+void ReadBack(Storm& storm);
+
+// What the current instance says of its angle, its ratio, its overlays and what it shows.
+void CheckFlags(Storm& storm);
+
+// Taps the middle and the corners of the drawing area: they lie where the angle, the ratio and what
+// else the model knows put them, they are in view, and they stay as long as no call changes the
+// view. Ends the coordinate capture.
+void CheckView(Storm& storm);
 
 // Compares what the current instance shows after a redraw with a redraw from nothing: another
 // instance into which the model is entered. Does nothing where there is no room for one.

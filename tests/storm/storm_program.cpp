@@ -4,6 +4,7 @@
 // not hold, with the calls that led to it and the seed that repeats it.
 #include <windows.h>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdio>
@@ -50,10 +51,8 @@ int main(int argc, char** argv) {
                 calls);
     std::fflush(stdout);
     try {
-      tavix::storm::Storm storm(seed);
-      running = &storm;
-      for (long i = 0; i < kCallsOfASeed; ++i) storm.Step();
-      running = nullptr;
+      const long left = std::min(kCallsOfASeed, calls - done);
+      tavix::storm::Run(seed, static_cast<int>(left), [](const auto* storm) { running = storm; });
     } catch (const tavix::storm::Broken& broken) {
       std::printf("%s\n", broken.what());
       return 1;

@@ -5,15 +5,13 @@
 namespace {
 
 using tavix::storm::Broken;
-using tavix::storm::Storm;
 
 class RandomCalls : public tavix::test::LibraryTest, public testing::WithParamInterface<int> {};
 
 TEST_P(RandomCalls, KeepEveryPromise) {
   constexpr int kSteps = 20000;
-  Storm storm(static_cast<std::uint64_t>(GetParam()));
   try {
-    for (int i = 0; i < kSteps; ++i) storm.Step();
+    tavix::storm::Run(static_cast<std::uint64_t>(GetParam()), kSteps);
   } catch (const Broken& broken) {
     FAIL() << broken.what();
   }

@@ -35,5 +35,14 @@ TEST(Extent, EachAxisGrowsOnItsOwn) {
   EXPECT_EQ(0.0, builder.Extent().min.east);
 }
 
+TEST(Extent, HasASizeAndACentre) {
+  ExtentBuilder builder;
+  builder.Include(GroundExtent{{3, 5}, {-4, 0}});
+  EXPECT_EQ(5.0, builder.Extent().Size().east);
+  EXPECT_EQ(7.0, builder.Extent().Size().north);
+  EXPECT_EQ(-0.5, builder.Extent().Centre().north);
+  EXPECT_EQ(2.5, builder.Extent().Centre().east);
+}
+
 }  // namespace
 }  // namespace tavix

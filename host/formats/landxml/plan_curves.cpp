@@ -75,7 +75,6 @@ double TurnAbout(GroundPosition centre, GroundPosition from, GroundPosition to, 
   double turn = Azimuth(centre, to) - Azimuth(centre, from);
   if (rotation == Rotation::kCounterClockwise) turn = -turn;
   while (turn <= 0.0) turn += 2.0 * std::numbers::pi;
-  while (turn > 2.0 * std::numbers::pi) turn -= 2.0 * std::numbers::pi;
   return turn;
 }
 
