@@ -45,15 +45,23 @@ void CLinDb::Discard() {
 
 bool CLinDb::Reopen(Order order) {
   if (order_ == order) return true;
-  if (order_) {
-    Close();
-  } else {
+  const bool was_closed = !order_;
+  if (was_closed) {
     lookup_.Forget();
     drawn_changes_.reset();
+  } else {
+    Close();
   }
   if (!database_.Open(&SortProperties()[order == Order::kById ? 0 : 1])) return false;
   order_ = order;
+  if (was_closed && database_.Records().GetNumRecords() == 0) StartDrawn();
   return true;
+}
+
+void CLinDb::StartDrawn() {
+  drawn_.Clear();
+  last_drawn_ = std::numeric_limits<std::int16_t>::min();
+  drawn_changes_ = database_.Records().GetNumChanges();
 }
 
 int CLinDb::Find(LineKeys keys) {
@@ -145,9 +153,9 @@ int CLinDb::First(Order order) {
 }
 
 bool CLinDb::ReadForDrawing() {
+  if (order_ && IsDrawn()) return true;
   if (First(Order::kById) != 0) return false;
   const ULONGLONG changes = database_.Records().GetNumChanges();
-  if (drawn_changes_ == changes) return true;
   drawn_.Clear();
   drawn_changes_.reset();  // until all of them are read: there may be no memory for some
   drawn_.Reserve(database_.Records().GetNumRecords());

@@ -84,6 +84,8 @@ class CLinDb {
 
  private:
   bool Reopen(Order order);
+  // Of an empty database: what is entered from now on need not be read back for drawing.
+  void StartDrawn();
   // Brings drawn_ up to date. False when there is no first record.
   bool ReadForDrawing();
   // Whether drawn_ is up to date.

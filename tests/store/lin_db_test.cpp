@@ -189,7 +189,7 @@ TEST_F(LineStore, GivesARedrawTheLinesInTheOrderOfTheirIds) {
   ASSERT_EQ(Read(lines, points), Walk(lines, points));
 }
 
-TEST_F(LineStore, ReadsItsRecordsOnceForAllRedraws) {
+TEST_F(LineStore, ReadsNoRecordOfItsOwnForARedraw) {
   CPntList points;
   for (int key = 0; key < 50; ++key) points.Add({key, 0, u"", {key * 1.0, 0.0}, 1});
   CLinDb lines(0);
@@ -200,14 +200,13 @@ TEST_F(LineStore, ReadsItsRecordsOnceForAllRedraws) {
     EXPECT_FALSE(lines.Contains(LineKeys::Of(key, 0)));
     ASSERT_EQ(0, lines.Add(LineKeys::Of(key, 0), 101, &id));
   }
-  EXPECT_EQ(0, reads()) << "nothing that was entered is read back";
   EXPECT_EQ(49U, Walk(lines, points).size());
-  EXPECT_EQ(49, reads());
+  EXPECT_EQ(0, reads()) << "nothing that was entered is read back";
   ASSERT_EQ(0, lines.Add(LineKeys::Of(1, 2), 101, &id));
   points.Find(7);
   points.SetCurCrd({-1, -1});
   EXPECT_EQ(50U, Walk(lines, points).size());
-  EXPECT_EQ(49, reads()) << "nor is a line entered between two redraws";
+  EXPECT_EQ(0, reads()) << "nor is a line entered between two redraws";
   EXPECT_EQ(0, lines.Find(LineKeys::Of(3, 0)));
   ASSERT_EQ(0, lines.SetCurHan(7));
   ASSERT_EQ(0, lines.Remove(LineKeys::Of(0, 4)));
