@@ -8,7 +8,7 @@ namespace tavix {
 namespace {
 
 Point3 At(std::int32_t key, double north, double east, double z) {
-  return {key, key * 10, u"P", {north, east}, z, 3};
+  return {key, key / 10, u"P", {north, east}, z, 3};
 }
 
 std::vector<std::int32_t> Keys(const CPnt3List& points) {
