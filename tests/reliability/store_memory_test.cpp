@@ -132,22 +132,28 @@ TEST(MemoryFailures, LeavePointsAsTheyWereWhenHolesAreClosed) {
   }
 }
 
+// Before the index has anything, while it has built nothing yet, and once it has built its tree.
 TEST(MemoryFailures, LeaveTheSpatialIndexRight) {
-  const auto make = [] {
-    auto points = Points(2000);
+  const auto search = [](CPntList& points, int times) {
     std::int32_t nearest = 0;
-    for (int i = 0; i < 100; ++i) points->FindNearest(0.1, {-1.0, -1.0}, &nearest);
-    return points;
+    for (int i = 0; i < times; ++i) points.FindNearest(0.1, {-1.0, -1.0}, &nearest);
   };
-  ForEachFailure(
-      make,
-      [](CPntList& points) {
-        std::int32_t nearest = 0;
-        for (int i = 0; i < 20; ++i) points.FindNearest(0.1, {-1.0, -1.0}, &nearest);
-        points.Find(1500);
-        points.SetCurCrd({-20.0, -20.0});
-      },
-      &StateOf);
+  for (const int searches : {0, 1, 100}) {
+    SCOPED_TRACE(testing::Message() << searches << " searches before");
+    const auto make = [=] {
+      auto points = Points(2000);
+      search(*points, searches);
+      return points;
+    };
+    ForEachFailure(
+        make,
+        [=](CPntList& points) {
+          search(points, 100);
+          points.Find(1500);
+          points.SetCurCrd({-20.0, -20.0});
+        },
+        &StateOf);
+  }
 }
 
 // ---- Lines and legend

@@ -98,7 +98,11 @@ TEST_P(DatabaseTest, AChangeThatFailsChangesNothing) {
 TEST(Database, ChangesOfRecordsAreCounted) {
   MemoryStore store;
   const ObjectId database = store.CreateDatabase(u"counted", 0, {}).value;
-  const auto changes = [&] { return store.Info(database).value.database.changes; };
+  const auto changes = [&] {
+    const auto alone = store.Changes(database);
+    EXPECT_EQ(store.Info(database).value.database.changes, alone.value);
+    return alone.value;
+  };
   EXPECT_EQ(0U, changes());
   const StoreHandle handle = store.Open(database, kNoSort, false).value;
   const StoreHandle other = store.Open(database, kNoSort, false).value;
@@ -116,6 +120,7 @@ TEST(Database, ChangesOfRecordsAreCounted) {
   EXPECT_EQ(3U, changes()) << "calls that change no record do not count";
   store.DeleteRecord(other, record);
   EXPECT_EQ(4U, changes());
+  EXPECT_EQ(StoreError::kNotFound, store.Changes(99).error);
 }
 
 TEST(Database, ChangesAreTimed) {

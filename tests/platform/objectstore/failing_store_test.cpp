@@ -35,6 +35,7 @@ TEST_F(FailingStoreTest, EveryOperationFailsAloneAndDoesNotReachTheStore) {
       {Operation::kCreate, [&] { return failing.CreateDatabase(u"new", 0, {}).error; }},
       {Operation::kFind, [&] { return failing.FindDatabase(u"db").error; }},
       {Operation::kInfo, [&] { return failing.Info(database).error; }},
+      {Operation::kInfo, [&] { return failing.Changes(database).error; }},
       {Operation::kOpen, [&] { return failing.Open(database, kNoSort, false).error; }},
       {Operation::kOpenEnumeration, [&] { return failing.OpenEnumeration(0).error; }},
       {Operation::kNextDatabase, [&] { return failing.NextDatabase(walk).error; }},
