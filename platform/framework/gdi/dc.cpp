@@ -1,7 +1,5 @@
 #include "framework/dc.h"
 
-#include <new>
-
 #include "framework/exception.h"
 #include "framework/wnd.h"
 #include "platform/framework/gdi/handle_map.h"
@@ -44,12 +42,7 @@ BOOL CDC::Attach(HDC handle) {
 }
 
 BOOL CDC::Own(HDC made) {
-  try {
-    return Attach(made);
-  } catch (const std::bad_alloc&) {
-    ::DeleteDC(made);
-    throw;
-  }
+  return afx::AttachOrGiveBack(*this, made, [=] { ::DeleteDC(made); });
 }
 
 HDC CDC::Detach() {
@@ -190,16 +183,10 @@ CSize CDC::GetTextExtent(LPCWSTR text, int count) const {
 
 namespace {
 
-// Attaches a context that was just got, which is released when there is no memory for that.
 template <class Release>
 void AttachOrRelease(CDC& dc, HDC handle, Release release) {
   if (!handle) AfxThrowResourceException();
-  try {
-    dc.Attach(handle);
-  } catch (const std::bad_alloc&) {
-    release();
-    throw;
-  }
+  afx::AttachOrGiveBack(dc, handle, release);
 }
 
 }  // namespace

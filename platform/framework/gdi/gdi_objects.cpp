@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <new>
 
 #include "framework/dc.h"
 #include "framework/exception.h"
@@ -72,12 +71,7 @@ BOOL CGdiObject::Attach(HGDIOBJ handle) {
 }
 
 BOOL CGdiObject::Own(HGDIOBJ made) {
-  try {
-    return Attach(made);
-  } catch (const std::bad_alloc&) {
-    ::DeleteObject(made);
-    throw;
-  }
+  return afx::AttachOrGiveBack(*this, made, [=] { ::DeleteObject(made); });
 }
 
 BOOL CGdiObject::Borrow(HGDIOBJ handle) {

@@ -1,9 +1,10 @@
-// The maps from handles to the C++ objects that represent them.
+// The maps from handles to the C++ objects that represent them, and how an object gets its handle.
 #pragma once
 
 #include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <new>
 #include <unordered_map>
 
 namespace afx {
@@ -57,5 +58,16 @@ class TemporaryMap {
   std::unordered_map<Handle, std::unique_ptr<Object>> objects_;
   std::size_t limit_ = kSmallestLimit;
 };
+
+// Attaches a handle that was just made or got. Without memory for that the handle is given back.
+template <class Object, class Handle, class GiveBack>
+auto AttachOrGiveBack(Object& object, Handle handle, GiveBack give_back) {
+  try {
+    return object.Attach(handle);
+  } catch (const std::bad_alloc&) {
+    give_back();
+    throw;
+  }
+}
 
 }  // namespace afx
