@@ -1,6 +1,7 @@
 // The plot window's own settings, opened by its button inside the host.
 
 #include "tests/host/support/main_window_fixture.h"
+#include "tests/support/foreground.h"
 #include "window/buttons/button_table.h"
 
 namespace fieldhost {
@@ -18,6 +19,7 @@ class MainWindowSettings : public WindowTest {
     GUITHREADINFO info = {};
     info.cbSize = sizeof(info);
     EXPECT_TRUE(WaitUntil([&] {
+      tavix::test::BringToFrontWhenNoneIs(window_);
       ::GetGUIThreadInfo(::GetWindowThreadProcessId(window_, nullptr), &info);
       return info.hwndFocus == Plot();
     }));

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "tests/support/foreground.h"
+
 namespace test {
 
 // Waits for a visible, enabled dialog of this thread and then does the steps, each in its own turn
@@ -47,7 +49,10 @@ class ModalDriver {
 
   static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
     if (!current_ || current_->Done()) return;
-    if (const HWND dialog = OpenDialog()) current_->steps_[current_->done_++](dialog);
+    const HWND dialog = OpenDialog();
+    if (!dialog) return;
+    tavix::test::BringToFrontWhenNoneIs(dialog);
+    current_->steps_[current_->done_++](dialog);
   }
 
   static inline ModalDriver* current_ = nullptr;
