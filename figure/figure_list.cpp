@@ -122,7 +122,11 @@ CFigList::CFigList(int instance)
     : CFigList(instance, std::make_unique<CFile>(), std::make_unique<CFile>()) {}
 
 CFigList::CFigList(int instance, std::unique_ptr<CFile> index, std::unique_ptr<CFile> coordinates)
-    : index_(std::move(index)), coordinates_(std::move(coordinates)), instance_(instance) {}
+    : index_(std::move(index)),
+      coordinates_(std::move(coordinates)),
+      index_window_(*index_),
+      coordinate_window_(*coordinates_),
+      instance_(instance) {}
 
 int CFigList::Open() {
   changed_ = false;
@@ -197,9 +201,9 @@ int CFigList::Delete(std::int32_t number) {
   const std::int32_t count = Count();
   if (count == 0) return -1;
   std::vector<std::int32_t> found;
-  FileWindow index_file(*index_);
+  index_window_.Forget();
   for (std::int32_t i = 0; i < count; ++i) {
-    const std::optional<FigureRecord> record = ReadRecord(index_file, i);
+    const std::optional<FigureRecord> record = ReadRecord(index_window_, i);
     if (!record) break;
     if (record->deleted == 0 && record->number == number) found.push_back(i);
   }
@@ -213,20 +217,23 @@ std::int32_t CFigList::Count() const {
   return static_cast<std::int32_t>(LengthOf(*index_).value_or(0) / kFigureRecordSize);
 }
 
+void CFigList::ForgetWhatWasRead() const {
+  index_window_.Forget();
+  coordinate_window_.Forget();
+}
+
 int CFigList::Get(std::int32_t index, Figure* figure) const {
   if (index < 0) return -2;
-  FileWindow index_file(*index_);
-  FileWindow coordinate_file(*coordinates_);
-  return ReadFigure(index_file, coordinate_file, index, figure);
+  ForgetWhatWasRead();
+  return ReadFigure(index_window_, coordinate_window_, index, figure);
 }
 
 void CFigList::ForEach(const std::function<void(const Figure&)>& visit, std::int32_t most) const {
-  FileWindow index_file(*index_);
-  FileWindow coordinate_file(*coordinates_);
+  ForgetWhatWasRead();
   Figure figure;
   const std::int32_t count = std::min(Count(), most);
   for (std::int32_t i = 0; i < count; ++i) {
-    if (ReadFigure(index_file, coordinate_file, i, &figure) == 0) visit(figure);
+    if (ReadFigure(index_window_, coordinate_window_, i, &figure) == 0) visit(figure);
   }
 }
 

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "figure/figure_codec.h"
+#include "figure/file_window.h"
 #include "view/coordinates.h"
 #include "view/extent.h"
 
@@ -80,10 +81,14 @@ class CFigList {
 
  private:
   void Append(std::int32_t point_count, bool is_circle, std::span<const GroundPoint> points);
+  void ForgetWhatWasRead() const;
 
-  // Never null. Const calls read them too: the file position is not logical state.
+  // Never null. Const calls read them too: neither the file position nor what a window holds is
+  // logical state.
   std::unique_ptr<CFile> index_;
   std::unique_ptr<CFile> coordinates_;
+  mutable FileWindow index_window_;
+  mutable FileWindow coordinate_window_;
   FigureRecord pending_;
   bool changed_ = false;
   bool taken_ = false;

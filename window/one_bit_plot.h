@@ -1,31 +1,30 @@
 // The plan as a one-bit picture, as the host asks for it.
 #pragma once
 
-#include <memory>
+#include "draw/group_picture.h"
 
 namespace tavix {
 
-class GroupPicture;
 class PlotDisplay;
 
 class OneBitPlot {
  public:
   explicit OneBitPlot(PlotDisplay& display);
-  ~OneBitPlot();
-  OneBitPlot(const OneBitPlot&) = delete;
-  OneBitPlot& operator=(const OneBitPlot&) = delete;
 
   // Frees the picture held before, and draws one of this size. 0, or -1 when it would be too large.
   int Build(int height, int width);
 
   // See GroupPicture::IsInk.
-  [[nodiscard]] bool IsInk(int row, int column) const;
+  [[nodiscard]] bool IsInk(int row, int column) const {
+    return picture_.IsInk(frame_, row, column);
+  }
 
-  void Release();
+  void Release() { picture_.Release(); }
 
  private:
   PlotDisplay& display_;
-  std::unique_ptr<GroupPicture> picture_;
+  const PaperFrame& frame_;
+  GroupPicture picture_;
 };
 
 }  // namespace tavix

@@ -64,7 +64,7 @@ ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 CPlotWnd::CPlotWnd(UINT notify_id, const PlotLinks& links)
-    : parts_(std::make_unique<Parts>(*this, notify_id, links)) {}
+    : parts_(std::make_unique<Parts>(*this, notify_id, links)), one_bit_(parts_->one_bit) {}
 
 CPlotWnd::~CPlotWnd() { CPlotWnd::DestroyWindow(); }
 
@@ -120,7 +120,6 @@ PaperFrameOverlay& CPlotWnd::Frame() { return parts_->display.Plan().Frame(); }
 ScaleBarOverlay& CPlotWnd::ScaleBar() { return parts_->display.Plan().ScaleBar(); }
 MovedPoint& CPlotWnd::Moved() { return parts_->display.Plan().Moved(); }
 TracedLine& CPlotWnd::Trace() { return parts_->display.Plan().Trace(); }
-OneBitPlot& CPlotWnd::OneBit() { return parts_->one_bit; }
 ScreenPoint CPlotWnd::LastTap() const { return parts_->modes.LastTap(); }
 
 BOOL CPlotWnd::OnCommand(WPARAM wParam, LPARAM lParam) {

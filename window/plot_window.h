@@ -51,7 +51,7 @@ class CPlotWnd : public CWnd {
   [[nodiscard]] ScaleBarOverlay& ScaleBar();
   [[nodiscard]] MovedPoint& Moved();
   [[nodiscard]] TracedLine& Trace();
-  [[nodiscard]] OneBitPlot& OneBit();
+  [[nodiscard]] OneBitPlot& OneBit() { return one_bit_; }  // in line: read pixel by pixel
 
   // The client pixel of the last stylus release.
   [[nodiscard]] ScreenPoint LastTap() const;
@@ -78,6 +78,7 @@ class CPlotWnd : public CWnd {
   BOOL CreateChild(CWnd* parent, const CRect& rect, const CString& class_name);
 
   std::unique_ptr<Parts> parts_;
+  OneBitPlot& one_bit_;  // of the parts
 };
 
 }  // namespace tavix

@@ -19,6 +19,7 @@ class FaultyFile : public CFile {
 
   // Reads that include the byte at `offset` throw.
   void Spoil(std::uint64_t offset) { spoilt_.push_back(offset); }
+  void Write(std::size_t offset, char byte) { bytes_[offset] = byte; }
   // No read gives more than this.
   void ReadAtMost(UINT count) { most_ = count; }
   // The file reports a greater length than it has.
@@ -119,8 +120,9 @@ TEST(FileWindow, AsksForNoRoomThatTheFileDoesNotFill) {
   FaultyFile file(SomeBytes(100));
   FileWindow window(file);
   EXPECT_EQ(nullptr, window.Bytes(0, std::uint64_t{1} << 40));
-  EXPECT_EQ(nullptr, window.Bytes(std::uint64_t{1} << 63, 1));
+  EXPECT_EQ(nullptr, window.Bytes(std::uint64_t{1} << 63, std::uint64_t{1} << 20));
   EXPECT_EQ(0, file.Reads());
+  EXPECT_EQ(nullptr, window.Bytes(std::uint64_t{1} << 32, 1));
 }
 
 TEST(FileWindow, AFileShorterThanItSaysGivesWhatItHas) {
@@ -132,11 +134,28 @@ TEST(FileWindow, AFileShorterThanItSaysGivesWhatItHas) {
   EXPECT_TRUE(window.Bytes(99, 1));
 }
 
-TEST(FileWindow, AFileThatDoesNotTellItsLengthGivesNothing) {
-  FaultyFile file(SomeBytes(100));
+TEST(FileWindow, AFileThatDoesNotTellItsLengthGivesPiecesThatFitTheBuffer) {
+  FaultyFile file(SomeBytes(100000));
   file.RefuseLength();
   FileWindow window(file);
-  EXPECT_EQ(nullptr, window.Bytes(0, 1));
+  EXPECT_TRUE(window.Bytes(0, 65536));
+  EXPECT_EQ(nullptr, window.Bytes(0, 65537));
+}
+
+TEST(FileWindow, ReadsAgainWhatItIsToldToForget) {
+  FaultyFile file(SomeBytes(100));
+  FileWindow window(file);
+  const unsigned char* bytes = window.Bytes(10, 5);
+  ASSERT_TRUE(bytes);
+  const unsigned char before = bytes[0];
+  file.Write(10, static_cast<char>(before + 1));
+  bytes = window.Bytes(10, 5);
+  ASSERT_TRUE(bytes);
+  EXPECT_EQ(before, bytes[0]) << "within one pass";
+  window.Forget();
+  bytes = window.Bytes(10, 5);
+  ASSERT_TRUE(bytes);
+  EXPECT_EQ(static_cast<unsigned char>(before + 1), bytes[0]);
 }
 
 }  // namespace
