@@ -4,31 +4,16 @@
 #include <cmath>
 
 #include "tests/support/case_file.h"
+#include "tests/view/view_of.h"
 #include "view/view_state.h"
 
 namespace tavix {
 namespace {
 
 using test::Case;
+using test::ViewOf;
 
 constexpr GroundPoint kCentre{500, 600};
-
-CViewState ViewOf(int width, int height) {
-  CViewState view;
-  view.SetScreenSize(width, height);
-  return view;
-}
-
-CViewState ViewOf(const Case& given) {
-  CViewState view;
-  if (given.Has("screen")) {
-    const ScreenPoint size = given.Screen("screen");
-    view.SetScreenSize(size.x, size.y);
-  }
-  view.SetRatio(given.Number("ratio", 1.0));
-  EXPECT_EQ(0, view.SetAngle(given.Whole("angle", 0)));
-  return view;
-}
 
 // A box is east,north in a case file.
 GroundSize BoxOf(const Case& given) {

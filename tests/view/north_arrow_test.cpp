@@ -1,13 +1,13 @@
 #include <gtest/gtest.h>
 
+#include "tests/view/view_of.h"
 #include "view/scale_bar.h"
 
 namespace tavix {
 namespace {
 
 CViewState Turned(int degrees) {
-  CViewState view;
-  view.SetScreenSize(100, 100);
+  CViewState view = test::ViewOf(100, 100);
   EXPECT_EQ(0, view.SetAngle(degrees));
   return view;
 }

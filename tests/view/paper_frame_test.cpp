@@ -2,18 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/view/view_of.h"
+
 namespace tavix {
 namespace {
 
+using test::ViewOf;
+
 constexpr int kPerInch = 96;
 constexpr int kTenInches = 960;  // 0.254 m
-
-// A drawing area at one pixel a metre, the ground point (0, 0) in the middle.
-CViewState ViewOf(int width, int height) {
-  CViewState view;
-  view.SetScreenSize(width, height);
-  return view;
-}
 
 PaperFrame SquareSheet(const CViewState& view) {
   PaperFrame frame;
@@ -74,8 +71,7 @@ TEST(PaperFrame, GivesTheViewAScaleAndKeepsItsOrigin) {
 }
 
 TEST(PaperFrame, SaysThatTheViewsLargestScaleCutItsOwn) {
-  CViewState view;
-  view.SetScreenSize(310, 210);
+  CViewState view = ViewOf(310, 210);
   PaperFrame frame;
   frame.TurnOn(view, kPerInch, 1, kPerInch, 1);  // a sheet of a quarter of a millimetre
   EXPECT_TRUE(frame.SetScale(view, 1));

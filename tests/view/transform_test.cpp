@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/case_file.h"
+#include "tests/view/view_of.h"
 #include "view/side_projection.h"
 #include "view/view_state.h"
 
@@ -16,21 +17,16 @@ std::vector<double> Numbers(ScreenPoint point) {
 std::vector<double> Numbers(RealScreenPoint point) { return {point.x, point.y}; }
 std::vector<double> Numbers(GroundPoint point) { return {point.north, point.east}; }
 
-CViewState ViewOf(const Case& given) {
-  CViewState view;
-  if (given.Has("screen")) {
-    const ScreenPoint size = given.Screen("screen");
-    view.SetScreenSize(size.x, size.y);
-  }
+// With "scale", pixels a metre, and "centre" too.
+CViewState PlacedViewOf(const Case& given) {
+  CViewState view = test::ViewOf(given);
   EXPECT_FALSE(view.SetFitScale(1, 1.0, given.Number("scale", 1.0)));
-  view.SetRatio(given.Number("ratio", 1.0));
   if (given.Has("centre")) view.SetCentre(given.Ground("centre"));
-  EXPECT_EQ(0, view.SetAngle(given.Whole("angle", 0)));
   return view;
 }
 
 void ToPixel(const Case& given) {
-  const CViewState view = ViewOf(given);
+  const CViewState view = PlacedViewOf(given);
   const GroundPoint ground = given.Ground("ground");
   const ScreenPoint pixel = view.GroundToScreen(ground);
   given.Expect(Numbers(pixel));
@@ -38,7 +34,7 @@ void ToPixel(const Case& given) {
 }
 
 void ToGround(const Case& given) {
-  const CViewState view = ViewOf(given);
+  const CViewState view = PlacedViewOf(given);
   const ScreenPoint pixel = given.Screen("pixel");
   const GroundPoint ground = view.ScreenToGround(pixel);
   given.Expect(Numbers(ground));
@@ -46,7 +42,7 @@ void ToGround(const Case& given) {
 }
 
 void LengthToPixels(const Case& given) {
-  const CViewState view = ViewOf(given);
+  const CViewState view = PlacedViewOf(given);
   const int pixels = view.LengthToPixels(given.Number("length"));
   EXPECT_EQ(pixels, view.LengthToPixelsAxis(false, given.Number("length")));
   EXPECT_EQ(view.PixelsToLength(pixels), view.PixelsToLengthAxis(false, pixels));
@@ -55,7 +51,7 @@ void LengthToPixels(const Case& given) {
 }
 
 void HeightToPixels(const Case& given) {
-  const CViewState view = ViewOf(given);
+  const CViewState view = PlacedViewOf(given);
   const int pixels = view.LengthToPixelsAxis(true, given.Number("length"));
   given.Expect({static_cast<double>(pixels)});
   given.ExpectBack({view.PixelsToLengthAxis(true, pixels)}, {given.Number("length")});
@@ -64,7 +60,7 @@ void HeightToPixels(const Case& given) {
 void Circle(const Case& given) {
   constexpr ScreenPoint kUntouched{-7, -7};
   ScreenPoint at = kUntouched;
-  if (ViewOf(given).CircleOnScreen(given.Ground("ground"), given.Number("radius"), at)) {
+  if (PlacedViewOf(given).CircleOnScreen(given.Ground("ground"), given.Number("radius"), at)) {
     given.Expect(Numbers(at));
   } else {
     given.Expect({}, "none");
@@ -73,7 +69,7 @@ void Circle(const Case& given) {
 }
 
 void Rotate(const Case& given) {
-  CViewState view = ViewOf(given);
+  CViewState view = PlacedViewOf(given);
   const bool refused = view.RotateBy(given.Whole("by")) != 0;
   given.Expect({static_cast<double>(view.Angle())}, refused ? "refused" : "");
   if (!given.HasBack()) return;
@@ -82,7 +78,7 @@ void Rotate(const Case& given) {
 }
 
 void CosineSine(const Case& given) {
-  const CViewState view = ViewOf(given);
+  const CViewState view = PlacedViewOf(given);
   given.Expect({view.CosA(), view.SinA()});
 }
 

@@ -6,14 +6,12 @@
 #include <limits>
 #include <random>
 
+#include "tests/view/view_of.h"
+
 namespace tavix {
 namespace {
 
-CViewState ViewOf(int width, int height) {
-  CViewState view;
-  view.SetScreenSize(width, height);
-  return view;
-}
+using test::ViewOf;
 
 // A view of the given scale: one metre shown in that many pixels.
 CViewState ViewAtScale(int width, int height, double scale) {
